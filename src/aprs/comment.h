@@ -1,0 +1,51 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ruvenmark::aprs {
+
+// Free text of a position with what was cut out of its middle (altitude, telemetry, ...): the remaining stretches of
+// the line, in order. Nearly always one; never empty ones.
+class Comment {
+public:
+    static constexpr std::size_t kMaxPieces = 6;
+
+    Comment() = default;
+    // At most 64 KiB; no line is that long.
+    explicit Comment(std::string_view text);
+
+    std::size_t Count() const { return m_count; }
+    std::string_view operator[](std::size_t piece) const
+    {
+        return {m_text + m_pieces[piece].begin, m_pieces[piece].size};
+    }
+    bool IsEmpty() const { return m_count == 0; }
+    // The text in one stretch; nothing where it lies in several.
+    std::optional<std::string_view> Whole() const;
+    std::string ToString() const;
+
+    // Takes `size` bytes at `begin` out of one piece. Without room for another piece the text stays as it is.
+    void Cut(std::size_t piece, std::size_t begin, std::size_t size);
+    // Takes off a slash in front, the delimiter behind other data, and blanks at both ends.
+    void Tidy();
+
+private:
+    // Kept small: every position carries one.
+    struct Piece {
+        std::uint16_t begin, size;
+    };
+
+    void Set(std::size_t piece, std::string_view text);
+    void Erase(std::size_t piece);
+
+    const char* m_text = nullptr;
+    std::array<Piece, kMaxPieces> m_pieces; // Good up to the count.
+    std::uint8_t m_count = 0;
+};
+
+} // namespace ruvenmark::aprs

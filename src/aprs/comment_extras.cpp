@@ -1,0 +1,174 @@
+#include "aprs/comment_extras.h"
+
+#include "aprs/text.h"
+
+#include <algorithm>
+
+namespace ruvenmark::aprs {
+
+namespace {
+
+constexpr std::size_t kAltitudeSize = 9; // /A=dddddd
+constexpr std::size_t kDaoSize = 5;      // !Dxy!
+constexpr std::size_t kMicEAltitudeSize = 4;
+constexpr std::size_t kMaxTelemetry = 14; // Seven pairs of digits.
+constexpr double kMinute = 1.0 / 60.0;
+
+// Six digits, or a minus and five.
+std::optional<int> AltitudeFeet(std::string_view text)
+{
+    if (text[0] == '-') {
+        const auto feet = ParseDigits(text.substr(1));
+        return feet ? std::optional(-*feet) : std::nullopt;
+    }
+    return ParseDigits(text);
+}
+
+void TakeAltitude(Comment& comment, PositionReport& report)
+{
+    for (std::size_t i = 0; i < comment.Count(); ++i) {
+        const std::string_view piece = comment[i];
+        for (std::size_t at = piece.find('='); at != std::string_view::npos; at = piece.find('=', at + 1)) {
+            if (at < 2 || piece[at - 1] != 'A' || piece[at - 2] != '/' || piece.size() - at < 7) {
+                continue;
+            }
+            if (const auto feet = AltitudeFeet(piece.substr(at + 1, 6))) {
+                report.altitude = *feet;
+                comment.Cut(i, at - 2, kAltitudeSize);
+                return;
+            }
+        }
+    }
+}
+
+// Size of a run of base-91 digits that ends in a bar; 0 where it is none, or not two to seven pairs.
+std::size_t TelemetrySize(std::string_view text)
+{
+    std::size_t n = 0;
+    while (n < text.size() && n <= kMaxTelemetry && IsBase91(text[n])) {
+        ++n;
+    }
+    return n >= 4 && n <= kMaxTelemetry && n % 2 == 0 && n < text.size() && text[n] == '|' ? n : 0;
+}
+
+void TakeTelemetry(Comment& comment, PositionReport& report)
+{
+    for (std::size_t i = 0; i < comment.Count(); ++i) {
+        const std::string_view piece = comment[i];
+        for (std::size_t at = piece.find('|'); at != std::string_view::npos; at = piece.find('|', at + 1)) {
+            if (const std::size_t size = TelemetrySize(piece.substr(at + 1))) {
+                report.telemetry = piece.substr(at + 1, size);
+                comment.Cut(i, at, size + 2);
+                return;
+            }
+        }
+    }
+}
+
+// Away from zero, but never beyond the pole or the date line.
+void Shift(double& degrees, double minutes, double limit)
+{
+    degrees = std::clamp(degrees + (degrees < 0 ? -minutes : minutes) * kMinute, -limit, limit);
+}
+
+void Shift(Position& position, double latMinutes, double lonMinutes)
+{
+    Shift(position.latitude, latMinutes, 90.0);
+    Shift(position.longitude, lonMinutes, 180.0);
+}
+
+// `dao` is "Dxy": thousandths of a minute, or with a small letter 1/91 of a hundredth. Blanks name the datum only.
+bool ApplyDao(std::string_view dao, Position& position)
+{
+    if (IsUpper(dao[0]) && IsDigit(dao[1]) && IsDigit(dao[2])) {
+        Shift(position, DigitValue(dao[1]) * 0.001, DigitValue(dao[2]) * 0.001);
+        return true;
+    }
+    if (IsLower(dao[0]) && IsBase91(dao[1]) && IsBase91(dao[2])) {
+        Shift(position, Base91Value(dao[1]) / 91.0 * 0.01, Base91Value(dao[2]) / 91.0 * 0.01);
+        return true;
+    }
+    return IsBase91(dao[0]) && dao[1] == ' ' && dao[2] == ' ';
+}
+
+// The last one counts.
+void TakeDao(Comment& comment, PositionReport& report)
+{
+    for (std::size_t i = comment.Count(); i-- > 0;) {
+        const std::string_view piece = comment[i];
+        if (piece.size() < kDaoSize) {
+            continue;
+        }
+        std::size_t at = piece.rfind('!', piece.size() - kDaoSize);
+        while (at != std::string_view::npos) {
+            if (piece[at + 4] == '!' && ApplyDao(piece.substr(at + 1, 3), report.position)) {
+                comment.Cut(i, at, kDaoSize);
+                return;
+            }
+            at = at == 0 ? std::string_view::npos : piece.rfind('!', at - 1);
+        }
+    }
+}
+
+// Three base-91 digits and a brace: metres, offset by 10,000.
+void TakeMicEAltitude(Comment& comment, PositionReport& report)
+{
+    const std::string_view piece = comment[0];
+    for (std::size_t at = piece.find('}'); at != std::string_view::npos; at = piece.find('}', at + 1)) {
+        if (at < 3 || !IsBase91(piece[at - 1]) || !IsBase91(piece[at - 2]) || !IsBase91(piece[at - 3])) {
+            continue;
+        }
+        const int value =
+            (Base91Value(piece[at - 3]) * 91 + Base91Value(piece[at - 2])) * 91 + Base91Value(piece[at - 1]);
+        report.altitude = (value - 10000) * kFeetPerMetre;
+        comment.Cut(0, at - 3, kMicEAltitudeSize);
+        return;
+    }
+}
+
+bool Holds(std::string_view text, char c)
+{
+    return text.find(c) != std::string_view::npos;
+}
+
+void TakeCommon(std::string_view text, PositionReport& report)
+{
+    if (Holds(text, '|')) {
+        TakeTelemetry(report.comment, report);
+    }
+    if (Holds(text, '!')) {
+        TakeDao(report.comment, report);
+    }
+    report.comment.Tidy();
+}
+
+} // namespace
+
+void ParseComment(std::string_view text, PositionReport& report)
+{
+    if (text.empty()) {
+        return;
+    }
+    report.comment = Comment(text);
+    if (Holds(text, '=')) {
+        TakeAltitude(report.comment, report);
+    }
+    TakeCommon(text, report);
+}
+
+void ParseMicEComment(std::string_view text, PositionReport& report)
+{
+    if (text.empty()) {
+        return;
+    }
+    report.comment = Comment(text);
+    if (Holds(text, '}')) {
+        TakeMicEAltitude(report.comment, report);
+    }
+    if (Holds(text, '=') && !report.altitude) {
+        TakeAltitude(report.comment, report);
+    }
+    TakeCommon(text, report);
+}
+
+} // namespace ruvenmark::aprs

@@ -1,0 +1,243 @@
+#include "aprs/header.h"
+
+#include "aprs/text.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
+namespace ruvenmark::aprs {
+
+namespace {
+
+constexpr std::size_t kMaxCall = 9;
+constexpr std::size_t kMaxDestCall = 6;
+constexpr int kMaxSsid = 15;
+constexpr std::size_t kHexAddress = 32; // IPv6 of a server, an element behind the q-construct.
+
+constexpr std::array<bool, 256> MakeCallBytes()
+{
+    std::array<bool, 256> table{};
+    for (std::size_t c = 0; c < table.size(); ++c) {
+        const char byte = static_cast<char>(c);
+        table[c] = IsAlnum(byte) || byte == '-';
+    }
+    return table;
+}
+constexpr std::array<bool, 256> kCallBytes = MakeCallBytes();
+
+bool IsCallByte(char c)
+{
+    return kCallBytes[static_cast<unsigned char>(c)];
+}
+
+std::size_t CallLength(std::string_view text)
+{
+    std::size_t n = 0;
+    while (n < text.size() && IsCallByte(text[n])) {
+        ++n;
+    }
+    return n;
+}
+
+bool IsDestination(std::string_view dest)
+{
+    std::size_t n = 0;
+    while (n < dest.size() && (IsUpper(dest[n]) || IsDigit(dest[n]))) {
+        ++n;
+    }
+    if (n == 0 || n > kMaxDestCall) {
+        return false;
+    }
+    if (n == dest.size()) {
+        return true;
+    }
+    const std::string_view ssid = dest.substr(n + 1);
+    const auto number = ParseDigits(ssid);
+    return dest[n] == '-' && ssid.size() <= 2 && number && *number <= kMaxSsid;
+}
+
+bool IsHexAddress(std::string_view element)
+{
+    if (element.size() != kHexAddress) {
+        return false;
+    }
+    for (const char c : element) {
+        if (HexValue(c) < 0) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// One element at the front of the path with its star; its size, or 0 where it is none.
+std::size_t ElementSize(std::string_view path, bool bBehindQ)
+{
+    std::size_t n = CallLength(path);
+    if (n == 0 || (n > kMaxCall && !(bBehindQ && IsHexAddress(path.substr(0, n))))) {
+        return 0;
+    }
+    if (n < path.size() && path[n] == '*') {
+        ++n;
+    }
+    return n == path.size() || path[n] == ',' ? n : 0;
+}
+
+bool IsPath(std::string_view path)
+{
+    bool bBehindQ = false;
+    while (!path.empty()) {
+        const std::size_t size = ElementSize(path, bBehindQ);
+        if (size == 0) {
+            return path.find_first_not_of(',') == std::string_view::npos; // Empty elements may end it.
+        }
+        bBehindQ = bBehindQ || (size == 3 && path[0] == 'q' && path[1] == 'A');
+        path.remove_prefix(size == path.size() ? size : size + 1);
+    }
+    return true;
+}
+
+Refusal ParseCarefully(std::string_view line, Header& header, std::string_view& info)
+{
+    const std::size_t source = CallLength(line.substr(0, kMaxCall + 1));
+    if (source == 0 || source > kMaxCall || source == line.size() || line[source] != '>') {
+        return line.find(':') == std::string_view::npos ? Refusal::NoPayload : Refusal::BadSource;
+    }
+    header.source = line.substr(0, source);
+    const std::size_t colon = line.find(':', source + 1);
+    if (colon == std::string_view::npos || colon + 1 == line.size()) {
+        return Refusal::NoPayload;
+    }
+    info = line.substr(colon + 1);
+    const std::string_view rest = line.substr(source + 1, colon - source - 1);
+    const std::size_t comma = rest.find(',');
+    header.dest = rest.substr(0, comma);
+    if (!IsDestination(header.dest)) {
+        return Refusal::BadDestination;
+    }
+    if (comma == std::string_view::npos) {
+        return Refusal::None;
+    }
+    header.path = rest.substr(comma + 1);
+    return IsPath(header.path) ? Refusal::None : Refusal::BadPath;
+}
+
+#ifdef __SSE2__
+
+constexpr std::size_t kWindow = 64;
+
+// One bit a byte of a line's first 64, the first byte in the lowest bit.
+struct Bits {
+    std::uint64_t call = 0; // Letters, digits, dashes.
+    std::uint64_t comma = 0, star = 0, colon = 0;
+};
+
+// All ones in each byte between the two bounds, unsigned.
+__m128i Between(__m128i bytes, char low, char high)
+{
+    const __m128i shifted = _mm_sub_epi8(bytes, _mm_set1_epi8(low));
+    return _mm_cmpeq_epi8(_mm_min_epu8(shifted, _mm_set1_epi8(static_cast<char>(high - low))), shifted);
+}
+
+__m128i Equal(__m128i bytes, char c)
+{
+    return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c));
+}
+
+void AddBits(std::uint64_t& bits, __m128i bytes, std::size_t at)
+{
+    bits |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm_movemask_epi8(bytes))) << at;
+}
+
+Bits ReadWindow(const char* text)
+{
+    Bits bits;
+    for (std::size_t at = 0; at < kWindow; at += sizeof(__m128i)) {
+        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + at));
+        const __m128i letter = Between(_mm_or_si128(bytes, _mm_set1_epi8(0x20)), 'a', 'z');
+        const __m128i other = _mm_or_si128(Between(bytes, '0', '9'), Equal(bytes, '-'));
+        AddBits(bits.call, _mm_or_si128(letter, other), at);
+        AddBits(bits.comma, Equal(bytes, ','), at);
+        AddBits(bits.star, Equal(bytes, '*'), at);
+        AddBits(bits.colon, Equal(bytes, ':'), at);
+    }
+    return bits;
+}
+
+// Bits below the given one.
+std::uint64_t Below(std::size_t bit)
+{
+    return (std::uint64_t{1} << bit) - 1;
+}
+
+// Whether bits hold a run of ten: an address longer than nine.
+bool HasTooLong(std::uint64_t call)
+{
+    const std::uint64_t two = call & call >> 1U;
+    const std::uint64_t four = two & two >> 2U;
+    const std::uint64_t eight = four & four >> 4U;
+    return (eight & two >> 8U) != 0;
+}
+
+// Between its first comma and the colon: addresses of usual length, one comma between them, stars only behind them.
+bool IsPlainPath(const Bits& bits, std::size_t comma, std::size_t colon)
+{
+    const std::uint64_t path = Below(colon) & ~Below(comma);
+    const std::uint64_t star = bits.star & path;
+    const std::uint64_t ends = (bits.comma & path) | std::uint64_t{1} << colon;
+    const std::uint64_t strange = path & ~(bits.call | bits.comma | bits.star);
+    const std::uint64_t misplaced = (ends & ends << 1U) | (star & (ends << 1U | star << 1U)) | (star << 1U & ~ends);
+    return (strange | misplaced) == 0;
+}
+
+// The usual header, told without looking at its bytes one by one. What is unusual in any way is not told.
+bool ParseQuickly(std::string_view line, Header& header, std::string_view& info)
+{
+    std::array<char, kWindow> shortLine;
+    const char* text = line.data();
+    if (line.size() < kWindow) {
+        std::fill(std::copy(line.begin(), line.end(), shortLine.begin()), shortLine.end(), '\0');
+        text = shortLine.data();
+    }
+    const Bits bits = ReadWindow(text);
+    const auto colon = static_cast<std::size_t>(std::countr_zero(bits.colon));
+    const auto angle = static_cast<std::size_t>(std::countr_one(bits.call));
+    if (colon >= kWindow - 1 || angle >= colon || text[angle] != '>' || colon + 1 == line.size()) {
+        return false;
+    }
+    const std::uint64_t dest = bits.call & ~Below(angle + 1);
+    const auto comma = angle + 1 + static_cast<std::size_t>(std::countr_one(dest >> (angle + 1)));
+    const std::string_view destText = line.substr(angle + 1, comma - angle - 1);
+    if (angle == 0 || (text[comma] != ',' && text[comma] != ':') || HasTooLong(bits.call & Below(colon)) ||
+        !IsDestination(destText) || !IsPlainPath(bits, comma, colon)) {
+        return false;
+    }
+    header.source = line.substr(0, angle);
+    header.dest = destText;
+    header.path = comma == colon ? std::string_view() : line.substr(comma + 1, colon - comma - 1);
+    info = line.substr(colon + 1);
+    return true;
+}
+
+#else
+
+bool ParseQuickly(std::string_view, Header&, std::string_view&)
+{
+    return false;
+}
+
+#endif
+
+} // namespace
+
+Refusal ParseHeader(std::string_view line, Header& header, std::string_view& info)
+{
+    return ParseQuickly(line, header, info) ? Refusal::None : ParseCarefully(line, header, info);
+}
+
+} // namespace ruvenmark::aprs

@@ -1,0 +1,182 @@
+#include "aprs/mic_e.h"
+
+#include "aprs/comment_extras.h"
+#include "aprs/mic_e_device.h"
+#include "aprs/plain_position.h"
+#include "aprs/text.h"
+
+namespace ruvenmark::aprs {
+
+namespace {
+
+constexpr std::size_t kDestSize = 6;
+constexpr std::size_t kBodySize = 8;
+constexpr int kOffset = 28; // Added to each figure of the body to make it printable.
+constexpr int kMaxBlanks = 4;
+constexpr char kBlankDigit = ' ';
+
+// By the three message bits: 7 is the first. The second half stands for the custom messages.
+constexpr std::array<std::string_view, 8> kStandard = {"Emergency", "Priority",   "Special",  "Committed",
+                                                       "Returning", "In Service", "En Route", "Off Duty"};
+constexpr std::array<std::string_view, 8> kCustom = {"Emergency", "Custom-6", "Custom-5", "Custom-4",
+                                                     "Custom-3",  "Custom-2", "Custom-1", "Custom-0"};
+
+bool IsDestinationByte(char c, std::size_t place)
+{
+    const bool bCommon = IsDigit(c) || c == 'L' || IsBetween(c, 'P', 'Z');
+    return bCommon || (place < 3 && IsBetween(c, 'A', 'K'));
+}
+
+// Digit of the latitude that a byte of the destination stands for.
+char LatitudeDigit(char c)
+{
+    if (IsDigit(c)) {
+        return c;
+    }
+    if (IsBetween(c, 'A', 'J')) {
+        return static_cast<char>(c - 'A' + '0');
+    }
+    if (IsBetween(c, 'P', 'Y')) {
+        return static_cast<char>(c - 'P' + '0');
+    }
+    return kBlankDigit;
+}
+
+bool IsHigh(char c)
+{
+    return IsBetween(c, 'P', 'Z');
+}
+
+struct Latitude {
+    int degrees = 0;
+    int hundredths = 0; // Of a minute.
+    int blanks = 0;
+};
+
+Refusal ParseLatitude(std::string_view dest, Latitude& latitude)
+{
+    std::array<int, kDestSize> digits{};
+    for (std::size_t i = 0; i < kDestSize; ++i) {
+        if (!IsDestinationByte(dest[i], i)) {
+            return Refusal::BadMicEDestination;
+        }
+        const char digit = LatitudeDigit(dest[i]);
+        if (digit == kBlankDigit) {
+            ++latitude.blanks;
+        } else if (latitude.blanks > 0) {
+            return Refusal::BlanksMisplaced;
+        } else {
+            digits[i] = DigitValue(digit);
+        }
+    }
+    if (latitude.blanks > kMaxBlanks) {
+        return Refusal::BlanksMisplaced;
+    }
+    latitude.degrees = digits[0] * 10 + digits[1];
+    latitude.hundredths = ((digits[2] * 10 + digits[3]) * 10 + digits[4]) * 10 + digits[5];
+    return latitude.degrees < 90 && latitude.hundredths < 6000 ? Refusal::None : Refusal::PositionOutOfRange;
+}
+
+std::string_view MessageText(std::string_view dest)
+{
+    unsigned bits = 0;
+    bool bStandard = false;
+    bool bCustom = false;
+    for (std::size_t i = 0; i < 3; ++i) {
+        const bool bCustomBit = IsBetween(dest[i], 'A', 'K');
+        bits = bits << 1U | static_cast<unsigned>(bCustomBit || IsHigh(dest[i]));
+        bCustom = bCustom || bCustomBit;
+        bStandard = bStandard || IsHigh(dest[i]);
+    }
+    if (bStandard && bCustom) {
+        return "Unknown";
+    }
+    return bCustom ? kCustom[bits] : kStandard[bits];
+}
+
+bool IsBody(std::string_view body)
+{
+    constexpr char kLow = 0x1c;
+    constexpr char kHigh = 0x7f;
+    return IsBetween(body[0], 0x26, kHigh) && IsBetween(body[1], 0x26, 0x61) && IsBetween(body[2], kLow, kHigh) &&
+           IsBetween(body[3], kLow, kHigh) && IsBetween(body[4], kLow, 0x7d) && IsBetween(body[5], kLow, kHigh) &&
+           IsSymbolCode(body[6]);
+}
+
+int Figure(char c)
+{
+    return static_cast<unsigned char>(c) - kOffset;
+}
+
+// Whole digits of the minutes' hundredths that are not blank; the last ones become 0.
+int DropDigits(int hundredths, int blanks)
+{
+    constexpr std::array<int, 5> kSteps = {1, 10, 100, 1000, 10000};
+    const int step = kSteps[static_cast<std::size_t>(blanks)];
+    return hundredths / step * step;
+}
+
+double ParseLongitude(std::string_view body, bool bHundred, int blanks)
+{
+    int degrees = Figure(body[0]) + (bHundred ? 100 : 0);
+    if (degrees >= 180 && degrees <= 189) {
+        degrees -= 80;
+    } else if (degrees >= 190) {
+        degrees -= 190;
+    }
+    const int minutes = Figure(body[1]) >= 60 ? Figure(body[1]) - 60 : Figure(body[1]);
+    const int hundredths = DropDigits(minutes * 100 + Figure(body[2]), blanks);
+    return MiddleAngle(degrees, hundredths, blanks);
+}
+
+void ParseSpeedCourse(std::string_view body, PositionReport& report)
+{
+    const int middle = Figure(body[4]);
+    int speed = Figure(body[3]) * 10 + middle / 10;
+    int course = middle % 10 * 100 + Figure(body[5]);
+    speed = speed >= 800 ? speed - 800 : speed;
+    course = course >= 400 ? course - 400 : course;
+    report.speed = speed;
+    if (course >= 1 && course <= 360) {
+        report.course = course;
+    }
+}
+
+} // namespace
+
+Refusal ParseMicE(std::string_view dest, std::string_view body, PositionReport& report)
+{
+    dest = dest.substr(0, dest.find('-'));
+    if (dest.size() != kDestSize) {
+        return Refusal::BadMicEDestination;
+    }
+    if (body.size() < kBodySize) {
+        return Refusal::PositionTooShort;
+    }
+    if (!IsBody(body)) {
+        return Refusal::BadMicE;
+    }
+    if (!IsSymbolTable(body[7])) {
+        return Refusal::BadSymbolTable;
+    }
+    Latitude latitude;
+    if (const Refusal refusal = ParseLatitude(dest, latitude); refusal != Refusal::None) {
+        return refusal;
+    }
+    const double degrees = MiddleAngle(latitude.degrees, latitude.hundredths, latitude.blanks);
+    const double longitude = ParseLongitude(body, IsHigh(dest[4]), latitude.blanks);
+    if (longitude > 180.0) {
+        return Refusal::PositionOutOfRange;
+    }
+    report.position = {IsHigh(dest[3]) ? degrees : -degrees,
+                       IsHigh(dest[5]) ? -longitude : longitude,
+                       {body[7], body[6]},
+                       PositionForm::MicE,
+                       static_cast<std::uint8_t>(latitude.blanks)};
+    report.micEStatus = MessageText(dest);
+    ParseSpeedCourse(body, report);
+    ParseMicEComment(TakeDevice(body.substr(kBodySize), report.device), report);
+    return Refusal::None;
+}
+
+} // namespace ruvenmark::aprs

@@ -1,0 +1,154 @@
+#include "aprs/plain_position.h"
+
+#include "aprs/text.h"
+
+namespace ruvenmark::aprs {
+
+namespace {
+
+constexpr int kMaxBlanks = 4;
+constexpr int kHundredthsPerDegree = 6000;
+
+// The four digits of "MM.hh" with `blanks` of them (from the right) taken as 0; -1 where others are no digits.
+int Hundredths(const char* minutes, int blanks)
+{
+    constexpr std::array<int, 4> kPlaces = {0, 1, 3, 4};
+    int value = 0;
+    for (int i = 0; i < 4; ++i) {
+        const char c = minutes[kPlaces[static_cast<std::size_t>(i)]];
+        if (i >= 4 - blanks) {
+            if (!IsDigit(c) && c != ' ') {
+                return -1;
+            }
+            value *= 10;
+            continue;
+        }
+        if (!IsDigit(c)) {
+            return -1;
+        }
+        value = value * 10 + DigitValue(c);
+    }
+    return minutes[2] == '.' ? value : -1;
+}
+
+int CountBlanks(const char* minutes)
+{
+    constexpr std::array<int, 4> kFromRight = {4, 3, 1, 0};
+    int blanks = 0;
+    while (blanks < kMaxBlanks && minutes[kFromRight[static_cast<std::size_t>(blanks)]] == ' ') {
+        ++blanks;
+    }
+    return blanks;
+}
+
+bool HasBlank(std::string_view text)
+{
+    return text.find(' ') != std::string_view::npos;
+}
+
+int Sign(char c, char positive, char negative)
+{
+    const char upper = ToUpper(c);
+    return upper == positive ? 1 : upper == negative ? -1 : 0;
+}
+
+} // namespace
+
+bool IsSymbolTable(char c)
+{
+    return c == '/' || c == '\\' || IsUpper(c) || IsDigit(c);
+}
+
+bool IsSymbolCode(char c)
+{
+    return IsBetween(c, '!', '}') && c != '|';
+}
+
+double MiddleAngle(int degrees, int hundredths, int blanks)
+{
+    constexpr std::array<int, 5> kHalfBox = {0, 5, 50, 500, 3000};
+    const int total = degrees * kHundredthsPerDegree + hundredths + kHalfBox[static_cast<std::size_t>(blanks)];
+    return total / static_cast<double>(kHundredthsPerDegree);
+}
+
+namespace {
+
+// Value of the digits at the given places; `bad` gets a bit set where one of them is none.
+template <std::size_t size>
+unsigned Gather(const char* text, const std::array<std::size_t, size>& places, unsigned& bad)
+{
+    unsigned value = 0;
+    for (const std::size_t place : places) {
+        const unsigned digit = static_cast<unsigned char>(text[place]) - unsigned{'0'};
+        bad |= digit > 9U ? 1U : 0U;
+        value = value * 10 + digit;
+    }
+    return value;
+}
+
+// The usual position, with all its digits and nothing wrong. Any other is left to a closer look.
+bool ParseExact(const char* text, Position& position)
+{
+    constexpr std::array<std::size_t, 2> kLatDegrees = {0, 1};
+    constexpr std::array<std::size_t, 4> kLatMinutes = {2, 3, 5, 6};
+    constexpr std::array<std::size_t, 3> kLonDegrees = {9, 10, 11};
+    constexpr std::array<std::size_t, 4> kLonMinutes = {12, 13, 15, 16};
+    unsigned bad = 0;
+    const unsigned latDegrees = Gather(text, kLatDegrees, bad);
+    const unsigned latMinutes = Gather(text, kLatMinutes, bad);
+    const unsigned lonDegrees = Gather(text, kLonDegrees, bad);
+    const unsigned lonMinutes = Gather(text, kLonMinutes, bad);
+    const int north = Sign(text[7], 'N', 'S');
+    const int east = Sign(text[17], 'E', 'W');
+    if (bad != 0 || text[4] != '.' || text[14] != '.' || north * east == 0 || latDegrees > 89 || lonDegrees > 179 ||
+        latMinutes >= unsigned{kHundredthsPerDegree} || lonMinutes >= unsigned{kHundredthsPerDegree} ||
+        !IsSymbolTable(text[8]) || !IsSymbolCode(text[18])) {
+        return false;
+    }
+    position.latitude = north * MiddleAngle(static_cast<int>(latDegrees), static_cast<int>(latMinutes), 0);
+    position.longitude = east * MiddleAngle(static_cast<int>(lonDegrees), static_cast<int>(lonMinutes), 0);
+    position.symbol = {text[8], text[18]};
+    return true;
+}
+
+} // namespace
+
+Refusal ParsePlainPosition(std::string_view text, Position& position)
+{
+    if (text.size() < kPlainSize) {
+        return Refusal::PositionTooShort;
+    }
+    if (ParseExact(text.data(), position)) {
+        return Refusal::None;
+    }
+    const char* const lat = text.data();
+    const char* const lon = lat + 9;
+    const auto latDegrees = ParseDigits(text.substr(0, 2));
+    const auto lonDegrees = ParseDigits(text.substr(9, 3));
+    const int north = Sign(lat[7], 'N', 'S');
+    const int east = Sign(lon[8], 'E', 'W');
+    if (!latDegrees || !lonDegrees || north == 0 || east == 0 || !IsSymbolCode(text[18])) {
+        return Refusal::BadPosition;
+    }
+    const int blanks = CountBlanks(lat + 2);
+    const int latHundredths = Hundredths(lat + 2, blanks);
+    const int lonHundredths = Hundredths(lon + 3, blanks);
+    if (latHundredths < 0 || lonHundredths < 0) {
+        return HasBlank(text.substr(2, 5)) || HasBlank(text.substr(12, 5)) ? Refusal::BlanksMisplaced
+                                                                           : Refusal::BadPosition;
+    }
+    if (*latDegrees > 89 || *lonDegrees > 179 || latHundredths >= kHundredthsPerDegree ||
+        lonHundredths >= kHundredthsPerDegree) {
+        return Refusal::PositionOutOfRange;
+    }
+    if (!IsSymbolTable(text[8])) {
+        return Refusal::BadSymbolTable;
+    }
+    position.latitude = north * MiddleAngle(*latDegrees, latHundredths, blanks);
+    position.longitude = east * MiddleAngle(*lonDegrees, lonHundredths, blanks);
+    position.symbol = {text[8], text[18]};
+    position.ambiguity = static_cast<std::uint8_t>(blanks);
+    return Refusal::None;
+}
+
+} // namespace ruvenmark::aprs

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "aprs/packet.h"
+
+#include <string_view>
+
+namespace ruvenmark::aprs {
+
+inline constexpr std::size_t kPlainSize = 19;
+
+bool IsSymbolTable(char c);
+bool IsSymbolCode(char c);
+
+// DDMM.hhN T DDDMM.hhE C at the front of the text (protocol reference, chapters 6 and 8). Up to four digits of the
+// minutes may be blank from the right; those of the latitude count for both.
+Refusal ParsePlainPosition(std::string_view text, Position& position);
+
+// An angle in degrees, from hundredths of minutes whose last `blanks` digits are not known (they are 0): the middle of
+// what is left open.
+double MiddleAngle(int degrees, int hundredths, int blanks);
+
+} // namespace ruvenmark::aprs

@@ -1,0 +1,67 @@
+#include "aprs/time_stamp.h"
+
+#include "aprs/text.h"
+
+namespace ruvenmark::aprs {
+
+namespace {
+
+std::uint8_t Pair(std::string_view text, std::size_t at)
+{
+    return static_cast<std::uint8_t>(DigitValue(text[at]) * 10 + DigitValue(text[at + 1]));
+}
+
+bool IsDay(std::uint8_t day)
+{
+    return day >= 1 && day <= 31;
+}
+bool IsClock(std::uint8_t hour, std::uint8_t minute)
+{
+    return hour < 24 && minute < 60;
+}
+
+} // namespace
+
+TimeStamp ParseTime(std::string_view text)
+{
+    TimeStamp time;
+    time.text = text;
+    if (text.size() != kTimeSize || !AllDigits(text.substr(0, 6))) {
+        return time;
+    }
+    const std::uint8_t first = Pair(text, 0);
+    const std::uint8_t second = Pair(text, 2);
+    const std::uint8_t third = Pair(text, 4);
+    if (text[6] == 'h' && IsClock(first, second) && third < 60) {
+        time.form = TimeForm::HourMinuteSecond;
+        time.hour = first;
+        time.minute = second;
+        time.second = third;
+    } else if ((text[6] == 'z' || text[6] == '/') && IsDay(first) && IsClock(second, third)) {
+        time.form = TimeForm::DayHourMinute;
+        time.bLocal = text[6] == '/';
+        time.day = first;
+        time.hour = second;
+        time.minute = third;
+    }
+    return time;
+}
+
+TimeStamp ParseMonthTime(std::string_view text)
+{
+    TimeStamp time;
+    time.text = text;
+    if (text.size() != kMonthTimeSize || !AllDigits(text)) {
+        return time;
+    }
+    time.month = Pair(text, 0);
+    time.day = Pair(text, 2);
+    time.hour = Pair(text, 4);
+    time.minute = Pair(text, 6);
+    if (time.month >= 1 && time.month <= 12 && IsDay(time.day) && IsClock(time.hour, time.minute)) {
+        time.form = TimeForm::MonthDayHourMinute;
+    }
+    return time;
+}
+
+} // namespace ruvenmark::aprs

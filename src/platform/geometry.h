@@ -1,0 +1,39 @@
+#pragma once
+
+namespace ruvenmark {
+
+struct GeoPoint {
+    double lat = 0, lon = 0; // Decimal degrees, north and east positive.
+    friend bool operator==(const GeoPoint&, const GeoPoint&) = default;
+};
+
+// Web Mercator on the unit square: x from 0 (180 west) to 1 (180 east), y from 0 (north) to 1 (south). The poles beyond
+// about 85.05 degrees fall on the edges.
+struct MercatorPoint {
+    double x = 0.5, y = 0.5;
+};
+MercatorPoint ToMercator(GeoPoint point);
+GeoPoint FromMercator(MercatorPoint point);
+
+// Along the great circle, on a sphere.
+double GreatCircleMiles(GeoPoint from, GeoPoint to);
+// The direction to set out in, degrees from north, clockwise, 0 to below 360.
+double InitialBearing(GeoPoint from, GeoPoint to);
+
+inline constexpr double kTileSize = 256; // Pixels of the whole world at zoom 0.
+
+// What the map window shows.
+struct MapView {
+    GeoPoint centre;
+    double zoom = 2;               // The world is kTileSize times 2 to the zoom pixels wide.
+    int width = 800, height = 600; // Pixels.
+
+    double WorldPixels() const;
+};
+struct PixelPoint {
+    double x = 0, y = 0; // From the left top corner of the map window.
+};
+PixelPoint ToPixel(const MapView& view, GeoPoint point);
+GeoPoint FromPixel(const MapView& view, PixelPoint pixel);
+
+} // namespace ruvenmark

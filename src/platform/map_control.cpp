@@ -1,0 +1,140 @@
+#include "platform/map_control.h"
+
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/map_document.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace ruvenmark {
+
+namespace {
+
+std::size_t ToolbarPlace(std::int32_t index)
+{
+    if (index < 1 || index > 4)
+        throw Failure("no such map tool bar");
+    return static_cast<std::size_t>(index) - 1;
+}
+
+template <typename Value>
+std::vector<Value> OldestFirst(const SlotPool<Value>& pool)
+{
+    std::vector<SlotRef> refs;
+    for (std::size_t slot = 0; slot < pool.SlotCount(); ++slot) {
+        if (pool.At(slot))
+            refs.push_back(pool.RefAt(slot));
+    }
+    std::sort(refs.begin(), refs.end(), [](SlotRef a, SlotRef b) { return a.id < b.id; });
+    std::vector<Value> values;
+    values.reserve(refs.size());
+    for (const SlotRef ref : refs)
+        values.push_back(*pool.At(ref.slot));
+    return values;
+}
+
+} // namespace
+
+Pushpin AddPin(Map& map, const PinData& pin)
+{
+    Pushpin added = map.AddPushpin(map.GetLocation(pin.point.lat, pin.point.lon), pin.name);
+    added.SetNote(pin.note);
+    added.SetSymbol(pin.symbol);
+    added.SetBalloonState(pin.balloonState);
+    return added;
+}
+
+Shape AddShape(Map& map, const ShapeData& shape)
+{
+    const Location from = map.GetLocation(shape.from.lat, shape.from.lon);
+    Shape added = shape.kind == ShapeData::Kind::Line
+                      ? map.AddLine(from, map.GetLocation(shape.to.lat, shape.to.lon))
+                      : map.AddShape(kShapeRadiusCircle, from, shape.width, shape.height);
+    added.SetForeColor(shape.foreColor);
+    added.SetVisible(shape.bVisible);
+    added.SetWeight(shape.weight);
+    added.SetBeginArrowhead(shape.bBeginArrowhead);
+    added.SetEndArrowhead(shape.bEndArrowhead);
+    return added;
+}
+
+Map& MapControl::RequireMap() const
+{
+    if (!m_map)
+        throw Failure("there is no map");
+    return *m_map;
+}
+
+Map& MapControl::StartMap(std::int32_t region)
+{
+    if (!IsMapRegion(region))
+        throw Failure("no such map region");
+    if (!m_map)
+        m_map = std::make_unique<Map>();
+    m_region = region;
+    m_map->Replace(region);
+    return *m_map;
+}
+
+void MapControl::NewMap(std::int32_t region)
+{
+    StartMap(region);
+    Replaced.Raise();
+}
+
+void MapControl::OpenMap(std::string_view path)
+{
+    const MapDocument document = ReadMapDocument(m_files.ReadText(path));
+    Map& map = StartMap(document.region);
+    for (const PinData& pin : document.pins)
+        AddPin(map, pin);
+    for (const ShapeData& shape : document.shapes)
+        AddShape(map, shape);
+    map.SetMapStyle(document.style);
+    map.SetMapFont(document.font);
+    map.SetView(document.centre, document.zoom);
+    map.SetSaved(true);
+    Replaced.Raise();
+}
+
+void MapControl::SaveMapAs(std::string_view path)
+{
+    Map& map = RequireMap();
+    MapDocument document;
+    document.region = m_region;
+    document.style = map.MapStyle();
+    document.font = map.MapFont();
+    document.centre = map.View().centre;
+    document.zoom = map.View().zoom;
+    document.pins = OldestFirst(map.Pins());
+    document.shapes = OldestFirst(map.Shapes());
+    m_files.WriteText(WriteMapDocument(document), path);
+    map.SetSaved(true);
+}
+
+bool MapControl::ToolbarVisible(std::int32_t index) const
+{
+    return m_toolbars[ToolbarPlace(index)];
+}
+
+void MapControl::SetToolbarVisible(std::int32_t index, bool bVisible)
+{
+    if (std::exchange(m_toolbars[ToolbarPlace(index)], bVisible) != bVisible)
+        ControlChanged.Raise();
+}
+
+void MapControl::SetItineraryVisible(bool bVisible)
+{
+    if (std::exchange(m_bItineraryVisible, bVisible) != bVisible)
+        ControlChanged.Raise();
+}
+
+void MapControl::SetMousePointer(std::int32_t pointer)
+{
+    if (std::exchange(m_mousePointer, pointer) != pointer)
+        ControlChanged.Raise();
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,372 @@
+#include "platform/map_model.h"
+
+#include "platform/failure.h"
+#include "platform/numbers.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr double kMinZoom = 1, kMaxZoom = 19;
+
+std::uint32_t ToFixed(double unit)
+{
+    return static_cast<std::uint32_t>(std::clamp(unit, 0.0, 0.9999999998) * 4294967296.0);
+}
+
+} // namespace
+
+// --- Handles
+
+void Location::GoTo() const
+{
+    m_map->CheckSerial(*this);
+    m_map->SetView(m_point, m_map->View().zoom);
+}
+
+const std::string& Pushpin::Name() const
+{
+    return m_map->Pin(m_ref).name;
+}
+
+void Pushpin::SetName(std::string_view name)
+{
+    PinData& pin = m_map->Pin(m_ref);
+    if (pin.name == name)
+        return;
+    m_map->UnlinkName(m_ref);
+    pin.name = name;
+    m_map->LinkName(m_ref);
+    m_map->Touch();
+}
+
+ruvenmark::Location Pushpin::Location() const
+{
+    return {*m_map, m_map->m_serial, m_map->Pin(m_ref).point};
+}
+
+void Pushpin::SetLocation(const ruvenmark::Location& location)
+{
+    m_map->CheckSerial(location);
+    m_map->Pin(m_ref).point = location.Point();
+    m_map->Mark(m_ref);
+}
+
+const std::string& Pushpin::Note() const
+{
+    return m_map->Pin(m_ref).note;
+}
+
+void Pushpin::SetNote(std::string_view note)
+{
+    PinData& pin = m_map->Pin(m_ref);
+    pin.note = note;
+    m_map->Touch();
+}
+
+std::int16_t Pushpin::Symbol() const
+{
+    return m_map->Pin(m_ref).symbol;
+}
+
+void Pushpin::SetSymbol(std::int16_t symbol)
+{
+    m_map->Pin(m_ref).symbol = symbol;
+    m_map->Mark(m_ref);
+}
+
+std::int32_t Pushpin::BalloonState() const
+{
+    return m_map->Pin(m_ref).balloonState;
+}
+
+void Pushpin::SetBalloonState(std::int32_t state)
+{
+    m_map->Pin(m_ref).balloonState = state;
+    m_map->Mark(m_ref);
+}
+
+void Pushpin::Delete()
+{
+    m_map->Pin(m_ref); // Raises where it is gone already.
+    m_map->UnlinkName(m_ref);
+    m_map->m_pins.Remove(m_ref);
+    m_map->m_points[m_ref.slot] = PinPoint();
+    m_map->Touch();
+}
+
+void Shape::SetForeColor(std::uint32_t color)
+{
+    m_map->ShapeOf(m_ref).foreColor = color;
+    m_map->Touch();
+}
+void Shape::SetVisible(bool bVisible)
+{
+    m_map->ShapeOf(m_ref).bVisible = bVisible;
+    m_map->Touch();
+}
+void Shape::SetWeight(std::int32_t weight)
+{
+    m_map->ShapeOf(m_ref).weight = weight;
+    m_map->Touch();
+}
+void Shape::SetBeginArrowhead(bool bArrow)
+{
+    m_map->ShapeOf(m_ref).bBeginArrowhead = bArrow;
+    m_map->Touch();
+}
+void Shape::SetEndArrowhead(bool bArrow)
+{
+    m_map->ShapeOf(m_ref).bEndArrowhead = bArrow;
+    m_map->Touch();
+}
+void Shape::Delete()
+{
+    m_map->ShapeOf(m_ref);
+    m_map->m_shapes.Remove(m_ref);
+    m_map->Touch();
+}
+
+// --- The map
+
+void Map::CheckSerial(const Location& location) const
+{
+    if (location.m_map != this || location.m_serial != m_serial)
+        throw Failure("the location belongs to a map that is gone");
+}
+
+PinData& Map::Pin(SlotRef ref)
+{
+    if (PinData* pin = m_pins.Find(ref))
+        return *pin;
+    throw Failure("the marker is gone");
+}
+
+ShapeData& Map::ShapeOf(SlotRef ref)
+{
+    if (ShapeData* shape = m_shapes.Find(ref))
+        return *shape;
+    throw Failure("the shape is gone");
+}
+
+void Map::Touch()
+{
+    m_bSaved = false;
+    Changed.Raise();
+}
+
+// Brings the painters' copy of a pin up to date.
+void Map::Mark(SlotRef ref)
+{
+    const PinData& pin = Pin(ref);
+    const MercatorPoint at = ToMercator(pin.point);
+    m_points[ref.slot] = {ToFixed(at.x), ToFixed(at.y), pin.symbol, true, pin.balloonState != 0};
+    Touch();
+}
+
+Location Map::GetLocation(double lat, double lon, double /*altitude*/)
+{
+    if (!(std::abs(lat) <= 90 && std::abs(lon) <= 180))
+        throw Failure("the position is not on the earth");
+    return {*this, m_serial, {lat, lon}};
+}
+
+double Map::Distance(const Location& from, const Location& to) const
+{
+    CheckSerial(from);
+    CheckSerial(to);
+    return GreatCircleMiles(from.Point(), to.Point());
+}
+
+std::optional<Pushpin> Map::FindPushpin(std::string_view name)
+{
+    const auto it = m_names.find(name);
+    if (it == m_names.end())
+        return std::nullopt;
+    return Pushpin(*this, it->second);
+}
+
+Pushpin Map::AddPushpin(const Location& location, std::string_view name)
+{
+    CheckSerial(location);
+    const SlotRef ref = m_pins.Add({});
+    PinData& pin = Pin(ref);
+    pin.name = name;
+    pin.point = location.Point();
+    if (m_points.size() <= ref.slot)
+        m_points.resize(ref.slot + 1);
+    LinkName(ref);
+    m_bPinEverAdded = true;
+    Mark(ref);
+    return {*this, ref};
+}
+
+Shape Map::AddLine(const Location& from, const Location& to)
+{
+    CheckSerial(from);
+    CheckSerial(to);
+    ShapeData line;
+    line.from = from.Point();
+    line.to = to.Point();
+    const SlotRef ref = m_shapes.Add(line);
+    Touch();
+    return {*this, ref};
+}
+
+Shape Map::AddShape(std::int32_t type, const Location& centre, double width, double height)
+{
+    CheckSerial(centre);
+    if (type != kShapeRadiusCircle || !std::isfinite(width) || !std::isfinite(height))
+        throw Failure("no such shape");
+    ShapeData circle;
+    circle.kind = ShapeData::Kind::Circle;
+    circle.from = circle.to = centre.Point();
+    circle.width = width;
+    circle.height = height;
+    const SlotRef ref = m_shapes.Add(circle);
+    Touch();
+    return {*this, ref};
+}
+
+std::vector<Pushpin> Map::AllRecords()
+{
+    std::vector<Pushpin> records;
+    records.reserve(m_pins.Count());
+    for (std::size_t slot = 0; slot < m_pins.SlotCount(); ++slot) {
+        if (m_pins.At(slot))
+            records.push_back({*this, m_pins.RefAt(slot)});
+    }
+    std::sort(records.begin(), records.end(), [](const auto& a, const auto& b) { return a.m_ref.id < b.m_ref.id; });
+    return records;
+}
+
+// --- Names
+
+void Map::LinkName(SlotRef ref)
+{
+    PinData& pin = Pin(ref);
+    const auto [it, bFirst] = m_names.try_emplace(pin.name, ref);
+    if (bFirst) {
+        pin.previousOfName = pin.nextOfName = ref;
+        return;
+    }
+    const SlotRef oldest = it->second;
+    SlotRef before = Pin(oldest).previousOfName; // The newest; a renamed pin may be older than some.
+    while (before.id > ref.id && before != oldest)
+        before = Pin(before).previousOfName;
+    const bool bBecomesOldest = before.id > ref.id;
+    if (bBecomesOldest)
+        before = Pin(oldest).previousOfName;
+    const SlotRef after = Pin(before).nextOfName;
+    pin.previousOfName = before;
+    pin.nextOfName = after;
+    Pin(before).nextOfName = ref;
+    Pin(after).previousOfName = ref;
+    if (bBecomesOldest) {
+        m_names.erase(it);
+        m_names.emplace(pin.name, ref);
+    }
+}
+
+void Map::UnlinkName(SlotRef ref)
+{
+    const PinData& pin = Pin(ref);
+    const auto it = m_names.find(pin.name);
+    const bool bOldest = it->second == ref;
+    if (bOldest)
+        m_names.erase(it);
+    if (pin.nextOfName == ref)
+        return;
+    Pin(pin.previousOfName).nextOfName = pin.nextOfName;
+    Pin(pin.nextOfName).previousOfName = pin.previousOfName;
+    if (bOldest)
+        m_names.emplace(Pin(pin.nextOfName).name, pin.nextOfName);
+}
+
+// --- Style and view
+
+void Map::SetMapStyle(std::int32_t style)
+{
+    if (style < 0 || style > kLastMapStyle)
+        throw Failure("no such map style");
+    m_style = style;
+    Touch();
+}
+
+void Map::SetMapFont(std::int32_t font)
+{
+    if (font < 0 || font > kLastMapFont)
+        throw Failure("no such map font");
+    m_font = font;
+    Touch();
+}
+
+void Map::SetView(GeoPoint centre, double zoom)
+{
+    if (!std::isfinite(centre.lat) || !std::isfinite(centre.lon) || !std::isfinite(zoom))
+        return;
+    m_view.centre = {std::clamp(centre.lat, -85.0, 85.0), std::remainder(centre.lon, 360.0)};
+    m_view.zoom = std::clamp(zoom, kMinZoom, kMaxZoom);
+    ViewChanged.Raise();
+}
+
+void Map::SetSize(int width, int height)
+{
+    m_view.width = std::max(width, 1);
+    m_view.height = std::max(height, 1);
+    ViewChanged.Raise();
+}
+
+Location Map::XYToLocation(double x, double y)
+{
+    const GeoPoint point = FromPixel(m_view, {x, y});
+    return GetLocation(point.lat, point.lon);
+}
+
+std::int32_t Map::LocationToX(const Location& location) const
+{
+    CheckSerial(location);
+    return ToInt32(ToPixel(m_view, location.Point()).x);
+}
+
+std::int32_t Map::LocationToY(const Location& location) const
+{
+    CheckSerial(location);
+    return ToInt32(ToPixel(m_view, location.Point()).y);
+}
+
+Pushpin Map::PinAt(std::size_t slot)
+{
+    if (slot >= m_pins.SlotCount() || !m_pins.At(slot))
+        throw Failure("the marker is gone");
+    return {*this, m_pins.RefAt(slot)};
+}
+
+Shape Map::ShapeAt(std::size_t slot)
+{
+    if (slot >= m_shapes.SlotCount() || !m_shapes.At(slot))
+        throw Failure("the shape is gone");
+    return {*this, m_shapes.RefAt(slot)};
+}
+
+void Map::Replace(std::int32_t region)
+{
+    m_names.clear();
+    m_pins.Clear();
+    m_shapes.Clear();
+    m_points.clear();
+    ++m_serial;
+    m_style = 0;
+    m_font = 2;
+    m_bSaved = true;
+    m_bPinEverAdded = false;
+    m_view.centre = region == kRegionEurope ? GeoPoint{50.5, 10.0} : GeoPoint{39.5, -98.35};
+    m_view.zoom = 4;
+    Changed.Raise();
+    ViewChanged.Raise();
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/event.h"
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace ruvenmark {
+
+enum class Panel : std::size_t { Tnc, Server, Gps, NewMessage, Call };
+
+// The status bar's five panels, the packet line and the progress bar that take one place, the wait pointer and the
+// coordinates under the pointer.
+class StatusBar {
+public:
+    void SetPanel(Panel panel, std::string_view text);
+    const std::string& PanelText(Panel panel) const { return m_panels[static_cast<std::size_t>(panel)]; }
+
+    void SetPacketLine(std::string_view text);
+    const std::string& PacketLine() const { return m_packetLine; }
+
+    // The packet line is hidden while the progress bar shows.
+    void ShowProgress();
+    void SetProgress(int percent);
+    void HideProgress();
+    bool IsProgressVisible() const { return m_bProgress; }
+    int Progress() const { return m_progress; }
+
+    void SetWaitPointer(bool bWait);
+    bool IsWaitPointer() const { return m_bWait; }
+
+    void SetCoordinates(std::string_view text);
+    const std::string& Coordinates() const { return m_coordinates; }
+
+    Event<> Changed;
+
+private:
+    std::array<std::string, 5> m_panels;
+    std::string m_packetLine;
+    std::string m_coordinates;
+    int m_progress = 0;
+    bool m_bProgress = false;
+    bool m_bWait = false;
+};
+
+} // namespace ruvenmark

@@ -1,0 +1,220 @@
+#include "platform/failure.h"
+#include "platform/map_control.h"
+#include "support/doubles.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <random>
+
+namespace ruvenmark {
+namespace {
+
+class MapModel : public testing::Test {
+protected:
+    MapModel() : control(files), here(NewMap().GetLocation(48, 11)) {}
+    Map& TheMap() { return control.RequireMap(); }
+    Pushpin Add(const char* name) { return TheMap().AddPushpin(here, name); }
+    std::vector<std::string> Names()
+    {
+        std::vector<std::string> names;
+        for (const Pushpin& pin : TheMap().AllRecords())
+            names.push_back(pin.Name());
+        return names;
+    }
+
+    MemoryFiles files;
+    MapControl control;
+    Location here;
+
+private:
+    Map& NewMap()
+    {
+        control.NewMap(kRegionNorthAmerica);
+        return control.RequireMap();
+    }
+};
+
+TEST_F(MapModel, FindGivesTheOldestOfEqualNames)
+{
+    Pushpin first = Add("A");
+    Pushpin second = Add("A");
+    Pushpin third = Add("B");
+    EXPECT_EQ(TheMap().FindPushpin("A"), first);
+    EXPECT_FALSE(TheMap().FindPushpin("a"));
+
+    third.SetName("A"); // The newest of the three.
+    first.Delete();
+    EXPECT_EQ(TheMap().FindPushpin("A"), second);
+    second.SetName("B");
+    EXPECT_EQ(TheMap().FindPushpin("A"), third);
+    third.SetName("B"); // Younger than the second, which keeps its place.
+    EXPECT_EQ(TheMap().FindPushpin("B"), second);
+    second.SetName("C");
+    second.SetName("B"); // Comes back in front.
+    EXPECT_EQ(TheMap().FindPushpin("B"), second);
+    EXPECT_FALSE(TheMap().FindPushpin("A"));
+}
+
+TEST_F(MapModel, NamesFollowRandomEditsAsTheNaiveModelHasThem)
+{
+    std::mt19937 random(3);
+    std::vector<std::pair<Pushpin, std::string>> naive; // Oldest first.
+    const auto name = [&] { return std::string(1 + random() % 2 * 30, static_cast<char>('a' + random() % 3)); };
+    for (int i = 0; i < 20000; ++i) {
+        const auto what = random() % (naive.size() > 40 ? 5 : 4);
+        const auto at = naive.empty() ? 0 : random() % naive.size();
+        if (what < 2 || naive.empty()) {
+            const std::string added = name();
+            naive.emplace_back(Add(added.c_str()), added);
+        } else if (what == 2) {
+            naive[at].second = name();
+            naive[at].first.SetName(naive[at].second);
+        } else {
+            naive[at].first.Delete();
+            naive.erase(naive.begin() + static_cast<std::ptrdiff_t>(at));
+        }
+        const std::string sought = name();
+        const auto oldest =
+            std::find_if(naive.begin(), naive.end(), [&](const auto& pin) { return pin.second == sought; });
+        const auto found = TheMap().FindPushpin(sought);
+        ASSERT_EQ(found.has_value(), oldest != naive.end());
+        if (found) {
+            ASSERT_EQ(*found, oldest->first);
+        }
+    }
+    const auto records = TheMap().AllRecords();
+    ASSERT_EQ(records.size(), naive.size());
+    for (std::size_t i = 0; i < naive.size(); ++i) {
+        EXPECT_EQ(records[i], naive[i].first);
+        EXPECT_EQ(records[i].Name(), naive[i].second);
+    }
+}
+
+TEST_F(MapModel, HandlesOfWhatIsGoneRaise)
+{
+    Pushpin pin = Add("A");
+    Shape line = TheMap().AddLine(here, here);
+    pin.Delete();
+    line.Delete();
+    Pushpin inTheSameSlot = Add("B");
+    EXPECT_EQ(inTheSameSlot.Ref().slot, pin.Ref().slot);
+    EXPECT_THROW(pin.Name(), Failure);
+    EXPECT_THROW(pin.SetNote(""), Failure);
+    EXPECT_THROW(pin.Delete(), Failure);
+    EXPECT_THROW(line.SetVisible(false), Failure);
+    EXPECT_THROW(line.Delete(), Failure);
+    EXPECT_EQ(inTheSameSlot.Name(), "B");
+    EXPECT_THROW(TheMap().PinAt(99), Failure);
+}
+
+TEST_F(MapModel, AReplacedMapLeavesNothingUsable)
+{
+    Pushpin pin = Add("A");
+    Shape circle = TheMap().AddShape(kShapeRadiusCircle, here, 5, 5);
+    TheMap().SetSize(320, 200);
+    Map* const before = control.ActiveMap();
+    control.SetToolbarVisible(3, true);
+
+    control.NewMap(kRegionEurope);
+    EXPECT_EQ(control.ActiveMap(), before);
+    EXPECT_EQ(TheMap().Width(), 320);
+    EXPECT_TRUE(control.ToolbarVisible(3));
+    EXPECT_EQ(TheMap().DataSetCount(), 0);
+    EXPECT_TRUE(TheMap().Saved());
+    EXPECT_FALSE(TheMap().FindPushpin("A"));
+    EXPECT_THROW(pin.Name(), Failure);
+    EXPECT_THROW(circle.SetWeight(1), Failure);
+    EXPECT_THROW(here.GoTo(), Failure);
+    EXPECT_THROW(TheMap().AddPushpin(here, "B"), Failure);
+    EXPECT_THROW(TheMap().Distance(here, here), Failure);
+
+    const Pushpin next = TheMap().AddPushpin(TheMap().GetLocation(0, 0), "A");
+    EXPECT_FALSE(pin == next);
+    EXPECT_THROW(pin.Location(), Failure);
+}
+
+TEST_F(MapModel, OnlyPlacesOnTheEarthAreLocations)
+{
+    EXPECT_NO_THROW(TheMap().GetLocation(-90, 180));
+    for (const auto& [lat, lon] : {std::pair(90.0001, 0.0), std::pair(0.0, -180.0001), std::pair(-1000.0, -1000.0),
+                                   std::pair(std::nan(""), 0.0), std::pair(0.0, HUGE_VAL)})
+        EXPECT_THROW(TheMap().GetLocation(lat, lon), Failure);
+    EXPECT_THROW(TheMap().XYToLocation(std::nan(""), 0), Failure);
+    EXPECT_THROW(TheMap().AddShape(1, here, 5, 5), Failure);
+    EXPECT_THROW(TheMap().AddShape(kShapeRadiusCircle, here, std::nan(""), 5), Failure);
+    EXPECT_THROW(TheMap().SetMapStyle(5), Failure);
+    EXPECT_THROW(TheMap().SetMapFont(-1), Failure);
+}
+
+TEST_F(MapModel, TheViewStaysOnTheWorld)
+{
+    for (const double lon : {180.0, -180.0, 190.0, -541.0, 1e300}) {
+        TheMap().SetView({95, lon}, 99);
+        EXPECT_LE(std::abs(TheMap().View().centre.lon), 180);
+    }
+    EXPECT_LE(TheMap().View().centre.lat, 85.1);
+    EXPECT_EQ(TheMap().View().zoom, 19);
+    const MapView before = TheMap().View();
+    TheMap().SetView({std::nan(""), 0}, 3);
+    EXPECT_EQ(TheMap().View().centre, before.centre);
+
+    TheMap().SetSize(800, 600);
+    here.GoTo();
+    EXPECT_EQ(TheMap().LocationToX(here), 400);
+    EXPECT_EQ(TheMap().LocationToY(here), 300);
+}
+
+TEST_F(MapModel, PaintersSeeEveryChange)
+{
+    int changes = 0;
+    const auto observing = TheMap().Changed.Observe([&] { ++changes; });
+    Pushpin pin = Add("A");
+    TheMap().SetSaved(true);
+    pin.SetSymbol(200);
+    pin.SetBalloonState(1);
+    pin.SetLocation(TheMap().GetLocation(0, 180));
+    const PinPoint& point = TheMap().PinPoints().at(pin.Ref().slot);
+    EXPECT_TRUE(point.bLive && point.bBalloon);
+    EXPECT_EQ(point.symbol, 200);
+    EXPECT_EQ(point.y, 1U << 31U);
+    EXPECT_GT(point.x, 0xFFFFFF00U); // The right edge, not around it.
+    EXPECT_FALSE(TheMap().Saved());
+    EXPECT_EQ(changes, 4);
+
+    const auto slot = pin.Ref().slot;
+    pin.Delete();
+    EXPECT_FALSE(TheMap().PinPoints().at(slot).bLive);
+    EXPECT_EQ(TheMap().DataSetCount(), 1); // Something was added once.
+    EXPECT_EQ(TheMap().RecordCount(), 0);
+}
+
+TEST(MapControl, BeforeTheFirstMapThereIsNone)
+{
+    MemoryFiles files;
+    MapControl control(files);
+    EXPECT_EQ(control.ActiveMap(), nullptr);
+    EXPECT_THROW(control.RequireMap(), Failure);
+    EXPECT_THROW(control.SaveMapAs("a.ptm"), Failure);
+    EXPECT_THROW(control.NewMap(100), Failure);
+    EXPECT_EQ(control.ActiveMap(), nullptr);
+    EXPECT_THROW(control.ToolbarVisible(0), Failure);
+    EXPECT_THROW(control.SetToolbarVisible(5, true), Failure);
+}
+
+TEST(MapControl, TellsRealChangesOnly)
+{
+    MemoryFiles files;
+    MapControl control(files);
+    int told = 0;
+    const auto observing = control.ControlChanged.Observe([&] { ++told; });
+    control.SetToolbarVisible(1, true);
+    control.SetToolbarVisible(1, true);
+    control.SetMousePointer(kPointerCross);
+    control.SetMousePointer(kPointerCross);
+    control.SetItineraryVisible(false);
+    EXPECT_EQ(told, 2);
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,92 @@
+#include "platform/failure.h"
+#include "platform/numbers.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace ruvenmark {
+namespace {
+
+TEST(Numbers, ReadsDecimalNumbersAndNothingElse)
+{
+    EXPECT_EQ(ReadNumber(" 12 "), 12);
+    EXPECT_EQ(ReadNumber("-0"), 0);
+    EXPECT_EQ(ReadNumber("+1.5"), 1.5);
+    EXPECT_EQ(ReadNumber("-.5"), -0.5);
+    EXPECT_EQ(ReadNumber("5."), 5);
+    EXPECT_EQ(ReadNumber("1e3"), 1000);
+    EXPECT_EQ(ReadNumber("4.9406564584124654e-324"), std::numeric_limits<double>::denorm_min());
+    for (const char* text : {"",    " ",    "+",   "-",   ".",   "+-5", "-+5", "--5", "0x10", "1e400", "-1e400",
+                             "inf", "-inf", "nan", "1,5", "1 2", "12a", "1e",  "e5",  "\t1",  "1\n"})
+        EXPECT_EQ(ReadNumber(text), std::nullopt) << text;
+    EXPECT_EQ(ReadNumber(std::string_view("1\0", 2)), std::nullopt);
+    EXPECT_EQ(ReadNumber(std::string(100000, '9')), std::nullopt);
+}
+
+TEST(Numbers, WholeNumbersAreRoundedHalfToEvenAndChecked)
+{
+    EXPECT_EQ(ToInt16(0.5), 0);
+    EXPECT_EQ(ToInt16(1.5), 2);
+    EXPECT_EQ(ToInt16(-2.5), -2);
+    EXPECT_EQ(ToInt16(32766.5), 32766);
+    EXPECT_EQ(ToInt16(32767.4999), 32767);
+    EXPECT_THROW(ToInt16(32767.5), Failure);
+    EXPECT_EQ(ToInt16(-32768.5), -32768);
+    EXPECT_THROW(ToInt16(-32768.51), Failure);
+    EXPECT_EQ(ToInt32("2147483647.4"), 2147483647);
+    EXPECT_THROW(ToInt32(2147483647.5), Failure);
+    EXPECT_EQ(ToInt32("-2147483648.5"), std::numeric_limits<std::int32_t>::min());
+    EXPECT_THROW(ToInt32(std::nan("")), Failure);
+    EXPECT_THROW(ToInt32(HUGE_VAL), Failure);
+    EXPECT_THROW(ToInt16("40000"), Failure);
+    EXPECT_THROW(ToInt16("x"), Failure);
+    EXPECT_THROW(ToDouble(""), Failure);
+}
+
+TEST(Numbers, TruthIsAWordOrANumber)
+{
+    for (const char* text : {"True", "true", " TRUE ", "1", "-1", "0.1"})
+        EXPECT_TRUE(ToBool(text)) << text;
+    for (const char* text : {"False", "false", "0", "-0", "0.0"})
+        EXPECT_FALSE(ToBool(text)) << text;
+    for (const char* text : {"", "yes", "Truely", "nan"})
+        EXPECT_THROW(ToBool(text), Failure) << text;
+}
+
+TEST(Numbers, ShortTextIsPlainAndReadsBack)
+{
+    EXPECT_EQ(ShortText(49.05833333333333), "49.05833333333333");
+    EXPECT_EQ(ShortText(1e21), "1000000000000000000000");
+    EXPECT_EQ(ShortText(-0.0), "0");
+    EXPECT_EQ(ShortText(0.1), "0.1");
+    EXPECT_EQ(ShortText(-12.0), "-12");
+    EXPECT_EQ(ShortText(1e-7), "0.0000001");
+    EXPECT_EQ(NearestText(-0.4), "0");
+    EXPECT_EQ(NearestText(2.5), "2");
+    EXPECT_EQ(NearestText(70000), "70000");
+
+    std::mt19937_64 random(1);
+    for (int i = 0; i < 20000; ++i) {
+        const double value = std::bit_cast<double>(random());
+        if (std::isfinite(value)) {
+            ASSERT_EQ(ReadNumber(ShortText(value)), value) << value;
+        }
+    }
+    for (const double value : {std::numeric_limits<double>::denorm_min(), std::numeric_limits<double>::min(),
+                               std::numeric_limits<double>::lowest()})
+        EXPECT_EQ(ReadNumber(ShortText(value)), value);
+}
+
+TEST(Numbers, RoundsToDecimals)
+{
+    EXPECT_EQ(RoundDecimals(1.25, 1), 1.2);
+    EXPECT_EQ(RoundDecimals(-1.375, 2), -1.38);
+    EXPECT_EQ(RoundDecimals(1e308, 5), 1e308);
+    EXPECT_TRUE(std::isnan(RoundDecimals(std::nan(""), 2)));
+}
+
+} // namespace
+} // namespace ruvenmark

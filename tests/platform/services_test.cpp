@@ -1,0 +1,88 @@
+#include "platform/headless.h"
+#include "platform/services.h"
+#include "platform/status_bar.h"
+#include "support/doubles.h"
+
+#include <gtest/gtest.h>
+
+#include <ctime>
+#include <sstream>
+
+namespace ruvenmark {
+namespace {
+
+TEST(StatusBar, TellsRealChangesOnly)
+{
+    StatusBar bar;
+    int told = 0;
+    const auto observing = bar.Changed.Observe([&] { ++told; });
+    bar.SetPanel(Panel::Call, "N0CALL");
+    bar.SetPanel(Panel::Call, "N0CALL");
+    bar.SetPanel(Panel::Tnc, "");
+    bar.SetPacketLine("x");
+    bar.SetPacketLine("x");
+    bar.SetCoordinates("");
+    bar.SetWaitPointer(false);
+    EXPECT_EQ(told, 2);
+    EXPECT_EQ(bar.PanelText(Panel::Call), "N0CALL");
+    EXPECT_EQ(bar.PanelText(Panel::Server), "");
+}
+
+TEST(StatusBar, ProgressStartsAndEndsAtNothing)
+{
+    StatusBar bar;
+    int told = 0;
+    const auto observing = bar.Changed.Observe([&] { ++told; });
+    bar.ShowProgress();
+    bar.SetProgress(40);
+    bar.SetProgress(40);
+    bar.SetProgress(1000);
+    EXPECT_EQ(bar.Progress(), 100);
+    EXPECT_TRUE(bar.IsProgressVisible());
+    bar.HideProgress();
+    bar.HideProgress();
+    EXPECT_FALSE(bar.IsProgressVisible());
+    EXPECT_EQ(bar.Progress(), 0);
+    EXPECT_EQ(told, 4);
+}
+
+TEST(Clocks, ShowLocalTimeInOneForm)
+{
+    ::setenv("TZ", "UTC-2", 1); // Two hours east.
+    ::tzset();
+    SystemClock clock;
+    const std::string text(clock.LocalNowText());
+    std::tm shown = {};
+    const char* end = ::strptime(text.c_str(), "%Y-%m-%d %H:%M:%S", &shown);
+    ASSERT_TRUE(end && *end == '\0') << text;
+    EXPECT_EQ(text.size(), 19U);
+    EXPECT_NEAR(static_cast<double>(::timegm(&shown)), static_cast<double>(std::time(nullptr)) + 7200, 2);
+
+    FakeClock fake;
+    EXPECT_EQ(fake.LocalNowText(), "2026-11-22 20:15:03");
+    fake.Advance(std::chrono::hours(24 * 40) - std::chrono::seconds(4));
+    EXPECT_EQ(fake.LocalNowText(), "2027-01-01 20:14:59");
+}
+
+TEST(HeadlessPrompts, PrintsAndTakesGivenAnswersOrTheHarmlessOne)
+{
+    std::ostringstream out;
+    HeadlessPrompts prompts(out);
+    prompts.GiveAnswer(Answer::Yes);
+    prompts.GiveAnswer(Answer::No);
+    prompts.GiveFile("/x/y");
+    EXPECT_TRUE(prompts.AskYesNo("Remove?"));
+    EXPECT_EQ(prompts.AskYesNoCancel("Save?"), Answer::No);
+    EXPECT_EQ(prompts.AskYesNoCancel("Save?"), Answer::Cancel);
+    EXPECT_FALSE(prompts.AskYesNo("Remove?"));
+    EXPECT_EQ(prompts.OpenFile("Open", {"All (*.*)", "*.*"}), "/x/y");
+    EXPECT_EQ(prompts.SaveFile("Save As", {"All (*.*)", "*.*"}), std::nullopt);
+    prompts.Message("gr\xFC\xDF\n\x1B[2J\x9B");
+    prompts.Message("\xC2\x9B\x7F\xC2\xA0");
+    EXPECT_EQ(out.str(), "Ruvenmark: Remove? Yes\nRuvenmark: Save? No\nRuvenmark: Save? Cancel\nRuvenmark: Remove? No\n"
+                         "Ruvenmark: Open, All (*.*): /x/y\nRuvenmark: Save As, All (*.*): no file\n"
+                         "Ruvenmark: gr\xC3\xBC\xC3\x9F\n?[2J?\nRuvenmark: ??\xC2\xA0\n");
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,147 @@
+#pragma once
+
+#include "platform/failure.h"
+#include "platform/files.h"
+#include "platform/services.h"
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+// Stand-ins for the machine and the operator that tests set up before and look at afterwards.
+namespace ruvenmark {
+
+class FakeClock final : public IClock {
+public:
+    std::string_view LocalNowText() override
+    {
+        const auto day = std::chrono::floor<std::chrono::days>(m_now);
+        const std::chrono::year_month_day date(day);
+        const std::chrono::hh_mm_ss time(m_now - day);
+        std::array<char, 64> text{};
+        std::snprintf(text.data(), text.size(), "%04d-%02u-%02u %02d:%02d:%02d", static_cast<int>(date.year()),
+                      static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
+                      static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),
+                      static_cast<int>(time.seconds().count()));
+        m_text = text.data();
+        return m_text;
+    }
+    void Advance(std::chrono::seconds seconds) { m_now += seconds; }
+
+private:
+    std::chrono::sys_seconds m_now = std::chrono::sys_days(std::chrono::year(2026) / 11 / 22) + std::chrono::hours(20) +
+                                     std::chrono::minutes(15) + std::chrono::seconds(3);
+    std::string m_text;
+};
+
+// Answers from the queues, else no, cancel or no file.
+class RecordingPrompts final : public IPrompts {
+public:
+    std::vector<std::string> messages, questions;
+    std::vector<std::string> fileTitles; // Of file choices.
+    std::deque<Answer> answers;
+    std::deque<std::string> files;
+
+    void Message(std::string_view text) override { messages.emplace_back(text); }
+    bool AskYesNo(std::string_view text) override { return Ask(text, Answer::No) == Answer::Yes; }
+    Answer AskYesNoCancel(std::string_view text) override { return Ask(text, Answer::Cancel); }
+    std::optional<std::string> OpenFile(std::string_view title, FileFilter /*filter*/) override
+    {
+        return ChooseFile(title);
+    }
+    std::optional<std::string> SaveFile(std::string_view title, FileFilter /*filter*/) override
+    {
+        return ChooseFile(title);
+    }
+
+private:
+    Answer Ask(std::string_view text, Answer fallback)
+    {
+        questions.emplace_back(text);
+        if (answers.empty())
+            return fallback;
+        const Answer answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+    std::optional<std::string> ChooseFile(std::string_view title)
+    {
+        fileTitles.emplace_back(title);
+        if (files.empty())
+            return std::nullopt;
+        std::optional<std::string> file = std::move(files.front());
+        files.pop_front();
+        return file;
+    }
+};
+
+// Files in memory that fail on demand.
+class MemoryFiles final : public IFiles {
+public:
+    std::map<std::string, std::string, std::less<>> texts; // By path.
+    std::set<std::string, std::less<>> unreadable;         // Paths that are there but cannot be read.
+    int writes = 0;                                        // So far, failed ones included.
+
+    // The nth write from now on fails and leaves the file as it was; 1 is the next.
+    void FailWrite(int nth) { m_failingWrite = writes + nth; }
+
+    std::string ReadText(std::string_view path) override
+    {
+        const auto found = texts.find(path);
+        if (found == texts.end() || unreadable.contains(path))
+            throw Failure("cannot open " + std::string(path));
+        return found->second;
+    }
+    void WriteText(std::string_view text, std::string_view path) override
+    {
+        if (++writes == m_failingWrite)
+            throw Failure("cannot write " + std::string(path));
+        texts[std::string(path)] = text;
+    }
+    void Remove(std::string_view path) override { texts.erase(std::string(path)); }
+    bool Exists(std::string_view path) override { return texts.contains(path); }
+
+private:
+    int m_failingWrite = 0;
+};
+
+class RecordingSound final : public ISound {
+public:
+    std::vector<std::string> played;
+    void PlayAndWait(std::string_view path) override { played.emplace_back(path); }
+};
+
+class RecordingSleep final : public ISleep {
+public:
+    std::vector<std::int32_t> slept; // Milliseconds, call by call.
+    void SleepMs(std::int32_t milliseconds) override { slept.push_back(milliseconds); }
+};
+
+// Lets something happen in the midst of a loop that yields.
+class ScriptedYield final : public IYield {
+public:
+    int calls = 0;
+    // At the nth call from the start; 1 is the first.
+    void At(int nth, std::function<void()> action) { m_actions[nth] = std::move(action); }
+
+    void ProcessPending() override
+    {
+        const auto found = m_actions.find(++calls);
+        if (found != m_actions.end())
+            found->second();
+    }
+
+private:
+    std::map<int, std::function<void()>> m_actions;
+};
+
+} // namespace ruvenmark
