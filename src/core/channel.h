@@ -1,0 +1,56 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace ruvenmark {
+
+// The three roads on which reports come in. What differs between them is a row of data here; what is equal is one piece
+// of code.
+enum class Channel : std::uint8_t { RF, TCP, FL };
+
+inline constexpr std::array<Channel, 3> kChannels = {Channel::RF, Channel::TCP, Channel::FL};
+
+struct ChannelTraits {
+    Channel channel;
+    std::string_view word; // First part of every tree key, first letters of every note.
+    std::string_view rootText;
+    std::string_view filterPrefix;   // Of the filter's setting keys.
+    std::string_view namesSetting;   // Balloon state of new markers; FL has it in frmImport instead.
+    std::string_view unknownSetting; // Whether packets that could not be decoded are kept.
+    std::string_view trackedSetting;
+    bool bFoldersSorted; // At all times.
+    bool bRootAtStart;   // The tree of FL comes with the first file.
+};
+
+inline constexpr std::array<ChannelTraits, 3> kChannelTraits = {{
+    {Channel::RF, "RF", "RF reports", "rf", "ShowRFNames", "ShowRFUnknown", "TrackedRFStations", true, true},
+    {Channel::TCP, "TCP", "TCP reports", "tcp", "ShowTCPNames", "ShowTCPUnknown", "TrackedTCPStations", false, true},
+    {Channel::FL, "FL", "FL reports", "fl", "", "ShowFLUnknown", "TrackedFLStations", false, false},
+}};
+
+constexpr const ChannelTraits& Traits(Channel channel)
+{
+    return kChannelTraits[static_cast<std::size_t>(channel)];
+}
+
+// The channel of exactly this word.
+constexpr std::optional<Channel> ChannelOfWord(std::string_view word)
+{
+    for (const auto& traits : kChannelTraits) {
+        if (traits.word == word)
+            return traits.channel;
+    }
+    return std::nullopt;
+}
+
+// Folder words: with the channel word in front they are keys of the station tree.
+inline constexpr std::string_view kPositions = "Positions";
+inline constexpr std::string_view kStatus = "Status";
+inline constexpr std::string_view kWeather = "Weather";
+inline constexpr std::string_view kUnknown = "Unknown";
+
+} // namespace ruvenmark

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ruvenmark {
+
+struct PrintChoice {
+    std::int32_t copies = 1;
+    bool bLandscape = false;
+};
+
+// The desktop around the program, as commands ask for it.
+class IDesktop {
+public:
+    virtual ~IDesktop() = default;
+
+    virtual std::string ClipboardText() = 0; // Empty where there is no text.
+    virtual void SetClipboardText(std::string_view text) = 0;
+    virtual void CopyMapPicture() = 0; // The map as it is shown, to the clipboard.
+
+    // The print dialog; nothing when it was cancelled.
+    virtual std::optional<PrintChoice> AskPrint(std::string_view title) = 0;
+    virtual void PrintMap(const PrintChoice& choice) = 0; // Raises Failure.
+
+    // In the system's own browser. False when none could be started.
+    virtual bool OpenBrowser(std::string_view url) = 0;
+};
+
+// Where nobody watches: a clipboard of its own, and nothing else.
+class BareDesktop final : public IDesktop {
+public:
+    std::string ClipboardText() override { return m_text; }
+    void SetClipboardText(std::string_view text) override { m_text = text; }
+    void CopyMapPicture() override {}
+    std::optional<PrintChoice> AskPrint(std::string_view /*title*/) override { return std::nullopt; }
+    void PrintMap(const PrintChoice& /*choice*/) override {}
+    bool OpenBrowser(std::string_view /*url*/) override { return false; }
+
+private:
+    std::string m_text;
+};
+
+} // namespace ruvenmark

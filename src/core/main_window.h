@@ -1,0 +1,58 @@
+#pragma once
+
+#include "core/channel_state.h"
+#include "core/failure_counts.h"
+#include "core/services.h"
+#include "core/settings.h"
+#include "core/window_state.h"
+#include "intake/report_source.h"
+#include "links/link_forms.h"
+#include "map/map_session.h"
+#include "platform/keyed_tree.h"
+#include "platform/map_control.h"
+#include "platform/status_bar.h"
+#include "tracking/filter_form.h"
+#include "tracking/track_list_form.h"
+#include "tracking/track_state.h"
+
+#include <array>
+#include <cstddef>
+#include <memory>
+
+namespace ruvenmark {
+
+// All state of the program, made once in main() and lent by reference. Behaviour is in the folders' functions.
+struct MainWindow {
+    explicit MainWindow(Services lent) : services(std::move(lent)), mpCtrl(services.files) {}
+    MainWindow(const MainWindow&) = delete;
+    MainWindow& operator=(const MainWindow&) = delete;
+
+    Services services;
+    SettingsState Settings;
+    WindowState window;
+    StatusBar sbStatusBar;
+    KeyedTree tvStationList;
+    KeyedTree tvMessageBoxes;
+    MapControl mpCtrl; // Before all that holds handles of its map.
+    MapSession map;
+    std::array<ChannelState, 3> channels = {ChannelState(Channel::RF), ChannelState(Channel::TCP),
+                                            ChannelState(Channel::FL)};
+    TrackState tracking;
+    TncForm commDialog;
+    ServerForm frmTcp;
+    ServerLists serverLists;
+    ImportForm frmImport;
+    FilterForm frmFilter;
+    TrackListForm frmTrackList;
+    bool FileLoading = false;
+    FailureCounts abandoned;
+
+    // Sinks outlive their sources.
+    std::array<std::unique_ptr<IReportSink>, 3> sinks;
+    std::unique_ptr<IReportSource> aprsfl;
+
+    ChannelState& Of(Channel channel) { return channels[static_cast<std::size_t>(channel)]; }
+    const ChannelState& Of(Channel channel) const { return channels[static_cast<std::size_t>(channel)]; }
+};
+
+} // namespace ruvenmark

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "core/desktop.h"
+#include "core/dialogs.h"
+#include "intake/report_source.h"
+#include "platform/files.h"
+#include "platform/services.h"
+#include "platform/settings_store.h"
+
+#include <string>
+
+namespace ruvenmark {
+
+// The platform behind the logic, lent by main() for the whole run.
+struct Services {
+    ISettingsStore& store;
+    IFiles& files;
+    IClock& clock;
+    ISound& sound;
+    ISleep& sleep;
+    IYield& yield;
+    IPrompts& prompts;
+    IDialogs& dialogs;
+    IDesktop& desktop;
+    IReportSourceFactory& sources;
+    std::string programFolder;
+};
+
+} // namespace ruvenmark

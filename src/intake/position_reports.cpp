@@ -1,0 +1,138 @@
+// ReportPos and ReportPosExt: a station moves across the map and is filed under "Positions".
+
+#include "core/main_window.h"
+#include "intake/fact_writer.h"
+#include "intake/report_handlers.h"
+#include "intake/station_store.h"
+#include "map/markers.h"
+#include "platform/numbers.h"
+#include "tracking/filters.h"
+#include "tracking/track_lines.h"
+#include "tracking/track_lists.h"
+#include "ui/views.h"
+
+#include <string>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr double kMilesPerKnot = 1.15;
+constexpr double kStandingStill = 0.005; // Knots.
+
+bool AddsMarkers(const MainWindow& main, Channel channel)
+{
+    switch (channel) {
+    case Channel::RF:
+        return main.commDialog.bAddRFSymbol;
+    case Channel::TCP:
+        return main.frmTcp.bAddTCPSymbol;
+    case Channel::FL:
+        return main.frmImport.bFLAdd;
+    }
+    return false;
+}
+
+void PlayTrackSound(MainWindow& main)
+{
+    if (!SettingBool(main.Settings, "PlayTrack"))
+        return;
+    const std::string_view path = SettingText(main.Settings, "TrackWaveFile");
+    if (!path.empty() && main.services.files.Exists(path))
+        main.services.sound.PlayAndWait(path);
+}
+
+// Everything ahead of the tree: a failure in here leaves out only the rest of it.
+void ShowOnMap(MainWindow& main, Channel channel, const PosReport& report)
+{
+    const bool bTracked = IsTracked(main.Of(channel), report.call);
+    if (bTracked || AddsMarkers(main, channel))
+        PlaceMarker(main, channel, report.call, report.lat, report.lon, report.symbol, bTracked);
+    if (bTracked)
+        PlayTrackSound(main);
+}
+
+struct PositionTexts {
+    std::string lat, lon;
+    std::string_view received;
+};
+
+void WritePositionNodes(MainWindow& main, Channel channel, const PosReport& report, const PositionTexts& texts)
+{
+    FactWriter writer(main.tvStationList, channel, kPositions);
+    writer.Station(report.call, report.symbol);
+    writer.Fact("Lat", "Lat: ", texts.lat, "°", "Parallel");
+    writer.Fact("Lon", "Lon: ", texts.lon, "°", "Parallel");
+    writer.Fact("Path", "Path: ", report.path, "", "Path");
+    if (!report.comment.empty())
+        writer.Fact("Comment", report.comment, "Info");
+    writer.Fact("Received", "Received: ", texts.received, "", "Received");
+    writer.Counts();
+}
+
+void WritePositionRecord(Record& record, const PosReport& report, const PositionTexts& texts)
+{
+    record.Set(Field::Lat, texts.lat);
+    record.Set(Field::Lon, texts.lon);
+    record.Set(Field::PositionPath, report.path);
+    record.Set(Field::Symbol, report.symbol);
+    record.Set(Field::Comment, report.comment);
+    record.Set(Field::PositionReceived, texts.received);
+}
+
+void WriteMovement(MainWindow& main, Channel channel, const PosExtReport& report)
+{
+    const bool bAltitude = report.altitude > kAbsent;
+    const bool bSpeed = report.speed > kAbsent;
+    const bool bCourse = report.course > kAbsent;
+    const std::string altitude = bAltitude ? NearestText(report.altitude) : std::string();
+    const std::string speed = bSpeed ? NearestText(report.speed * kMilesPerKnot) : std::string();
+    const std::string course = bCourse ? NearestText(report.course) : std::string();
+
+    FactWriter writer(main.tvStationList, channel, kPositions);
+    writer.Station(report.call);
+    if (bAltitude)
+        writer.Fact("Altitude", "Altitude: ", altitude, " feet", "Balloon");
+    if (bSpeed)
+        writer.Fact("Speed", "Speed: ", speed, " mph", "Speed");
+    if (bCourse)
+        writer.Fact("Course", "Course: ", course, "°", "Course");
+    writer.Counts();
+    writer.Color(report.speed > kStandingStill ? MobileColor(main.Settings) : 0);
+
+    Record& record = EnsureRecord(main.Of(channel), report.call);
+    if (bAltitude)
+        record.Set(Field::Alt, altitude);
+    if (bSpeed)
+        record.Set(Field::Speed, speed);
+    if (bCourse)
+        record.Set(Field::Course, course);
+}
+
+} // namespace
+
+void aprs_ReportPos(MainWindow& main, Channel channel, const PosReport& report)
+{
+    if (IsFiltered(main, channel, report.call, report.dest, report.lat, report.lon))
+        return;
+    const std::string received(main.services.clock.LocalNowText());
+    Attempt(main.abandoned, "ReportPos, map", [&] { ShowOnMap(main, channel, report); });
+    Attempt(main.abandoned, "ReportPos", [&] {
+        const PositionTexts texts{ShortText(report.lat), ShortText(report.lon), received};
+        WritePositionNodes(main, channel, report, texts);
+        WritePositionRecord(EnsureRecord(main.Of(channel), report.call), report, texts);
+        RefreshMarkerNote(main, channel, report.call);
+    });
+}
+
+void aprs_ReportPosExt(MainWindow& main, Channel channel, const PosExtReport& report)
+{
+    if (IsFiltered(main, channel, report.call, report.dest, report.lat, report.lon))
+        return;
+    Attempt(main.abandoned, "ReportPosExt", [&] {
+        WriteMovement(main, channel, report);
+        RefreshMarkerNote(main, channel, report.call);
+    });
+}
+
+} // namespace ruvenmark

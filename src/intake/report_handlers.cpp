@@ -1,0 +1,48 @@
+#include "intake/report_handlers.h"
+
+#include "core/main_window.h"
+
+namespace ruvenmark {
+
+namespace {
+
+// Messages, raw data, GPS data and the links' own events are taken up with those subsystems.
+class ReportSink final : public IReportSink {
+public:
+    ReportSink(MainWindow& main, Channel channel) : m_main(main), m_channel(channel) {}
+
+    void ReportPos(const PosReport& report) override { aprs_ReportPos(m_main, m_channel, report); }
+    void ReportPacket(std::string_view packet) override { aprs_ReportPacket(m_main, m_channel, packet); }
+    void ReportTime(const TimeReport& report) override { aprs_ReportTime(m_main, m_channel, report); }
+    void ReportDataExt(const DataExtReport& report) override { aprs_ReportDataExt(m_main, m_channel, report); }
+    void ReportPosExt(const PosExtReport& report) override { aprs_ReportPosExt(m_main, m_channel, report); }
+    void ReportStatus(const StatusReport& report) override { aprs_ReportStatus(m_main, m_channel, report); }
+    void ReportStatusTime(const StatusTimeReport& report) override { aprs_ReportStatusTime(m_main, m_channel, report); }
+    void ReportInfo(const InfoReport& report) override { aprs_ReportInfo(m_main, m_channel, report); }
+    void ReportWeather(const WeatherReport& report) override { aprs_ReportWeather(m_main, m_channel, report); }
+    void ReportCapabilities(const CapabilitiesReport& report) override
+    {
+        aprs_ReportCapabilities(m_main, m_channel, report);
+    }
+    void ReportAprsMsg(const MessageReport& /*report*/) override {}
+    void SocketConnected() override {}
+    void SocketConnectionError() override {}
+    void SocketConnectionClosed() override {}
+    void ServerConnectionError() override {}
+    void ReportObjectItem(const ObjectItemReport& report) override { aprs_ReportObjectItem(m_main, m_channel, report); }
+    void ReportGpsData(const GpsReport& /*report*/) override {}
+    void ReportRawData(std::string_view /*packet*/) override {}
+
+private:
+    MainWindow& m_main;
+    Channel m_channel;
+};
+
+} // namespace
+
+std::unique_ptr<IReportSink> MakeReportSink(MainWindow& main, Channel channel)
+{
+    return std::make_unique<ReportSink>(main, channel);
+}
+
+} // namespace ruvenmark

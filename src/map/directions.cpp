@@ -1,0 +1,127 @@
+#include "map/directions.h"
+
+#include "core/main_window.h"
+#include "map/marker_names.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+
+#include <array>
+#include <cmath>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr double kKilometresPerMile = 1.609344;
+constexpr int kPointDecimals = 5;
+
+std::optional<DirectionsEnd> ReadPoint(std::string_view text)
+{
+    const auto parts = Split(text, ',');
+    if (parts.size() != 2)
+        return std::nullopt;
+    const auto lat = ReadNumber(parts[0]);
+    const auto lon = ReadNumber(parts[1]);
+    if (!lat || !lon || std::abs(*lat) > 90 || std::abs(*lon) > 180)
+        return std::nullopt;
+    return DirectionsEnd{"", {*lat, *lon}};
+}
+
+std::optional<DirectionsEnd> FindMarker(const MainWindow& main, std::string_view name)
+{
+    Map* map = main.mpCtrl.ActiveMap();
+    const auto pin = map ? map->FindPushpin(name) : std::nullopt;
+    if (!pin)
+        return std::nullopt;
+    return DirectionsEnd{pin->Name(), pin->Location().Point()};
+}
+
+std::optional<DirectionsEnd> FindStation(const MainWindow& main, std::string_view call)
+{
+    for (const ChannelState& channel : main.channels) {
+        const Record* record = channel.Stations.Find(call);
+        const auto lat = record ? ReadNumber(record->Get(Field::Lat)) : std::nullopt;
+        const auto lon = record ? ReadNumber(record->Get(Field::Lon)) : std::nullopt;
+        if (lat && lon)
+            return DirectionsEnd{MarkerName(Traits(channel.channel).word, call), {*lat, *lon}};
+    }
+    return std::nullopt;
+}
+
+std::string BearingText(double bearing)
+{
+    const auto degrees = std::lround(bearing) % 360;
+    return ShortText(std::int64_t{degrees}) + "° (" + std::string(CompassPoint(bearing)) + ")";
+}
+
+} // namespace
+
+Directions WorkOutDirections(GeoPoint from, GeoPoint to)
+{
+    return {GreatCircleMiles(from, to), InitialBearing(from, to), InitialBearing(to, from)};
+}
+
+std::string_view CompassPoint(double bearing)
+{
+    constexpr std::array<std::string_view, 16> kPoints = {"N", "NNE", "NE", "ENE", "E", "ESE", "SE", "SSE",
+                                                          "S", "SSW", "SW", "WSW", "W", "WNW", "NW", "NNW"};
+    const auto sector = std::lround(bearing / (360.0 / kPoints.size()));
+    return kPoints[static_cast<std::size_t>(sector) % kPoints.size()];
+}
+
+std::optional<DirectionsEnd> ReadDirectionsEnd(const MainWindow& main, std::string_view text)
+{
+    const std::string_view typed = Trim(text);
+    if (typed.empty())
+        return std::nullopt;
+    if (auto point = ReadPoint(typed))
+        return point;
+    const std::string upper = ToUpper(typed);
+    for (const std::string_view name : {typed, std::string_view(upper)}) {
+        if (auto marker = FindMarker(main, name))
+            return marker;
+        if (auto station = FindStation(main, name))
+            return station;
+    }
+    return std::nullopt;
+}
+
+std::string DirectionsEndText(const DirectionsEnd& end)
+{
+    if (!end.name.empty())
+        return end.name;
+    return ShortText(RoundDecimals(end.point.lat, kPointDecimals)) + ", " +
+           ShortText(RoundDecimals(end.point.lon, kPointDecimals));
+}
+
+bool SetDirectionsEnd(MainWindow& main, std::size_t end, std::string_view text)
+{
+    auto value = ReadDirectionsEnd(main, text);
+    if (!value && !Trim(text).empty())
+        return false;
+    main.map.directions.at(end) = std::move(value);
+    main.map.DirectionsChanged.Raise();
+    return true;
+}
+
+void SetDirectionsEnd(MainWindow& main, std::size_t end, const DirectionsEnd& value)
+{
+    main.map.directions.at(end) = value;
+    main.map.DirectionsChanged.Raise();
+}
+
+std::string DirectionsText(const MainWindow& main)
+{
+    const auto& [from, to] = main.map.directions;
+    if (!from || !to)
+        return {};
+    const Directions way = WorkOutDirections(from->point, to->point);
+    std::string text = "From: " + DirectionsEndText(*from) + "\r\nTo: " + DirectionsEndText(*to) +
+                       "\r\nDistance: " + ShortText(RoundDecimals(way.miles, 1)) + " miles (" +
+                       ShortText(RoundDecimals(way.miles * kKilometresPerMile, 1)) + " km)";
+    if (from->point == to->point)
+        return text;
+    return text + "\r\nBearing: " + BearingText(way.bearing) + "\r\nBack bearing: " + BearingText(way.backBearing);
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/geometry.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ruvenmark {
+
+struct MainWindow;
+
+// Where directions start or end.
+struct DirectionsEnd {
+    std::string name; // A marker's name, or empty for a bare point.
+    GeoPoint point;
+};
+
+struct Directions {
+    double miles = 0;
+    double bearing = 0;     // Degrees at the start, 0 to below 360.
+    double backBearing = 0; // From the end to the start.
+};
+Directions WorkOutDirections(GeoPoint from, GeoPoint to);
+
+// One of the 16 words from "N" to "NNW".
+std::string_view CompassPoint(double bearing);
+
+// What a typed text stands for: "lat, lon" in degrees, a marker's name, or a station's call on any channel.
+std::optional<DirectionsEnd> ReadDirectionsEnd(const MainWindow& main, std::string_view text);
+// How an end is shown, and read again.
+std::string DirectionsEndText(const DirectionsEnd& end);
+
+// End 0 is the start, 1 the end. False, with nothing changed, for a text that stands for nothing; an empty text clears
+// it. Both raise MapSession::DirectionsChanged.
+bool SetDirectionsEnd(MainWindow& main, std::size_t end, std::string_view text);
+void SetDirectionsEnd(MainWindow& main, std::size_t end, const DirectionsEnd& value);
+
+// Both ends, distance and bearings, a line each with CR LF between; empty while an end is missing.
+std::string DirectionsText(const MainWindow& main);
+
+} // namespace ruvenmark

@@ -1,0 +1,217 @@
+#include "map/markers.h"
+
+#include "core/main_window.h"
+#include "map/marker_names.h"
+#include "map/symbols.h"
+#include "platform/failure.h"
+#include "platform/numbers.h"
+#include "tracking/track_lines.h"
+#include "ui/progress.h"
+#include "ui/selection.h"
+#include "ui/views.h"
+
+namespace ruvenmark {
+
+namespace {
+
+void AddMarker(MainWindow& main, Channel channel, const Location& location, std::string_view name,
+               std::string_view symbolWord, bool bTracked)
+{
+    Pushpin pin = main.mpCtrl.RequireMap().AddPushpin(location, name);
+    pin.SetBalloonState(bTracked ? main.tracking.NewMarkerBalloon : NamesState(main, channel));
+    pin.SetSymbol(SymbolId(symbolWord));
+}
+
+} // namespace
+
+void PlaceMarker(MainWindow& main, Channel channel, std::string_view call, double lat, double lon,
+                 std::string_view symbolWord, bool bTracked)
+{
+    Map& map = main.mpCtrl.RequireMap();
+    const Location location = map.GetLocation(lat, lon);
+    const std::string_view word = Traits(channel).word;
+    const std::string name = MarkerName(word, call);
+    auto pin = map.FindPushpin(name);
+    if (!pin) {
+        AddMarker(main, channel, location, name, symbolWord, bTracked);
+    } else if (bTracked && pin->Note().starts_with(word)) {
+        AddTrackPoint(main, channel, call, *pin, location, symbolWord);
+    } else {
+        pin->SetLocation(location);
+        pin->SetSymbol(SymbolId(symbolWord));
+    }
+    if (bTracked && main.tracking.bTrackStationPosition) {
+        location.GoTo();
+        ShowMapView(main);
+    }
+}
+
+void RefreshMarkerNote(MainWindow& main, Channel channel, std::string_view call)
+{
+    const std::string_view word = Traits(channel).word;
+    auto pin = main.mpCtrl.RequireMap().FindPushpin(MarkerName(word, call));
+    const Record* record = main.Of(channel).Stations.Find(call);
+    if (pin && record)
+        pin->SetNote(MarkerNote(word, *record));
+}
+
+void DeleteMarker(MainWindow& main, std::string_view channelWord, std::string_view markerName)
+{
+    auto pin = main.mpCtrl.RequireMap().FindPushpin(markerName);
+    if (pin && pin->Note().starts_with(channelWord))
+        pin->Delete();
+}
+
+void WalkMarkers(MainWindow& main, const std::function<void(Pushpin&)>& work)
+{
+    Map& map = main.mpCtrl.RequireMap();
+    if (map.DataSetCount() < 1)
+        return;
+    ProgressWalk walk(main, static_cast<std::size_t>(map.RecordCount()));
+    for (Pushpin& pin : map.AllRecords()) {
+        work(pin);
+        walk.Step();
+    }
+}
+
+std::int32_t NamesState(const MainWindow& main, Channel channel)
+{
+    const std::string_view setting = Traits(channel).namesSetting;
+    if (setting.empty())
+        return main.frmImport.bFLShow ? 1 : 0;
+    return SettingInt32(main.Settings, setting);
+}
+
+void SetNamesState(MainWindow& main, Channel channel, bool bShow)
+{
+    const std::string_view setting = Traits(channel).namesSetting;
+    if (setting.empty())
+        main.frmImport.bFLShow = bShow;
+    else
+        SetSetting(main.Settings, setting, bShow ? "1" : "0");
+}
+
+void ForEachMarkerOfRoot(MainWindow& main, const TreeNode& root, const std::function<void(Pushpin&)>& work)
+{
+    Map& map = main.mpCtrl.RequireMap();
+    if (map.DataSetCount() < 1)
+        return;
+    const std::string key = root.Key();
+    const TreeNode* folder = main.tvStationList.Find(root, kPositions);
+    if (!folder)
+        throw Failure("the folder does not stand");
+    const auto matches = [&](const Pushpin& pin) { return pin.Note().starts_with(key); };
+    if (folder->Children().size() < static_cast<std::size_t>(map.RecordCount())) {
+        for (const auto& station : folder->Children()) {
+            auto pin = map.FindPushpin(MarkerName(key, station->Text()));
+            if (pin && matches(*pin))
+                work(*pin);
+        }
+        return;
+    }
+    WalkMarkers(main, [&](Pushpin& pin) {
+        if (matches(pin))
+            work(pin);
+    });
+}
+
+namespace {
+
+void ShowAllNames(MainWindow& main, bool bShow)
+{
+    SetNamesState(main, Channel::RF, bShow);
+    SetNamesState(main, Channel::TCP, bShow);
+    main.tracking.NewMarkerBalloon = bShow ? 1 : 0;
+    WalkMarkers(main, [&](Pushpin& pin) { pin.SetBalloonState(bShow ? 1 : 0); });
+}
+
+void ShowFolderNames(MainWindow& main, bool bShow)
+{
+    const TreeNode* root = SelectedRoot(main.tvStationList);
+    if (!root)
+        return;
+    if (const auto channel = ChannelOfWord(root->Key()))
+        SetNamesState(main, *channel, bShow);
+    ForEachMarkerOfRoot(main, *root, [&](Pushpin& pin) { pin.SetBalloonState(bShow ? 1 : 0); });
+}
+
+// The marker of this name at the place, added where there is none. True when it was added.
+std::pair<Pushpin, bool> MarkerAt(Map& map, std::string_view name, const Location& location)
+{
+    if (auto pin = map.FindPushpin(name)) {
+        pin->SetLocation(location);
+        return {*pin, false};
+    }
+    return {map.AddPushpin(location, name), true};
+}
+
+Location RecordLocation(Map& map, const Record& record)
+{
+    return map.GetLocation(ToDouble(record.Get(Field::Lat)), ToDouble(record.Get(Field::Lon)));
+}
+
+void ViewStation(MainWindow& main, const StationNode& station, const Record& record)
+{
+    Map& map = main.mpCtrl.RequireMap();
+    auto [pin, bNew] = MarkerAt(map, MarkerName(station.rootKey, station.node->Text()), RecordLocation(map, record));
+    if (bNew)
+        pin.SetBalloonState(1);
+    pin.SetNote(MarkerNote(station.rootKey, record));
+    pin.SetSymbol(SymbolId(record.Get(Field::Symbol)));
+    pin.Location().GoTo();
+    main.tvStationList.SetBold(*station.node, false);
+    ShowMapView(main);
+}
+
+} // namespace
+
+void mnuShowAll_Click(MainWindow& main)
+{
+    Attempt(main.abandoned, "mnuShowAll", [&] { ShowAllNames(main, true); });
+}
+
+void mnuHideAll_Click(MainWindow& main)
+{
+    Attempt(main.abandoned, "mnuHideAll", [&] { ShowAllNames(main, false); });
+}
+
+void mnuShowFolderStations_Click(MainWindow& main)
+{
+    Attempt(main.abandoned, "mnuShowFolderStations", [&] { ShowFolderNames(main, true); });
+}
+
+void mnuHideFolderStations_Click(MainWindow& main)
+{
+    Attempt(main.abandoned, "mnuHideFolderStations", [&] { ShowFolderNames(main, false); });
+}
+
+void mnuViewPosition_Click(MainWindow& main)
+{
+    const auto station = SelectedStation(main.tvStationList);
+    if (!station)
+        return;
+    const auto channel = ChannelOfWord(station->rootKey);
+    const std::string& call = station->node->Text();
+    const Record* record = channel ? main.Of(*channel).Stations.Find(call) : nullptr;
+    if (!record || !record->Has(Field::Lat) || !record->Has(Field::Lon)) {
+        main.services.prompts.Message("No position report available for station " + call);
+        return;
+    }
+    Attempt(main.abandoned, "mnuViewPosition", [&] { ViewStation(main, *station, *record); });
+}
+
+void mnuViewMyPosition_Click(MainWindow& main)
+{
+    Attempt(main.abandoned, "mnuViewMyPosition", [&] {
+        Map& map = main.mpCtrl.RequireMap();
+        const Location location =
+            map.GetLocation(ToDouble(SettingText(main.Settings, "Lat")), ToDouble(SettingText(main.Settings, "Lon")));
+        Pushpin pin = MarkerAt(map, SettingText(main.Settings, "Call"), location).first;
+        pin.SetSymbol(kMyStationSymbol);
+        pin.Location().GoTo();
+        pin.SetBalloonState(1);
+        ShowMapView(main);
+    });
+}
+
+} // namespace ruvenmark

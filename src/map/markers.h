@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/channel.h"
+
+#include <cstdint>
+#include <functional>
+#include <string_view>
+
+namespace ruvenmark {
+
+class Pushpin;
+class TreeNode;
+struct ChannelState;
+struct MainWindow;
+
+// Places the marker of a position report: adds it, moves it, or makes the track step. Raises Failure.
+void PlaceMarker(MainWindow& main, Channel channel, std::string_view call, double lat, double lon,
+                 std::string_view symbolWord, bool bTracked);
+
+// Writes the note of the station's marker anew, where it has one. Raises Failure.
+void RefreshMarkerNote(MainWindow& main, Channel channel, std::string_view call);
+
+// Deletes the marker of this name if its note begins with the channel word. Raises Failure.
+void DeleteMarker(MainWindow& main, std::string_view channelWord, std::string_view markerName);
+
+// Does the work on each marker, with the wait pointer and the progress bar; without a word where no marker was ever
+// added. A Failure of the work ends the walk, and the bar goes all the same. Lets no events in.
+void WalkMarkers(MainWindow& main, const std::function<void(Pushpin&)>& work);
+
+// Balloon state of new markers of the channel, and of all that show.
+std::int32_t NamesState(const MainWindow& main, Channel channel); // Raises Failure for a setting that is no number.
+void SetNamesState(MainWindow& main, Channel channel, bool bShow);
+
+// Does the work on the markers of a folder root: over its stations or over all markers, whichever walk is shorter.
+void ForEachMarkerOfRoot(MainWindow& main, const TreeNode& root, const std::function<void(Pushpin&)>& work);
+
+// Commands. A Failure ends them without a word.
+void mnuShowAll_Click(MainWindow& main);
+void mnuHideAll_Click(MainWindow& main);
+void mnuShowFolderStations_Click(MainWindow& main); // On the selected root.
+void mnuHideFolderStations_Click(MainWindow& main);
+void mnuViewPosition_Click(MainWindow& main); // On the selected station.
+void mnuViewMyPosition_Click(MainWindow& main);
+
+} // namespace ruvenmark

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "core/channel.h"
+
+#include <cstdint>
+
+namespace ruvenmark {
+
+struct MainWindow;
+
+// The radio range in miles of power in watts, antenna height in feet and gain in dB.
+double StationRange(double power, double height, double gain);
+
+// Works out MyRange from the settings; a circle that shows is drawn anew. Raises Failure.
+void UpdateMyRange(MainWindow& main);
+// Draws or redraws the own circle. Raises Failure.
+void DrawMyRange(MainWindow& main);
+
+// Commands. A Failure ends them without a word.
+void mnuShowRange_Click(MainWindow& main); // On the selected station.
+void mnuHideRange_Click(MainWindow& main);
+void mnuHideAllRangeCircles_Click(MainWindow& main);
+void mnuShowMyRange_Click(MainWindow& main);
+void mnuHideMyRange_Click(MainWindow& main);
+
+} // namespace ruvenmark

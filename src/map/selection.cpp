@@ -1,0 +1,37 @@
+#include "map/selection.h"
+
+#include "core/main_window.h"
+
+namespace ruvenmark {
+
+namespace {
+
+template <typename Value>
+bool IsThere(const SlotPool<Value>& pool, SlotRef ref)
+{
+    return ref.slot < pool.SlotCount() && pool.RefAt(ref.slot) == ref;
+}
+
+} // namespace
+
+SelectionKind KindOfSelection(const MainWindow& main)
+{
+    const Map* map = main.mpCtrl.ActiveMap();
+    if (!map)
+        return SelectionKind::Nothing;
+    if (const auto* pin = std::get_if<Pushpin>(&main.map.Selection))
+        return IsThere(map->Pins(), pin->Ref()) ? SelectionKind::Pushpin : SelectionKind::Nothing;
+    if (const auto* shape = std::get_if<Shape>(&main.map.Selection))
+        return IsThere(map->Shapes(), shape->Ref()) ? SelectionKind::Shape : SelectionKind::Nothing;
+    return SelectionKind::Nothing;
+}
+
+void SelectOnMap(MainWindow& main, const MapSelection& selection)
+{
+    if (main.map.Selection == selection)
+        return;
+    main.map.Selection = selection;
+    main.map.SelectionChanged.Raise();
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,91 @@
+#include "map/tile_settings.h"
+
+#include "core/main_window.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr std::string_view kOnlineKey = "OnlineTiles";
+constexpr std::string_view kUrlKey = "TileURL";
+constexpr std::string_view kSourceKey = "TileSource";
+constexpr FileFilter kTileFiles = {"Map Tiles (*.mbtiles *.png *.jpg *.jpeg)", "*.mbtiles *.png *.jpg *.jpeg"};
+
+bool IsTileUrl(std::string_view url)
+{
+    constexpr std::array kParts = {std::string_view("{z}"), std::string_view("{x}"), std::string_view("{y}")};
+    return (url.starts_with("https://") || url.starts_with("http://")) &&
+           std::all_of(kParts.begin(), kParts.end(),
+                       [&](std::string_view part) { return url.find(part) != std::string_view::npos; });
+}
+
+bool IsNumber(std::string_view text)
+{
+    return !text.empty() && std::all_of(text.begin(), text.end(), IsDigit);
+}
+
+} // namespace
+
+void LoadTileSettings(MainWindow& main)
+{
+    TileSettings& tiles = main.map.tiles;
+    const ISettingsStore& store = main.services.store;
+    const std::string url = store.Get(kUrlKey, kDefaultTileUrl);
+    tiles.urlTemplate = IsTileUrl(url) ? url : std::string(kDefaultTileUrl);
+    tiles.source = store.Get(kSourceKey, "");
+    tiles.bOnline = false;
+    Attempt(main.abandoned, "LoadTileSettings", [&] { tiles.bOnline = ToBool(store.Get(kOnlineKey, "False")); });
+    tiles.bLoaded = true;
+    main.map.TilesChanged.Raise();
+}
+
+void SaveTileSettings(MainWindow& main)
+{
+    const TileSettings& tiles = main.map.tiles;
+    if (!tiles.bLoaded)
+        return;
+    main.services.store.Set(kOnlineKey, BoolText(tiles.bOnline));
+    main.services.store.Set(kUrlKey, tiles.urlTemplate);
+    main.services.store.Set(kSourceKey, tiles.source);
+}
+
+std::string TileSourceOfFile(std::string_view chosenFile)
+{
+    const auto parts = Split(chosenFile, '/');
+    if (parts.size() < 4)
+        return std::string(chosenFile);
+    const std::string_view file = parts.back();
+    const std::string_view column = parts[parts.size() - 2];
+    const std::string_view zoom = parts[parts.size() - 3];
+    if (!IsNumber(zoom) || !IsNumber(column) || !IsNumber(file.substr(0, file.find('.'))))
+        return std::string(chosenFile);
+    const std::size_t folderLength = chosenFile.size() - file.size() - column.size() - zoom.size() - 3;
+    return folderLength == 0 ? "/" : std::string(chosenFile.substr(0, folderLength));
+}
+
+void mnuOnlineTiles_Click(MainWindow& main)
+{
+    main.map.tiles.bOnline = !main.map.tiles.bOnline;
+    main.map.TilesChanged.Raise();
+}
+
+void mnuTileFile_Click(MainWindow& main)
+{
+    std::string& source = main.map.tiles.source;
+    if (!source.empty()) {
+        source.clear();
+    } else {
+        const auto chosen = main.services.prompts.OpenFile("Open", kTileFiles);
+        if (!chosen || chosen->empty())
+            return;
+        source = TileSourceOfFile(*chosen);
+    }
+    main.map.TilesChanged.Raise();
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "core/channel.h"
+
+#include <string>
+#include <string_view>
+
+namespace ruvenmark {
+
+struct ChannelState;
+struct MainWindow;
+
+// Whether the call, trimmed and upper-cased, is on the channel's track list.
+bool IsTracked(const ChannelState& state, std::string_view call);
+
+// Empties the list and adds the calls that stand in the text, blanks between them.
+void SetTrackList(ChannelState& state, std::string_view calls);
+// The list as such a text.
+std::string TrackListText(const ChannelState& state);
+
+void LoadTrackLists(MainWindow& main);
+void SaveTrackLists(MainWindow& main);
+
+// Miles along the great circle. Raises Failure.
+double TravelDistance(MainWindow& main, double lat1, double lon1, double lat2, double lon2);
+
+} // namespace ruvenmark

@@ -1,0 +1,186 @@
+#include "core/main_window.h"
+#include "links/station_files.h"
+#include "map/documents.h"
+#include "map/edit_commands.h"
+#include "map/find.h"
+#include "map/markers.h"
+#include "map/range_circles.h"
+#include "map/tile_settings.h"
+#include "tracking/filter_form_rules.h"
+#include "tracking/track_lines.h"
+#include "tracking/track_list_form_rules.h"
+#include "ui/layout.h"
+#include "ui/menus.h"
+#include "ui/station_tree_commands.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+namespace ruvenmark {
+
+namespace {
+
+template <std::int32_t kFont>
+void RunFont(MainWindow& main)
+{
+    SetMapFont(main, kFont);
+}
+
+template <std::int32_t kStyle>
+void RunStyle(MainWindow& main)
+{
+    SetMapStyle(main, kStyle);
+}
+
+template <std::int32_t kToolbar>
+void RunMapToolbar(MainWindow& main)
+{
+    ToggleMapToolbar(main, kToolbar);
+}
+
+template <std::int32_t kRegion>
+void RunRegion(MainWindow& main)
+{
+    ChangeRegion(main, kRegion);
+}
+
+void mnuHelpAbout_Click(MainWindow& main)
+{
+    main.services.dialogs.RunAbout(main);
+}
+
+using E = MenuEntry;
+
+// In the order of MenuEntry.
+constexpr std::array kEntries = {
+    MenuEntryInfo{E::None, "", "", "", false, nullptr},
+    MenuEntryInfo{E::mnuFileNew, "mnuFileNew", "&New Map", "Ctrl+N", false, mnuFileNew_Click},
+    MenuEntryInfo{E::mnuFileOpen, "mnuFileOpen", "&Open Map...", "Ctrl+O", false, mnuFileOpen_Click},
+    MenuEntryInfo{E::mnuFileSave, "mnuFileSave", "&Save Map", "Ctrl+S", false, mnuFileSave_Click},
+    MenuEntryInfo{E::mnuFileSaveAs, "mnuFileSaveAs", "Save Map &As...", "", false, mnuFileSaveAs_Click},
+    MenuEntryInfo{E::mnuImportStations, "mnuImportStations", "Loa&d Stations...", "Ctrl+L", false,
+                  mnuImportStations_Click},
+    MenuEntryInfo{E::mnuFilePrint, "mnuFilePrint", "&Print...", "Ctrl+P", false, mnuFilePrint_Click},
+    MenuEntryInfo{E::mnuFileClose, "mnuFileClose", "&Close", "Ctrl+Q", false, mnuFileClose_Click},
+
+    MenuEntryInfo{E::mnuEditCut, "mnuEditCut", "Cu&t", "Ctrl+X", false, mnuEditCut_Click},
+    MenuEntryInfo{E::mnuEditCopy, "mnuEditCopy", "&Copy", "Ctrl+C", false, mnuEditCopy_Click},
+    MenuEntryInfo{E::mnuEditPaste, "mnuEditPaste", "&Paste", "Ctrl+V", false, mnuEditPaste_Click},
+    MenuEntryInfo{E::mnuEditDelete, "mnuEditDelete", "&Delete", "Del", false, mnuEditDelete_Click},
+    MenuEntryInfo{E::mnuCopyMap, "mnuCopyMap", "Copy &Map", "", false, mnuCopyMap_Click},
+    MenuEntryInfo{E::mnuCopyDirections, "mnuCopyDirections", "Copy D&irections", "", false, mnuCopyDirections_Click},
+    MenuEntryInfo{E::mnuFind, "mnuFind", "&Find...", "Ctrl+F", false, mnuFind_Click},
+
+    MenuEntryInfo{E::mnuViewToolbar, "mnuViewToolbar", "&Toolbar", "", true, mnuViewToolbar_Click},
+    MenuEntryInfo{E::mnuViewStatusBar, "mnuViewStatusBar", "Status &Bar", "", true, mnuViewStatusBar_Click},
+    MenuEntryInfo{E::mnuTreeView, "mnuTreeView", "&Left Pane", "", true, mnuTreeView_Click},
+    MenuEntryInfo{E::mnuViewMap, "mnuViewMap", "&Map", "", true, mnuViewMap_Click},
+    MenuEntryInfo{E::mnuOnlineTiles, "mnuOnlineTiles", "&Online Tiles", "", true, mnuOnlineTiles_Click},
+    MenuEntryInfo{E::mnuTileFile, "mnuTileFile", "T&ile File...", "", true, mnuTileFile_Click},
+    MenuEntryInfo{E::mnuViewFullScreen, "mnuViewFullScreen", "F&ull Screen", "F11", true, mnuViewFullScreen_Click},
+
+    MenuEntryInfo{E::mnuFontLargest, "mnuFontLargest", "&Largest", "", true, RunFont<0>},
+    MenuEntryInfo{E::mnuFontLarger, "mnuFontLarger", "L&arger", "", true, RunFont<1>},
+    MenuEntryInfo{E::mnuFontMedium, "mnuFontMedium", "&Medium", "", true, RunFont<2>},
+    MenuEntryInfo{E::mnuFontSmaller, "mnuFontSmaller", "&Smaller", "", true, RunFont<3>},
+    MenuEntryInfo{E::mnuFontSmallest, "mnuFontSmallest", "Smalles&t", "", true, RunFont<4>},
+
+    MenuEntryInfo{E::mnuRoadMap, "mnuRoadMap", "&Road Map", "", true, RunStyle<0>},
+    MenuEntryInfo{E::mnuRoadDataMap, "mnuRoadDataMap", "Road &and Data Map", "", true, RunStyle<1>},
+    MenuEntryInfo{E::mnuDataMap, "mnuDataMap", "&Data Map", "", true, RunStyle<2>},
+    MenuEntryInfo{E::mnuTerrainMap, "mnuTerrainMap", "&Terrain Map", "", true, RunStyle<3>},
+    MenuEntryInfo{E::mnuPoliticalMap, "mnuPoliticalMap", "&Political Map", "", true, RunStyle<4>},
+
+    MenuEntryInfo{E::mnuStandardToolbar, "mnuStandardToolbar", "&Standard", "", true, RunMapToolbar<1>},
+    MenuEntryInfo{E::mnuNavigationToolbar, "mnuNavigationToolbar", "&Navigation", "", true, RunMapToolbar<2>},
+    MenuEntryInfo{E::mnuDrawingToolbar, "mnuDrawingToolbar", "&Drawing", "", true, RunMapToolbar<3>},
+    MenuEntryInfo{E::mnuLocationScaleToolbar, "mnuLocationScaleToolbar", "&Location and Scale", "", true,
+                  RunMapToolbar<4>},
+
+    MenuEntryInfo{E::mnuRegionNorthAmerica, "mnuRegionNorthAmerica", "&North America", "", true,
+                  RunRegion<kRegionNorthAmerica>},
+    MenuEntryInfo{E::mnuRegionEurope, "mnuRegionEurope", "&Europe", "", true, RunRegion<kRegionEurope>},
+
+    MenuEntryInfo{E::mnuToolsFilter, "mnuToolsFilter", "&Filters...", "", false, mnuToolsFilter_Click},
+    MenuEntryInfo{E::mnuTrackedStations, "mnuTrackedStations", "&Track List...", "", false, mnuTrackedStations_Click},
+    MenuEntryInfo{E::mnuToolsStationTracking, "mnuToolsStationTracking", "&Shift Map to Tracked Stations", "", true,
+                  mnuToolsStationTracking_Click},
+    MenuEntryInfo{E::mnuToolsShowTrackLine, "mnuToolsShowTrackLine", "Show Track &Lines", "", true,
+                  mnuToolsShowTrackLine_Click},
+    MenuEntryInfo{E::mnuRemoveAllTracks, "mnuRemoveAllTracks", "&Remove All Tracks", "", false,
+                  mnuRemoveAllTracks_Click},
+    MenuEntryInfo{E::mnuDirections, "mnuDirections", "&Directions", "", true, mnuDirections_Click},
+    MenuEntryInfo{E::mnuRuvenmarkHelp, "mnuRuvenmarkHelp", "&Ruvenmark Help", "F1", false, mnuRuvenmarkHelp_Click},
+    MenuEntryInfo{E::mnuHelpAbout, "mnuHelpAbout", "&About Ruvenmark", "", false, mnuHelpAbout_Click},
+
+    MenuEntryInfo{E::mnuViewPosition, "mnuViewPosition", "View Position", "", false, mnuViewPosition_Click},
+    MenuEntryInfo{E::mnuInfo, "mnuInfo", "Operator Info", "", false, mnuInfo_Click},
+    MenuEntryInfo{E::mnuStartTrack, "mnuStartTrack", "Start Tracking", "", false, mnuStartTrack_Click},
+    MenuEntryInfo{E::mnuStopTrack, "mnuStopTrack", "Stop Tracking", "", false, mnuStopTrack_Click},
+    MenuEntryInfo{E::mnuShowStationTrack, "mnuShowStationTrack", "Show Track", "", true, mnuShowStationTrack_Click},
+    MenuEntryInfo{E::mnuHideStationTrack, "mnuHideStationTrack", "Hide Track", "", true, mnuHideStationTrack_Click},
+    MenuEntryInfo{E::mnuRemoveTrack, "mnuRemoveTrack", "Remove Track", "", false, mnuRemoveTrack_Click},
+    MenuEntryInfo{E::mnuShowRange, "mnuShowRange", "Show Signal Range", "", false, mnuShowRange_Click},
+    MenuEntryInfo{E::mnuHideRange, "mnuHideRange", "Hide Signal Range", "", false, mnuHideRange_Click},
+    MenuEntryInfo{E::mnuRemoveStation, "mnuRemoveStation", "Delete Report", "", false, mnuRemoveStation_Click},
+
+    MenuEntryInfo{E::mnuPopupToggleFilter, "mnuPopupToggleFilter", "Filter Reports", "", true,
+                  mnuPopupToggleFilter_Click},
+    MenuEntryInfo{E::mnuPopupEditFilter, "mnuPopupEditFilter", "Edit Filter", "", false, mnuPopupEditFilter_Click},
+    MenuEntryInfo{E::mnuClearReports, "mnuClearReports", "Delete Reports", "", false, mnuClearReports_Click},
+    MenuEntryInfo{E::mnuClearAllReports, "mnuClearAllReports", "Delete all Reports", "", false,
+                  mnuClearAllReports_Click},
+    MenuEntryInfo{E::mnupop2bar0, "mnupop2bar0", "", "", false, nullptr},
+    MenuEntryInfo{E::mnuShowAll, "mnuShowAll", "Show All Station Names", "", true, mnuShowAll_Click},
+    MenuEntryInfo{E::mnuHideAll, "mnuHideAll", "Hide All Station Names", "", true, mnuHideAll_Click},
+    MenuEntryInfo{E::mnuHideAllRangeCircles, "mnuHideAllRangeCircles", "Hide All Range Circles", "", false,
+                  mnuHideAllRangeCircles_Click},
+    MenuEntryInfo{E::mnuShowTrack, "mnuShowTrack", "Show Tracked Stations Only", "", false, mnuShowTrack_Click},
+    MenuEntryInfo{E::mnuShowFolderStations, "mnuShowFolderStations", "Show Current Stations", "", true,
+                  mnuShowFolderStations_Click},
+    MenuEntryInfo{E::mnuHideFolderStations, "mnuHideFolderStations", "Hide Current Stations", "", true,
+                  mnuHideFolderStations_Click},
+    MenuEntryInfo{E::mnuLoadStations, "mnuLoadStations", "Load Stations...", "", false, mnuLoadStations_Click},
+    MenuEntryInfo{E::mnuUnloadFolder, "mnuUnloadFolder", "Unload", "", false, mnuUnloadFolder_Click},
+
+    MenuEntryInfo{E::mnuViewMyPosition, "mnuViewMyPosition", "View Position", "", false, mnuViewMyPosition_Click},
+    MenuEntryInfo{E::mnuShowMyRange, "mnuShowMyRange", "Show Signal Range", "", false, mnuShowMyRange_Click},
+    MenuEntryInfo{E::mnuHideMyRange, "mnuHideMyRange", "Hide Signal Range", "", false, mnuHideMyRange_Click},
+
+    MenuEntryInfo{E::mnuTcpSort, "mnuTcpSort", "Sort in Alphabetic Order", "", false, mnuTcpSort_Click},
+    MenuEntryInfo{E::mnuShowUnknown, "mnuShowUnknown", "Catch Rejected Packets", "", true, mnuShowUnknown_Click},
+};
+
+constexpr bool StandInOrder()
+{
+    for (std::size_t i = 0; i < kEntries.size(); ++i) {
+        if (static_cast<std::size_t>(kEntries[i].entry) != i)
+            return false;
+    }
+    return true;
+}
+static_assert(StandInOrder());
+static_assert(kEntries.size() == static_cast<std::size_t>(E::mnuShowUnknown) + 1);
+
+} // namespace
+
+const MenuEntryInfo& Info(MenuEntry entry)
+{
+    return kEntries[static_cast<std::size_t>(entry)];
+}
+
+MenuEntry MenuEntryOfName(std::string_view name)
+{
+    const auto* found =
+        std::find_if(kEntries.begin(), kEntries.end(), [&](const auto& row) { return row.name == name; });
+    return found == kEntries.end() ? MenuEntry::None : found->entry;
+}
+
+void RunMenuEntry(MainWindow& main, MenuEntry entry)
+{
+    if (const auto run = Info(entry).run)
+        run(main);
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,166 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace ruvenmark {
+
+class TreeNode;
+struct MainWindow;
+
+// Every entry that works, by its own name.
+enum class MenuEntry : std::uint8_t {
+    None, // A line between entries.
+    mnuFileNew,
+    mnuFileOpen,
+    mnuFileSave,
+    mnuFileSaveAs,
+    mnuImportStations,
+    mnuFilePrint,
+    mnuFileClose,
+    mnuEditCut,
+    mnuEditCopy,
+    mnuEditPaste,
+    mnuEditDelete,
+    mnuCopyMap,
+    mnuCopyDirections,
+    mnuFind,
+    mnuViewToolbar,
+    mnuViewStatusBar,
+    mnuTreeView,
+    mnuViewMap,
+    mnuOnlineTiles,
+    mnuTileFile,
+    mnuViewFullScreen,
+    mnuFontLargest,
+    mnuFontLarger,
+    mnuFontMedium,
+    mnuFontSmaller,
+    mnuFontSmallest,
+    mnuRoadMap,
+    mnuRoadDataMap,
+    mnuDataMap,
+    mnuTerrainMap,
+    mnuPoliticalMap,
+    mnuStandardToolbar,
+    mnuNavigationToolbar,
+    mnuDrawingToolbar,
+    mnuLocationScaleToolbar,
+    mnuRegionNorthAmerica,
+    mnuRegionEurope,
+    mnuToolsFilter,
+    mnuTrackedStations,
+    mnuToolsStationTracking,
+    mnuToolsShowTrackLine,
+    mnuRemoveAllTracks,
+    mnuDirections,
+    mnuRuvenmarkHelp,
+    mnuHelpAbout,
+    mnuViewPosition,
+    mnuInfo,
+    mnuStartTrack,
+    mnuStopTrack,
+    mnuShowStationTrack,
+    mnuHideStationTrack,
+    mnuRemoveTrack,
+    mnuShowRange,
+    mnuHideRange,
+    mnuRemoveStation,
+    mnuPopupToggleFilter,
+    mnuPopupEditFilter,
+    mnuClearReports,
+    mnuClearAllReports,
+    mnupop2bar0,
+    mnuShowAll,
+    mnuHideAll,
+    mnuHideAllRangeCircles,
+    mnuShowTrack,
+    mnuShowFolderStations,
+    mnuHideFolderStations,
+    mnuLoadStations,
+    mnuUnloadFolder,
+    mnuViewMyPosition,
+    mnuShowMyRange,
+    mnuHideMyRange,
+    mnuTcpSort,
+    mnuShowUnknown
+};
+
+// The menus of the menu bar, those that open inside View, and the station tree's five pop-up menus.
+enum class Menu : std::uint8_t {
+    None,
+    File,
+    Edit,
+    View,
+    Tools,
+    Help,
+    MapFont,
+    MapStyle,
+    MapToolbars,
+    Region,
+    mnuStationPopup,
+    mnuRootPopup,
+    mnuMyStationPopup,
+    mnuMyRangePopup,
+    mnuTcpSortPopup
+};
+
+// In order; one without entries is left out.
+std::span<const Menu> MenuBar();
+
+// What an entry is, whatever the state of the program.
+struct MenuEntryInfo {
+    MenuEntry entry;
+    std::string_view name;     // "mnuFileNew"
+    std::string_view caption;  // As designed; "&" stands before the mnemonic.
+    std::string_view shortcut; // "Ctrl+N"; empty for none.
+    bool bCheckable;
+    void (*run)(MainWindow&); // Null for lines.
+};
+const MenuEntryInfo& Info(MenuEntry entry);
+MenuEntry MenuEntryOfName(std::string_view name); // None for any other word.
+
+struct MenuEntryState {
+    std::string caption;
+    bool bVisible = true;
+    bool bEnabled = true;
+    bool bChecked = false;
+};
+
+// One place in a menu: an entry, a menu that opens inside, or a line (neither of them).
+struct MenuItem {
+    MenuEntry entry = MenuEntry::None;
+    Menu submenu = Menu::None;
+    MenuEntryState state;
+    bool IsLine() const
+    {
+        return submenu == Menu::None && (entry == MenuEntry::None || entry == MenuEntry::mnupop2bar0);
+    }
+};
+
+// A menu as it stands at the moment it opens. The places and their order are always the same; only states differ. The
+// node is what a pop-up menu of the tree is opened on: null for nothing, and for every other menu.
+std::vector<MenuItem> MenuItems(const MainWindow& main, Menu menu, const TreeNode* node = nullptr);
+std::string_view MenuTitle(Menu menu); // With its mnemonic; empty for a pop-up menu.
+
+// Null where the entry is not among them.
+const MenuEntryState* FindState(std::span<const MenuItem> items, MenuEntry entry);
+
+// Runs the entry's command, on the tree's selected node where it needs one.
+void RunMenuEntry(MainWindow& main, MenuEntry entry);
+
+// The main tool bar; txtTbCoordinates stands behind the last button.
+struct ToolButton {
+    std::string_view key;              // "New"; empty for a line.
+    std::string_view text;             // The tip and the accessible name.
+    MenuEntry entry = MenuEntry::None; // The command, and whose tick a checkable button shows.
+};
+std::span<const ToolButton> ToolBar();
+void tbToolBar_ButtonClick(MainWindow& main, std::string_view key);
+// The state of the button's entry, without a caption.
+MenuEntryState ToolButtonState(const MainWindow& main, const ToolButton& button);
+
+} // namespace ruvenmark

@@ -1,0 +1,237 @@
+#include "ui/station_tree_commands.h"
+
+#include "core/main_window.h"
+#include "intake/station_store.h"
+#include "map/markers.h"
+#include "tracking/filter_form_rules.h"
+#include "ui/layout.h"
+#include "ui/selection.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr std::string_view kDirectoryHost = "www.qrz.com";
+constexpr std::string_view kMyRoot = "My";
+
+bool IsMyRoot(const TreeNode& node)
+{
+    return !node.Parent() && node.Word() == kMyRoot;
+}
+
+NodeKind KindOfRoot(const TreeNode& root)
+{
+    if (IsMyRoot(root))
+        return NodeKind::MyRoot;
+    return ChannelOfWord(root.Word()) ? NodeKind::ChannelRoot : NodeKind::LoadedRoot;
+}
+
+struct KindMenu {
+    NodeKind kind;
+    Menu menu;
+};
+constexpr std::array kKindMenus = {
+    KindMenu{NodeKind::None, Menu::mnuRootPopup},         KindMenu{NodeKind::MyRoot, Menu::mnuMyStationPopup},
+    KindMenu{NodeKind::MyEntry, Menu::mnuMyStationPopup}, KindMenu{NodeKind::MyDetail, Menu::mnuMyRangePopup},
+    KindMenu{NodeKind::ChannelRoot, Menu::mnuRootPopup},  KindMenu{NodeKind::LoadedRoot, Menu::mnuRootPopup},
+    KindMenu{NodeKind::Folder, Menu::mnuTcpSortPopup},    KindMenu{NodeKind::Station, Menu::mnuStationPopup},
+};
+
+std::optional<Channel> SelectedChannel(const MainWindow& main)
+{
+    const TreeNode* root = SelectedRoot(main.tvStationList);
+    return root ? ChannelOfWord(root->Word()) : std::nullopt;
+}
+
+void ClearReports(MainWindow& main, Channel channel)
+{
+    ClearChannelReports(main, channel);
+    if (TreeNode* root = main.tvStationList.Find(Traits(channel).word))
+        main.tvStationList.SetText(*root, Traits(channel).rootText);
+}
+
+void UnloadChannel(MainWindow& main, Channel channel)
+{
+    ChannelState& state = main.Of(channel);
+    state.StationRanges.Clear();
+    for (auto& entry : state.RangeCircles)
+        Attempt(main.abandoned, "mnuUnloadFolder", [&] { entry.value.Delete(); });
+    state.RangeCircles.Clear();
+    state.Stations.Clear();
+}
+
+bool IsUnreserved(char c)
+{
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '.' ||
+           c == '_' || c == '~';
+}
+
+std::string PercentEncoded(std::string_view text)
+{
+    constexpr std::string_view kHex = "0123456789ABCDEF";
+    std::string encoded;
+    for (const char c : text) {
+        if (IsUnreserved(c)) {
+            encoded += c;
+            continue;
+        }
+        const auto byte = static_cast<unsigned char>(c);
+        encoded += '%';
+        encoded += kHex[byte >> 4U];
+        encoded += kHex[byte & 15U];
+    }
+    return encoded;
+}
+
+} // namespace
+
+NodeKind KindOf(const TreeNode* node)
+{
+    if (!node)
+        return NodeKind::None;
+    const TreeNode* parent = node->Parent();
+    if (!parent)
+        return KindOfRoot(*node);
+    const TreeNode* grandparent = parent->Parent();
+    if (!grandparent)
+        return IsMyRoot(*parent) ? NodeKind::MyEntry : NodeKind::Folder;
+    if (grandparent->Parent())
+        return NodeKind::Fact;
+    return IsMyRoot(*grandparent) ? NodeKind::MyDetail : NodeKind::Station;
+}
+
+Menu PopupMenuOf(const TreeNode* node)
+{
+    const NodeKind kind = KindOf(node);
+    for (const KindMenu& row : kKindMenus) {
+        if (row.kind == kind)
+            return row.menu;
+    }
+    return Menu::None;
+}
+
+std::optional<PopupMenu> tvStationList_MouseUp(MainWindow& main, int button, TreeNode* hit)
+{
+    if ((button & kRightButton) == 0)
+        return std::nullopt;
+    if (hit)
+        main.tvStationList.Select(hit);
+    PopupMenu popup{PopupMenuOf(hit), {}};
+    popup.items = MenuItems(main, popup.menu, hit);
+    const bool bHasEntry = std::any_of(popup.items.begin(), popup.items.end(),
+                                       [](const auto& item) { return item.state.bVisible && !item.IsLine(); });
+    return bHasEntry ? std::optional(std::move(popup)) : std::nullopt;
+}
+
+void tvStationList_Expand(MainWindow& main, TreeNode& node)
+{
+    if (node.Parent() && node.Parent()->Parent())
+        main.tvStationList.SetBold(node, false);
+}
+
+std::string CallSignPage(std::string_view call)
+{
+    std::string page = "https://";
+    page += kDirectoryHost;
+    page += "/detail/";
+    page += PercentEncoded(call.substr(0, call.find('-')));
+    return page;
+}
+
+void mnuInfo_Click(MainWindow& main)
+{
+    const auto station = SelectedStation(main.tvStationList);
+    if (!station)
+        return;
+    const std::string page = CallSignPage(station->node->Text());
+    main.services.desktop.OpenBrowser(page);
+    ShowWebView(main, page);
+}
+
+void mnuTcpSort_Click(MainWindow& main)
+{
+    TreeNode* node = main.tvStationList.Selected();
+    if (KindOf(node) != NodeKind::Folder)
+        return;
+    main.tvStationList.SetSorted(*node, true);
+    main.tvStationList.SetSorted(*node, false);
+}
+
+void mnuShowUnknown_Click(MainWindow& main)
+{
+    const TreeNode* node = main.tvStationList.Selected();
+    if (KindOf(node) != NodeKind::Folder || node->Word() != kUnknown)
+        return;
+    if (const auto channel = ChannelOfWord(node->Parent()->Word()))
+        main.Of(*channel).bShowUnknown = !main.Of(*channel).bShowUnknown;
+}
+
+void mnuRemoveStation_Click(MainWindow& main)
+{
+    const auto station = SelectedStation(main.tvStationList);
+    const auto channel = station ? ChannelOfWord(station->rootKey) : std::nullopt;
+    if (!channel)
+        return;
+    const std::string call = station->node->Text();
+    const std::string folderWord = station->folder->Word();
+    if (main.services.prompts.AskYesNo("Are you sure you want to delete report for " + call + "?"))
+        RemoveStation(main, *channel, call, folderWord);
+}
+
+void mnuClearReports_Click(MainWindow& main)
+{
+    const auto channel = SelectedChannel(main);
+    if (!channel)
+        return;
+    const std::string word(Traits(*channel).word);
+    if (main.services.prompts.AskYesNo("Are you sure you want to delete all " + word + " reports?"))
+        ClearReports(main, *channel);
+}
+
+void mnuClearAllReports_Click(MainWindow& main)
+{
+    if (!main.services.prompts.AskYesNo("Are you sure you want to delete all reports?"))
+        return;
+    for (const Channel channel : kChannels)
+        ClearReports(main, channel);
+}
+
+void mnuUnloadFolder_Click(MainWindow& main)
+{
+    const TreeNode* root = SelectedRoot(main.tvStationList);
+    if (!root || IsMyRoot(*root))
+        return;
+    const std::string key = root->Key();
+    const auto channel = ChannelOfWord(key);
+    if (channel && Traits(*channel).bRootAtStart)
+        return;
+    if (!main.services.prompts.AskYesNo("Are you sure you want to unload all " + root->Text() + " reports?"))
+        return;
+    TreeNode* const standing = main.tvStationList.Find(key);
+    if (!standing)
+        return;
+    if (channel)
+        main.FileLoading = false; // What is unloaded is not loaded any further.
+    Attempt(main.abandoned, "mnuUnloadFolder",
+            [&] { ForEachMarkerOfRoot(main, *standing, [](Pushpin& pin) { pin.Delete(); }); });
+    if (channel)
+        UnloadChannel(main, *channel);
+    main.tvStationList.Remove(*standing);
+}
+
+void mnuPopupToggleFilter_Click(MainWindow& main)
+{
+    if (const auto channel = SelectedChannel(main))
+        main.Of(*channel).Filter.bOn = !main.Of(*channel).Filter.bOn;
+}
+
+void mnuPopupEditFilter_Click(MainWindow& main)
+{
+    if (const auto channel = SelectedChannel(main))
+        ShowFilterOf(main, *channel);
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,189 @@
+#include "intake/station_store.h"
+#include "map/range_circles.h"
+#include "platform/failure.h"
+#include "support/program.h"
+#include "tracking/track_lists.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace ruvenmark {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::vector<std::string> RootKeys(Program& p)
+{
+    std::vector<std::string> keys;
+    for (const auto& root : p.Tree().Roots())
+        keys.push_back(root->Key());
+    return keys;
+}
+
+TEST(StationTree, StandsAtStartAsTold)
+{
+    Program p;
+    EXPECT_THAT(RootKeys(p), ElementsAre("My", "RF", "TCP"));
+    EXPECT_THAT(p.ChildTexts("My"), ElementsAre("Position", "Weather"));
+    EXPECT_THAT(p.ChildTexts("TCP"), ElementsAre("Positions", "Status", "Weather", "Unknown"));
+    EXPECT_EQ(p.Image("MyWeather"), "Letterw");
+    EXPECT_EQ(p.Image("RFWeather"), "Letterw");
+    EXPECT_EQ(p.Image("RFUnknown"), "Unknown");
+    EXPECT_EQ(p.Tree().ExpandedImage(*p.Node("RF")), "Open");
+    EXPECT_EQ(p.Text("RF"), "RF reports");
+    for (const char* key : {"My", "MyPosition", "RF", "RFStatus", "TCPUnknown"})
+        EXPECT_TRUE(p.Node(key)->IsBold()) << key;
+    EXPECT_TRUE(p.main.window.bStationTreeVisible);
+
+    AddChannelTree(p.Tree(), Channel::FL);
+    const std::size_t nodes = p.Tree().NodeCount();
+    EXPECT_THROW(AddChannelTree(p.Tree(), Channel::FL), Failure);
+    EXPECT_EQ(p.Tree().NodeCount(), nodes);
+}
+
+TEST(StationTree, OnlyRfStandsInOrder)
+{
+    Program p;
+    for (const Channel channel : {Channel::RF, Channel::TCP}) {
+        for (const char* call : {"b1", "A2", "C0", "a1"})
+            p.Position(channel, call, 1, 2);
+    }
+    EXPECT_THAT(p.ChildTexts("RFPositions"), ElementsAre("a1", "A2", "b1", "C0"));
+    EXPECT_THAT(p.ChildTexts("TCPPositions"), ElementsAre("b1", "A2", "C0", "a1"));
+    // A folder once sorted by command takes later stations in their order.
+    p.Tree().SetSorted(*p.Node("TCPPositions"), true);
+    p.Position(Channel::TCP, "A3", 1, 2);
+    EXPECT_THAT(p.ChildTexts("TCPPositions"), ElementsAre("a1", "A2", "A3", "b1", "C0"));
+}
+
+TEST(Counts, AddUpTheFourFoldersAndGoBackToThePlainLabel)
+{
+    Program p;
+    p.main.Of(Channel::TCP).bShowUnknown = true;
+    p.Position(Channel::TCP, "A", 1, 2);
+    p.Position(Channel::TCP, "B", 1, 2);
+    p.Hear(Channel::TCP, "A>APRS:>status");
+    p.Hear(Channel::TCP, "A>APRS:_10090556c220s004g005t070r000p000P000h50b09900");
+    p.Hear(Channel::TCP, "what?");
+    EXPECT_THAT(p.ChildTexts("TCP"), ElementsAre("Positions (2)", "Status (1)", "Weather (1)", "Unknown (1)"));
+    EXPECT_EQ(p.Text("TCP"), "TCP reports (5)");
+    for (const auto& [call, folder] : {std::pair("A", kPositions), std::pair("B", kPositions), std::pair("A", kStatus),
+                                       std::pair("A", kWeather), std::pair("what?", kUnknown)})
+        RemoveStation(p.main, Channel::TCP, call, folder);
+    EXPECT_THAT(p.ChildTexts("TCP"), ElementsAre("Positions", "Status", "Weather", "Unknown"));
+    EXPECT_EQ(p.Text("TCP"), "TCP reports");
+}
+
+// The sum is a 16-bit number; past that the root keeps its text, and nothing else suffers.
+TEST(Counts, TheRootStopsAtSixteenBitsAndTheReportGoesOn)
+{
+    Program p;
+    p.main.Of(Channel::TCP).bShowUnknown = true;
+    for (int i = 0; i < 32767; ++i)
+        p.Sink(Channel::TCP).ReportPacket(std::to_string(i));
+    EXPECT_EQ(p.Text("TCP"), "TCP reports (32767)");
+    p.Sink(Channel::TCP).ReportPacket("one more");
+    EXPECT_EQ(p.Text("TCP"), "TCP reports (32767)");
+    EXPECT_EQ(p.Text("TCPUnknown"), "Unknown (32768)");
+    p.Position(Channel::TCP, "N0CALL", 1, 2);
+    EXPECT_EQ(p.Text("TCPPositions"), "Positions (1)");
+    EXPECT_EQ(p.RecordText(Channel::TCP, "N0CALL", Field::Lat), "1");
+    EXPECT_THAT(p.Note("N0CALL(t)"), testing::StartsWith("TCP, "));
+    EXPECT_TRUE(p.main.abandoned.IsEmpty());
+}
+
+class FullStation : public testing::Test {
+protected:
+    FullStation()
+    {
+        for (const Channel channel : {Channel::RF, Channel::TCP}) {
+            SetTrackList(p.main.Of(channel), "N0CALL");
+            p.Position(channel, "N0CALL", 1, 2);
+            p.Position(channel, "N0CALL", 3, 4);
+            p.Sink(channel).ReportStatus({"N0CALL", "APRS", "", 1, 2, "x"});
+            p.Sink(channel).ReportDataExt({"N0CALL", "APRS", 1, 2, 50, 20, 3, ""});
+            p.Select(std::string(Traits(channel).word) + "PositionsN0CALL");
+            mnuShowRange_Click(p.main);
+        }
+    }
+    std::size_t ShapeCount() { return p.TheMap().Shapes().Count(); }
+
+    Program p;
+};
+
+TEST_F(FullStation, RemovedFromPositionsLosesAllItHadOnTheMap)
+{
+    ASSERT_EQ(ShapeCount(), 4U); // A line and a circle each.
+    RemoveStation(p.main, Channel::RF, "N0CALL", kPositions);
+    EXPECT_THAT(p.MarkerNames(), ElementsAre("N0CALL(t)*", "N0CALL(t)"));
+    EXPECT_EQ(ShapeCount(), 2U);
+    const ChannelState& rf = p.main.Of(Channel::RF);
+    EXPECT_EQ(rf.StationRanges.Count() + rf.RangeCircles.Count() + rf.Stations.Count() + rf.TrackMarkers.Count() +
+                  rf.TrackLines.Count(),
+              0U);
+    EXPECT_TRUE(rf.Tracked.Contains("N0CALL")); // Still wanted.
+    EXPECT_EQ(p.Text("RFPositionsN0CALLLat"), "(no node)");
+    EXPECT_EQ(p.Text("RFStatusN0CALL"), "N0CALL");
+    EXPECT_EQ(p.Text("RF"), "RF reports (1)");
+    EXPECT_EQ(p.Tree().Selected()->Key(), "TCPPositionsN0CALL");
+    EXPECT_EQ(p.Text("TCP"), "TCP reports (2)");
+}
+
+TEST_F(FullStation, RemovedFromAnotherFolderKeepsItsPlaceOnTheMap)
+{
+    RemoveStation(p.main, Channel::RF, "N0CALL", kStatus);
+    EXPECT_EQ(p.RecordText(Channel::RF, "N0CALL", Field::Lat), "(no record)"); // The record goes with either node.
+    EXPECT_TRUE(p.Marker("N0CALL(r)"));
+    EXPECT_TRUE(p.main.Of(Channel::RF).StationRanges.Contains("N0CALL"));
+    EXPECT_EQ(ShapeCount(), 4U);
+    EXPECT_EQ(p.Text("RFStatusN0CALL"), "(no node)");
+    EXPECT_EQ(p.Text("RFPositionsN0CALL"), "N0CALL");
+    EXPECT_EQ(p.Text("RF"), "RF reports (1)");
+}
+
+TEST_F(FullStation, RemovalGoesOnPastWhatIsGone)
+{
+    Pushpin pin = *p.Marker("N0CALL(r)");
+    pin.SetNote("TCP, of another channel");
+    RemoveStation(p.main, Channel::RF, "N0CALL", kPositions);
+    EXPECT_TRUE(p.Marker("N0CALL(r)")); // Not the channel's own.
+
+    p.main.mpCtrl.NewMap(kRegionEurope); // Points, lines and circle are dead now.
+    RemoveStation(p.main, Channel::TCP, "N0CALL", kPositions);
+    EXPECT_EQ(p.main.Of(Channel::TCP).TrackMarkers.Count(), 0U);
+    EXPECT_EQ(p.main.Of(Channel::TCP).RangeCircles.Count(), 0U);
+    EXPECT_EQ(p.Text("TCPPositions"), "Positions");
+    RemoveStation(p.main, Channel::FL, "N0CALL", kPositions); // Never heard there, nor is there a tree.
+    EXPECT_EQ(p.Text("FL"), "(no node)");
+}
+
+TEST_F(FullStation, ClearingAChannelLeavesTheOthers)
+{
+    Pushpin viewed = p.TheMap().AddPushpin(p.TheMap().GetLocation(5, 6), "of a folder that is gone");
+    viewed.SetNote("RF, long ago");
+    p.TheMap().AddPushpin(p.TheMap().GetLocation(5, 6), "N9CALL"); // The own station's has no note.
+    ClearChannelReports(p.main, Channel::RF);
+    EXPECT_THAT(p.MarkerNames(), ElementsAre("N0CALL(t)*", "N0CALL(t)", "N9CALL"));
+    EXPECT_EQ(ShapeCount(), 2U);
+    EXPECT_EQ(p.main.Of(Channel::RF).Stations.Count(), 0U);
+    EXPECT_EQ(p.main.Of(Channel::RF).StationRanges.Count(), 0U);
+    EXPECT_THAT(RootKeys(p), ElementsAre("My", "RF", "TCP"));
+    EXPECT_THAT(p.ChildTexts("RF"), ElementsAre("Positions", "Status", "Weather", "Unknown"));
+    EXPECT_THAT(p.ChildTexts("RFPositions"), IsEmpty());
+    EXPECT_EQ(p.Text("RF"), "RF reports");
+    EXPECT_TRUE(p.Node("RFStatus")->IsSorted());
+    EXPECT_TRUE(p.Node("RFStatus")->IsBold());
+    EXPECT_EQ(p.Text("TCP"), "TCP reports (2)");
+    EXPECT_EQ(p.yield.calls, 0);
+    EXPECT_FALSE(p.main.sbStatusBar.IsProgressVisible());
+    EXPECT_FALSE(p.main.sbStatusBar.IsWaitPointer());
+
+    ClearChannelReports(p.main, Channel::FL); // Nothing was ever loaded.
+    EXPECT_EQ(p.Text("FL"), "(no node)");
+    p.Position(Channel::RF, "N0CALL", 1, 2); // And on it goes.
+    EXPECT_EQ(p.Text("RF"), "RF reports (1)");
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,200 @@
+#include "links/station_files.h"
+#include "platform/failure.h"
+#include "support/program.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace ruvenmark {
+namespace {
+
+using namespace std::string_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr const char* kFailed = "Stations load failed!";
+
+class StationFiles : public testing::Test {
+protected:
+    static std::string Line(const char* call) { return call + ">APRS:=4903.50N/07201.75W>x"s; }
+    void Load(std::string text)
+    {
+        p.files.texts["/day.txt"] = std::move(text);
+        LoadStationFile(p.main, "/day.txt");
+        EXPECT_FALSE(p.main.FileLoading);
+        EXPECT_EQ(p.main.aprsfl, nullptr);
+        EXPECT_FALSE(p.main.sbStatusBar.IsProgressVisible());
+        EXPECT_EQ(p.main.sbStatusBar.Progress(), 0);
+    }
+    std::string FourLines() { return Line("A") + "\r\n" + Line("B") + "\n\n  " + Line("C") + "  \r\n" + Line("D"); }
+    std::vector<std::string> Stations() { return p.ChildTexts("FLPositions"); }
+
+    Program p;
+};
+
+TEST_F(StationFiles, EveryLineIsParsedWithProgressAndOneYield)
+{
+    std::vector<int> progress;
+    for (int i = 1; i <= 4; ++i) {
+        p.yield.At(i, [&] {
+            progress.push_back(p.main.sbStatusBar.Progress());
+            EXPECT_TRUE(p.main.FileLoading && p.main.sbStatusBar.IsProgressVisible());
+        });
+    }
+    Load(FourLines());
+    EXPECT_THAT(Stations(), ElementsAre("A", "B", "C", "D")); // Trimmed, blank lines dropped, the last one whole.
+    EXPECT_THAT(progress, ElementsAre(0, 33, 66, 100));       // Blank lines do not count.
+    EXPECT_THAT(p.sleep.slept, IsEmpty());
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
+    EXPECT_TRUE(p.Node("FL")->IsBold());
+    EXPECT_EQ(p.Image("FL"), "Closed");
+    EXPECT_EQ(p.sources.Counts().decoded, 4U);
+    Load(Line("E") + "\n" + Line("A")); // A second load adds to the same folders.
+    EXPECT_EQ(p.Text("FL"), "FL reports (5)");
+}
+
+// Strange but told so: the percentage of a single line is none.
+TEST_F(StationFiles, OneLineIsParsedAndFails)
+{
+    p.main.frmImport.iFLDelay = 10;
+    Load("\r\n" + Line("A") + "\r\n");
+    EXPECT_THAT(Stations(), ElementsAre("A"));
+    EXPECT_THAT(p.prompts.messages, ElementsAre(kFailed));
+    EXPECT_EQ(p.yield.calls, 0);
+    EXPECT_THAT(p.sleep.slept, IsEmpty());
+}
+
+TEST_F(StationFiles, NoLinesSayNothingAndNoFileFails)
+{
+    Load("");
+    Load("\r\n\n\r\n");
+    Load("\0\n"s + Line("A") + "\0\n"s); // Lines with a NUL vanish.
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
+    EXPECT_EQ(p.Text("FL"), "FL reports");
+    p.files.unreadable.insert("/day.txt");
+    Load(FourLines());
+    EXPECT_THAT(p.prompts.messages, ElementsAre(kFailed));
+    LoadStationFile(p.main, "/missing");
+    EXPECT_EQ(p.prompts.messages.size(), 2U);
+}
+
+TEST_F(StationFiles, BlankLinesOfBlanksMakeNoNodes)
+{
+    p.main.Of(Channel::FL).bShowUnknown = true;
+    Load("   \r\n?\r\n  \r\n");
+    EXPECT_THAT(p.ChildTexts("FLUnknown"), ElementsAre("?"));
+    EXPECT_EQ(p.Image("FLUnknown"), "Unknown");
+}
+
+TEST_F(StationFiles, AStopKeepsWhatWasParsed)
+{
+    p.yield.At(2, [&] { mnuImportStations_Click(p.main); });
+    p.main.frmImport.iFLDelay = 10;
+    Load(FourLines());
+    EXPECT_THAT(Stations(), ElementsAre("A", "B"));
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
+    EXPECT_THAT(p.prompts.fileTitles, IsEmpty()); // The entry stopped the load; it asked for no file.
+    EXPECT_THAT(p.sleep.slept, ElementsAre(10));  // No pause behind a stop.
+}
+
+TEST_F(StationFiles, TheDelayIsReadAtEachLine)
+{
+    p.main.frmImport.iFLDelay = 20;
+    p.yield.At(2, [&] { p.main.frmImport.iFLDelay = 30; });
+    p.yield.At(3, [&] { p.main.frmImport.iFLDelay = -1; });
+    Load(FourLines());
+    EXPECT_THAT(p.sleep.slept, ElementsAre(20, 30));
+}
+
+// Whatever comes in while a load lets events in: other channels, and commands that take away what the load works on.
+TEST_F(StationFiles, AnythingMayHappenInAYield)
+{
+    p.yield.At(1, [&] {
+        p.Position(Channel::RF, "R", 1, 2);
+        ClearChannelReports(p.main, Channel::FL);
+    });
+    p.yield.At(2, [&] {
+        RemoveStation(p.main, Channel::FL, "B", kPositions);
+        p.main.mpCtrl.NewMap(kRegionEurope);
+    });
+    p.yield.At(3, [&] { p.Tree().Remove(*p.Node("FL")); });
+    Load(FourLines());
+    EXPECT_EQ(p.Text("RF"), "RF reports (1)");
+    EXPECT_EQ(p.Text("FL"), "(no node)");
+    EXPECT_EQ(p.main.Of(Channel::FL).Stations.Count(), 1U); // "C"; "D" found no folder.
+    EXPECT_THAT(p.MarkerNames(), ElementsAre("C(f)", "D(f)"));
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
+}
+
+TEST_F(StationFiles, ADroppedSourceEndsTheLoad)
+{
+    p.yield.At(2, [&] { p.main.aprsfl.reset(); });
+    Load(FourLines());
+    EXPECT_THAT(Stations(), ElementsAre("A", "B"));
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
+}
+
+TEST_F(StationFiles, AFailureInAYieldEndsTheLoadWithTheMessage)
+{
+    p.yield.At(2, [] { throw Failure("something"); });
+    Load(FourLines());
+    EXPECT_THAT(Stations(), ElementsAre("A", "B"));
+    EXPECT_THAT(p.prompts.messages, ElementsAre(kFailed));
+}
+
+TEST_F(StationFiles, ClosingDuringALoadStopsItAndSaves)
+{
+    p.prompts.answers = {Answer::No};
+    bool bStopped = false;
+    p.yield.At(2, [&] {
+        bStopped = StopMainWindow(p.main);
+        EXPECT_FALSE(p.main.FileLoading);
+    });
+    Load(FourLines());
+    EXPECT_TRUE(bStopped);
+    EXPECT_THAT(Stations(), ElementsAre("A", "B"));
+    EXPECT_EQ(p.store.Get("FLDelay", ""), "0");
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
+}
+
+TEST_F(StationFiles, TheMenuAsksForFileAndOptions)
+{
+    p.files.texts["/day.txt"] = FourLines();
+    mnuImportStations_Click(p.main); // No file chosen.
+    EXPECT_THAT(p.dialogs.calls, IsEmpty());
+    EXPECT_THAT(p.prompts.fileTitles, ElementsAre("Open"));
+
+    p.prompts.files = {"/day.txt", "/day.txt"};
+    p.dialogs.onImport = [](MainWindow& main) { frmImport_Cancel(main.frmImport); };
+    mnuImportStations_Click(p.main);
+    EXPECT_EQ(p.main.frmImport.iFLDelay, -1);
+    EXPECT_EQ(p.Text("FL"), "(no node)");
+    SaveImportSettings(p.main);
+    EXPECT_EQ(p.store.Get("FLDelay", ""), "-1");
+
+    p.dialogs.onImport = [](MainWindow& main) {
+        frmImport_Load(main.frmImport);
+        EXPECT_EQ(main.frmImport.txtDelay, "0"); // A former cancel shows as none.
+        main.frmImport.txtDelay = "";
+        main.frmImport.chkShow = false;
+        frmImport_Accept(main.frmImport);
+    };
+    mnuLoadStations_Click(p.main);
+    EXPECT_EQ(p.main.frmImport.iFLDelay, 0);
+    EXPECT_EQ(p.Text("FL"), "FL reports (4)");
+    EXPECT_EQ(p.Marker("A(f)")->BalloonState(), 0);
+}
+
+TEST_F(StationFiles, TheDelayFieldTakesNonNegativeNumbers)
+{
+    constexpr const char* kMessage = "Enter a non negative number for delay!";
+    for (const auto& [text, message] :
+         {std::pair("", ""), std::pair("0", ""), std::pair(" 250 ", ""), std::pair("-1", kMessage),
+          std::pair("32768", kMessage), std::pair("soon", kMessage)}) {
+        p.main.frmImport.txtDelay = text;
+        EXPECT_EQ(frmImport_txtDelay_LostFocus(p.main.frmImport), message) << text;
+    }
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,93 @@
+#include "links/text_files.h"
+#include "platform/failure.h"
+#include "support/program.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace ruvenmark {
+namespace {
+
+using namespace std::string_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TextTable Records(std::string text, std::string_view delimiter = ":")
+{
+    MemoryFiles files;
+    files.texts["/f"] = std::move(text);
+    return ReadRecords(files, "/f", delimiter);
+}
+
+TEST(Records, AreTheUsedLinesSplitAtTheDelimiter)
+{
+    EXPECT_THAT(Records("a:b\r\nc"), ElementsAre(ElementsAre("a", "b"), ElementsAre("c")));
+    EXPECT_THAT(Records("a\nb\n"), ElementsAre(ElementsAre("a"), ElementsAre("b"))); // LF alone ends a line too.
+    EXPECT_THAT(Records("\r\n\r\na\r\n\r\n"), ElementsAre(ElementsAre("a")));
+    EXPECT_THAT(Records("a\0b\r\nc\r\n\0\r\n"s), ElementsAre(ElementsAre("c"))); // A NUL takes its line along.
+    EXPECT_THAT(Records(":a::"), ElementsAre(ElementsAre("", "a", "", "")));
+    EXPECT_THAT(Records("a::b:c", "::"), ElementsAre(ElementsAre("a", "b:c")));
+    EXPECT_THAT(Records(" \r\n"), ElementsAre(ElementsAre(" "))); // A blank is no empty line.
+    EXPECT_THAT(Records("a\rb"), ElementsAre(ElementsAre("a\rb")));
+    EXPECT_THAT(Records(""), IsEmpty());
+    EXPECT_THAT(Records("\r\n\r\n\n"), IsEmpty());
+    MemoryFiles files;
+    EXPECT_THAT(ReadRecords(files, "/missing", ":"), IsEmpty());
+    EXPECT_THROW(ReadTextFile(files, "/missing"), Failure);
+}
+
+TEST(Records, ComeBackAsTheyWereWritten)
+{
+    MemoryFiles files;
+    const TextTable table = {{"a", "", "b\xff"}, {"c"}, {"", "d"}};
+    WriteRecords(files, table, "/f", "\t");
+    EXPECT_EQ(files.texts["/f"], "a\t\tb\xff\r\nc\r\n\td"); // No end behind the last line.
+    EXPECT_EQ(ReadRecords(files, "/f", "\t"), table);
+    files.FailWrite(1);
+    EXPECT_THROW(WriteRecords(files, table, "/f", "\t"), Failure);
+}
+
+std::vector<std::string> Keys(const Dictionary<std::string>& list)
+{
+    std::vector<std::string> keys;
+    for (const auto& [key, value] : list) {
+        EXPECT_EQ(key, value);
+        keys.push_back(key);
+    }
+    return keys;
+}
+
+TEST(ServerLists, EntriesAreCutAtTheirColonAndKeepTheirPlace)
+{
+    Program p(false);
+    p.files.texts["/program/servers.txt"] = "b.example:14580\r\na.example\r\n\r\nb.example\r\n";
+    p.files.texts["/program/filters.txt"] = "r/48/11/50 t/m\n"; // No ports.txt: the next file is read all the same.
+    StartMainWindow(p.main);
+    EXPECT_THAT(Keys(p.main.serverLists.ServerList), ElementsAre("b.example", "a.example"));
+    EXPECT_THAT(Keys(p.main.serverLists.PortList), IsEmpty());
+    EXPECT_THAT(Keys(p.main.serverLists.ServerFilterList), ElementsAre("r/48/11/50 t/m"));
+
+    p.main.serverLists.ServerList.Set("c:d", "c:d"); // Lives with its colon until the next start.
+    p.files.texts["/program/ports.txt"] = "10152";   // An empty list leaves its file as it is.
+    p.main.serverLists.ServerFilterList.Clear();
+    ASSERT_TRUE(StopMainWindow(p.main));
+    EXPECT_EQ(p.files.texts["/program/servers.txt"], "b.example\r\na.example\r\nc:d");
+    EXPECT_EQ(p.files.texts["/program/ports.txt"], "10152");
+    EXPECT_EQ(p.files.texts["/program/filters.txt"], "r/48/11/50 t/m\n");
+}
+
+TEST(ServerLists, AnUnusablePortIsNotSavedOver)
+{
+    Program p(false);
+    p.store.Set("PrimaryPort", "99999"); // No 16-bit number.
+    p.store.Set("AutoTCP", "True");
+    p.files.texts["/program/servers.txt"] = "a:1";
+    StartMainWindow(p.main);
+    ASSERT_TRUE(StopMainWindow(p.main));
+    EXPECT_EQ(p.store.Get("PrimaryPort", ""), "99999");
+    EXPECT_EQ(p.store.Get("AutoTCP", ""), "True");
+    EXPECT_EQ(p.files.texts["/program/servers.txt"], "a:1");
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,63 @@
+#include "map/directions.h"
+#include "map/pointer_tools.h"
+#include "support/program.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace ruvenmark {
+namespace {
+
+TEST(Directions, TellDistanceAndBearingsOfTheGreatCircle)
+{
+    Program program;
+    EXPECT_EQ(DirectionsText(program.main), "");
+    EXPECT_TRUE(SetDirectionsEnd(program.main, 0, "40.64, -73.78")); // New York to London: 3,442 miles, 51 degrees.
+    EXPECT_TRUE(SetDirectionsEnd(program.main, 1, "51.47,-0.45"));
+    const std::string text = DirectionsText(program.main);
+    EXPECT_TRUE(text.starts_with("From: 40.64, -73.78\r\nTo: 51.47, -0.45\r\nDistance: 344")) << text;
+    EXPECT_NE(text.find("Bearing: 51° (NE)"), std::string::npos) << text;
+    EXPECT_NE(text.find("Back bearing: 288° (WNW)"), std::string::npos) << text;
+}
+
+TEST(Directions, CompassPointsAreSixteenAndGoRound)
+{
+    EXPECT_EQ(CompassPoint(0), "N");
+    EXPECT_EQ(CompassPoint(11.2), "N");
+    EXPECT_EQ(CompassPoint(11.3), "NNE");
+    EXPECT_EQ(CompassPoint(270), "W");
+    EXPECT_EQ(CompassPoint(348.8), "N");
+    EXPECT_EQ(CompassPoint(359.9), "N");
+}
+
+TEST(Directions, EndsAreStationsMarkersOrPoints)
+{
+    Program program;
+    program.Hear(Channel::TCP, "N0CALL>APRS:!4000.00N/08000.00W>");
+    for (const char* typed : {"N0CALL", " n0call ", "N0CALL(t)"}) {
+        const auto end = ReadDirectionsEnd(program.main, typed);
+        ASSERT_TRUE(end) << typed;
+        EXPECT_EQ(DirectionsEndText(*end), "N0CALL(t)");
+        EXPECT_EQ(end->point, (GeoPoint{40, -80}));
+    }
+    for (const char* typed : {"", "N0CAL", "91, 0", "0, 181", "1,2,3", "40", "nan, 0"})
+        EXPECT_FALSE(ReadDirectionsEnd(program.main, typed)) << typed;
+
+    EXPECT_TRUE(SetDirectionsEnd(program.main, 0, "n0call"));
+    EXPECT_FALSE(SetDirectionsEnd(program.main, 0, "nobody"));
+    EXPECT_TRUE(program.main.map.directions[0]);
+    EXPECT_TRUE(SetDirectionsEnd(program.main, 0, ""));
+    EXPECT_FALSE(program.main.map.directions[0]);
+}
+
+TEST(Directions, TheSamePointTwiceHasNoBearing)
+{
+    Program program;
+    SetDirectionsEnd(program.main, 0, "40, -80");
+    SetDirectionsEnd(program.main, 1, "40, -80");
+    EXPECT_EQ(DirectionsText(program.main), "From: 40, -80\r\nTo: 40, -80\r\nDistance: 0 miles (0 km)");
+}
+
+} // namespace
+} // namespace ruvenmark

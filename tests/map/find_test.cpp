@@ -1,0 +1,122 @@
+#include "map/find.h"
+#include "map/selection.h"
+#include "support/program.h"
+#include "ui/layout.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class SomePlaces final : public IPlaceSearch {
+public:
+    std::size_t count = 0;
+    std::vector<FoundPlace> Search(std::string_view text, std::size_t limit) const override
+    {
+        std::vector<FoundPlace> found;
+        for (std::size_t i = 0; i < std::min(count, limit); ++i)
+            found.push_back({FoundPlace::Kind::Place, std::string(text) + " town", "", {50, 10}, "", Channel::RF});
+        return found;
+    }
+};
+
+Texts NamesOf(const std::vector<FoundPlace>& places)
+{
+    Texts names;
+    for (const auto& place : places)
+        names.push_back(place.name);
+    return names;
+}
+
+class Finding : public testing::Test {
+protected:
+    Texts Names(std::string_view text, std::size_t limit = 20)
+    {
+        return NamesOf(Find(program.main, places, text, limit));
+    }
+
+    Program program;
+    SomePlaces places;
+};
+
+TEST_F(Finding, StationsOfAllChannelsBeginningsFirst)
+{
+    program.Position(Channel::RF, "XN0CALL", 40, -80);
+    program.Position(Channel::RF, "N0CALL", 40, -80);
+    program.Position(Channel::TCP, "n0call-9", 41, -80);
+    program.Hear(Channel::TCP, "N0CALL-5>APRS:>no position");
+    program.Hear(Channel::FL, "N0CALL-7>APRS:!4000.00N/08000.00W>");
+    EXPECT_EQ(Names("N0ca"), (Texts{"N0CALL(r)", "n0call-9(t)", "N0CALL-7(f)", "XN0CALL(r)"}));
+    EXPECT_EQ(Names(" call-9 "), Texts{"n0call-9(t)"});
+    EXPECT_EQ(Names("n0call-9(t)"), Texts{"n0call-9(t)"}); // As the marker is named.
+    EXPECT_EQ(Names("N0ca", 2), (Texts{"N0CALL(r)", "n0call-9(t)"}));
+    EXPECT_TRUE(Names("  ").empty());
+    EXPECT_TRUE(Names("(x)").empty());
+    EXPECT_TRUE(Names("N0CALL", 0).empty());
+}
+
+TEST_F(Finding, MarkersThatAreNoStationsButNoTrackPoints)
+{
+    program.main.Of(Channel::RF).Tracked.Set("N0CALL", "N0CALL");
+    for (const double lat : {40.0, 41.0, 42.0})
+        program.Position(Channel::RF, "N0CALL", lat, -80);
+    Map& map = program.TheMap();
+    map.AddPushpin(map.GetLocation(10, 20), "N0CALL(Club)");
+    map.AddPushpin(map.GetLocation(10, 20), "Club house");
+    EXPECT_EQ(Names("n0call"), (Texts{"N0CALL(r)", "N0CALL(Club)"}));
+    EXPECT_EQ(Names("club"), (Texts{"Club house", "N0CALL(Club)"}));
+}
+
+TEST_F(Finding, NeitherStationsNorPlacesCrowdTheOthersOut)
+{
+    for (int i = 0; i < 30; ++i)
+        program.Position(Channel::RF, "DEN" + std::to_string(i), 40, -80);
+    places.count = 30;
+    const auto both = Names("den", 10);
+    EXPECT_EQ(both.size(), 10U);
+    EXPECT_EQ(std::count(both.begin(), both.end(), "den town"), 5);
+    places.count = 2;
+    EXPECT_EQ(Names("den", 10)[7], "DEN7(r)");
+    EXPECT_EQ(Names("paris", 10), (Texts{"paris town", "paris town"}));
+}
+
+TEST_F(Finding, GoesThereAndSelectsWhatItFound)
+{
+    program.Position(Channel::TCP, "N0CALL", 40, -80);
+    mnuRuvenmarkHelp_Click(program.main);
+    const auto found = Find(program.main, places, "n0call", 1);
+    ASSERT_EQ(found.size(), 1U);
+    GoToFound(program.main, found[0]);
+    EXPECT_EQ(program.main.window.rightView, RightView::Map);
+    EXPECT_EQ(program.TheMap().View().centre, (GeoPoint{40, -80}));
+    EXPECT_GE(program.TheMap().View().zoom, 10);
+    EXPECT_EQ(KindOfSelection(program.main), SelectionKind::Pushpin);
+    EXPECT_EQ(program.Tree().Selected(), program.Node("TCPPositionsN0CALL"));
+
+    program.TheMap().SetView({0, 0}, 14);
+    program.prompts.answers = {Answer::Yes};
+    ClearChannelReports(program.main, Channel::TCP); // Gone by the time it is chosen.
+    GoToFound(program.main, found[0]);
+    EXPECT_EQ(program.TheMap().View().zoom, 14);
+    EXPECT_EQ(KindOfSelection(program.main), SelectionKind::Nothing);
+}
+
+TEST_F(Finding, FindAndDirectionsBringTheMapToTheFront)
+{
+    mnuRuvenmarkHelp_Click(program.main);
+    mnuFind_Click(program.main);
+    EXPECT_EQ(program.main.window.rightView, RightView::Map);
+    EXPECT_EQ(program.dialogs.calls, Texts{"ShowFind"});
+    mnuDirections_Click(program.main);
+    EXPECT_TRUE(program.main.mpCtrl.ItineraryVisible());
+    mnuDirections_Click(program.main);
+    EXPECT_FALSE(program.main.mpCtrl.ItineraryVisible());
+}
+
+} // namespace
+} // namespace ruvenmark

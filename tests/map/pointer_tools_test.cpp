@@ -1,0 +1,104 @@
+#include "map/pointer_tools.h"
+#include "support/program.h"
+#include "tracking/filter_form_rules.h"
+#include "ui/layout.h"
+#include "ui/menus.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+class PointerTools : public testing::Test {
+protected:
+    PointerTools()
+    {
+        program.TheMap().SetSize(800, 600);
+        program.TheMap().SetView({47.123456789, 8.5}, 12);
+    }
+    // The middle of the map window is the centre of the view.
+    bool ClickMiddle() { return mpCtrl_Click(program.main, 400, 300); }
+    ReportFilter& Fields(Channel channel) { return program.main.frmFilter.fields[static_cast<std::size_t>(channel)]; }
+
+    Program program;
+};
+
+TEST_F(PointerTools, CoordinatesUnderThePointerHaveFiveDecimals)
+{
+    mpCtrl_MouseMove(program.main, 400, 300);
+    EXPECT_EQ(program.main.sbStatusBar.Coordinates(), "47.12346, 8.5");
+    program.TheMap().SetView({-33.5, -70.25}, 12);
+    mpCtrl_MouseMove(program.main, 400, 300);
+    EXPECT_EQ(program.main.sbStatusBar.Coordinates(), "-33.5, -70.25");
+}
+
+TEST_F(PointerTools, AClickThatNobodyWaitsForIsTheMaps)
+{
+    mnuToolsFilter_Click(program.main);
+    EXPECT_FALSE(ClickMiddle());
+    EXPECT_EQ(Fields(Channel::RF).Lat, "");
+}
+
+TEST_F(PointerTools, TheClickGoesIntoTheTabInFront)
+{
+    for (const Channel channel : kChannels) {
+        ShowFilterOf(program.main, channel);
+        frmFilter_PinPoint(program.main);
+        EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerCross);
+        EXPECT_TRUE(ClickMiddle());
+        EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerDefault);
+        EXPECT_EQ(Fields(channel).Lat, "47.12346");
+        EXPECT_EQ(Fields(channel).Lon, "8.5");
+        EXPECT_EQ(program.dialogs.calls, (std::vector<std::string>{"ShowFilter", "StandAside", "ComeBack"}));
+        EXPECT_FALSE(ClickMiddle());
+        for (ReportFilter& fields : program.main.frmFilter.fields)
+            EXPECT_EQ(fields.Lat.empty(), &fields != &Fields(channel));
+        program.main.frmFilter.fields = {};
+        program.dialogs.calls.clear();
+    }
+}
+
+TEST_F(PointerTools, PressingTwiceStillGivesThePointerBack)
+{
+    program.main.mpCtrl.SetMousePointer(7);
+    mnuToolsFilter_Click(program.main);
+    frmFilter_PinPoint(program.main);
+    frmFilter_PinPoint(program.main);
+    ClickMiddle();
+    EXPECT_EQ(program.main.mpCtrl.MousePointer(), 7);
+}
+
+TEST_F(PointerTools, ADialogClosedInTheMeantimeGetsNothing)
+{
+    mnuToolsFilter_Click(program.main);
+    frmFilter_PinPoint(program.main);
+    program.dialogs.bFilterVisible = false;
+    EXPECT_TRUE(ClickMiddle());
+    EXPECT_EQ(Fields(Channel::RF).Lat, "");
+    EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerDefault);
+    EXPECT_EQ(program.dialogs.calls.back(), "StandAside");
+}
+
+TEST_F(PointerTools, PinPointingBringsTheMapToTheFront)
+{
+    mnuToolsFilter_Click(program.main);
+    mnuRuvenmarkHelp_Click(program.main);
+    frmFilter_PinPoint(program.main);
+    EXPECT_EQ(program.main.window.rightView, RightView::Map);
+}
+
+TEST_F(PointerTools, DirectionsTakeBothEnds)
+{
+    RunMenuEntry(program.main, MenuEntry::mnuDirections);
+    StartPinPoint(program.main, kPinPointTo);
+    ClickMiddle();
+    EXPECT_FALSE(program.main.map.directions[0]);
+    ASSERT_TRUE(program.main.map.directions[1]);
+    EXPECT_EQ(program.main.map.directions[1]->point, (GeoPoint{47.12346, 8.5}));
+}
+
+} // namespace
+} // namespace ruvenmark

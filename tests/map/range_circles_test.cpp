@@ -1,0 +1,156 @@
+#include "map/range_circles.h"
+#include "map/symbols.h"
+#include "platform/failure.h"
+#include "support/program.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace ruvenmark {
+namespace {
+
+using testing::IsEmpty;
+
+class RangeCircles : public testing::Test {
+protected:
+    // Live circles, oldest slot first.
+    std::vector<ShapeData> Circles()
+    {
+        std::vector<ShapeData> circles;
+        const auto& shapes = p.TheMap().Shapes();
+        for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot) {
+            if (shapes.At(slot))
+                circles.push_back(*shapes.At(slot));
+        }
+        return circles;
+    }
+    void Station(Channel channel, const char* call)
+    {
+        p.Position(channel, call, 48, 11);
+        p.Sink(channel).ReportDataExt({call, "APRS", 48, 11, 50, 20, 3, ""});
+    }
+    void Own(const char* lat, const char* power)
+    {
+        SetSetting(p.main.Settings, "Call", "N9CALL");
+        SetSetting(p.main.Settings, "Lat", lat);
+        SetSetting(p.main.Settings, "Lon", "11");
+        SetSetting(p.main.Settings, "Power", power);
+        SetSetting(p.main.Settings, "Height", "20");
+        SetSetting(p.main.Settings, "Gain", "3");
+    }
+
+    Program p;
+};
+
+TEST_F(RangeCircles, TheRangeFollowsPowerHeightAndGain)
+{
+    EXPECT_NEAR(StationRange(50, 20, 3), 9.4518, 0.0001);
+    EXPECT_EQ(StationRange(0, 20, 3), 0);
+    EXPECT_EQ(StationRange(50, 0, 3), 0);
+    EXPECT_GT(StationRange(50, 20, 9), StationRange(50, 20, 3));
+}
+
+TEST_F(RangeCircles, ShowTwiceLeavesOneCircleAtTheMarker)
+{
+    Station(Channel::RF, "N0CALL");
+    p.Select("RFPositionsN0CALL");
+    p.main.window.rightView = RightView::Inbox;
+    mnuShowRange_Click(p.main);
+    p.main.commDialog.bAddRFSymbol = false;
+    p.Position(Channel::RF, "N0CALL", 49, 12);
+    mnuShowRange_Click(p.main);
+    const auto circles = Circles();
+    ASSERT_EQ(circles.size(), 1U);
+    EXPECT_EQ(circles[0].from, (GeoPoint{49, 12}));
+    EXPECT_EQ(circles[0].width, circles[0].height);
+    EXPECT_NEAR(circles[0].width, 9.45, 0.005);
+    EXPECT_EQ(circles[0].foreColor, 255U);
+    EXPECT_EQ(circles[0].weight, 1);
+    EXPECT_TRUE(circles[0].bVisible);
+    EXPECT_EQ(p.Marker("N0CALL(r)")->Location().Point(), (GeoPoint{49, 12})); // Moved there first.
+    EXPECT_THAT(p.Note("N0CALL(r)"), testing::HasSubstr("49°, 12°"));
+    EXPECT_FALSE(p.Node("RFPositionsN0CALL")->IsBold());
+    EXPECT_EQ(p.main.window.rightView, RightView::Map);
+
+    mnuHideRange_Click(p.main);
+    EXPECT_THAT(Circles(), IsEmpty());
+    mnuHideRange_Click(p.main);
+    EXPECT_TRUE(p.main.abandoned.IsEmpty());
+}
+
+TEST_F(RangeCircles, NoRangeOrNoPositionDrawsNothing)
+{
+    p.Sink(Channel::RF).ReportDataExt({"N0CALL", "APRS", 48, 11, 50, 20, 3, ""});
+    p.Select("RFPositionsN0CALL");
+    mnuShowRange_Click(p.main);
+    p.Position(Channel::RF, "N1CALL", 1, 2);
+    p.Select("RFPositionsN1CALL");
+    mnuShowRange_Click(p.main);
+    p.Select("RFPositionsN1CALLLat"); // A fact, no station.
+    mnuShowRange_Click(p.main);
+    p.Select(" nothing");
+    mnuShowRange_Click(p.main);
+    EXPECT_THAT(Circles(), IsEmpty());
+    EXPECT_FALSE(p.Marker("N0CALL(r)"));
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
+}
+
+// The circles of a former map are dead; commands go on past them.
+TEST_F(RangeCircles, OutliveTheirMapWithoutHarm)
+{
+    for (const Channel channel : {Channel::RF, Channel::TCP}) {
+        Station(channel, "N0CALL");
+        p.Select(std::string(Traits(channel).word) + "PositionsN0CALL");
+        mnuShowRange_Click(p.main);
+    }
+    p.main.mpCtrl.NewMap(kRegionEurope);
+    mnuShowRange_Click(p.main); // TCP: a new circle takes the place of the dead one.
+    EXPECT_EQ(Circles().size(), 1U);
+    EXPECT_EQ(p.Marker("N0CALL(t)")->BalloonState(), 1); // Its marker is made anew.
+    p.main.map.MyRangeCircle = p.TheMap().AddShape(kShapeRadiusCircle, p.TheMap().GetLocation(1, 2), 3, 3);
+    mnuHideAllRangeCircles_Click(p.main);
+    EXPECT_EQ(Circles().size(), 1U); // The own one stays.
+    for (const ChannelState& state : p.main.channels)
+        EXPECT_TRUE(state.RangeCircles.IsEmpty());
+}
+
+TEST_F(RangeCircles, TheOwnCircleFollowsTheSettings)
+{
+    Own("48", "50");
+    UpdateMyRange(p.main); // Works out the range; nothing shows yet.
+    EXPECT_THAT(Circles(), IsEmpty());
+    p.Select("RF"); // No grandparent: not here.
+    mnuShowMyRange_Click(p.main);
+    EXPECT_THAT(Circles(), IsEmpty());
+    p.Position(Channel::RF, "N0CALL", 1, 2);
+    p.Select("RFPositionsN0CALL");
+    mnuShowMyRange_Click(p.main);
+    ASSERT_EQ(Circles().size(), 1U);
+    EXPECT_NEAR(Circles()[0].width, 9.45, 0.005);
+    EXPECT_EQ(p.Marker("N9CALL")->Symbol(), kMyStationSymbol);
+
+    Own("49", "200");
+    UpdateMyRange(p.main); // A circle that shows is drawn anew.
+    ASSERT_EQ(Circles().size(), 1U);
+    EXPECT_EQ(Circles()[0].from, (GeoPoint{49, 11}));
+    EXPECT_GT(Circles()[0].width, 13);
+    Own("49", "");
+    UpdateMyRange(p.main);
+    EXPECT_EQ(p.main.map.MyRange, 0);
+    Own("", "50");
+    UpdateMyRange(p.main); // Without a position there is neither circle nor range.
+    EXPECT_THAT(Circles(), IsEmpty());
+    EXPECT_EQ(p.main.map.MyRange, 0);
+    Own("48", "a lot");
+    EXPECT_THROW(UpdateMyRange(p.main), Failure);
+
+    Own("48", "50");
+    UpdateMyRange(p.main);
+    mnuShowMyRange_Click(p.main);
+    mnuHideMyRange_Click(p.main);
+    EXPECT_THAT(Circles(), IsEmpty());
+    EXPECT_FALSE(p.main.map.MyRangeCircle);
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,55 @@
+#include "map/tile_settings.h"
+#include "support/program.h"
+
+#include <gtest/gtest.h>
+
+namespace ruvenmark {
+namespace {
+
+TEST(TileSettings, AreOffUntilSwitchedOnAndOutliveTheRun)
+{
+    Program program;
+    EXPECT_FALSE(program.main.map.tiles.bOnline);
+    EXPECT_EQ(program.main.map.tiles.urlTemplate, kDefaultTileUrl);
+    int changes = 0;
+    const auto subscription = program.main.map.TilesChanged.Observe([&] { ++changes; });
+    mnuOnlineTiles_Click(program.main);
+    program.prompts.files = {"/maps/alps.mbtiles"};
+    mnuTileFile_Click(program.main);
+    EXPECT_EQ(changes, 2);
+    SaveTileSettings(program.main);
+    program.main.map.tiles = {};
+    LoadTileSettings(program.main);
+    EXPECT_TRUE(program.main.map.tiles.bOnline);
+    EXPECT_EQ(program.main.map.tiles.source, "/maps/alps.mbtiles");
+    mnuTileFile_Click(program.main); // Puts it away without asking.
+    EXPECT_EQ(program.main.map.tiles.source, "");
+    EXPECT_EQ(program.prompts.fileTitles.size(), 1U);
+}
+
+TEST(TileSettings, UnusableOnesInTheStoreAreTheDefaults)
+{
+    Program program(false);
+    program.store.Set("OnlineTiles", "maybe");
+    for (const char* url : {"", "file:///etc/{z}/{x}/{y}", "https://example.org/{z}/{x}.png"}) {
+        program.store.Set("TileURL", url);
+        LoadTileSettings(program.main);
+        EXPECT_EQ(program.main.map.tiles.urlTemplate, kDefaultTileUrl) << url;
+        EXPECT_FALSE(program.main.map.tiles.bOnline);
+    }
+    program.store.Set("TileURL", "http://localhost:8080/{z}/{y}/{x}.png?k=1");
+    LoadTileSettings(program.main);
+    EXPECT_EQ(program.main.map.tiles.urlTemplate, "http://localhost:8080/{z}/{y}/{x}.png?k=1");
+}
+
+TEST(TileSettings, ATileStandsForTheFolderOfAll)
+{
+    EXPECT_EQ(TileSourceOfFile("/maps/osm/12/654/1583.png"), "/maps/osm");
+    EXPECT_EQ(TileSourceOfFile("/12/654/1583.png"), "/");
+    EXPECT_EQ(TileSourceOfFile("/maps/alps.mbtiles"), "/maps/alps.mbtiles");
+    EXPECT_EQ(TileSourceOfFile("/2026/11/22/photo.png"), "/2026/11/22/photo.png");
+    EXPECT_EQ(TileSourceOfFile("3.png"), "3.png");
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,172 @@
+#include "map/region_form.h"
+#include "platform/text.h"
+#include "support/program.h"
+#include "tracking/filter_form_rules.h"
+#include "tracking/track_list_form_rules.h"
+#include "tracking/track_lists.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+ReportFilter& Fields(Program& program, Channel channel)
+{
+    return program.main.frmFilter.fields[static_cast<std::size_t>(channel)];
+}
+
+TEST(FilterForm, ChecksWhatAFieldHoldsWhenItIsLeft)
+{
+    struct Case {
+        FilterField field;
+        std::string ReportFilter::*member;
+        const char* text;
+        const char* message;
+    };
+    const std::vector<Case> cases = {
+        {FilterField::Lat, &ReportFilter::Lat, "", ""},
+        {FilterField::Lat, &ReportFilter::Lat, "-90", ""},
+        {FilterField::Lat, &ReportFilter::Lat, "90.0001", "Enter a value between -90 and 90 for latitude!"},
+        {FilterField::Lat, &ReportFilter::Lat, "north", ""},
+        {FilterField::Lon, &ReportFilter::Lon, "180", ""},
+        {FilterField::Lon, &ReportFilter::Lon, "-180.5", "Enter a value between -180 and 180 for longitude!"},
+        {FilterField::Range, &ReportFilter::Range, "0", ""},
+        {FilterField::Range, &ReportFilter::Range, "100000", ""},
+        {FilterField::Range, &ReportFilter::Range, "-1", "Enter a positive number for range!"},
+    };
+    for (const Channel channel : kChannels) {
+        for (const Case& test : cases) {
+            FilterForm form;
+            std::string& text = form.fields[static_cast<std::size_t>(channel)].*test.member;
+            text = test.text;
+            EXPECT_EQ(frmFilter_LostFocus(form, channel, test.field), test.message) << test.text;
+            EXPECT_EQ(text, *test.message != '\0' ? "" : test.text);
+        }
+    }
+}
+
+TEST(FilterForm, SavesUpperCaseListsThatCountFromTheNextReportOn)
+{
+    Program program;
+    mnuToolsFilter_Click(program.main);
+    ReportFilter& fields = Fields(program, Channel::TCP);
+    fields.bOn = true;
+    fields.Dest = "aprs*";
+    fields.Call = "n1*";
+    fields.Reject = "n0call";
+    fields.Range = "1e2";
+    program.Hear(Channel::TCP, "N0CALL>APRS:!4000.00N/08000.00W>");
+    frmFilter_Save(program.main);
+    program.Hear(Channel::TCP, "N0CALL>APRS:!4100.00N/08000.00W>");
+    program.Hear(Channel::TCP, "N1CALL>APRS:!4000.00N/08000.00W>");
+    program.Hear(Channel::TCP, "N2CALL>APRS:!4000.00N/08000.00W>");
+    EXPECT_EQ(program.ChildTexts("TCPPositions"), (Texts{"N0CALL", "N1CALL"}));
+    EXPECT_EQ(program.RecordText(Channel::TCP, "N0CALL", Field::Lat), "40");
+
+    program.prompts.answers = {Answer::No};
+    StopMainWindow(program.main);
+    EXPECT_EQ(program.store.Get("tcpFilterDest", ""), "APRS*");
+    EXPECT_EQ(program.store.Get("tcpFilterReject", ""), "N0CALL");
+    EXPECT_EQ(program.store.Get("tcpFilterRange", ""), "1e2");
+    EXPECT_EQ(program.store.Get("rfFilterOn", ""), "False");
+}
+
+TEST(FilterForm, OpensWithTheFiltersAsTheyStandButNeverOverWhatIsTyped)
+{
+    Program program;
+    program.main.Of(Channel::FL).Filter.Call = "N0CALL";
+    program.main.Of(Channel::FL).Filter.bTracked = false;
+    program.main.frmFilter.unitLabels[2] = "miles";
+    ShowFilterOf(program.main, Channel::FL);
+    EXPECT_EQ(Fields(program, Channel::FL).Call, "N0CALL");
+    EXPECT_FALSE(Fields(program, Channel::FL).bTracked);
+    EXPECT_EQ(program.main.frmFilter.SSTab1, 2);
+    EXPECT_EQ(program.main.frmFilter.unitLabels[0], "miles");
+
+    Fields(program, Channel::FL).Call = "half typ";
+    ShowFilterOf(program.main, Channel::RF); // Visible already: only brought to the front.
+    EXPECT_EQ(Fields(program, Channel::FL).Call, "half typ");
+    EXPECT_EQ(program.main.frmFilter.SSTab1, 0);
+    EXPECT_EQ(program.main.Of(Channel::FL).Filter.Call, "N0CALL");
+}
+
+TEST(TrackListForm, TakesListsAndChoices)
+{
+    Program program;
+    program.dialogs.onTrackList = [](MainWindow& main) {
+        TrackListForm& form = main.frmTrackList;
+        form.txtTrackList = {"n1call  N0CALL n1call N2CALL", "", " "};
+        form.chkTrackLine = form.chkTrackStation = form.chkPlayWave = false;
+        form.cboTLSize = 8;
+        form.cboTLStyle = 3;
+        form.txtTrackWaveFile = "/ding.wav";
+        frmTrackList_Track(main);
+    };
+    mnuTrackedStations_Click(program.main);
+    EXPECT_EQ(TrackListText(program.main.Of(Channel::RF)), "N1CALL N0CALL N2CALL");
+    EXPECT_TRUE(program.main.Of(Channel::TCP).Tracked.IsEmpty());
+    EXPECT_FALSE(program.main.tracking.bShowTrackLine);
+    EXPECT_FALSE(program.main.tracking.bTrackStationPosition);
+    EXPECT_EQ(SettingText(program.main.Settings, "TrackLineSize"), "8");
+    EXPECT_EQ(SettingText(program.main.Settings, "TrackLineStyle"), "3");
+    EXPECT_EQ(SettingText(program.main.Settings, "PlayTrack"), "False");
+
+    program.dialogs.onTrackList = nullptr; // Closed with nothing done: the fields show what was taken.
+    mnuTrackedStations_Click(program.main);
+    EXPECT_EQ(program.main.frmTrackList.txtTrackList[0], "N1CALL N0CALL N2CALL");
+    EXPECT_EQ(program.main.frmTrackList.cboTLSize, 8);
+    EXPECT_FALSE(program.main.frmTrackList.chkPlayWave);
+    EXPECT_EQ(program.main.frmTrackList.txtTrackWaveFile, "/ding.wav");
+}
+
+TEST(TrackListForm, AStationTakenOffKeepsItsTrail)
+{
+    Program program;
+    program.main.Of(Channel::RF).Tracked.Set("N0CALL", "N0CALL");
+    for (const double lat : {40.0, 41.0})
+        program.Position(Channel::RF, "N0CALL", lat, -80);
+    frmTrackList_Load(program.main);
+    program.main.frmTrackList.txtTrackList[0] = "";
+    frmTrackList_Track(program.main);
+    EXPECT_EQ(program.MarkerNames().size(), 2U);
+    EXPECT_EQ(program.main.Of(Channel::RF).TrackMarkers.Count(), 1U);
+}
+
+TEST(TrackListForm, AnUnusableSettingIsNoChoiceAndStays)
+{
+    Program program;
+    for (const char* value : {"9", "-3", "thick"}) {
+        SetSetting(program.main.Settings, "TrackLineSize", value);
+        frmTrackList_Load(program.main);
+        EXPECT_EQ(program.main.frmTrackList.cboTLSize, kNoChoice);
+        frmTrackList_Track(program.main);
+        EXPECT_EQ(SettingText(program.main.Settings, "TrackLineSize"), value);
+    }
+}
+
+TEST(TrackListForm, BrowsingFillsTheField)
+{
+    Program program;
+    program.main.frmTrackList.txtTrackWaveFile = "/old.wav";
+    frmTrackList_Browse(program.main);
+    EXPECT_EQ(program.main.frmTrackList.txtTrackWaveFile, "/old.wav");
+    program.prompts.files = {"/new.wav"};
+    frmTrackList_Browse(program.main);
+    EXPECT_EQ(program.main.frmTrackList.txtTrackWaveFile, "/new.wav");
+}
+
+TEST(RegionForm, ButtonsOfEuropeAndAmericaAndNoOthers)
+{
+    EXPECT_EQ(RegionOfButton("Canada", 2), 1);
+    EXPECT_EQ(RegionOfButton("Switzerland", 1), 2);
+    EXPECT_EQ(RegionOfButton("canada", 2), 2);
+    EXPECT_EQ(RegionOfButton("", 1), 1);
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,136 @@
+#include "support/program.h"
+#include "ui/layout.h"
+#include "ui/menus.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+
+namespace ruvenmark {
+namespace {
+
+constexpr LayoutInput kWindow = {12000, 9000, 600, 375, true, true, true}; // 800x600 pixels.
+
+bool Overlap(const LayoutRect& a, const LayoutRect& b)
+{
+    return a.bVisible && b.bVisible && a.left < b.left + b.width && b.left < a.left + a.width &&
+           a.top < b.top + b.height && b.top < a.top + a.height;
+}
+
+bool IsInside(const LayoutRect& rect, const LayoutInput& window)
+{
+    return !rect.bVisible ||
+           (rect.left >= 0 && rect.top >= 0 && rect.width >= 0 && rect.height >= 0 &&
+            rect.left + rect.width <= window.scaleWidth && rect.top + rect.height <= window.scaleHeight);
+}
+
+TEST(Layout, PanesStandBesideTheGripBetweenTheBars)
+{
+    const WindowLayout layout = SizeControls(kWindow, 2000);
+    EXPECT_EQ(layout.tree, (LayoutRect{0, 600, 2000, 8025, true}));
+    EXPECT_EQ(layout.imgSplitter.left, 2000);
+    EXPECT_EQ(layout.rightPane, (LayoutRect{2040, 600, 12000 - 2140, 8025, true}));
+    EXPECT_EQ(layout.statusBar, (LayoutRect{0, 8625, 12000, 375, true}));
+}
+
+TEST(Layout, WithoutTheLeftPaneTheRightOneTakesTheWidth)
+{
+    LayoutInput window = kWindow;
+    window.bLeftPane = window.bToolBar = window.bStatusBar = false;
+    const WindowLayout layout = SizeControls(window, 2000);
+    EXPECT_FALSE(layout.tree.bVisible);
+    EXPECT_FALSE(layout.imgSplitter.bVisible);
+    EXPECT_EQ(layout.rightPane, (LayoutRect{0, 0, 11900, 9000, true}));
+}
+
+TEST(Layout, NothingOverlapsOrIsClippedAtAnySize)
+{
+    for (const std::int32_t width : {0, 700, 1000, 3000, 12000, 28800}) {
+        for (const std::int32_t height : {0, 500, 975, 9000, 16200}) {
+            for (const std::int32_t x : {-5000, 0, 500, 2000, 11500, 99999}) {
+                for (int bars = 0; bars < 8; ++bars) {
+                    const LayoutInput window = {width,          height,          std::min(600, height / 2),
+                                                height / 4,     (bars & 1) != 0, (bars & 2) != 0,
+                                                (bars & 4) != 0};
+                    const WindowLayout layout = SizeControls(window, x);
+                    const std::array rects = {layout.toolBar, layout.statusBar, layout.tree, layout.imgSplitter,
+                                              layout.rightPane};
+                    for (std::size_t i = 0; i < rects.size(); ++i) {
+                        EXPECT_TRUE(width < kMinWindowWidth || IsInside(rects[i], window))
+                            << width << 'x' << height << " at " << x << ": " << i;
+                        for (std::size_t other = 0; other < i; ++other)
+                            EXPECT_FALSE(Overlap(rects[i], rects[other])) << width << 'x' << height << " at " << x;
+                    }
+                }
+            }
+        }
+    }
+}
+
+TEST(Layout, TheSplitterKeepsAwayFromBothEdges)
+{
+    EXPECT_EQ(ClampSplitter(499, 12000), 500);
+    EXPECT_EQ(ClampSplitter(500, 12000), 500);
+    EXPECT_EQ(ClampSplitter(11500, 12000), 11500);
+    EXPECT_EQ(ClampSplitter(11501, 12000), 11500);
+
+    Program program;
+    int changes = 0;
+    const auto subscription = program.main.window.Changed.Observe([&] { ++changes; });
+    DropSplitter(program.main, 20000, 12000);
+    EXPECT_EQ(program.main.window.splitterLeft, 11500);
+    EXPECT_EQ(changes, 1);
+}
+
+TEST(Layout, ANarrowWindowGrowsAndAMinimisedOneKeepsItsPlace)
+{
+    EXPECT_EQ(AllowedWindowWidth(2999), 3000);
+    EXPECT_EQ(AllowedWindowWidth(3001), 3001);
+    Program program;
+    KeepGeometry(program.main, 10, 20, 7000, 8000, false);
+    KeepGeometry(program.main, -480000, -480000, 2400, 400, true);
+    StopMainWindow(program.main);
+    EXPECT_EQ(program.store.Get("MainLeft", "as before"), "as before");
+    EXPECT_EQ(program.store.Get("WindowSplit", ""), "2000");
+    EXPECT_EQ(program.main.window.width, 7000);
+}
+
+TEST(Layout, TheLeftPaneComesBackWithTheTreeOfTheRightView)
+{
+    Program program;
+    WindowState& window = program.main.window;
+    mnuTreeView_Click(program.main);
+    window.rightView = RightView::Sent;
+    mnuTreeView_Click(program.main);
+    EXPECT_TRUE(window.bLeftPane);
+    EXPECT_EQ(window.leftTree, LeftTree::Messages);
+
+    window.bMessagesTicked = true;
+    mnuViewMap_Click(program.main);
+    EXPECT_EQ(window.leftTree, LeftTree::Stations);
+    EXPECT_TRUE(window.bMapTicked);
+    EXPECT_FALSE(window.bMessagesTicked);
+}
+
+TEST(Layout, HelpStaysWhereItIsWhenItIsThePageAlready)
+{
+    Program program;
+    program.main.window.webAddress = "file:///elsewhere/Readme.htm";
+    mnuRuvenmarkHelp_Click(program.main);
+    EXPECT_EQ(program.main.window.webAddress, "file:///elsewhere/Readme.htm");
+    EXPECT_FALSE(program.main.window.bMapTicked);
+    program.main.window.webAddress = "https://example.org/detail/N0CALL";
+    mnuRuvenmarkHelp_Click(program.main);
+    EXPECT_EQ(program.main.window.webAddress, "/program/Readme.htm");
+}
+
+TEST(Layout, TwipsAreFifteenthsOfAPixel)
+{
+    EXPECT_EQ(TwipsOfPixels(800), 12000);
+    EXPECT_EQ(PixelsOfTwips(40), 3);
+    EXPECT_EQ(PixelsOfTwips(-22), -1);
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,158 @@
+#include "support/program.h"
+#include "ui/station_tree_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+using Names = std::vector<std::string>;
+
+std::optional<PopupMenu> RightClick(Program& program, std::string_view key)
+{
+    return tvStationList_MouseUp(program.main, kRightButton, key.empty() ? nullptr : program.Node(key));
+}
+
+// What the menu shows: captions, those that are ticked with "*", those that are not enabled with "-".
+Names Shown(const std::optional<PopupMenu>& popup)
+{
+    Names shown;
+    if (!popup)
+        return shown;
+    for (const MenuItem& item : popup->items) {
+        if (item.IsLine() || !item.state.bVisible)
+            continue;
+        shown.push_back((item.state.bEnabled ? "" : "-") + item.state.caption + (item.state.bChecked ? "*" : ""));
+    }
+    return shown;
+}
+
+TEST(PopupMenus, OnlyTheRightButtonOpensOneAndItSelectsFirst)
+{
+    Program program;
+    EXPECT_FALSE(tvStationList_MouseUp(program.main, 1, program.Node("RF")));
+    EXPECT_EQ(program.Tree().Selected(), nullptr);
+    EXPECT_TRUE(tvStationList_MouseUp(program.main, 3, program.Node("TCP")));
+    EXPECT_EQ(program.Tree().Selected(), program.Node("TCP"));
+    EXPECT_TRUE(RightClick(program, "")); // Nothing under the pointer leaves the selection.
+    EXPECT_EQ(program.Tree().Selected(), program.Node("TCP"));
+}
+
+TEST(PopupMenus, RootsShowTheirOwnForm)
+{
+    Program program;
+    EXPECT_EQ(Shown(RightClick(program, "RF")),
+              (Names{"Filter RF Reports", "Edit RF Filter...", "Delete RF Reports", "-Hide All Range Circles",
+                     "Show Tracked Stations Only", "Show RF Station Names*", "Hide RF Station Names"}));
+
+    program.main.Of(Channel::TCP).Filter.bOn = true;
+    SetSetting(program.main.Settings, "ShowTCPNames", "0");
+    EXPECT_EQ(Shown(RightClick(program, "TCP")),
+              (Names{"Filter TCP Reports*", "Edit TCP Filter...", "Delete TCP Reports", "-Hide All Range Circles",
+                     "Show Tracked Stations Only", "Show TCP Station Names", "Hide TCP Station Names*"}));
+
+    program.Hear("N0CALL>APRS:!4000.00N/08000.00W>");
+    program.main.FileLoading = true;
+    EXPECT_EQ(Shown(RightClick(program, "FL")),
+              (Names{"Filter FL Reports", "Edit FL Filter...", "Delete FL Reports", "-Hide All Range Circles",
+                     "Show Tracked Stations Only", "Show FL Station Names*", "Hide FL Station Names",
+                     "Stop File Loading", "Unload"}));
+}
+
+TEST(PopupMenus, ALoadedFolderIsCaptionedUpToItsLastBlank)
+{
+    Program program;
+    program.Tree().AddRoot("Club", "My Club (3)");
+    EXPECT_EQ(Shown(RightClick(program, "Club")),
+              (Names{"-Hide All Range Circles", "Show Tracked Stations Only", "Show My Club Stations",
+                     "Hide My Club Stations", "Unload My Club"}));
+    program.Tree().SetText(*program.Node("Club"), "Q&A");
+    EXPECT_EQ(Shown(RightClick(program, "Club")).back(), "Unload Q&&A");
+}
+
+TEST(PopupMenus, NothingUnderThePointerOffersWhatIsForAll)
+{
+    Program program;
+    EXPECT_EQ(Shown(RightClick(program, "")),
+              (Names{"Delete all Reports", "Show All Station Names*", "Hide All Station Names",
+                     "-Hide All Range Circles", "Show Tracked Stations Only", "Load Stations..."}));
+    SetSetting(program.main.Settings, "ShowRFNames", "0");
+    SetSetting(program.main.Settings, "ShowTCPNames", "no number");
+    const auto captions = Shown(RightClick(program, ""));
+    EXPECT_EQ(captions[1], "Show All Station Names");
+    EXPECT_EQ(captions[2], "Hide All Station Names");
+}
+
+TEST(PopupMenus, AStationsEntriesFollowItsChannel)
+{
+    Program program;
+    program.Hear(Channel::RF, "n0call-9>APRS:!4000.00N/08000.00W>");
+    program.Hear(Channel::TCP, "n0call-9>APRS:!4000.00N/08000.00W>PHG5130");
+    program.main.Of(Channel::RF).Tracked.Set("N0CALL-9", "N0CALL-9");
+
+    EXPECT_EQ(Shown(RightClick(program, "RFPositionsn0call-9")),
+              (Names{"View Position", "Operator Info", "-Start Tracking", "Stop Tracking", "Show Track*", "Hide Track",
+                     "-Remove Track", "-Show Signal Range", "-Hide Signal Range", "Delete Report"}));
+    program.main.Of(Channel::RF).TrackVisible.Set("N0CALL-9", false);
+    program.main.tracking.bShowTrackLine = false; // Points alone can be removed too.
+    program.Position(Channel::RF, "n0call-9", 41, -80);
+    auto captions = Shown(RightClick(program, "RFPositionsn0call-9"));
+    EXPECT_EQ(captions[4], "Show Track");
+    EXPECT_EQ(captions[5], "Hide Track*");
+    EXPECT_EQ(captions[6], "Remove Track");
+
+    EXPECT_EQ(Shown(RightClick(program, "TCPPositionsn0call-9")),
+              (Names{"View Position", "Operator Info", "Start Tracking", "-Stop Tracking", "-Show Track", "-Hide Track",
+                     "-Remove Track", "Show Signal Range", "-Hide Signal Range", "Delete Report"}));
+    RunMenuEntry(program.main, MenuEntry::mnuShowRange);
+    EXPECT_EQ(Shown(RightClick(program, "TCPPositionsn0call-9"))[8], "Hide Signal Range");
+    EXPECT_EQ(Shown(RightClick(program, ""))[3], "Hide All Range Circles");
+}
+
+TEST(PopupMenus, AStationOfALoadedFolderCannotBeTracked)
+{
+    Program program;
+    auto& tree = program.Tree();
+    TreeNode& folder = tree.Add(tree.AddRoot("Club", "Club"), "Positions", "Positions");
+    tree.Add(folder, "N0CALL", "N0CALL");
+    EXPECT_EQ(Shown(RightClick(program, "ClubPositionsN0CALL")),
+              (Names{"View Position", "Operator Info", "-Start Tracking", "-Stop Tracking", "-Show Track",
+                     "-Hide Track", "-Remove Track", "-Show Signal Range", "-Hide Signal Range", "Delete Report"}));
+}
+
+TEST(PopupMenus, FoldersAreSortedOrCatchPackets)
+{
+    Program program;
+    AddChannelTree(program.Tree(), Channel::FL);
+    EXPECT_FALSE(RightClick(program, "RFPositions"));
+    EXPECT_EQ(Shown(RightClick(program, "RFUnknown")), Names{"Catch Rejected Packets"});
+    EXPECT_EQ(Shown(RightClick(program, "TCPStatus")), Names{"Sort in Alphabetic Order"});
+    program.main.Of(Channel::FL).bShowUnknown = true;
+    EXPECT_EQ(Shown(RightClick(program, "FLUnknown")), (Names{"Sort in Alphabetic Order", "Catch Rejected Packets*"}));
+    EXPECT_EQ(Shown(RightClick(program, "TCPUnknown")), (Names{"Sort in Alphabetic Order", "Catch Rejected Packets"}));
+}
+
+TEST(PopupMenus, FactsHaveNoneAndTheOwnStationsFactsHaveTheirs)
+{
+    Program program;
+    program.Hear(Channel::TCP, "N0CALL>APRS:!4000.00N/08000.00W>");
+    EXPECT_FALSE(RightClick(program, "TCPPositionsN0CALLLat"));
+    EXPECT_FALSE(RightClick(program, "My"));
+    EXPECT_FALSE(RightClick(program, "MyPosition"));
+
+    program.Tree().Add(*program.Node("MyPosition"), "Lat", "Lat: 40");
+    EXPECT_EQ(Shown(RightClick(program, "MyPositionLat")),
+              (Names{"-View Position", "-Show Signal Range", "-Hide Signal Range"}));
+    SetSetting(program.main.Settings, "Lat", "40");
+    SetSetting(program.main.Settings, "Lon", "-80");
+    program.main.map.MyRange = 9.5;
+    EXPECT_EQ(Shown(RightClick(program, "MyPositionLat")),
+              (Names{"View Position", "Show Signal Range", "-Hide Signal Range"}));
+}
+
+} // namespace
+} // namespace ruvenmark

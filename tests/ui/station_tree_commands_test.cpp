@@ -1,0 +1,216 @@
+#include "support/program.h"
+#include "ui/layout.h"
+#include "ui/station_tree_commands.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+TEST(StationTree, IsSortedOnceByCommand)
+{
+    Program program;
+    for (const char* call : {"N3C", "n1a", "N2B"})
+        program.Position(Channel::TCP, call, 40, -80);
+    program.Select("TCPPositions");
+    RunMenuEntry(program.main, MenuEntry::mnuTcpSort);
+    EXPECT_EQ(program.ChildTexts("TCPPositions"), (Texts{"n1a", "N2B", "N3C"}));
+    program.Position(Channel::TCP, "N0Z", 40, -80);
+    EXPECT_EQ(program.ChildTexts("TCPPositions"), (Texts{"n1a", "N2B", "N3C", "N0Z"}));
+}
+
+TEST(StationTree, CatchesRejectedPacketsOfTheSelectedFolderOnly)
+{
+    Program program;
+    program.Select("TCPUnknown");
+    RunMenuEntry(program.main, MenuEntry::mnuShowUnknown);
+    for (const Channel channel : {Channel::RF, Channel::TCP})
+        program.Sink(channel).ReportPacket("garbage");
+    EXPECT_EQ(program.Text("TCPUnknown"), "Unknown (1)");
+    EXPECT_EQ(program.Text("RFUnknown"), "Unknown");
+    RunMenuEntry(program.main, MenuEntry::mnuShowUnknown);
+    program.Sink(Channel::TCP).ReportPacket("more of it");
+    EXPECT_EQ(program.Text("TCPUnknown"), "Unknown (1)");
+}
+
+TEST(StationTree, AnExpandedStationIsNoNews)
+{
+    Program program;
+    program.Position(Channel::RF, "N0CALL", 40, -80);
+    tvStationList_Expand(program.main, *program.Node("RFPositionsN0CALL"));
+    tvStationList_Expand(program.main, *program.Node("RFPositions"));
+    EXPECT_FALSE(program.Node("RFPositionsN0CALL")->IsBold());
+    EXPECT_TRUE(program.Node("RFPositions")->IsBold());
+}
+
+TEST(StationTree, RemovesAStationAfterAsking)
+{
+    Program program;
+    program.Position(Channel::RF, "N0CALL", 40, -80);
+    program.Position(Channel::RF, "N1CALL", 41, -80);
+    program.Select("RFPositionsN0CALL");
+    RunMenuEntry(program.main, MenuEntry::mnuRemoveStation);
+    EXPECT_EQ(program.prompts.questions, Texts{"Are you sure you want to delete report for N0CALL?"});
+    EXPECT_EQ(program.Text("RFPositions"), "Positions (2)");
+
+    program.prompts.answers = {Answer::Yes};
+    RunMenuEntry(program.main, MenuEntry::mnuRemoveStation);
+    EXPECT_EQ(program.ChildTexts("RFPositions"), Texts{"N1CALL"});
+    EXPECT_EQ(program.Text("RFPositions"), "Positions (1)");
+    EXPECT_EQ(program.Text("RF"), "RF reports (1)");
+    EXPECT_EQ(program.MarkerNames(), Texts{"N1CALL(r)"});
+    EXPECT_FALSE(program.main.Of(Channel::RF).Stations.Contains("N0CALL"));
+}
+
+TEST(StationTree, ClearsOneChannelOrAll)
+{
+    Program program;
+    for (const Channel channel : kChannels) {
+        if (channel == Channel::FL)
+            AddChannelTree(program.Tree(), channel);
+        program.Position(channel, "N0CALL", 40, -80);
+    }
+    program.Select("RF");
+    program.prompts.answers = {Answer::No, Answer::Yes};
+    RunMenuEntry(program.main, MenuEntry::mnuClearReports);
+    EXPECT_EQ(program.prompts.questions.back(), "Are you sure you want to delete all RF reports?");
+    EXPECT_EQ(program.Text("RF"), "RF reports (1)");
+    RunMenuEntry(program.main, MenuEntry::mnuClearReports);
+    EXPECT_EQ(program.Text("RF"), "RF reports");
+    EXPECT_EQ(program.MarkerNames(), (Texts{"N0CALL(t)", "N0CALL(f)"}));
+
+    program.prompts.answers = {Answer::Yes};
+    RunMenuEntry(program.main, MenuEntry::mnuClearAllReports);
+    EXPECT_EQ(program.prompts.questions.back(), "Are you sure you want to delete all reports?");
+    EXPECT_EQ(program.Text("TCP"), "TCP reports");
+    EXPECT_EQ(program.Text("FL"), "FL reports");
+    EXPECT_TRUE(program.MarkerNames().empty());
+}
+
+TEST(StationTree, ClearingAllBeforeAnyLoadMakesNoTreeOfFiles)
+{
+    Program program;
+    program.prompts.answers = {Answer::Yes};
+    RunMenuEntry(program.main, MenuEntry::mnuClearAllReports);
+    EXPECT_EQ(program.Text("FL"), "(no node)");
+}
+
+TEST(StationTree, UnloadsTheFilesWithTheirMarkersAndCircles)
+{
+    for (const int others : {0, 5}) { // More markers than stations take the other walk.
+        Program program;
+        program.Hear("N0CALL>APRS:!4000.00N/08000.00W>PHG5130");
+        for (int i = 0; i < others; ++i)
+            program.Position(Channel::TCP, "N0CALL-" + std::to_string(i), 40, -80);
+        program.Select("FLPositionsN0CALL");
+        RunMenuEntry(program.main, MenuEntry::mnuShowRange);
+        ASSERT_EQ(program.TheMap().Shapes().Count(), 1U);
+
+        program.Select("FL");
+        RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
+        EXPECT_EQ(program.prompts.questions.back(), "Are you sure you want to unload all FL reports (1) reports?");
+        EXPECT_NE(program.Node("FL"), nullptr);
+
+        program.prompts.answers = {Answer::Yes};
+        RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
+        EXPECT_EQ(program.Node("FL"), nullptr);
+        EXPECT_EQ(program.Node("FLPositionsN0CALL"), nullptr);
+        EXPECT_FALSE(program.Marker("N0CALL(f)"));
+        EXPECT_EQ(program.MarkerNames().size(), static_cast<std::size_t>(others));
+        EXPECT_EQ(program.TheMap().Shapes().Count(), 0U);
+        EXPECT_TRUE(program.main.Of(Channel::FL).Stations.IsEmpty());
+        EXPECT_TRUE(program.main.Of(Channel::FL).StationRanges.IsEmpty());
+        EXPECT_FALSE(program.main.sbStatusBar.IsProgressVisible());
+
+        program.Hear("N0CALL>APRS:!4000.00N/08000.00W>");
+        EXPECT_EQ(program.Text("FL"), "FL reports (1)");
+    }
+}
+
+TEST(StationTree, UnloadingWhileAFileLoadsEndsTheLoad)
+{
+    Program program;
+    program.files.texts["/day.txt"] = "N0CALL>APRS:!4000.00N/08000.00W>\nN1CALL>APRS:!4000.00N/08000.00W>\n"
+                                      "N2CALL>APRS:!4000.00N/08000.00W>\n";
+    program.prompts.files = {"/day.txt"};
+    program.prompts.answers = {Answer::Yes};
+    program.yield.At(2, [&] {
+        program.Select("FL");
+        RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
+    });
+    RunMenuEntry(program.main, MenuEntry::mnuImportStations);
+    EXPECT_EQ(program.yield.calls, 2);
+    EXPECT_EQ(program.Node("FL"), nullptr);
+    EXPECT_TRUE(program.MarkerNames().empty());
+    EXPECT_TRUE(program.prompts.messages.empty());
+}
+
+TEST(StationTree, RadioServerAndOwnStationAreNeverUnloaded)
+{
+    Program program;
+    program.prompts.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
+    for (const char* key : {"RF", "TCP", "My"}) {
+        program.Select(key);
+        RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
+        EXPECT_NE(program.Node(key), nullptr);
+    }
+    EXPECT_TRUE(program.prompts.questions.empty());
+}
+
+TEST(StationTree, UnloadsAFolderOfAnyName)
+{
+    Program program;
+    program.Tree().AddRoot("Club", "Club");
+    program.Tree().Add(*program.Node("Club"), "Positions", "Positions");
+    Map& map = program.TheMap();
+    map.AddPushpin(map.GetLocation(40, -80), "N0CALL(Club)").SetNote("Club, today");
+    map.AddPushpin(map.GetLocation(40, -80), "Home").SetNote("mine");
+    map.AddPushpin(map.GetLocation(41, -80), "Work");
+    program.Select("Club");
+    program.prompts.answers = {Answer::Yes};
+    program.Tree().Add(*program.Node("ClubPositions"), "N0CALL", "N0CALL");
+    RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
+    EXPECT_EQ(program.Node("Club"), nullptr);
+    EXPECT_EQ(program.MarkerNames(), (Texts{"Home", "Work"}));
+}
+
+TEST(StationTree, FiltersAreSwitchedAndEditedByTheirRoot)
+{
+    Program program;
+    program.Select("TCP");
+    RunMenuEntry(program.main, MenuEntry::mnuPopupToggleFilter);
+    EXPECT_TRUE(program.main.Of(Channel::TCP).Filter.bOn);
+    EXPECT_FALSE(program.main.Of(Channel::RF).Filter.bOn);
+    RunMenuEntry(program.main, MenuEntry::mnuPopupEditFilter);
+    EXPECT_EQ(program.dialogs.calls, Texts{"ShowFilter"});
+    EXPECT_EQ(program.main.frmFilter.SSTab1, 1);
+    program.Select("RFPositions");
+    RunMenuEntry(program.main, MenuEntry::mnuPopupEditFilter);
+    EXPECT_EQ(program.dialogs.calls.size(), 1U);
+}
+
+TEST(StationTree, OperatorInfoOpensTheBrowserWithASafeAddress)
+{
+    EXPECT_TRUE(CallSignPage("N0CALL").ends_with("/detail/N0CALL"));
+    EXPECT_TRUE(CallSignPage("N0CALL-9-1").ends_with("/detail/N0CALL"));
+    EXPECT_TRUE(CallSignPage("A/../?q=\"<b>\xC3\xA9").ends_with("/detail/A%2F..%2F%3Fq%3D%22%3Cb%3E%C3%A9"));
+
+    Program program;
+    program.Position(Channel::RF, "N0CALL-9", 40, -80);
+    program.Select("RFPositionsN0CALL-9");
+    RunMenuEntry(program.main, MenuEntry::mnuInfo);
+    ASSERT_EQ(program.desktop.pages, Texts{CallSignPage("N0CALL")});
+    EXPECT_TRUE(program.desktop.pages[0].starts_with("https://"));
+    EXPECT_EQ(program.main.window.rightView, RightView::Web);
+    EXPECT_TRUE(IsBrowserPage(program.main.window.webAddress));
+    EXPECT_NE(BrowserNotice(program.main.window.webAddress).find("href=\"https://"), std::string::npos);
+    EXPECT_EQ(BrowserNotice("https://\"><script>").find("<script>"), std::string::npos);
+}
+
+} // namespace
+} // namespace ruvenmark
