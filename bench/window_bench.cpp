@@ -1,0 +1,172 @@
+// The program in its window, measured as its operator meets it: start to first paint, a file replay with the window
+// shown, a tree of 100,000 stations, and what an idle window costs. Runs without a screen unless QT_QPA_PLATFORM says
+// otherwise.
+
+#include "core/bare_dialogs.h"
+#include "core/lifecycle.h"
+#include "core/main_window.h"
+#include "desktop/call_search.h"
+#include "desktop/data_path.h"
+#include "desktop/icons/icon_set.h"
+#include "desktop/main_window_view.h"
+#include "desktop/map/base_map.h"
+#include "desktop/map/map_widget.h"
+#include "desktop/qt_services.h"
+#include "desktop/tree_view.h"
+#include "devices/report_sources.h"
+#include "packet_text.h"
+#include "platform/files.h"
+#include "platform/headless.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <cstdio>
+#include <ctime>
+#include <iostream>
+#include <random>
+#include <string>
+
+namespace {
+
+using namespace ruvenmark;
+
+double CpuSeconds()
+{
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+struct Program {
+    Program() : baseMap(BaseMap::Open(DataPath(QStringLiteral("basemap/world.rvm"))))
+    {
+        store.Set("Region", "1");
+        store.Set("MainWidth", "19200"); // 1280 x 800 pixels.
+        store.Set("MainHeight", "12000");
+        store.Set("WindowSplit", "3600");
+    }
+
+    MemorySettingsStore store;
+    PosixFiles files;
+    SystemClock clock;
+    SilentSound sound;
+    SystemSleep sleep;
+    QtYield yield;
+    HeadlessPrompts prompts{std::cerr};
+    BareDialogs dialogs;
+    BareDesktop desktop;
+    ReportSources sources;
+    IconSet icons;
+    BaseMap baseMap;
+    MainWindow main{Services{store, files, clock, sound, sleep, yield, prompts, dialogs, desktop, sources, "/tmp"}};
+    MainWindowView window{main, icons, &baseMap};
+};
+
+// "KAAAA" and on: as many as the letters give.
+std::string CallOf(int station)
+{
+    std::string call = "K";
+    for (int i = 0; i < 4; ++i, station /= 26)
+        call += static_cast<char>('A' + station % 26);
+    return call;
+}
+
+// Moving stations over North America, one position report a line.
+std::string MakeFile(const QTemporaryDir& folder, int lines, int stations)
+{
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> lat(26, 50), lon(-122, -70);
+    std::string text;
+    for (int i = 0; i < lines; ++i) {
+        const int station = i % stations;
+        text += CallOf(station) + ">APRS,WIDE1-1:!" + packet_text::PlainPosition({lat(random), lon(random)}, "/>") +
+                packet_text::CourseSpeed({1 + i % 360, i % 80}) + "line\r\n";
+    }
+    const std::string path = folder.filePath(QString::number(lines)).toStdString();
+    PosixFiles().WriteText(text, path);
+    return path;
+}
+
+void MeasureReplay(Program& program, const QTemporaryDir& folder, int lines, int stations, bool bExpanded)
+{
+    const std::string path = MakeFile(folder, lines, stations);
+    if (bExpanded) {
+        for (const char* key : {"FL", "FLPositions"})
+            program.window.ShowInTree(*program.main.tvStationList.Find(key));
+    }
+    const int paintsBefore = program.window.Map().Paints();
+    const double cpuBefore = CpuSeconds();
+    QElapsedTimer timer;
+    timer.start();
+    program.window.LoadFile(path);
+    const auto replay = timer.elapsed();
+    std::printf("replay %d lines, %d stations%s: %lld ms (%.0f ms of CPU), %d paints of the map\n", lines, stations,
+                bExpanded ? ", folder open" : "", static_cast<long long>(replay), (CpuSeconds() - cpuBefore) * 1000,
+                program.window.Map().Paints() - paintsBefore);
+}
+
+void MeasureTree(Program& program)
+{
+    TreeView& tree = program.window.StationTree();
+    QElapsedTimer timer;
+    timer.start();
+    for (const char* key : {"FL", "FLPositions"})
+        program.window.ShowInTree(*program.main.tvStationList.Find(key));
+    tree.repaint();
+    std::printf("tree of %zu nodes: expand and paint %lld ms", program.main.tvStationList.NodeCount(),
+                static_cast<long long>(timer.restart()));
+    constexpr int kSteps = 50;
+    for (int step = 0; step < kSteps; ++step) {
+        tree.verticalScrollBar()->setValue(tree.verticalScrollBar()->maximum() * step / kSteps);
+        tree.repaint();
+    }
+    std::printf(", scroll %.1f ms a step", static_cast<double>(timer.restart()) / kSteps);
+    FindByFirstLetters(program.main.tvStationList, "NOSUCHCALL", program.main.tvStationList.Selected(), true);
+    std::printf(", search in vain %.1f ms\n", static_cast<double>(timer.nsecsElapsed()) / 1e6);
+}
+
+void RunFor(int milliseconds)
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+void MeasureIdle()
+{
+    constexpr int kSettleMs = 1000, kMs = 3000;
+    RunFor(kSettleMs);
+    const double before = CpuSeconds();
+    RunFor(kMs);
+    std::printf("idle: %.2f %% of a core\n", (CpuSeconds() - before) * 1e5 / kMs);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    const double cpuAtStart = CpuSeconds();
+    const QApplication application(argc, argv);
+    Program program;
+    StartMainWindow(program.main);
+    while (program.window.Map().Paints() == 0)
+        QCoreApplication::processEvents();
+    std::printf("start to first paint: %lld ms (%.0f ms of CPU)\n", static_cast<long long>(sinceStart.elapsed()),
+                (CpuSeconds() - cpuAtStart) * 1000);
+    MeasureIdle();
+    const QTemporaryDir folder;
+    MeasureReplay(program, folder, 100000, 10000, false);
+    MeasureReplay(program, folder, 100000, 10000, true);
+    MeasureReplay(program, folder, 100001, 100000, true);
+    MeasureTree(program);
+    MeasureIdle();
+    return 0;
+}

@@ -1,0 +1,61 @@
+#include "desktop/action_icons.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ruvenmark {
+
+namespace {
+
+using E = MenuEntry;
+
+struct ActionIcon {
+    MenuEntry entry;
+    const char* name;
+};
+constexpr std::array kIcons = {
+    ActionIcon{E::mnuFileNew, "new"},
+    ActionIcon{E::mnuFileOpen, "open"},
+    ActionIcon{E::mnuFileSave, "save"},
+    ActionIcon{E::mnuImportStations, "load-stations"},
+    ActionIcon{E::mnuLoadStations, "load-stations"},
+    ActionIcon{E::mnuFilePrint, "print"},
+    ActionIcon{E::mnuFileClose, "close"},
+    ActionIcon{E::mnuEditCut, "cut"},
+    ActionIcon{E::mnuEditCopy, "copy"},
+    ActionIcon{E::mnuEditPaste, "paste"},
+    ActionIcon{E::mnuEditDelete, "delete"},
+    ActionIcon{E::mnuCopyMap, "copy-map"},
+    ActionIcon{E::mnuFind, "find"},
+    ActionIcon{E::mnuTreeView, "view-left"},
+    ActionIcon{E::mnuViewMap, "view-map"},
+    ActionIcon{E::mnuToolsFilter, "filter"},
+    ActionIcon{E::mnuPopupEditFilter, "filter"},
+    ActionIcon{E::mnuTrackedStations, "track"},
+    ActionIcon{E::mnuToolsShowTrackLine, "track"},
+    ActionIcon{E::mnuStartTrack, "track"},
+    ActionIcon{E::mnuHideAllRangeCircles, "circle"},
+    ActionIcon{E::mnuShowRange, "circle"},
+    ActionIcon{E::mnuDirections, "directions"},
+    ActionIcon{E::mnuRuvenmarkHelp, "help"},
+    ActionIcon{E::mnuHelpAbout, "info"},
+    ActionIcon{E::mnuInfo, "info"},
+    ActionIcon{E::mnuViewPosition, "crosshair"},
+    ActionIcon{E::mnuViewMyPosition, "crosshair"},
+    ActionIcon{E::mnuRemoveStation, "delete"},
+    ActionIcon{E::mnuClearReports, "delete"},
+    ActionIcon{E::mnuClearAllReports, "delete"},
+    ActionIcon{E::mnuTcpSort, "sort"},
+    ActionIcon{E::mnuRemoveAllTracks, "delete"},
+};
+
+} // namespace
+
+QString ActionIconName(MenuEntry entry)
+{
+    const auto* found =
+        std::find_if(kIcons.begin(), kIcons.end(), [&](const auto& icon) { return icon.entry == entry; });
+    return found == kIcons.end() ? QString() : QString::fromLatin1(found->name);
+}
+
+} // namespace ruvenmark

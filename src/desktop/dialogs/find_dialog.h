@@ -1,0 +1,38 @@
+#pragma once
+
+#include "map/find.h"
+
+#include <QDialog>
+
+#include <vector>
+
+class QLineEdit;
+class QListWidget;
+
+namespace ruvenmark {
+
+struct MainWindow;
+
+// Finds stations, markers and places while the operator types; Enter goes to the one that is chosen.
+class FindDialog final : public QDialog {
+public:
+    FindDialog(MainWindow& main, const IPlaceSearch& places, QWidget* parent);
+
+    // Ready for another text; the former one stays until it is typed over.
+    void Prepare();
+    void accept() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void Search();
+
+    MainWindow& m_main;
+    const IPlaceSearch& m_places;
+    QLineEdit* m_text;
+    QListWidget* m_list;
+    std::vector<FoundPlace> m_found; // By row of the list.
+};
+
+} // namespace ruvenmark

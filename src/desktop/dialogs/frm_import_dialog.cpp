@@ -1,0 +1,70 @@
+#include "desktop/dialogs/frm_import_dialog.h"
+
+#include "desktop/bind.h"
+#include "desktop/dialogs/dialog_parts.h"
+#include "desktop/dialogs/field_check.h"
+#include "links/link_forms.h"
+#include "links/station_files.h"
+#include "platform/services.h"
+
+#include <QFormLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace ruvenmark {
+
+FrmImportDialog::FrmImportDialog(ImportForm& form, IPrompts& prompts, QWidget* parent)
+    : QDialog(parent), m_form(form), m_prompts(prompts), m_delay(new QLineEdit(this))
+{
+    frmImport_Load(form);
+    setWindowTitle(QStringLiteral("Load"));
+    auto* add = new QCheckBox(QStringLiteral("Create &map symbol for each report"), this);
+    auto* show = new QCheckBox(QStringLiteral("&Show map symbol names"), this);
+    const DialogButtons buttons = MakeDialogButtons(*this, QStringLiteral("&Load"));
+    const QString delayLabel = QStringLiteral("&Delay in milliseconds");
+    NameControl(*m_delay, "txtDelay", delayLabel);
+    NameControl(*add, "chkAdd", add->text());
+    NameControl(*show, "chkShow", show->text());
+
+    auto* fields = new QFormLayout;
+    fields->addRow(delayLabel, m_delay);
+    auto* layout = new QVBoxLayout(this);
+    layout->addLayout(fields);
+    layout->addWidget(add);
+    layout->addWidget(show);
+    layout->addLayout(buttons.row);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+
+    Bind(*m_delay, form.txtDelay);
+    Bind(*add, form.chkAdd);
+    Bind(*show, form.chkShow);
+    m_delay->selectAll();
+    new FieldCheck(*m_delay, *buttons.cancel, [this] { return MayLeaveDelay(); });
+}
+
+void FrmImportDialog::accept()
+{
+    if (!MayLeaveDelay()) {
+        m_delay->setFocus();
+        m_delay->selectAll();
+        return;
+    }
+    frmImport_Accept(m_form);
+    QDialog::accept();
+}
+
+void FrmImportDialog::reject()
+{
+    frmImport_Cancel(m_form);
+    QDialog::reject();
+}
+
+bool FrmImportDialog::MayLeaveDelay()
+{
+    const std::string message = frmImport_txtDelay_LostFocus(m_form);
+    if (!message.empty())
+        m_prompts.Message(message);
+    return message.empty();
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,112 @@
+#include "desktop/dialogs/frm_track_list_dialog.h"
+
+#include "core/main_window.h"
+#include "desktop/bind.h"
+#include "desktop/dialogs/dialog_parts.h"
+#include "tracking/track_list_form_rules.h"
+
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <array>
+#include <span>
+
+namespace ruvenmark {
+
+namespace {
+
+QComboBox* MakeList(QWidget* parent, const char* name, const QString& label, std::span<const std::string_view> entries,
+                    std::int32_t& field)
+{
+    auto* list = new QComboBox(parent);
+    NameControl(*list, name, label);
+    for (const std::string_view entry : entries)
+        list->addItem(ForDisplay(entry));
+    Bind(*list, field);
+    return list;
+}
+
+QCheckBox* MakeBox(QWidget* parent, const char* name, const QString& text, bool& field)
+{
+    auto* box = new QCheckBox(text, parent);
+    NameControl(*box, name, text);
+    Bind(*box, field);
+    return box;
+}
+
+} // namespace
+
+FrmTrackListDialog::FrmTrackListDialog(MainWindow& main, QWidget* parent) : QDialog(parent), m_main(main)
+{
+    setWindowTitle(QStringLiteral("Track List"));
+    auto* layout = new QVBoxLayout(this);
+    AddLists(*layout);
+    AddLineFields(*layout);
+    AddSoundFields(*layout);
+    layout->addStretch();
+    layout->addLayout(MakeDialogButtons(*this, QStringLiteral("Trac&k")).row);
+    resize(480, sizeHint().height());
+}
+
+void FrmTrackListDialog::accept()
+{
+    frmTrackList_Track(m_main);
+    QDialog::accept();
+}
+
+void FrmTrackListDialog::AddLists(QVBoxLayout& layout)
+{
+    constexpr std::array<const char*, 3> kNames = {"txtRfTrackList", "txtTcpTrackList", "txtFlTrackList"};
+    constexpr std::array<const char*, 3> kMnemonics = {"R", "T", "file"};
+    for (std::size_t i = 0; i < kNames.size(); ++i) {
+        QString text = ForDisplay(kTrackListLabels[i]);
+        const QString letter = QString::fromLatin1(kMnemonics[i]);
+        text.insert(text.indexOf(letter), QLatin1Char('&'));
+        auto* edit = new QLineEdit(this);
+        NameControl(*edit, kNames[i], text);
+        Bind(*edit, m_main.frmTrackList.txtTrackList[i]);
+        auto* label = new QLabel(text, this);
+        label->setBuddy(edit);
+        layout.addWidget(label);
+        layout.addWidget(edit);
+    }
+}
+
+void FrmTrackListDialog::AddLineFields(QVBoxLayout& layout)
+{
+    TrackListForm& form = m_main.frmTrackList;
+    layout.addWidget(MakeBox(this, "chkTrackStation", QStringLiteral("&Shift map"), form.chkTrackStation));
+    layout.addWidget(MakeBox(this, "chkTrackLine", QStringLiteral("Show track &lines"), form.chkTrackLine));
+    auto* fields = new QFormLayout;
+    const QString size = QStringLiteral("Track line si&ze");
+    const QString style = QStringLiteral("Track line st&yle");
+    fields->addRow(size, MakeList(this, "cboTLSize", size, kTrackLineSizes, form.cboTLSize));
+    fields->addRow(style, MakeList(this, "cboTLStyle", style, kTrackLineStyles, form.cboTLStyle));
+    layout.addLayout(fields);
+}
+
+void FrmTrackListDialog::AddSoundFields(QVBoxLayout& layout)
+{
+    TrackListForm& form = m_main.frmTrackList;
+    const QString text = QStringLiteral("&Play wave file for incoming reports");
+    layout.addWidget(MakeBox(this, "chkPlayWave", text, form.chkPlayWave));
+    auto* file = new QLineEdit(this);
+    NameControl(*file, "txtTrackWaveFile", QStringLiteral("Wave file"));
+    Bind(*file, form.txtTrackWaveFile);
+    auto* browse = new QPushButton(QStringLiteral("&Browse"), this);
+    NameControl(*browse, "cmdBrowse", QStringLiteral("Browse for a wave file"));
+    browse->setAutoDefault(false);
+    connect(browse, &QPushButton::clicked, this, [this, file] {
+        frmTrackList_Browse(m_main);
+        file->setText(ForDisplay(m_main.frmTrackList.txtTrackWaveFile));
+    });
+    auto* row = new QHBoxLayout;
+    row->addWidget(file);
+    row->addWidget(browse);
+    layout.addLayout(row);
+}
+
+} // namespace ruvenmark

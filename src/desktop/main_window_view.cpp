@@ -1,0 +1,304 @@
+#include "desktop/main_window_view.h"
+
+#include "core/lifecycle.h"
+#include "core/main_window.h"
+#include "desktop/help_view.h"
+#include "desktop/icons/icon_set.h"
+#include "desktop/main_tool_bar.h"
+#include "desktop/map/map_widget.h"
+#include "desktop/map_pane.h"
+#include "desktop/panes.h"
+#include "desktop/shown_text.h"
+#include "desktop/status_bar_view.h"
+#include "desktop/tile_choice.h"
+#include "desktop/tree_model.h"
+#include "desktop/tree_view.h"
+#include "links/station_files.h"
+#include "map/pointer_tools.h"
+#include "ui/layout.h"
+#include "ui/station_tree_commands.h"
+
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QFile>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QUrl>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr int kStateIntervalMs = 100;
+constexpr int kPointerIntervalMs = 40;
+
+// The one local file that a drag holds; empty for any other drag.
+QString DraggedFile(const QMimeData& data)
+{
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 && urls.constFirst().isLocalFile() ? urls.constFirst().toLocalFile() : QString();
+}
+
+} // namespace
+
+MainWindowView::MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* base)
+    : m_main(main), m_icons(icons), m_menus(main, icons, [this](MenuEntry entry) { Run(entry); }),
+      m_treeModel(new TreeModel(main.tvStationList, icons, this)),
+      m_tree(new TreeView(main.tvStationList, *m_treeModel, this)),
+      m_toolBar(new MainToolBar(
+          main, icons, [this](MenuEntry entry) { Run(entry); }, this)),
+      m_statusBar(new StatusBarView(main.sbStatusBar, this)), m_right(new QStackedWidget(this)),
+      m_panes(new Panes(main, this))
+{
+    setWindowIcon(icons.Program());
+    setMinimumWidth(PixelsOfTwips(kMinWindowWidth));
+    setAcceptDrops(true);
+    m_tree->setObjectName(QStringLiteral("tvStationList"));
+    m_tree->setAccessibleName(QStringLiteral("Stations"));
+    MakeRightPane(base);
+    m_menus.Fill(*menuBar());
+    m_panes->SetControls({m_toolBar, m_tree, m_right, m_statusBar});
+    setCentralWidget(m_panes);
+    ConnectMap();
+    ConnectTree();
+    m_stateTimer.setSingleShot(true);
+    m_stateTimer.setInterval(kStateIntervalMs);
+    connect(&m_stateTimer, &QTimer::timeout, this, &MainWindowView::RefreshStates);
+    m_pointerTimer.setSingleShot(true);
+    m_pointerTimer.setInterval(kPointerIntervalMs);
+    connect(&m_pointerTimer, &QTimer::timeout, this,
+            [this] { m_toolBar->ShowCoordinates(ForDisplay(m_main.sbStatusBar.Coordinates())); });
+    Observe();
+    RefreshIcons();
+    RefreshStates();
+    ShowState();
+}
+
+MainWindowView::~MainWindowView() = default;
+
+void MainWindowView::MakeRightPane(const BaseMap* base)
+{
+    m_map = new MapWidget(m_main.mpCtrl, m_icons, base, this);
+    m_map->setObjectName(QStringLiteral("mpCtrl"));
+    m_map->setAccessibleName(QStringLiteral("Map"));
+    m_mapPane = new MapPane(
+        m_main, m_icons, [this](MenuEntry entry) { Run(entry); }, *m_map, m_right);
+    m_help = new HelpView(m_main.services.desktop, m_right);
+    m_right->addWidget(m_mapPane);
+    m_right->addWidget(m_help);
+}
+
+void MainWindowView::ConnectMap()
+{
+    connect(m_map, &MapWidget::PointerMoved, this, [this](int x, int y) { mpCtrl_MouseMove(m_main, x, y); });
+    connect(m_map, &MapWidget::Clicked, this, [this](Qt::MouseButton button, int x, int y) {
+        if (button == Qt::LeftButton)
+            mpCtrl_Click(m_main, x, y);
+    });
+    connect(m_map, &MapWidget::SelectionChanged, this, [this] { SelectOnMap(m_main, m_map->Selection()); });
+}
+
+void MainWindowView::ConnectTree()
+{
+    connect(m_tree, &TreeView::MenuWanted, this,
+            [this](TreeNode* node, QPoint place) { PopUp(place, kRightButton, node); });
+    connect(m_tree, &TreeView::NodeExpanded, this, [this](TreeNode* node) { tvStationList_Expand(m_main, *node); });
+}
+
+void MainWindowView::Observe()
+{
+    const auto refreshLater = [this] {
+        if (!m_stateTimer.isActive())
+            m_stateTimer.start();
+    };
+    m_subscriptions = {
+        m_main.window.Changed.Observe([this, refreshLater] {
+            ShowState();
+            refreshLater();
+        }),
+        m_main.window.CloseWanted.Observe([this] { close(); }),
+        m_main.mpCtrl.Replaced.Observe(refreshLater),
+        m_main.mpCtrl.ControlChanged.Observe(refreshLater),
+        m_main.sbStatusBar.Changed.Observe([this] {
+            if (!m_pointerTimer.isActive())
+                m_pointerTimer.start();
+        }),
+        m_main.map.DirectionsChanged.Observe(refreshLater),
+        m_main.map.TilesChanged.Observe([this] { ShowTiles(); }),
+        m_main.map.SelectionChanged.Observe([this, refreshLater] {
+            m_map->SetSelection(m_main.map.Selection);
+            refreshLater();
+        }),
+    };
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, refreshLater);
+}
+
+void MainWindowView::ShowState()
+{
+    const WindowState& window = m_main.window;
+    setWindowTitle(window.caption.empty() ? QStringLiteral("Ruvenmark") : ForDisplay(window.caption));
+    if (window.rightView == RightView::Web)
+        m_help->Show(window.webAddress);
+    m_right->setCurrentWidget(window.rightView == RightView::Web ? static_cast<QWidget*>(m_help) : m_mapPane);
+    m_right->setFocusProxy(m_right->currentWidget());
+    if (!m_bPlaced && window.bGeometryLoaded)
+        ShowAtLastPlace();
+    if (m_bPlaced && window.bFullScreen != isFullScreen())
+        ShowFullScreen();
+    m_panes->ApplyLayout();
+}
+
+void MainWindowView::ShowFullScreen()
+{
+    setWindowState(windowState().setFlag(Qt::WindowFullScreen, m_main.window.bFullScreen));
+}
+
+void MainWindowView::RefreshStates()
+{
+    m_toolBar->RefreshStates();
+    m_mapPane->RefreshStates();
+}
+
+void MainWindowView::RefreshIcons()
+{
+    m_menus.RefreshIcons(palette());
+    m_toolBar->RefreshIcons();
+    m_mapPane->RefreshIcons();
+}
+
+void MainWindowView::ShowTiles()
+{
+    Attempt(m_main.abandoned, "Tiles", [this] { m_map->Tiles().Choose(TileChoiceOf(m_main.map.tiles)); });
+}
+
+void MainWindowView::PopUp(QPoint place, int button, TreeNode* node)
+{
+    const auto popup = tvStationList_MouseUp(m_main, button, node);
+    if (!popup)
+        return;
+    QMenu* menu = m_menus.MakePopup(popup->items, m_tree);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    menu->popup(place);
+}
+
+// Where the window stood the last time; at a comfortable size where the store knows of none.
+void MainWindowView::ShowAtLastPlace()
+{
+    constexpr QSize kFirstSize(1200, 800);
+    constexpr int kFirstLeftPane = 240;
+    WindowState& window = m_main.window;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QSize size(PixelsOfTwips(AllowedWindowWidth(window.width)), PixelsOfTwips(window.height));
+    const bool bFirstStart = m_main.services.store.Get("MainWidth", "").empty();
+    QRect place(QPoint(PixelsOfTwips(window.left), PixelsOfTwips(window.top)),
+                (bFirstStart ? kFirstSize : size).boundedTo(screen.size()));
+    // A screen that is gone must not take the window with it.
+    if (bFirstStart)
+        window.splitterLeft = TwipsOfPixels(kFirstLeftPane);
+    if (bFirstStart || !QGuiApplication::screenAt(place.center()))
+        place.moveCenter(screen.center());
+    m_bPlaced = true;
+    move(place.topLeft());
+    resize(place.size());
+    show();
+}
+
+void MainWindowView::ShowInTree(const TreeNode& node)
+{
+    m_treeModel->Flush();
+    m_tree->expand(m_treeModel->IndexOf(&node));
+}
+
+void MainWindowView::Run(MenuEntry entry)
+{
+    ++m_running;
+    RunMenuEntry(m_main, entry);
+    --m_running;
+    AfterCommand();
+}
+
+void MainWindowView::LoadFile(const std::string& path)
+{
+    if (m_main.FileLoading)
+        return;
+    ++m_running;
+    LoadStationFile(m_main, path);
+    --m_running;
+    AfterCommand();
+}
+
+void MainWindowView::AfterCommand()
+{
+    m_stateTimer.start();
+    if (m_bCloseWanted && m_running == 0)
+        close();
+}
+
+void MainWindowView::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && m_mapPane)
+        RefreshIcons();
+    if (event->type() == QEvent::WindowStateChange) {
+        m_main.window.bFullScreen = isFullScreen();
+        KeepPlace();
+    }
+}
+
+// A load stands on the stack below: it is stopped, and the window closes when it is gone.
+void MainWindowView::closeEvent(QCloseEvent* event)
+{
+    if (m_main.FileLoading) {
+        m_main.FileLoading = false;
+        m_bCloseWanted = true;
+        event->ignore();
+        return;
+    }
+    m_bCloseWanted = false;
+    event->setAccepted(StopMainWindow(m_main));
+    if (event->isAccepted())
+        QCoreApplication::exit(0);
+}
+
+void MainWindowView::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (!m_main.FileLoading && !DraggedFile(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindowView::dropEvent(QDropEvent* event)
+{
+    const QString file = DraggedFile(*event->mimeData());
+    event->acceptProposedAction();
+    // The program that the file was dragged from must not wait for the load.
+    QTimer::singleShot(0, this, [this, path = QFile::encodeName(file).toStdString()] { LoadFile(path); });
+}
+
+void MainWindowView::moveEvent(QMoveEvent* event)
+{
+    QMainWindow::moveEvent(event);
+    KeepPlace();
+}
+
+void MainWindowView::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    KeepPlace();
+}
+
+void MainWindowView::KeepPlace()
+{
+    if (!m_bPlaced)
+        return;
+    const bool bOrdinary = !isMaximized() && !isFullScreen() && !isMinimized();
+    const QRect place = bOrdinary ? QRect(pos(), size()) : normalGeometry();
+    if (place.isValid())
+        KeepGeometry(m_main, TwipsOfPixels(place.left()), TwipsOfPixels(place.top()), TwipsOfPixels(place.width()),
+                     TwipsOfPixels(place.height()), isMinimized());
+}
+
+} // namespace ruvenmark

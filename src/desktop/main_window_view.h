@@ -1,0 +1,87 @@
+#pragma once
+
+#include "desktop/menu_binder.h"
+#include "platform/event.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+#include <string>
+#include <vector>
+
+class QStackedWidget;
+
+namespace ruvenmark {
+
+class BaseMap;
+class HelpView;
+class IconSet;
+class MainToolBar;
+class MapPane;
+class MapWidget;
+class Panes;
+class StatusBarView;
+class TreeModel;
+class TreeNode;
+class TreeView;
+struct MainWindow;
+
+// The program's window over the state of the logic: it shows what stands there and passes on what the operator does.
+class MainWindowView final : public QMainWindow {
+public:
+    // What is lent must outlive the window; base may be null.
+    MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* base);
+    ~MainWindowView() override;
+
+    MapWidget& Map() { return *m_map; }
+    TreeView& StationTree() { return *m_tree; }
+    // Expanded, and all above it.
+    void ShowInTree(const TreeNode& node);
+
+    // Runs a command of the menus. A load runs inside it.
+    void Run(MenuEntry entry);
+    void LoadFile(const std::string& path);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void MakeRightPane(const BaseMap* base);
+    void ConnectMap();
+    void ConnectTree();
+    void Observe();
+    void ShowState();
+    void ShowAtLastPlace();
+    void ShowFullScreen();
+    void RefreshStates();
+    void RefreshIcons();
+    void ShowTiles();
+    void PopUp(QPoint place, int button, TreeNode* node);
+    void KeepPlace();
+    void AfterCommand();
+
+    MainWindow& m_main;
+    IconSet& m_icons;
+    MenuBinder m_menus;
+    TreeModel* m_treeModel;
+    TreeView* m_tree;
+    MainToolBar* m_toolBar;
+    StatusBarView* m_statusBar;
+    QStackedWidget* m_right;
+    MapWidget* m_map = nullptr;
+    MapPane* m_mapPane = nullptr;
+    HelpView* m_help = nullptr;
+    Panes* m_panes;
+    QTimer m_stateTimer, m_pointerTimer;
+    int m_running = 0;           // Commands on the stack: a load lets others in.
+    bool m_bCloseWanted = false; // As soon as the load has ended.
+    bool m_bPlaced = false;      // Shown for the first time.
+    std::vector<Subscription> m_subscriptions;
+};
+
+} // namespace ruvenmark

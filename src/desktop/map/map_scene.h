@@ -1,0 +1,72 @@
+#pragma once
+
+#include "desktop/map/balloon.h"
+#include "desktop/map/marker_layout.h"
+#include "desktop/map/shape_layout.h"
+#include "desktop/map/station_labels.h"
+#include "map/selection.h"
+
+#include <QFont>
+#include <QPalette>
+
+#include <cstdint>
+#include <optional>
+
+class QPainter;
+
+namespace ruvenmark {
+
+class IconSet;
+class MapGround;
+
+// How a scene is painted this time.
+struct ScenePaint {
+    MapSelection selection;
+    std::optional<SlotRef> pinned;  // Whose balloon stands open.
+    std::optional<SlotRef> hovered; // Whose balloon shows because the pointer rests there.
+    QPalette palette;
+    QFont font;
+    qreal ratio = 1;      // Device pixels for one of the view.
+    bool bVector = false; // For a printer or a vector file: nothing as a picture that can be drawn.
+    bool bWait = false;   // The ground has to be whole: the picture is not painted again.
+};
+
+// All that is seen of a map in one view: the ground, shapes, markers, names, balloons, scale bar and credits.
+class MapScene {
+public:
+    MapScene(IconSet& icons, MapGround& ground) : m_icons(icons), m_ground(ground) {}
+
+    // Where everything goes; for hit tests too.
+    void Arrange(const Map& map, const MapView& view, const MapSelection& selection);
+    // Arranges, then paints from the painter's origin on.
+    void Paint(QPainter& painter, const Map& map, const MapView& view, const ScenePaint& how);
+
+    const MarkerLayout& Markers() const { return m_markers; }
+    const ShapeLayout& Shapes() const { return m_shapes; }
+    const StationLabels& Labels() const { return m_labels; } // As last painted.
+    // Of the pinned balloon, as last painted; empty while there is none.
+    QRectF PinnedRect() const { return m_pinnedRect; }
+    QRectF PinnedCloseRect() const { return m_pinnedClose; }
+
+    // Pinned: tells how to reach the others of a group. Still: on a picture that nobody can click on.
+    enum class BalloonKind : std::uint8_t { Hovered, Pinned, Still };
+    BalloonText TextOf(const Map& map, const MarkerItem& item, BalloonKind kind) const;
+
+private:
+    void PaintBalloon(QPainter& painter, const Map& map, SlotRef pin, const MapView& view, const MapLook& look,
+                      BalloonKind kind);
+
+    IconSet& m_icons;
+    MapGround& m_ground;
+    MarkerLayout m_markers;
+    ShapeLayout m_shapes;
+    StationLabels m_labels;
+    LabelGrid m_grid;
+    QRectF m_pinnedRect, m_pinnedClose;
+};
+
+// The slot of the selected marker or shape; nothing where another kind, or what is gone, is selected.
+std::optional<std::uint32_t> SelectedPin(const Map& map, const MapSelection& selection);
+std::optional<std::uint32_t> SelectedShape(const Map& map, const MapSelection& selection);
+
+} // namespace ruvenmark

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "desktop/map/base_map_style.h"
+#include "desktop/map/label_grid.h"
+#include "desktop/map/label_text.h"
+#include "desktop/map/view_frame.h"
+
+#include <QRectF>
+#include <QString>
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+class QPainter;
+
+namespace ruvenmark {
+
+// The names of countries, states, waters and places: as many as fit, the weightiest first, each whole or not at all.
+class PlaceLabels {
+public:
+    struct How {
+        MapStyle style = MapStyle::Road;
+        bool dark = false;
+        std::int32_t mapFont = 2; // 0 largest to 4 smallest.
+        double ratio = 1;         // Device pixels for one of the view.
+        bool asVector = false;    // For printers: letters instead of kept pictures.
+    };
+    struct Placed {
+        QString text;
+        QRectF rect;
+    };
+
+    explicit PlaceLabels(const BaseMap& map); // The map must outlive this.
+
+    // From the painter's origin on, where the grid is free; takes the places in the grid.
+    void Paint(QPainter& painter, const ViewFrame& frame, LabelGrid& grid, const How& how);
+    const std::vector<Placed>& LastPlaced() const { return m_placed; }
+
+private:
+    enum Face { Ocean, Sea, Lake, Country, BigCountry, State, BigCity, City, Town, FaceCount };
+    struct Spot; // A place that would like its name shown.
+
+    void SetFaces(const How& how);
+    void PlaceWaters(int firstRank, int lastRank);
+    void PlaceCountries();
+    void PlaceStates();
+    void PlaceCities(double leastWeight, double belowWeight);
+    std::vector<Spot> CitiesIn(double leastWeight) const;
+    void PlaceArea(Face face, const QString& text, const AreaLabel& area);
+    Face FaceOf(const PlaceRecord& place, double weight) const;
+    void PlaceCity(const Spot& spot);
+    bool IsInView(QPointF at) const;
+    bool IsInView(const AreaLabel& area) const;
+
+    const BaseMap& m_map;
+    std::vector<std::uint32_t> m_capitals, m_countryOrder, m_stateOrder; // Areas: the largest first.
+    LabelText m_text;
+    std::array<LabelFace, FaceCount> m_faces;
+    std::vector<Placed> m_placed;
+
+    // Of the frame at hand.
+    QPainter* m_painter = nullptr;
+    LabelGrid* m_grid = nullptr;
+    const ViewFrame* m_frame = nullptr;
+    How m_how;
+};
+
+} // namespace ruvenmark

@@ -1,0 +1,51 @@
+#include "desktop/map/view_moves.h"
+
+#include "platform/map_model.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ruvenmark {
+
+double LeastZoom(int windowHeight)
+{
+    return std::clamp(std::log2(std::max(windowHeight, 1) / kTileSize), 1.0, kLargestZoom);
+}
+
+ViewTarget WithinWorld(ViewTarget target, QSize window)
+{
+    target.zoom = std::clamp(target.zoom, LeastZoom(window.height()), kLargestZoom);
+    const double half = std::min(0.5, window.height() / 2.0 / (kTileSize * std::exp2(target.zoom)));
+    target.centre.y = std::clamp(target.centre.y, half, 1 - half);
+    target.centre.x -= std::floor(target.centre.x);
+    return target;
+}
+
+ViewTarget Panned(const MapView& view, QPointF pixels)
+{
+    const MercatorPoint centre = ToMercator(view.centre);
+    const double world = view.WorldPixels();
+    return {{centre.x + pixels.x() / world, centre.y + pixels.y() / world}, view.zoom};
+}
+
+ViewTarget ZoomedAbout(const MapView& view, QPointF point, double levels)
+{
+    const double zoom = std::clamp(view.zoom + levels, LeastZoom(view.height), kLargestZoom);
+    const QPointF away = point - QPointF(view.width, view.height) / 2;
+    const double share = 1 / view.WorldPixels() - 1 / (kTileSize * std::exp2(zoom));
+    const MercatorPoint centre = ToMercator(view.centre);
+    return {{centre.x + away.x() * share, centre.y + away.y() * share}, zoom};
+}
+
+ViewTarget RegionTarget(std::int32_t region, QSize window)
+{
+    const bool bEurope = region == kRegionEurope;
+    const GeoPoint northWest = bEurope ? GeoPoint{64, -13} : GeoPoint{56, -128};
+    const GeoPoint southEast = bEurope ? GeoPoint{35, 34} : GeoPoint{18, -63};
+    const MercatorPoint first = ToMercator(northWest), last = ToMercator(southEast);
+    const double across = std::max(window.width(), 1) / kTileSize / (last.x - first.x);
+    const double down = std::max(window.height(), 1) / kTileSize / (last.y - first.y);
+    return {{(first.x + last.x) / 2, (first.y + last.y) / 2}, std::log2(std::min(across, down))};
+}
+
+} // namespace ruvenmark

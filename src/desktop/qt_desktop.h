@@ -1,0 +1,39 @@
+#pragma once
+
+#include "core/desktop.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+
+class QPrinter;
+
+namespace ruvenmark {
+
+class MapWidget;
+
+// Clipboard, printer and browser of the desktop.
+class QtDesktop final : public IDesktop {
+public:
+    QtDesktop();
+    ~QtDesktop() override;
+    QtDesktop(const QtDesktop&) = delete;
+    QtDesktop& operator=(const QtDesktop&) = delete;
+
+    void SetWindow(QWidget* window, MapWidget* map);
+
+    std::string ClipboardText() override;
+    void SetClipboardText(std::string_view text) override;
+    void CopyMapPicture() override;
+    std::optional<PrintChoice> AskPrint(std::string_view title) override;
+    void PrintMap(const PrintChoice& choice) override;
+    bool OpenBrowser(std::string_view url) override;
+
+private:
+    QPointer<QWidget> m_window;
+    QPointer<MapWidget> m_map;
+    std::unique_ptr<QPrinter> m_printer; // As it was chosen the last time.
+};
+
+} // namespace ruvenmark

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/services.h"
+
+#include <QElapsedTimer>
+
+namespace ruvenmark {
+
+// Lets the user interface live during a long load, more than 20 times a second: a load that asks after each line does
+// not pay for a repaint after each line.
+class QtYield final : public IYield {
+public:
+    void ProcessPending() override;
+
+private:
+    QElapsedTimer m_sinceLast;
+};
+
+} // namespace ruvenmark

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/event.h"
+#include "platform/status_bar.h"
+
+#include <QElapsedTimer>
+#include <QStatusBar>
+#include <QTimer>
+
+#include <array>
+
+class QProgressBar;
+class QStackedWidget;
+
+namespace ruvenmark {
+
+class ElidedLabel;
+
+// The status bar's five panels; the packet line and the progress bar take one place. It also shows the wait pointer.
+class StatusBarView final : public QStatusBar {
+public:
+    explicit StatusBarView(StatusBar& model, QWidget* parent = nullptr);
+    ~StatusBarView() override;
+    StatusBarView(const StatusBarView&) = delete;
+    StatusBarView& operator=(const StatusBarView&) = delete;
+
+private:
+    void OnChanged();
+    void Refresh();
+    void ShowPointer(bool bWait);
+
+    StatusBar& m_model;
+    std::array<ElidedLabel*, 5> m_panels{};
+    QStackedWidget* m_place;
+    ElidedLabel* m_packet;
+    QProgressBar* m_progress;
+    QTimer m_refreshTimer;
+    QElapsedTimer m_sinceRepaint;
+    bool m_bWaitShown = false;
+    Subscription m_subscription;
+};
+
+} // namespace ruvenmark

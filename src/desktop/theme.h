@@ -1,0 +1,8 @@
+#pragma once
+
+namespace ruvenmark {
+
+// Dark colours whatever the system's theme is.
+void UseDarkColors();
+
+} // namespace ruvenmark

@@ -1,0 +1,276 @@
+#include "desktop/map/online_tiles.h"
+#include "desktop/map_widget/map_fixture.h"
+#include "desktop/map_widget/tile_server.h"
+#include "platform/failure.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QPainter>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QVariant>
+
+namespace ruvenmark {
+namespace {
+
+using namespace std::chrono_literals;
+using Kind = TileChoice::Kind;
+
+class OnlineTilesTest : public testing::Test {
+protected:
+    OnlineTiles::Options OptionsHere() { return {folder.filePath("cache"), cacheBytes, 1ms}; }
+    int FilesKept() const
+    {
+        int count = 0;
+        QDirIterator files(folder.filePath("cache"), QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            files.next();
+            ++count;
+        }
+        return count;
+    }
+    bool Arrives(OnlineTiles& tiles, TileId tile)
+    {
+        tiles.Want({tile});
+        return QTest::qWaitFor([&] { return tiles.Find(tile) != nullptr; });
+    }
+    void Write(const QString& name, const QByteArray& bytes)
+    {
+        QDir().mkpath(QFileInfo(folder.filePath(name)).path());
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    QTemporaryDir folder;
+    qint64 cacheBytes = TileCache::kDefaultBytes;
+    TileServer server;
+};
+
+TEST_F(OnlineTilesTest, AsksNothingBeforeItIsSwitchedOnAndNothingAfterwards)
+{
+    OnlineTiles tiles(OptionsHere());
+    tiles.Want({{1, 0, 0}});
+    tiles.Choose({Kind::Server, server.Template()});
+    ASSERT_TRUE(Arrives(tiles, {1, 1, 0}));
+    EXPECT_EQ(server.paths, QStringList{"/1/1/0.png"});
+    EXPECT_TRUE(server.lastRequest.contains("\r\nUser-Agent: Ruvenmark/1.0.0 (+desktop APRS client)\r\n"));
+    tiles.Choose({});
+    tiles.Want({{1, 0, 1}});
+    QTest::qWait(20);
+    EXPECT_EQ(server.paths.size(), 1);
+    EXPECT_EQ(tiles.Find({1, 1, 0}), nullptr);
+}
+
+TEST_F(OnlineTilesTest, TwoRequestsAtOnceAndOnlyForWhatIsStillWanted)
+{
+    OnlineTiles tiles(OptionsHere());
+    tiles.Choose({Kind::Server, server.Template()});
+    server.bHold = true;
+    tiles.Want({{3, 0, 0}, {3, 1, 0}, {3, 2, 0}, {3, 3, 0}});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.Waiting() == 2; }));
+    tiles.Want({{3, 7, 7}});
+    QTest::qWait(20);
+    EXPECT_EQ(server.Waiting(), 2);
+    server.bHold = false;
+    server.Release();
+    ASSERT_TRUE(Arrives(tiles, {3, 7, 7}));
+    EXPECT_EQ(server.mostAtOnce, 2);
+    EXPECT_EQ(server.paths.size(), 3);
+    EXPECT_EQ(server.paths.last(), "/3/7/7.png");
+}
+
+TEST_F(OnlineTilesTest, WhatWasFetchedIsKeptOnDiskUnlessTheServerForbidsIt)
+{
+    server.answer = [](const QString& path) {
+        const bool bSecret = path.startsWith("/5/");
+        return TileServer::Answer{200, PngTile("red"), "image/png",
+                                  bSecret ? "Cache-Control: no-store\r\n" : "Cache-Control: max-age=86400\r\n"};
+    };
+    {
+        OnlineTiles tiles(OptionsHere());
+        tiles.Choose({Kind::Server, server.Template()});
+        ASSERT_TRUE(Arrives(tiles, {4, 1, 2}));
+        ASSERT_TRUE(Arrives(tiles, {5, 1, 2}));
+    }
+    EXPECT_EQ(FilesKept(), 1);
+    OnlineTiles again(OptionsHere());
+    again.Choose({Kind::Server, server.Template()});
+    ASSERT_TRUE(Arrives(again, {4, 1, 2}));
+    EXPECT_EQ(server.paths.size(), 2) << "taken from disk";
+}
+
+TEST_F(OnlineTilesTest, StaleTilesAreShownAndFetchedAnew)
+{
+    const TileId tile{4, 1, 2};
+    TileCache(folder.filePath("cache"))
+        .Store(server.Template(), tile, PngTile("blue"), QDateTime::currentDateTime().addDays(-1));
+    OnlineTiles tiles(OptionsHere());
+    tiles.Choose({Kind::Server, server.Template()});
+    server.bHold = true;
+    ASSERT_TRUE(Arrives(tiles, tile));
+    EXPECT_EQ(tiles.Find(tile)->pixelColor(0, 0), QColor("blue"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.Waiting() == 1; }));
+    server.Release();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tiles.Find(tile)->pixelColor(0, 0) == QColor("red"); }));
+}
+
+TEST_F(OnlineTilesTest, ErrorsAndWhatIsNoPictureAreNeitherShownNorKept)
+{
+    const QByteArray huge = PngTile("red", 4000);
+    const std::vector<TileServer::Answer> answers{
+        {404, PngTile("red")},
+        {403, PngTile("red")},
+        {500, PngTile("red")},
+        {429, PngTile("red"), "image/png", "Retry-After: 0\r\n"},
+        {200, "<html>", "text/html"},
+        {200, PngTile("red"), "text/html"},
+        {200, "no picture at all"},
+        {200, huge},
+        {200, {}},
+    };
+    for (std::size_t i = 0; i < answers.size(); ++i) {
+        OnlineTiles tiles(OptionsHere());
+        tiles.Choose({Kind::Server, server.Template()});
+        server.paths.clear();
+        server.answer = [&](const QString& path) {
+            return path == "/6/0/0.png"
+                       ? answers[i]
+                       : TileServer::Answer{200, PngTile("green"), "image/png", "Cache-Control: no-store\r\n"};
+        };
+        tiles.Want({{6, 0, 0}});
+        ASSERT_TRUE(QTest::qWaitFor([&] { return server.paths.contains("/6/0/0.png"); }));
+        ASSERT_TRUE(Arrives(tiles, {6, 0, 2})) << i << ": no way on after it";
+        EXPECT_EQ(tiles.Find({6, 0, 0}), nullptr) << i;
+        EXPECT_EQ(FilesKept(), 0) << i;
+    }
+}
+
+TEST_F(OnlineTilesTest, AFailingServerIsAskedLessAndLessAndThenUsedAgain)
+{
+    OnlineTiles::Options options = OptionsHere();
+    options.firstPause = 15ms;
+    OnlineTiles tiles(options);
+    tiles.Choose({Kind::Server, server.Template()});
+    server.answer = [](const QString&) { return TileServer::Answer{503, {}}; };
+    tiles.Want({{6, 0, 0}});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return server.paths.size() == 3; })) << "asked again by itself";
+    server.answer = [](const QString&) { return TileServer::Answer{200, PngTile("red")}; };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tiles.Find({6, 0, 0}) != nullptr; }));
+    EXPECT_EQ(server.paths.size(), 4);
+}
+
+TEST_F(OnlineTilesTest, TheDiskCacheStaysBelowItsLimit)
+{
+    const QByteArray bytes(1000, 'x');
+    TileCache cache(folder.filePath("cache"), 5000);
+    const QDateTime now = QDateTime::currentDateTime();
+    for (int i = 0; i < 20; ++i)
+        cache.Store("source", {9, i, 0}, bytes, now.addSecs(1000 + i));
+    EXPECT_LE(FilesKept(), 5);
+    EXPECT_TRUE(cache.Load("source", {9, 19, 0}));
+    EXPECT_FALSE(cache.Load("source", {9, 0, 0})) << "what goes stale first goes first";
+    EXPECT_FALSE(cache.Load("other", {9, 19, 0}));
+}
+
+TEST(TileFreshness, FollowsTheServerWithinReason)
+{
+    EXPECT_EQ(FreshSeconds(""), 7 * 86400);
+    EXPECT_EQ(FreshSeconds("public, max-age=90000"), 90000);
+    EXPECT_EQ(FreshSeconds("max-age=0"), 3600);
+    EXPECT_EQ(FreshSeconds("max-age=99999999999"), 30 * 86400);
+    EXPECT_EQ(FreshSeconds("max-age=x"), 7 * 86400);
+    EXPECT_EQ(FreshSeconds("Max-Age=90000, No-Store"), std::nullopt);
+}
+
+TEST_F(OnlineTilesTest, AFolderOfTilesWorksOffline)
+{
+    Write("tiles/3/1/2.png", PngTile("green"));
+    Write("tiles/3/1/3.png", "broken");
+    OnlineTiles tiles(OptionsHere());
+    tiles.Choose({Kind::Folder, folder.filePath("tiles")});
+    EXPECT_EQ(tiles.MaxZoom(), 3);
+    tiles.Want({{3, 1, 3}, {3, 5, 5}});
+    ASSERT_TRUE(Arrives(tiles, {3, 1, 2}));
+    EXPECT_EQ(tiles.Find({3, 1, 2})->pixelColor(9, 9), QColor("green"));
+    EXPECT_EQ(tiles.Find({3, 1, 3}), nullptr);
+    EXPECT_TRUE(server.paths.isEmpty());
+}
+
+TEST_F(OnlineTilesTest, AnArchiveWorksOfflineAndTellsItsCredits)
+{
+    const QString path = folder.filePath("map.mbtiles");
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase("QSQLITE", "writer");
+        database.setDatabaseName(path);
+        ASSERT_TRUE(database.open());
+        QSqlQuery query(database);
+        query.exec("CREATE TABLE metadata (name text, value text)");
+        query.exec("CREATE TABLE tiles (zoom_level integer, tile_column integer, tile_row integer, tile_data blob)");
+        query.exec(
+            "INSERT INTO metadata VALUES ('format', 'png'), ('attribution', '<a href=\"x\">Some &amp; people</a>')");
+        query.prepare("INSERT INTO tiles VALUES (4, 3, 14, ?)"); // Row 1 from the north.
+        query.addBindValue(PngTile("yellow"));
+        ASSERT_TRUE(query.exec());
+    }
+    QSqlDatabase::removeDatabase("writer");
+    OnlineTiles tiles(OptionsHere());
+    tiles.Choose({Kind::Archive, path});
+    EXPECT_EQ(tiles.MaxZoom(), 4);
+    EXPECT_EQ(tiles.Attribution(), "Some & people");
+    ASSERT_TRUE(Arrives(tiles, {4, 3, 1}));
+    EXPECT_EQ(tiles.Find({4, 3, 1})->pixelColor(9, 9), QColor("yellow"));
+}
+
+TEST_F(OnlineTilesTest, WhatCannotBeUsedIsAFailureAndLeavesTheFormerChoice)
+{
+    Write("no.mbtiles", "this is no database");
+    Write("empty/readme.txt", "no tiles");
+    OnlineTiles tiles(OptionsHere());
+    tiles.Choose({Kind::Server, server.Template()});
+    for (const TileChoice& choice : std::initializer_list<TileChoice>{
+             {Kind::Server, "http://127.0.0.1/{z}/{x}.png"},
+             {Kind::Server, "file:///etc/{z}/{x}/{y}"},
+             {Kind::Folder, folder.filePath("empty")},
+             {Kind::Folder, folder.filePath("missing")},
+             {Kind::Archive, folder.filePath("no.mbtiles")},
+             {Kind::Archive, folder.filePath("missing.mbtiles")},
+         })
+        EXPECT_THROW(tiles.Choose(choice), Failure) << choice.where.toStdString();
+    EXPECT_EQ(tiles.Choice().where, server.Template());
+    EXPECT_FALSE(QFile::exists(folder.filePath("missing.mbtiles")));
+}
+
+class TilesOnMapTest : public MapFixture {};
+
+TEST_F(TilesOnMapTest, TilesCoverTheRoadStylesAndNoOthers)
+{
+    const QTemporaryDir folder;
+    for (int x = 0; x < 8; ++x) {
+        QDir().mkpath(folder.filePath(QStringLiteral("3/%1").arg(x)));
+        for (int y = 0; y < 8; ++y) {
+            QFile file(folder.filePath(QStringLiteral("3/%1/%2.png").arg(x).arg(y)));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(PngTile("magenta"));
+        }
+    }
+    TheMap().SetView({40, -90}, 4.3); // Beyond the folder's zoom, and between two.
+    widget.Tiles().Choose({Kind::Folder, folder.path()});
+    const auto magenta = [&] { return Painted().pixelColor(400, 200) == QColor("magenta"); };
+    ASSERT_TRUE(QTest::qWaitFor(magenta));
+    const QImage covered = Painted();
+    for (int y = 0; y < 500; ++y) {
+        for (int x = 0; x < 740; ++x)
+            ASSERT_EQ(covered.pixelColor(x, y), QColor("magenta")) << "a seam at " << x << ", " << y;
+    }
+    TheMap().SetMapStyle(2);
+    EXPECT_FALSE(magenta());
+    TheMap().SetMapStyle(1);
+    EXPECT_TRUE(magenta());
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,318 @@
+#include "desktop/map/map_widget.h"
+#include "desktop/qt_desktop.h"
+#include "desktop/qt_prompts.h"
+#include "desktop/wave_sound.h"
+#include "links/station_files.h"
+#include "map/find.h"
+#include "platform/failure.h"
+#include "tracking/filter_form_rules.h"
+#include "tracking/track_list_form_rules.h"
+#include "tracking/track_lists.h"
+#include "window_program.h"
+
+#include <QCheckBox>
+#include <QClipboard>
+#include <QComboBox>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
+
+namespace ruvenmark {
+namespace {
+
+class DialogsTest : public testing::Test {
+protected:
+    QPushButton& Button(QDialog& dialog, const char* name) { return program.Find<QPushButton>(name, &dialog); }
+    void Type(QDialog& dialog, const char* name, const char* text)
+    {
+        auto& edit = program.Find<QLineEdit>(name, &dialog);
+        edit.selectAll();
+        edit.del();
+        QTest::keyClicks(&edit, QString::fromLatin1(text));
+    }
+    QDialog& Modeless(const char* title)
+    {
+        for (auto* dialog : program.window.findChildren<QDialog*>()) {
+            if (dialog->isVisible() && dialog->windowTitle() == QLatin1String(title))
+                return *dialog;
+        }
+        throw std::logic_error("no such dialog");
+    }
+    QDialog& Filter()
+    {
+        mnuToolsFilter_Click(program.main);
+        QDialog& dialog = Modeless("Filter Settings");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        return dialog;
+    }
+
+    WindowProgram program;
+};
+
+// What one can reach with the keyboard says what it is.
+void ExpectAccessible(const QDialog& dialog)
+{
+    int count = 0;
+    for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+        const bool bPart = widget->objectName().startsWith(QLatin1String("qt_")) || widget->inherits("QTabBar");
+        if (bPart || !widget->isVisible() || !(widget->focusPolicy() & Qt::TabFocus))
+            continue;
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        EXPECT_FALSE(widget->accessibleName().isEmpty() && !(button && !button->text().isEmpty()))
+            << dialog.windowTitle().toStdString() << ": " << widget->metaObject()->className();
+        ++count;
+    }
+    EXPECT_GT(count, 0) << dialog.windowTitle().toStdString();
+}
+
+TEST_F(DialogsTest, ImportRefusesWhatIsNoDelayAndKeepsIt)
+{
+    program.main.frmImport.iFLDelay = -1;
+    program.main.frmImport.bFLShow = false;
+    WhenModal([&](QDialog& dialog) {
+        ExpectAccessible(dialog);
+        EXPECT_EQ(program.Find<QLineEdit>("txtDelay", &dialog).text(), QStringLiteral("0"));
+        EXPECT_FALSE(program.Find<QCheckBox>("chkShow", &dialog).isChecked());
+        for (const char* wrong : {"-5", "soon", "99999"}) {
+            Type(dialog, "txtDelay", wrong);
+            QTest::keyClick(&dialog, Qt::Key_Return);
+            EXPECT_TRUE(dialog.isVisible());
+            EXPECT_EQ(program.Find<QLineEdit>("txtDelay", &dialog).text(), QLatin1String(wrong));
+        }
+        Type(dialog, "txtDelay", "25");
+        program.Find<QCheckBox>("chkAdd", &dialog).click();
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    program.dialogs.RunImport(program.main);
+    EXPECT_EQ(program.prompts.messages, (std::vector<std::string>(3, "Enter a non negative number for delay!")));
+    EXPECT_EQ(program.main.frmImport.iFLDelay, 25);
+    EXPECT_FALSE(program.main.frmImport.bFLAdd);
+    EXPECT_FALSE(program.main.frmImport.bFLShow);
+}
+
+TEST_F(DialogsTest, ImportTellsOnLeavingTheFieldButNotOnTheWayToCancel)
+{
+    WhenModal([&](QDialog& dialog) {
+        auto& delay = program.Find<QLineEdit>("txtDelay", &dialog);
+        delay.setFocus();
+        Type(dialog, "txtDelay", "-5");
+        Button(dialog, "Cancel").setFocus(Qt::TabFocusReason);
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(program.prompts.messages.empty());
+        delay.setFocus();
+        program.Find<QCheckBox>("chkAdd", &dialog).setFocus(Qt::TabFocusReason);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return delay.hasFocus(); }));
+        EXPECT_EQ(program.prompts.messages.size(), 1U);
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    program.dialogs.RunImport(program.main);
+    EXPECT_EQ(program.main.frmImport.iFLDelay, -1);
+}
+
+TEST_F(DialogsTest, RegionIsThatOfTheCountryAndOneWithoutAChoice)
+{
+    WhenModal([&](QDialog& dialog) {
+        ExpectAccessible(dialog);
+        Button(dialog, "Germany").click();
+    });
+    EXPECT_EQ(program.dialogs.RunRegion(), kRegionEurope);
+    WhenModal([&](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(program.dialogs.RunRegion(), kRegionNorthAmerica);
+}
+
+TEST_F(DialogsTest, TrackListTakesTheListsOver)
+{
+    SetTrackList(program.main.Of(Channel::RF), "N0CALL-9");
+    program.prompts.files = {"/sounds/ping.wav"};
+    WhenModal([&](QDialog& dialog) {
+        ExpectAccessible(dialog);
+        EXPECT_EQ(program.Find<QLineEdit>("txtRfTrackList", &dialog).text(), QStringLiteral("N0CALL-9"));
+        EXPECT_EQ(program.Find<QComboBox>("cboTLSize", &dialog).currentText(), QStringLiteral("2 Points"));
+        Type(dialog, "txtTcpTrackList", "dl1abc  dl2xyz");
+        auto& style = program.Find<QComboBox>("cboTLStyle", &dialog);
+        style.setFocus();
+        QTest::keyClick(&style, Qt::Key_End);
+        Button(dialog, "cmdBrowse").click();
+        EXPECT_EQ(program.Find<QLineEdit>("txtTrackWaveFile", &dialog).text(), QStringLiteral("/sounds/ping.wav"));
+        Button(dialog, "OK").click();
+    });
+    mnuTrackedStations_Click(program.main);
+    EXPECT_EQ(TrackListText(program.main.Of(Channel::TCP)), "DL1ABC DL2XYZ");
+    EXPECT_EQ(SettingText(program.main.Settings, "TrackLineStyle"), "3");
+    EXPECT_EQ(SettingText(program.main.Settings, "TrackWaveFile"), "/sounds/ping.wav");
+}
+
+TEST_F(DialogsTest, TrackListCancelChangesNothing)
+{
+    WhenModal([&](QDialog& dialog) {
+        Type(dialog, "txtRfTrackList", "N0CALL");
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+    mnuTrackedStations_Click(program.main);
+    EXPECT_EQ(TrackListText(program.main.Of(Channel::RF)), "");
+}
+
+TEST_F(DialogsTest, FilterIsSavedInUpperCaseAndOnlyBySave)
+{
+    QDialog& dialog = Filter();
+    ExpectAccessible(dialog);
+    Type(dialog, "txtRfName", "n0*");
+    Type(dialog, "txtFlRange", "30");
+    program.Find<QCheckBox>("chkRfFilter", &dialog).click();
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_EQ(program.main.Of(Channel::RF).Filter.Call, "");
+    Filter();
+    EXPECT_EQ(program.Find<QLineEdit>("txtRfName", &dialog).text(), QString());
+    Type(dialog, "txtRfName", "n0*");
+    program.Find<QCheckBox>("chkRfFilter", &dialog).click();
+    Button(dialog, "OK").click();
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(program.main.Of(Channel::RF).Filter.Call, "N0*");
+    EXPECT_TRUE(program.main.Of(Channel::RF).Filter.bOn);
+}
+
+TEST_F(DialogsTest, FilterEmptiesAFieldThatIsOutOfBounds)
+{
+    QDialog& dialog = Filter();
+    auto& lat = program.Find<QLineEdit>("txtRfLat", &dialog);
+    lat.setFocus();
+    Type(dialog, "txtRfLat", "91");
+    program.Find<QLineEdit>("txtRfLon", &dialog).setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return lat.text().isEmpty(); }));
+    Type(dialog, "txtTcpRange", "-1");
+    Button(dialog, "OK").click();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(program.prompts.messages, (std::vector<std::string>{"Enter a value between -90 and 90 for latitude!",
+                                                                  "Enter a positive number for range!"}));
+    EXPECT_EQ(program.Find<QTabWidget>("SSTab1", &dialog).currentIndex(), 1);
+}
+
+TEST_F(DialogsTest, FilterStandsAsideForAClickOnTheMapAndComesBack)
+{
+    ShowFilterOf(program.main, Channel::TCP);
+    QDialog& dialog = Modeless("Filter Settings");
+    EXPECT_EQ(program.Find<QTabWidget>("SSTab1", &dialog).currentIndex(), 1);
+    Type(dialog, "txtTcpName", "n0call");
+    Button(dialog, "PinPoint").click();
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_TRUE(program.dialogs.IsFilterVisible());
+    EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerCross);
+    program.main.mpCtrl.RequireMap().SetView({40, -90}, 8);
+    QTest::mouseClick(&program.window.Map(), Qt::LeftButton, {}, program.window.Map().rect().center());
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_NEAR(program.Find<QLineEdit>("txtTcpLat", &dialog).text().toDouble(), 40, 0.01);
+    EXPECT_NEAR(program.Find<QLineEdit>("txtTcpLon", &dialog).text().toDouble(), -90, 0.01);
+    EXPECT_EQ(program.Find<QLineEdit>("txtTcpName", &dialog).text(), QStringLiteral("n0call"));
+    EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerDefault);
+    EXPECT_EQ(program.main.Of(Channel::TCP).Filter.Lat, "");
+
+    // A pinpoint that is given up brings the dialog back as it was.
+    Button(dialog, "PinPoint").click();
+    program.Action("pointer").trigger();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerDefault);
+}
+
+TEST_F(DialogsTest, FindOffersWhileTypingAndGoesThereOnEnter)
+{
+    program.Hear(Channel::TCP, "SP5XYZ", 52, 21);
+    mnuFind_Click(program.main);
+    QDialog& dialog = Modeless("Find");
+    ExpectAccessible(dialog);
+    auto& text = program.Find<QLineEdit>("txtFind", &dialog);
+    auto& list = program.Find<QListWidget>("lstFound", &dialog);
+    QTest::keyClicks(&text, QStringLiteral("sp"));
+    ASSERT_EQ(list.count(), 3);
+    EXPECT_TRUE(list.item(0)->text().startsWith(QStringLiteral("SP5XYZ")));
+    QTest::keyClick(&text, Qt::Key_Down);
+    QTest::keyClick(&text, Qt::Key_Return);
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_NEAR(program.main.mpCtrl.RequireMap().View().centre.lat, 39.8, 1e-6);
+
+    mnuFind_Click(program.main);
+    QTest::keyClicks(&text, QStringLiteral("nowhere at all"));
+    QTest::keyClick(&text, Qt::Key_Return);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(text.text(), QStringLiteral("nowhere at all"));
+}
+
+TEST_F(DialogsTest, AboutOpensAndCloses)
+{
+    WhenModal([&](QDialog& dialog) {
+        ExpectAccessible(dialog);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    program.Action("mnuHelpAbout").trigger();
+}
+
+TEST_F(DialogsTest, BoxesCarryTheTitleAndPlainText)
+{
+    QtPrompts prompts;
+    prompts.SetWindow(&program.window);
+    WhenModal([&](QDialog& dialog) {
+        auto& box = dynamic_cast<QMessageBox&>(dialog);
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("Ruvenmark"));
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.text(), QStringLiteral("<b>x</b>"));
+        box.button(QMessageBox::Ok)->click();
+    });
+    prompts.Message("<b>x</b>");
+    WhenModal([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(prompts.AskYesNoCancel("?"), Answer::Cancel);
+    WhenModal([](QDialog& dialog) { dynamic_cast<QMessageBox&>(dialog).button(QMessageBox::No)->click(); });
+    EXPECT_FALSE(prompts.AskYesNo("?"));
+    WhenModal([](QDialog& dialog) {
+        auto& files = dynamic_cast<QFileDialog&>(dialog);
+        EXPECT_EQ(files.nameFilters(), QStringList{QStringLiteral("Station Files (*.*) (*)")});
+        files.reject();
+    });
+    EXPECT_FALSE(prompts.OpenFile("Open", {"Station Files (*.*)", "*.*"}));
+}
+
+TEST_F(DialogsTest, PrintingAsksFirstAndFillsThePage)
+{
+    QtDesktop desktop;
+    desktop.SetWindow(&program.window, &program.window.Map());
+    EXPECT_THROW(desktop.PrintMap({}), Failure);
+    WhenModal([](QDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Print"));
+        dialog.reject();
+    });
+    EXPECT_FALSE(desktop.AskPrint("Print"));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("map.pdf"));
+    WhenModal([&](QDialog& dialog) {
+        QPrinter& printer = *dynamic_cast<QPrintDialog&>(dialog).printer();
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+        printer.setPageOrientation(QPageLayout::Landscape);
+        dialog.done(QDialog::Accepted);
+    });
+    const auto choice = desktop.AskPrint("Print");
+    ASSERT_TRUE(choice);
+    EXPECT_TRUE(choice->bLandscape);
+    desktop.PrintMap(*choice);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().startsWith("%PDF"));
+
+    desktop.CopyMapPicture();
+    EXPECT_EQ(QGuiApplication::clipboard()->image().size(), program.window.Map().size());
+}
+
+TEST(WaveSoundTest, IsQuietAboutWhatCannotBePlayed)
+{
+    WaveSound sound;
+    sound.PlayAndWait("/no/such/file.wav");
+    sound.PlayAndWait(RUVENMARK_SOURCE_DIR "/CMakeLists.txt");
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,293 @@
+#include "desktop/main_window_view.h"
+#include "desktop/map/map_widget.h"
+#include "desktop/tree_view.h"
+#include "map/directions.h"
+#include "ui/layout.h"
+#include "window_program.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QTextBrowser>
+#include <QToolBar>
+#include <QToolButton>
+#include <QUrl>
+
+namespace ruvenmark {
+namespace {
+
+std::string ManyLines(int count)
+{
+    std::string text;
+    for (int i = 0; i < count; ++i) {
+        text += "N" + std::to_string(i % 500) + "X>APRS:!4903.50N/07201.75W-line " + std::to_string(i) + "\r\n";
+    }
+    return text;
+}
+
+TEST(MainWindowViewTest, NothingIsClippedOrOverlapsAtASmallSize)
+{
+    WindowProgram program;
+    program.main.mpCtrl.SetToolbarVisible(1, true);
+    program.main.mpCtrl.SetToolbarVisible(4, true);
+    program.main.mpCtrl.SetItineraryVisible(true);
+    program.window.resize(800, 600);
+    QCoreApplication::processEvents();
+    QWidget* all = program.window.centralWidget();
+    std::vector<QRect> places;
+    for (const char* name : {"tbToolBar", "tvStationList", "imgSplitter", "mpCtrl", "directionsPane", "mapToolBar4"}) {
+        auto& widget = program.Find<QWidget>(name);
+        EXPECT_TRUE(widget.isVisible()) << name;
+        const QRect place(widget.mapTo(all, QPoint()), widget.size());
+        EXPECT_TRUE(all->rect().contains(place)) << name;
+        for (const QRect& other : places)
+            EXPECT_FALSE(place.intersects(other)) << name;
+        places.push_back(place);
+    }
+    for (const char* name : {"tbToolBar", "mapToolBar1", "mapToolBar2", "mapToolBar3", "mapToolBar4"}) {
+        auto& bar = program.Find<QToolBar>(name);
+        EXPECT_GE(bar.width(), bar.sizeHint().width()) << name;
+    }
+}
+
+TEST(MainWindowViewTest, TheSplitterIsDraggedAndStopsAheadOfTheEdges)
+{
+    WindowProgram program;
+    auto& grip = program.Find<QWidget>("imgSplitter");
+    auto& bar = program.Find<QWidget>("picSplitter");
+    const int before = grip.x();
+    QTest::mousePress(&grip, Qt::LeftButton, {}, QPoint(1, 50));
+    QTest::mouseMove(&grip, QPoint(101, 50));
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_EQ(bar.x(), before + 100);
+    QTest::mouseRelease(&grip, Qt::LeftButton, {}, QPoint(101, 50));
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_EQ(grip.x(), before + 100);
+    EXPECT_EQ(program.Find<QWidget>("tvStationList").width(), before + 100);
+
+    QTest::mousePress(&grip, Qt::LeftButton, {}, QPoint(1, 50));
+    QTest::mouseRelease(&grip, Qt::LeftButton, {}, QPoint(5000, 50));
+    EXPECT_EQ(program.main.window.splitterLeft, TwipsOfPixels(program.window.width()) - kSplitterMargin);
+}
+
+TEST(MainWindowViewTest, TheLeftPaneTheBarsAndFullScreenFollowTheirCommands)
+{
+    WindowProgram program;
+    auto& tree = program.Find<QWidget>("tvStationList");
+    program.Action("mnuTreeView").trigger();
+    EXPECT_FALSE(tree.isVisible());
+    EXPECT_EQ(program.Find<QWidget>("mpCtrl").mapTo(&program.window, QPoint()).x(), 0);
+    program.Action("mnuTreeView").trigger();
+    EXPECT_TRUE(tree.isVisible());
+    program.Action("mnuViewToolbar").trigger();
+    EXPECT_FALSE(program.Find<QWidget>("tbToolBar").isVisible());
+    program.Action("mnuViewFullScreen").trigger();
+    EXPECT_TRUE(program.window.isFullScreen());
+    program.Action("mnuViewFullScreen").trigger();
+    EXPECT_FALSE(program.window.isFullScreen());
+    program.Action("mnuLocationScaleToolbar").trigger();
+    EXPECT_TRUE(program.Find<QWidget>("mapToolBar4").isVisible());
+}
+
+TEST(MainWindowViewTest, GeometryComesBack)
+{
+    WindowProgram program(false);
+    program.store.Set("MainLeft", "300");
+    program.store.Set("MainTop", "150");
+    program.store.Set("MainWidth", "9000");
+    program.store.Set("MainHeight", "7500");
+    program.store.Set("WindowSplit", "3000");
+    StartMainWindow(program.main);
+    EXPECT_EQ(program.window.size(), QSize(600, 500));
+    EXPECT_EQ(program.window.pos(), QPoint(20, 10));
+    EXPECT_EQ(program.Find<QWidget>("tvStationList").width(), 200);
+    program.window.resize(660, 480);
+    program.window.close();
+    EXPECT_EQ(program.store.Get("MainWidth", ""), "9900");
+    EXPECT_EQ(program.store.Get("MainHeight", ""), "7200");
+    EXPECT_EQ(program.store.Get("WindowSplit", ""), "3000");
+}
+
+TEST(MainWindowViewTest, ClosingAsksAndCancelKeepsRunning)
+{
+    WindowProgram program;
+    program.Hear(Channel::RF, "N0CALL", 40, -90);
+    program.prompts.answers = {Answer::Cancel, Answer::No};
+    EXPECT_FALSE(program.window.close());
+    EXPECT_TRUE(program.window.isVisible());
+    EXPECT_TRUE(program.window.close());
+    EXPECT_EQ(program.prompts.questions.size(), 2U);
+}
+
+TEST(MainWindowViewTest, ALoadIsStoppedHalfWayByItsMenuEntry)
+{
+    WindowProgram program;
+    program.files.texts["/log"] = ManyLines(200000);
+    // Events are let in for the first time behind the first line.
+    QTimer::singleShot(0, [&] {
+        EXPECT_TRUE(program.main.FileLoading);
+        program.Action("mnuImportStations").trigger();
+    });
+    program.window.LoadFile("/log");
+    EXPECT_FALSE(program.main.FileLoading);
+    EXPECT_LT(program.main.Of(Channel::FL).Stations.Count(), 500U);
+    EXPECT_TRUE(program.prompts.messages.empty());
+    EXPECT_EQ(program.Find<QProgressBar>("pbProgress").value(), 0);
+}
+
+TEST(MainWindowViewTest, ClosingDuringALoadStopsItFirst)
+{
+    WindowProgram program;
+    program.files.texts["/log"] = ManyLines(200000);
+    program.prompts.answers = {Answer::No};
+    QTimer::singleShot(0, [&] {
+        program.Action("mnuFileClose").trigger();
+        EXPECT_TRUE(program.window.isVisible());
+        EXPECT_TRUE(program.prompts.questions.empty());
+    });
+    program.window.LoadFile("/log");
+    EXPECT_FALSE(program.window.isVisible());
+    EXPECT_EQ(program.prompts.questions.size(), 1U);
+}
+
+TEST(MainWindowViewTest, ADroppedFileIsLoaded)
+{
+    WindowProgram program;
+    program.files.texts["/tmp/dropped.log"] = ManyLines(20);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QStringLiteral("/tmp/dropped.log"))});
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&program.window, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&program.window, &drop);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.main.Of(Channel::FL).Stations.Count() == 20; }));
+
+    QMimeData link;
+    link.setUrls({QUrl(QStringLiteral("https://example.org/x"))});
+    QDragEnterEvent other(QPoint(10, 10), Qt::CopyAction, &link, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&program.window, &other);
+    EXPECT_FALSE(other.isAccepted());
+}
+
+TEST(MainWindowViewTest, AClickedMarkerIsSelectedAndDeleted)
+{
+    WindowProgram program;
+    program.Hear(Channel::FL, "N0CALL", 40, -90);
+    Map& map = program.main.mpCtrl.RequireMap();
+    map.SetView({40, -90}, 8);
+    QCoreApplication::processEvents();
+    program.window.Map().repaint();
+    QTest::mouseClick(&program.window.Map(), Qt::LeftButton, {}, program.window.Map().rect().center());
+    EXPECT_EQ(KindOfSelection(program.main), SelectionKind::Pushpin);
+    auto& button = program.Action("tbmnuEditDelete");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return button.isEnabled(); }));
+    button.trigger();
+    EXPECT_EQ(map.RecordCount(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !button.isEnabled(); }));
+}
+
+TEST(MainWindowViewTest, ThePositionUnderThePointerIsShown)
+{
+    WindowProgram program;
+    program.main.mpCtrl.RequireMap().SetView({40, -90}, 8);
+    QTest::mouseMove(&program.window.Map(), program.window.Map().rect().center());
+    auto& box = program.Find<QLineEdit>("txtTbCoordinates");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return box.text().contains(QStringLiteral(", -")); }));
+}
+
+TEST(MainWindowViewTest, HelpAndOperatorInfoShowInTheRightPane)
+{
+    WindowProgram program;
+    auto& page = program.Find<QTextBrowser>("webCtrl");
+    program.Action("mnuRuvenmarkHelp").trigger();
+    EXPECT_TRUE(page.isVisible());
+    EXPECT_TRUE(page.toPlainText().contains(QStringLiteral("Ruvenmark")));
+    program.Hear(Channel::TCP, "N0CALL-9", 40, -90);
+    program.main.tvStationList.Select(program.main.tvStationList.Find("TCPPositionsN0CALL-9"));
+    RunMenuEntry(program.main, MenuEntry::mnuInfo);
+    EXPECT_TRUE(page.toPlainText().contains(QStringLiteral("/detail/N0CALL")));
+    ASSERT_EQ(program.desktop.pages.size(), 1U);
+    emit page.anchorClicked(QUrl(QString::fromStdString(program.desktop.pages[0])));
+    EXPECT_EQ(program.desktop.pages.size(), 2U);
+    emit page.anchorClicked(QUrl(QStringLiteral("file:///etc/passwd")));
+    EXPECT_EQ(program.desktop.pages.size(), 2U);
+    program.Action("mnuViewMap").trigger();
+    EXPECT_TRUE(program.window.Map().isVisible());
+}
+
+TEST(MainWindowViewTest, TheDirectionsPaneMeasuresBetweenAStationAndAPoint)
+{
+    WindowProgram program;
+    program.Hear(Channel::TCP, "N0CALL", 40, -90);
+    program.Action("mnuDirections").trigger();
+    auto& from = program.Find<QLineEdit>("txtDirectionsFrom");
+    auto& to = program.Find<QLineEdit>("txtDirectionsTo");
+    QTest::keyClicks(&from, QStringLiteral("n0call\r"));
+    QTest::keyClicks(&to, QStringLiteral("nowhere\r"));
+    EXPECT_TRUE(program.Find<QLabel>("lblDirections").text().contains(QStringLiteral("nowhere")));
+    EXPECT_EQ(to.text(), QStringLiteral("nowhere"));
+    to.selectAll();
+    QTest::keyClicks(&to, QStringLiteral("41, -90\r"));
+    EXPECT_TRUE(program.Find<QLabel>("lblDirections").text().contains(QStringLiteral("69.")));
+    program.Find<QAbstractButton>("CopyDirections").click();
+    EXPECT_NE(program.desktop.clipboard.find("N0CALL"), std::string::npos);
+    program.Find<QAbstractButton>("CloseDirections").click();
+    EXPECT_FALSE(from.isVisible());
+}
+
+TEST(MainWindowViewTest, TheLocationBarGoesWhereItIsTold)
+{
+    WindowProgram program;
+    program.Action("mnuLocationScaleToolbar").trigger();
+    auto& centre = program.Find<QLineEdit>("txtCentre");
+    centre.selectAll();
+    QTest::keyClicks(&centre, QStringLiteral("48.5, 9.25\r"));
+    EXPECT_NEAR(program.main.mpCtrl.RequireMap().View().centre.lat, 48.5, 1e-9);
+    centre.selectAll();
+    QTest::keyClicks(&centre, QStringLiteral("somewhere\r"));
+    EXPECT_EQ(centre.text(), QStringLiteral("somewhere"));
+    EXPECT_NEAR(program.main.mpCtrl.RequireMap().View().centre.lat, 48.5, 1e-9);
+}
+
+TEST(MainWindowViewTest, ProgressTakesThePlaceOfThePacketLine)
+{
+    WindowProgram program;
+    auto& packet = program.Find<QWidget>("txtPacket");
+    auto& bar = program.Find<QProgressBar>("pbProgress");
+    EXPECT_TRUE(packet.isVisible());
+    program.main.sbStatusBar.ShowProgress();
+    program.main.sbStatusBar.SetProgress(40);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.isVisible(); }));
+    EXPECT_FALSE(packet.isVisible());
+    EXPECT_EQ(bar.value(), 40);
+    program.main.sbStatusBar.SetWaitPointer(true);
+    EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
+    program.main.sbStatusBar.SetProgress(60); // No events come in.
+    EXPECT_GE(bar.value(), 40);
+    program.main.sbStatusBar.SetWaitPointer(false);
+    program.main.sbStatusBar.HideProgress();
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return packet.isVisible(); }));
+}
+
+TEST(MainWindowViewTest, HostileNamesAreShownPlainAndBreakNoRow)
+{
+    WindowProgram program;
+    const std::string hostile = "<img src=x>\xFF\xE2\x80\xAE&A" + std::string(200, 'W');
+    program.Hear(Channel::TCP, hostile, 40, -90);
+    program.main.sbStatusBar.SetPacketLine(hostile);
+    program.main.window.caption = "Ruvenmark - " + hostile;
+    program.main.window.Changed.Raise();
+    program.window.ShowInTree(*program.main.tvStationList.Find("TCPPositions"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(program.window.width(), 900);
+    EXPECT_FALSE(program.window.windowTitle().contains(QChar(0x202E)));
+    EXPECT_LE(program.Find<QWidget>("txtPacket").height(), 40);
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,157 @@
+#include "desktop/icons/icon_set.h"
+#include "desktop/tree_model.h"
+#include "platform/keyed_tree.h"
+
+#include <QAbstractItemModelTester>
+#include <QIcon>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+class TreeModelTest : public testing::Test {
+protected:
+    QModelIndex IndexOf(std::string_view key)
+    {
+        model.Flush();
+        return model.IndexOf(tree.Find(key));
+    }
+
+    IconSet icons;
+    KeyedTree tree;
+    TreeModel model{tree, icons};
+};
+
+// What the model tells must be the tree, row for row.
+void ExpectSame(const TreeModel& model, const QModelIndex& parent, const std::vector<std::unique_ptr<TreeNode>>& nodes)
+{
+    ASSERT_EQ(model.rowCount(parent), static_cast<int>(nodes.size()));
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        const TreeNode& node = *nodes[static_cast<std::size_t>(row)];
+        ASSERT_EQ(model.NodeAt(index), &node);
+        ASSERT_EQ(model.parent(index), parent);
+        ASSERT_EQ(index.data().toString().toStdString(), node.Text());
+        ExpectSame(model, index, node.Children());
+    }
+}
+
+TEST_F(TreeModelTest, SurvivesRandomEdits)
+{
+    const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::Fatal);
+    std::mt19937 random(7);
+    std::vector<std::string> keys;
+    const auto pick = [&]() -> TreeNode* { return keys.empty() ? nullptr : tree.Find(keys[random() % keys.size()]); };
+    for (int step = 0; step < 1500; ++step) {
+        TreeNode* node = pick();
+        switch (random() % 8) {
+        case 0:
+        case 1:
+        case 2:
+        case 3: {
+            const std::string word = "/" + std::to_string(step);
+            const std::string text = std::to_string(random() % 1000);
+            keys.push_back((node ? tree.Add(*node, word, text) : tree.AddRoot(word, text)).Key());
+            break;
+        }
+        case 4:
+            if (node)
+                tree.SetText(*node, std::to_string(random()));
+            break;
+        case 5:
+            if (node)
+                tree.SetSorted(*node, random() % 2 == 0);
+            break;
+        case 6:
+            if (node)
+                tree.SetExpanded(*node, random() % 2 == 0);
+            break;
+        default:
+            if (node && random() % 6 == 0)
+                tree.Remove(*node);
+        }
+        if (step % 97 == 0)
+            model.Flush();
+    }
+    model.Flush();
+    ExpectSame(model, {}, tree.Roots());
+}
+
+TEST_F(TreeModelTest, TellsManyNewRowsAtOnce)
+{
+    TreeNode& root = tree.AddRoot("FL", "FL reports");
+    model.Flush();
+    const QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+    for (int i = 0; i < 100; ++i) {
+        TreeNode& station = tree.Add(root, std::to_string(i), "N" + std::to_string(i));
+        tree.Add(station, "Path", "WIDE1-1");
+    }
+    EXPECT_EQ(model.rowCount(model.index(0, 0)), 0);
+    model.Flush();
+    EXPECT_EQ(inserted.count(), 1);
+    EXPECT_EQ(model.rowCount(model.index(0, 0)), 100);
+    EXPECT_EQ(model.rowCount(IndexOf("FL50")), 1);
+}
+
+TEST_F(TreeModelTest, TellsManyChangesOfAnExpandedNodeOnce)
+{
+    TreeNode& root = tree.AddRoot("FL", "FL reports");
+    TreeNode& station = tree.Add(root, "A", "A");
+    tree.SetExpanded(root, true);
+    model.Flush();
+    const QSignalSpy changed(&model, &QAbstractItemModel::dataChanged);
+    for (int i = 0; i < 100; ++i)
+        tree.SetText(station, std::to_string(i));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return changed.count() > 0; }));
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(IndexOf("FLA").data().toString(), QStringLiteral("99"));
+}
+
+TEST_F(TreeModelTest, KeepsTheSelectedIndexThroughASort)
+{
+    TreeNode& root = tree.AddRoot("TCP", "TCP reports");
+    for (const char* call : {"C", "A", "B"})
+        tree.Add(root, call, call);
+    const QPersistentModelIndex kept(IndexOf("TCPC"));
+    ASSERT_EQ(kept.row(), 0);
+    tree.SetSorted(root, true);
+    EXPECT_EQ(kept.row(), 2);
+    EXPECT_EQ(model.NodeAt(kept), tree.Find("TCPC"));
+}
+
+TEST_F(TreeModelTest, ShowsPictureBoldAndColour)
+{
+    TreeNode& root = tree.AddRoot("RF", "RF reports", "Closed", "Open");
+    tree.SetBold(root, true);
+    tree.SetColor(root, 0x0000FF);
+    const QModelIndex index = IndexOf("RF");
+    EXPECT_TRUE(index.data(Qt::FontRole).value<QFont>().bold());
+    EXPECT_EQ(index.data(Qt::ForegroundRole).value<QBrush>().color(), QColor(255, 0, 0));
+    const auto picture = [&] { return index.data(Qt::DecorationRole).value<QIcon>().pixmap(16).toImage(); };
+    const QImage closed = picture();
+    tree.SetExpanded(root, true);
+    EXPECT_NE(picture(), closed);
+}
+
+TEST_F(TreeModelTest, ShowsHostileTextAsOnePlainLine)
+{
+    TreeNode& node = tree.AddRoot("X", "<b>A</b>\r\n\x1B[2J\xFF\xE2\x80\xAE"
+                                       "evil");
+    const QString shown = IndexOf("X").data().toString();
+    EXPECT_TRUE(shown.startsWith(QStringLiteral("<b>A</b>")));
+    for (const QChar c : shown)
+        EXPECT_TRUE(c.isPrint()) << static_cast<int>(c.unicode());
+    EXPECT_FALSE(shown.contains(QChar(0x202E)));
+    tree.SetText(node, std::string(5000, 'W'));
+    EXPECT_EQ(IndexOf("X").data().toString().size(), 5000);
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "core/lifecycle.h"
+#include "core/main_window.h"
+#include "desktop/icons/icon_set.h"
+#include "desktop/main_window_view.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/qt_services.h"
+#include "devices/report_sources.h"
+#include "intake/station_store.h"
+#include "map/find.h"
+#include "platform/settings_store.h"
+#include "platform/text.h"
+#include "support/doubles.h"
+#include "support/recording_desktop.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+namespace ruvenmark {
+
+class FakePlaces final : public IPlaceSearch {
+public:
+    std::vector<FoundPlace> Search(std::string_view text, std::size_t limit) const override
+    {
+        std::vector<FoundPlace> found;
+        for (const std::string name : {"Springfield", "Springdale"}) {
+            if (found.size() < limit && CompareIgnoringCase(std::string_view(name).substr(0, text.size()), text) == 0)
+                found.push_back({FoundPlace::Kind::Place, name, "Illinois", {39.8, -89.6}, {}, {}});
+        }
+        return found;
+    }
+};
+
+// The whole program in its window, with the machine and the boxes of the test's making.
+struct WindowProgram {
+    MemorySettingsStore store;
+    MemoryFiles files;
+    FakeClock clock;
+    RecordingSound sound;
+    RecordingSleep sleep;
+    QtYield yield;
+    RecordingPrompts prompts;
+    IconSet icons;
+    FakePlaces places;
+    QtDialogs dialogs{icons, places};
+    RecordingDesktop desktop;
+    ReportSources sources;
+    MainWindow main{Services{store, files, clock, sound, sleep, yield, prompts, dialogs, desktop, sources, "/program"}};
+    MainWindowView window{main, icons, nullptr};
+
+    explicit WindowProgram(bool bStart = true)
+    {
+        store.Set("Region", "1");
+        dialogs.SetWindow(&window);
+        if (bStart)
+            Start();
+    }
+    void Start()
+    {
+        StartMainWindow(main);
+        window.resize(900, 700);
+    }
+
+    void Hear(Channel channel, std::string_view call, double lat, double lon)
+    {
+        if (channel == Channel::FL && !main.tvStationList.Find("FL"))
+            AddChannelTree(main.tvStationList, Channel::FL);
+        main.sinks[static_cast<std::size_t>(channel)]->ReportPos({call, "APRS", "WIDE1-1", lat, lon, "Car", ""});
+    }
+    QAction& Action(const char* name)
+    {
+        auto* action = window.findChild<QAction*>(QString::fromLatin1(name));
+        EXPECT_NE(action, nullptr) << name;
+        return *action;
+    }
+    template <typename Widget>
+    Widget& Find(const char* name, QWidget* in = nullptr)
+    {
+        auto* widget = (in ? in : &window)->template findChild<Widget*>(QString::fromLatin1(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return *widget;
+    }
+};
+
+// Once a modal window has come up, does the work with it. The work must close it.
+inline void WhenModal(const std::function<void(QDialog&)>& work)
+{
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [timer, work] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog)
+            return;
+        timer->deleteLater();
+        timer->stop();
+        work(*dialog);
+        EXPECT_FALSE(dialog->isVisible());
+        dialog->close();
+    });
+    timer->start(1);
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,21 @@
+// Names on the water: [name, latitude, longitude, rank]; rank 0 oceans, 1 large seas, 2 smaller seas, 3 bays, straits and lakes.
+export const kWaters = [
+  ['North Atlantic Ocean', 32, -42, 0], ['South Atlantic Ocean', -25, -14, 0], ['North Pacific Ocean', 28, -155, 0], ['North Pacific Ocean', 25, 165, 0],
+  ['South Pacific Ocean', -30, -125, 0], ['Indian Ocean', -22, 78, 0], ['Southern Ocean', -61, 95, 0], ['Southern Ocean', -62, -120, 0], ['Arctic Ocean', 81, -150, 0],
+  ['Mediterranean Sea', 34.4, 21, 1], ['Caribbean Sea', 14.8, -73.5, 1], ['Gulf of Mexico', 25.2, -90.5, 1], ['Hudson Bay', 59.8, -85.5, 1], ['Bering Sea', 58, -177, 1],
+  ['Sea of Okhotsk', 53.5, 149, 1], ['South China Sea', 13.5, 114, 1], ['Arabian Sea', 15.5, 64, 1], ['Bay of Bengal', 13.5, 88, 1], ['Coral Sea', -17.5, 154.5, 1],
+  ['Tasman Sea', -38, 161, 1], ['Philippine Sea', 19.5, 132.5, 1], ['Norwegian Sea', 68.5, 2.5, 1], ['Barents Sea', 74.5, 38, 1], ['Kara Sea', 75.5, 68, 1],
+  ['Black Sea', 43.3, 34, 1], ['North Sea', 56.3, 3.2, 1], ['Baltic Sea', 57.9, 19.9, 2], ['Labrador Sea', 58, -53.5, 1], ['Baffin Bay', 73.5, -67, 1],
+  ['Beaufort Sea', 72.8, -138, 1], ['East Siberian Sea', 73.5, 162, 1], ['Laptev Sea', 76.5, 126, 1], ['Gulf of Alaska', 57.2, -146, 1], ['Sea of Japan', 40, 134.8, 1],
+  ['Yellow Sea', 35.5, 123.3, 2], ['East China Sea', 29.2, 125, 2], ['Celebes Sea', 3.6, 122, 2], ['Java Sea', -4.9, 111.5, 2], ['Banda Sea', -5.6, 127.5, 2], ['Arafura Sea', -9.6, 135.2, 2],
+  ['Timor Sea', -11.2, 126.5, 2], ['Great Australian Bight', -34, 131, 2], ['Gulf of Carpentaria', -14, 139, 2], ['Gulf of Guinea', 2.2, 2.5, 1], ['Mozambique Channel', -18.8, 41.5, 2],
+  ['Red Sea', 20.3, 38.5, 2], ['Persian Gulf', 27, 51.2, 2], ['Gulf of Aden', 12.4, 48, 2], ['Andaman Sea', 11, 96, 2], ['Gulf of Thailand', 9.8, 101.5, 2],
+  ['Caspian Sea', 42, 50.6, 1], ['Aegean Sea', 38.9, 25, 2], ['Adriatic Sea', 43, 15.1, 2], ['Tyrrhenian Sea', 40, 12, 2], ['Ionian Sea', 37.9, 18.7, 2], ['Bay of Biscay', 45.4, -4.8, 2],
+  ['Celtic Sea', 50.4, -8, 2], ['English Channel', 50.2, -1.9, 2], ['Irish Sea', 53.75, -5.1, 2], ['Gulf of Bothnia', 62.3, 19.6, 2], ['Gulf of Finland', 59.85, 26, 3], ['White Sea', 65.4, 38.3, 2],
+  ['Greenland Sea', 76.5, -6, 1], ['Denmark Strait', 66.6, -27.5, 2], ['Davis Strait', 66, -57.8, 2], ['Gulf of St. Lawrence', 48.1, -62.2, 2], ['Bay of Fundy', 44.95, -66.1, 3],
+  ['Gulf of Maine', 43, -68.2, 3], ['Chesapeake Bay', 38.35, -76.3, 3], ['Long Island Sound', 41.08, -72.95, 3], ['Gulf of California', 27.4, -111.4, 2], ['Scotia Sea', -57, -44, 1],
+  ['Weddell Sea', -72.5, -45, 1], ['Ross Sea', -75.5, -174, 1], ['Amundsen Sea', -72.5, -112, 1], ['Skagerrak', 57.9, 9.1, 3], ['Kattegat', 56.9, 11.4, 3], ['Sargasso Sea', 27.5, -64, 2],
+  ['Lake Superior', 47.65, -87.6, 2], ['Lake Michigan', 43.7, -87.1, 2], ['Lake Huron', 44.75, -82.3, 2], ['Lake Erie', 42.2, -81.2, 3], ['Lake Ontario', 43.65, -77.8, 3], ['Lake Winnipeg', 52.3, -97.8, 3],
+  ['Great Bear Lake', 65.9, -120.8, 3], ['Great Slave Lake', 61.6, -114.2, 3], ['Lake Victoria', -1.1, 33, 2], ['Lake Tanganyika', -6, 29.5, 3], ['Lake Malawi', -12, 34.5, 3], ['Lake Baikal', 53.6, 108.2, 3],
+  ['Lake Ladoga', 60.8, 31.5, 3], ['Lake Onega', 61.75, 35.6, 3], ['Lake Balkhash', 46.3, 74.2, 3], ['Vänern', 58.9, 13.3, 3], ['Lake Titicaca', -15.9, -69.35, 3], ['Great Salt Lake', 41.15, -112.5, 3],
+];
