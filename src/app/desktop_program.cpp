@@ -1,0 +1,130 @@
+#include "app/desktop_program.h"
+
+#include "app/options.h"
+#include "app/program_settings.h"
+#include "core/lifecycle.h"
+#include "core/main_window.h"
+#include "desktop/base_places.h"
+#include "desktop/data_path.h"
+#include "desktop/icons/icon_set.h"
+#include "desktop/main_window_view.h"
+#include "desktop/map/base_map.h"
+#include "desktop/qt_desktop.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/qt_prompts.h"
+#include "desktop/qt_services.h"
+#include "desktop/screenshot.h"
+#include "desktop/theme.h"
+#include "desktop/wave_sound.h"
+#include "devices/report_sources.h"
+#include "platform/failure.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTimer>
+
+#include <iostream>
+#include <optional>
+
+namespace ruvenmark {
+
+namespace {
+
+// Read when the application is made.
+void SetEnvironment(const ProgramOptions& options)
+{
+    if (options.scale != 1)
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
+    if (options.screenshot)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+// The program goes on without its map of the world.
+std::optional<BaseMap> OpenBaseMap()
+{
+    try {
+        return BaseMap::Open(DataPath(QStringLiteral("basemap/world.rvm")));
+    } catch (const Failure& failure) {
+        std::cerr << "ruvenmark: " << failure.what() << '\n';
+        return std::nullopt;
+    }
+}
+
+// Everything that lives from start to stop, in the order in which it is made.
+struct Program {
+    explicit Program(const ProgramOptions& options)
+        : settings(files, options), baseMap(OpenBaseMap()), places(Base()), dialogs(icons, places),
+          main({settings.Store(), files, clock, sound, sleep, yield, prompts, dialogs, desktop, sources,
+                settings.Folder()}),
+          window(main, icons, Base())
+    {
+        prompts.SetWindow(&window);
+        dialogs.SetWindow(&window);
+        desktop.SetWindow(&window, &window.Map());
+    }
+
+    const BaseMap* Base() const { return baseMap ? &*baseMap : nullptr; }
+
+    PosixFiles files;
+    ProgramSettings settings;
+    SystemClock clock;
+    WaveSound sound;
+    SystemSleep sleep;
+    QtYield yield;
+    IconSet icons;
+    std::optional<BaseMap> baseMap;
+    BasePlaces places;
+    QtPrompts prompts;
+    QtDialogs dialogs;
+    QtDesktop desktop;
+    ReportSources sources;
+    MainWindow main;
+    MainWindowView window;
+};
+
+void TakeScreenshot(Program& program, const ProgramOptions& options)
+{
+    const SizeOption size = options.size.value_or(SizeOption{});
+    program.window.resize(size.width, size.height);
+    if (options.loadFile)
+        program.window.LoadFile(*options.loadFile);
+    for (const char* key : {"FL", "FLPositions"}) {
+        if (const TreeNode* node = program.main.tvStationList.Find(key))
+            program.window.ShowInTree(*node);
+    }
+    Map* map = program.main.mpCtrl.ActiveMap();
+    if (map && options.view)
+        map->SetView({options.view->lat, options.view->lon}, options.view->zoom);
+    SaveScreenshot(program.window, {size.width, size.height}, QFile::decodeName(options.screenshot->c_str()));
+}
+
+} // namespace
+
+int RunDesktop(int argc, char** argv, const ProgramOptions& options)
+{
+    PosixFiles files;
+    if (options.loadFile)
+        files.ReadText(*options.loadFile); // A name that was typed wrong is told before anything starts.
+    SetEnvironment(options);
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("ruvenmark"));
+    QApplication::setDesktopFileName(QStringLiteral("org.ruvenmark.Ruvenmark"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    if (options.bDark)
+        UseDarkColors();
+
+    Program program(options);
+    StartMainWindow(program.main);
+    if (options.screenshot) {
+        TakeScreenshot(program, options);
+        return 0;
+    }
+    if (options.loadFile)
+        QTimer::singleShot(0, &program.window, [&] { program.window.LoadFile(*options.loadFile); });
+    const int status = QApplication::exec();
+    if (!program.settings.Flush())
+        std::cerr << "ruvenmark: the settings could not be saved\n";
+    return status;
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,258 @@
+#include "app/options.h"
+
+#include "core/settings.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+
+#include <array>
+#include <cstddef>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr std::string_view kHelp = "Usage: ruvenmark [OPTION...] [FILE]\n"
+                                   "Desktop station client for the Automatic Packet Reporting System (APRS).\n"
+                                   "FILE, a saved packet file, is loaded at start.\n"
+                                   "\n"
+                                   "  --load FILE           load a saved packet file\n"
+                                   "  --track CALL[,CALL]   put calls on the track list of loaded files\n"
+                                   "  --settings FILE       use this settings file\n"
+                                   "  --folder DIR          use this program folder\n"
+                                   "  --set KEY=VALUE       a setting for this run\n"
+                                   "  --region 1|2          map of North America or Europe, for this run\n"
+                                   "\n"
+                                   "Without a window:\n"
+                                   "  --headless            start, load, print and stop\n"
+                                   "  --print WHAT[,WHAT]   tree (default), markers, records, messages, counts\n"
+                                   "  --json                print one JSON object\n"
+                                   "\n"
+                                   "A picture of the window:\n"
+                                   "  --screenshot FILE.png draw the window into a file and end\n"
+                                   "  --size WxH            its size in pixels (default 1280x800)\n"
+                                   "  --view LAT,LON,ZOOM   what the map shows\n"
+                                   "  --dark                dark colours\n"
+                                   "  --scale FACTOR        device pixels a pixel, 1 to 4\n"
+                                   "\n"
+                                   "  --help, --version\n";
+
+[[noreturn]] void Refuse(const std::string& option, std::string_view value, std::string_view wanted)
+{
+    throw UsageError(option + ": '" + std::string(value) + "' is not " + std::string(wanted));
+}
+
+void ReadPrint(ProgramOptions& options, const std::string& option, std::string_view value)
+{
+    constexpr std::array<std::pair<std::string_view, PrintPart>, 5> kParts = {{{"tree", PrintPart::Tree},
+                                                                               {"markers", PrintPart::Markers},
+                                                                               {"records", PrintPart::Records},
+                                                                               {"messages", PrintPart::Messages},
+                                                                               {"counts", PrintPart::Counts}}};
+    for (const std::string_view word : Split(value, ',')) {
+        bool bFound = false;
+        for (const auto& [name, part] : kParts) {
+            if (name == word) {
+                options.print.push_back(part);
+                bFound = true;
+            }
+        }
+        if (!bFound)
+            Refuse(option, word, "tree, markers, records, messages or counts");
+    }
+}
+
+void ReadSetting(ProgramOptions& options, const std::string& option, std::string_view value)
+{
+    const auto sign = value.find('=');
+    if (sign == std::string_view::npos || sign == 0)
+        Refuse(option, value, "KEY=VALUE");
+    options.settings.emplace_back(value.substr(0, sign), value.substr(sign + 1));
+}
+
+void ReadRegion(ProgramOptions& options, const std::string& option, std::string_view value)
+{
+    if (value != "1" && value != "2")
+        Refuse(option, value, "1 (North America) or 2 (Europe)");
+    options.settings.emplace_back("Region", value);
+}
+
+void ReadSize(ProgramOptions& options, const std::string& option, std::string_view value)
+{
+    const auto sides = Split(value, 'x');
+    const auto width = ReadNumber(sides.front());
+    const auto height = ReadNumber(sides.back());
+    if (sides.size() != 2 || !width || !height || !(*width >= 200 && *width <= 10000) ||
+        !(*height >= 200 && *height <= 10000))
+        Refuse(option, value, "WIDTHxHEIGHT between 200x200 and 10000x10000");
+    options.size = SizeOption{static_cast<int>(*width), static_cast<int>(*height)};
+}
+
+void ReadView(ProgramOptions& options, const std::string& option, std::string_view value)
+{
+    const auto parts = Split(value, ',');
+    std::array<double, 3> numbers{};
+    bool bGood = parts.size() == numbers.size();
+    for (std::size_t i = 0; bGood && i < numbers.size(); ++i) {
+        const auto number = ReadNumber(parts[i]);
+        bGood = number.has_value();
+        numbers[i] = number.value_or(0);
+    }
+    if (!bGood || !(numbers[0] >= -90 && numbers[0] <= 90) || !(numbers[1] >= -180 && numbers[1] <= 180) ||
+        !(numbers[2] >= 1 && numbers[2] <= 19))
+        Refuse(option, value, "LAT,LON,ZOOM with a zoom from 1 to 19");
+    options.view = ViewOption{numbers[0], numbers[1], numbers[2]};
+}
+
+void ReadScale(ProgramOptions& options, const std::string& option, std::string_view value)
+{
+    const auto scale = ReadNumber(value);
+    if (!scale || !(*scale >= 1 && *scale <= 4))
+        Refuse(option, value, "a number from 1 to 4");
+    options.scale = *scale;
+}
+
+void ReadTrack(ProgramOptions& options, const std::string& /*option*/, std::string_view value)
+{
+    for (const std::string_view call : Split(value, ',')) {
+        options.track += options.track.empty() ? "" : " ";
+        options.track += TrackKey(call);
+    }
+}
+
+struct Switch {
+    std::string_view name;
+    bool ProgramOptions::*flag;
+};
+struct TextOption {
+    std::string_view name;
+    std::optional<std::string> ProgramOptions::*text;
+};
+struct ValueOption {
+    std::string_view name;
+    void (*read)(ProgramOptions&, const std::string& option, std::string_view value);
+};
+constexpr std::array<Switch, 5> kSwitches = {{{"--help", &ProgramOptions::bHelp},
+                                              {"--version", &ProgramOptions::bVersion},
+                                              {"--headless", &ProgramOptions::bHeadless},
+                                              {"--json", &ProgramOptions::bJson},
+                                              {"--dark", &ProgramOptions::bDark}}};
+constexpr std::array<TextOption, 4> kTexts = {{{"--load", &ProgramOptions::loadFile},
+                                               {"--settings", &ProgramOptions::settingsFile},
+                                               {"--folder", &ProgramOptions::folder},
+                                               {"--screenshot", &ProgramOptions::screenshot}}};
+constexpr std::array<ValueOption, 7> kValues = {{{"--print", ReadPrint},
+                                                 {"--set", ReadSetting},
+                                                 {"--region", ReadRegion},
+                                                 {"--size", ReadSize},
+                                                 {"--view", ReadView},
+                                                 {"--scale", ReadScale},
+                                                 {"--track", ReadTrack}}};
+
+// Walks the words of the command line; a value stands behind its option, or in it behind "=".
+class ArgumentWalk {
+public:
+    explicit ArgumentWalk(const std::vector<std::string>& words) : m_words(words) {}
+
+    bool Next()
+    {
+        if (m_next >= m_words.size())
+            return false;
+        m_option = m_words[m_next++];
+        m_value.reset();
+        const auto sign = m_option.find('=');
+        if (m_option.starts_with("--") && sign != std::string::npos) {
+            m_value = m_option.substr(sign + 1);
+            m_option.resize(sign);
+        }
+        return true;
+    }
+    const std::string& Option() const { return m_option; }
+    bool HasValue() const { return m_value.has_value(); }
+    std::string Value()
+    {
+        if (!m_value && m_next < m_words.size())
+            m_value = m_words[m_next++];
+        if (!m_value || m_value->empty())
+            throw UsageError(m_option + " needs a value");
+        return *m_value;
+    }
+
+private:
+    const std::vector<std::string>& m_words;
+    std::size_t m_next = 0;
+    std::string m_option;
+    std::optional<std::string> m_value;
+};
+
+bool ReadSwitch(ProgramOptions& options, const ArgumentWalk& words)
+{
+    for (const auto& [name, flag] : kSwitches) {
+        if (name != words.Option())
+            continue;
+        if (words.HasValue())
+            throw UsageError(words.Option() + " takes no value");
+        options.*flag = true;
+        return true;
+    }
+    return false;
+}
+
+bool ReadValue(ProgramOptions& options, ArgumentWalk& words)
+{
+    for (const auto& [name, text] : kTexts) {
+        if (name == words.Option()) {
+            options.*text = words.Value();
+            return true;
+        }
+    }
+    for (const auto& [name, read] : kValues) {
+        if (name == words.Option()) {
+            read(options, words.Option(), words.Value());
+            return true;
+        }
+    }
+    return false;
+}
+
+void CheckTogether(ProgramOptions& options)
+{
+    if ((options.bJson || !options.print.empty()) && !options.bHeadless)
+        throw UsageError("--print and --json go with --headless");
+    if (options.bHeadless && options.screenshot)
+        throw UsageError("--screenshot and --headless do not go together");
+    if (options.print.empty())
+        options.print.push_back(PrintPart::Tree);
+}
+
+} // namespace
+
+ProgramOptions ReadOptions(const std::vector<std::string>& arguments)
+{
+    ProgramOptions options;
+    ArgumentWalk words(arguments);
+    while (words.Next()) {
+        if (ReadSwitch(options, words) || ReadValue(options, words))
+            continue;
+        if (words.Option().starts_with('-') && words.Option().size() > 1)
+            throw UsageError("unknown option '" + words.Option() + "'; see --help");
+        if (options.loadFile)
+            throw UsageError("one file at a time: '" + words.Option() + "' is one too many");
+        options.loadFile = words.Option();
+    }
+    if (!options.bHelp && !options.bVersion)
+        CheckTogether(options);
+    return options;
+}
+
+std::string_view HelpText()
+{
+    return kHelp;
+}
+
+std::string VersionText()
+{
+    return "ruvenmark " + std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) + "." +
+           std::to_string(kVersionRevision);
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <set>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace ruvenmark {
+
+enum class PrintPart : std::uint8_t { Tree, Markers, Records, Messages, Counts };
+
+struct ViewOption {
+    double lat = 0, lon = 0, zoom = 4;
+};
+struct SizeOption {
+    int width = 1280, height = 800; // Pixels at scale 1.
+};
+
+// What the command line of `ruvenmark` asks for.
+struct ProgramOptions {
+    bool bHelp = false;
+    bool bVersion = false;
+    bool bHeadless = false;
+    bool bJson = false;
+    std::optional<std::string> loadFile;
+    std::optional<std::string> settingsFile;
+    std::optional<std::string> folder;
+    std::vector<PrintPart> print;                              // In the order asked for.
+    std::string track;                                         // Calls, blanks between.
+    std::vector<std::pair<std::string, std::string>> settings; // For this run.
+
+    std::optional<std::string> screenshot; // A file name.
+    std::optional<SizeOption> size;
+    std::optional<ViewOption> view;
+    bool bDark = false;
+    double scale = 1;
+};
+
+// A command line that cannot be followed; the text is one line for the person who typed it.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+ProgramOptions ReadOptions(const std::vector<std::string>& arguments);
+std::string_view HelpText();
+std::string VersionText();
+
+} // namespace ruvenmark

@@ -1,0 +1,45 @@
+#include "app/program_settings.h"
+
+#include "core/channel_state.h"
+#include "tracking/track_lists.h"
+
+namespace ruvenmark {
+
+namespace {
+
+// One that was named and is there has to be readable; one that is not there is made at the end.
+std::string SettingsPath(IFiles& files, const ProgramOptions& options)
+{
+    if (!options.settingsFile)
+        return DefaultSettingsFile();
+    if (files.Exists(*options.settingsFile))
+        files.ReadText(*options.settingsFile);
+    return *options.settingsFile;
+}
+
+std::string FolderOf(std::string path)
+{
+    path.resize(path.rfind('/'));
+    return path;
+}
+
+} // namespace
+
+ProgramSettings::ProgramSettings(IFiles& files, const ProgramOptions& options)
+    : m_file(files, SettingsPath(files, options)), m_overlay(m_file),
+      m_folder(options.folder.value_or(DefaultProgramFolder()))
+{
+    MakeFolder(m_folder);
+    if (!options.settingsFile)
+        MakeFolder(FolderOf(DefaultSettingsFile()));
+    for (const auto& [key, value] : options.settings)
+        m_overlay.SetForThisRun(key, value);
+    if (!options.track.empty()) {
+        const std::string_view key = Traits(Channel::FL).trackedSetting;
+        ChannelState spelled(Channel::FL); // As the list is written at stop, so that it stays out of the file.
+        SetTrackList(spelled, m_overlay.Get(key, "") + " " + options.track);
+        m_overlay.SetForThisRun(key, TrackListText(spelled));
+    }
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "app/options.h"
+#include "platform/files.h"
+#include "platform/settings_store.h"
+
+#include <string>
+
+namespace ruvenmark {
+
+// The settings and the program folder that a command line names, or the user's own. Raises Failure where the folder
+// cannot be made or the named settings file cannot be read.
+class ProgramSettings {
+public:
+    ProgramSettings(IFiles& files, const ProgramOptions& options);
+
+    ISettingsStore& Store() { return m_overlay; }
+    const std::string& Folder() const { return m_folder; }
+    // False when the file cannot be written.
+    bool Flush() { return m_file.Flush(); }
+
+private:
+    FileSettingsStore m_file;
+    OverlaySettingsStore m_overlay;
+    std::string m_folder;
+};
+
+} // namespace ruvenmark

@@ -1,0 +1,165 @@
+#include "app/headless.h"
+#include "platform/failure.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <stdlib.h>
+
+namespace ruvenmark {
+namespace {
+
+using nlohmann::json;
+using testing::HasSubstr;
+
+class Headless : public testing::Test {
+protected:
+    Headless()
+    {
+        std::string name = testing::TempDir() + "ruvenmark-XXXXXX";
+        folder = mkdtemp(name.data());
+    }
+    void TearDown() override { std::filesystem::remove_all(folder); }
+
+    std::string Path(const char* name) const { return folder + "/" + name; }
+    void Write(const char* name, const std::string& text) { std::ofstream(Path(name), std::ios::binary) << text; }
+    std::string Read(const char* name) const
+    {
+        std::ifstream file(Path(name), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    int Run(std::vector<std::string> words)
+    {
+        words.insert(words.end(), {"--headless", "--settings", Path("settings"), "--folder", Path("program/folder")});
+        out.str({});
+        err.str({});
+        return RunHeadless(ReadOptions(words), out, err);
+    }
+
+    std::string folder;
+    std::ostringstream out, err;
+};
+
+constexpr const char* kDay = "N0CALL-9>APRS,WIDE1-1:!4903.50N/07201.75W>088/036hello\r\n"
+                             "N0CALL-9>APRS,WIDE1-1:!4904.50N/07201.75W>088/036hello\r\n"
+                             "N1CALL>APRS:>status \xe4\x1b[2J\x9b\r\n"
+                             "what is this\r\n";
+
+TEST_F(Headless, LoadsPrintsAndStops)
+{
+    Write("day.txt", kDay);
+    EXPECT_EQ(Run({"--load", Path("day.txt"), "--print", "tree,counts"}), 0);
+    EXPECT_THAT(out.str(), testing::StartsWith("My station\n  Position\n  Weather\nRF reports\n"));
+    EXPECT_THAT(out.str(), HasSubstr("FL reports (2)\n  Positions (1)\n    N0CALL-9\n      Lat: "));
+    EXPECT_THAT(out.str(), HasSubstr("decoded: 3\nundecoded: 1\n  "));
+    EXPECT_THAT(out.str(), HasSubstr("abandoned: 0\n"));
+    EXPECT_EQ(err.str(), ""); // Nobody is asked to save the map.
+}
+
+// Nothing from the air may steer a terminal: neither escapes nor the one-byte controls that read as Latin-1.
+TEST_F(Headless, TerminalsGetNoControls)
+{
+    Write("day.txt", kDay);
+    Run({"--load", Path("day.txt")});
+    EXPECT_THAT(out.str(), HasSubstr("status \u00e4.[2J.\n"));
+}
+
+TEST_F(Headless, PrintsAllAsJson)
+{
+    Write("day.txt", kDay);
+    EXPECT_EQ(Run({"--load", Path("day.txt"), "--json", "--track", "n0call-9", "--set", "TrackLineSize=3"}), 0);
+    const json whole = json::parse(out.str());
+    const json& fl = whole["tree"][3];
+    EXPECT_EQ(fl["key"], "FL");
+    EXPECT_EQ(fl["text"], "FL reports (2)");
+    EXPECT_EQ(fl["image"], "Closed");
+    const json& station = fl["children"][0]["children"][0];
+    EXPECT_EQ(station["key"], "FLPositionsN0CALL-9");
+    EXPECT_EQ(station["image"], "Car");
+    EXPECT_EQ(station["bold"], true);
+    EXPECT_EQ(station["color"], 255);
+    EXPECT_EQ(station["children"][0]["bold"], false);
+    ASSERT_EQ(whole["markers"].size(), 2U);
+    EXPECT_EQ(whole["markers"][0]["name"], "N0CALL-9(f)*");
+    const json& marker = whole["markers"][1];
+    EXPECT_EQ(marker["name"], "N0CALL-9(f)");
+    EXPECT_NEAR(marker["lat"].get<double>(), 49.075, 1e-9);
+    EXPECT_EQ(marker["symbol"], 82);
+    EXPECT_EQ(marker["balloon"], 1);
+    EXPECT_THAT(marker["note"].get<std::string>(), testing::StartsWith("FL, "));
+    ASSERT_EQ(whole["lines"].size(), 1U);
+    EXPECT_EQ(whole["lines"][0]["weight"], 3);
+    EXPECT_EQ(whole["lines"][0]["end_arrow"], true);
+    EXPECT_EQ(whole["circles"], json::array());
+    EXPECT_EQ(whole["records"]["FL"]["N0CALL-9"]["Speed"], "41");
+    EXPECT_EQ(whole["records"]["FL"]["N1CALL"]["Status"], "status \u00e4\x1b[2J\u009b");
+    EXPECT_EQ(whole["records"]["RF"], json::object());
+    EXPECT_EQ(whole["counts"]["decoded"], 3);
+    EXPECT_EQ(whole["counts"]["undecoded"], 1);
+    EXPECT_EQ(whole["counts"]["undecoded_reasons"].size(), 1U);
+    EXPECT_EQ(whole["counts"]["abandoned"], 0);
+}
+
+TEST_F(Headless, AbandonedReportsAreCounted)
+{
+    Write("day.txt", kDay);
+    EXPECT_EQ(Run({"--load", Path("day.txt"), "--json", "--set", "MobileColor=red"}), 0);
+    const json counts = json::parse(out.str())["counts"];
+    EXPECT_EQ(counts["abandoned"], 2);
+    EXPECT_EQ(counts["abandoned_reasons"].size(), 1U);
+    EXPECT_TRUE(counts["abandoned_reasons"].begin().key().starts_with("ReportPosExt: "));
+}
+
+// What is set for a run is not the operator's choice for the next one.
+TEST_F(Headless, SettingsOfTheRunStayOutOfTheFile)
+{
+    Write("settings", "[Settings]\nCall=N0CALL\nTrackedFLStations=A\n");
+    Write("day.txt", kDay);
+    EXPECT_EQ(Run({"--load", Path("day.txt"), "--set", "Call=N9CALL", "--track", "N0CALL-9", "--region", "2", "--print",
+                   "markers"}),
+              0);
+    EXPECT_THAT(out.str(), HasSubstr("N0CALL-9(f)*  49."));
+    const std::string saved = Read("settings");
+    EXPECT_THAT(saved, HasSubstr("Call=N0CALL\n"));
+    EXPECT_THAT(saved, HasSubstr("TrackedFLStations=A\n"));
+    EXPECT_THAT(saved, testing::Not(HasSubstr("Region=")));
+    EXPECT_THAT(saved, HasSubstr("Path=WIDE2-2\n"));
+    EXPECT_TRUE(std::filesystem::is_directory(Path("program/folder")));
+
+    // In whatever spelling: the program writes its own.
+    Write("settings", "[Settings]\nTrackedFLStations=a  b\n");
+    EXPECT_EQ(Run({"--track", "b,n0call", "--set", "FLAdd=0", "--set", "FLDelay=05", "--set", "FLShow=tRUE"}), 0);
+    for (const char* key : {"N0CALL", "FLAdd", "FLDelay", "FLShow"})
+        EXPECT_THAT(Read("settings"), testing::Not(HasSubstr(key)));
+}
+
+TEST_F(Headless, MessagesGoToTheErrorStreamAndTheirPart)
+{
+    Write("one.txt", "N0CALL>APRS:>x\n");
+    EXPECT_EQ(Run({"--load", Path("one.txt"), "--print", "messages,records"}), 0);
+    EXPECT_THAT(err.str(), HasSubstr("Stations load failed!"));
+    EXPECT_THAT(out.str(), testing::StartsWith("Stations load failed!\nFL N0CALL\n  Call: N0CALL\n  Status: x\n"));
+    // A start that fails half-way loads all the same.
+    Write("day.txt", kDay);
+    EXPECT_EQ(Run({"--load", Path("day.txt"), "--set", "ShowTreeView=perhaps"}), 0);
+    EXPECT_THAT(out.str(), testing::StartsWith("FL reports (2)"));
+}
+
+TEST_F(Headless, FilesThatCannotBeUsedAreToldAhead)
+{
+    EXPECT_THROW(Run({"--load", Path("missing.txt")}), Failure);
+    EXPECT_THROW(Run({"--load", folder}), Failure);
+    EXPECT_FALSE(std::filesystem::exists(Path("settings"))); // Nothing had started.
+    std::filesystem::create_directory(Path("settings"));
+    EXPECT_THROW(Run({}), Failure);
+    std::filesystem::remove(Path("settings"));
+    Write("program", "a file where the folder should be");
+    EXPECT_THROW(Run({}), Failure);
+}
+
+} // namespace
+} // namespace ruvenmark

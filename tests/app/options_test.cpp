@@ -1,0 +1,67 @@
+#include "app/options.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace ruvenmark {
+namespace {
+
+using testing::ElementsAre;
+using testing::Pair;
+
+TEST(Options, ReadWhatIsAsked)
+{
+    const auto options = ReadOptions({"--headless", "--load=a=b.txt", "--print", "counts,tree", "--print=records",
+                                      "--track", "n0call, b", "--track", "c", "--set", "Call=N0=1",
+                                      "--set=Comment=", "--region", "2", "--settings", "/s", "--folder=/f"});
+    EXPECT_TRUE(options.bHeadless);
+    EXPECT_FALSE(options.bJson);
+    EXPECT_EQ(options.loadFile, "a=b.txt");
+    EXPECT_EQ(options.settingsFile, "/s");
+    EXPECT_EQ(options.folder, "/f");
+    EXPECT_THAT(options.print, ElementsAre(PrintPart::Counts, PrintPart::Tree, PrintPart::Records));
+    EXPECT_EQ(options.track, "N0CALL B C");
+    EXPECT_THAT(options.settings, ElementsAre(Pair("Call", "N0=1"), Pair("Comment", ""), Pair("Region", "2")));
+
+    const auto window = ReadOptions(
+        {"day.txt", "--view", "-33.9,151.2,10", "--size=800x600", "--scale", "2", "--dark", "--screenshot", "s.png"});
+    EXPECT_EQ(window.loadFile, "day.txt");
+    EXPECT_EQ(window.view->lat, -33.9);
+    EXPECT_EQ(window.size->height, 600);
+    EXPECT_THAT(window.print, ElementsAre(PrintPart::Tree));
+    EXPECT_TRUE(ReadOptions({"--print", "tree", "--help"}).bHelp); // Help is given whatever else is wrong.
+}
+
+TEST(Options, RefuseInOneClearLine)
+{
+    const std::vector<std::pair<std::vector<std::string>, const char*>> cases = {
+        {{"--headles"}, "unknown option '--headles'; see --help"},
+        {{"-x"}, "unknown option '-x'; see --help"},
+        {{"--load"}, "--load needs a value"},
+        {{"--load="}, "--load needs a value"},
+        {{"--json=yes"}, "--json takes no value"},
+        {{"--headless", "--print", "trees"}, "--print: 'trees' is not tree, markers, records, messages or counts"},
+        {{"--headless", "--print", "tree,"}, "--print: '' is not tree, markers, records, messages or counts"},
+        {{"--print", "tree"}, "--print and --json go with --headless"},
+        {{"--json"}, "--print and --json go with --headless"},
+        {{"--headless", "--screenshot", "a.png"}, "--screenshot and --headless do not go together"},
+        {{"--region", "3"}, "--region: '3' is not 1 (North America) or 2 (Europe)"},
+        {{"--set", "Call"}, "--set: 'Call' is not KEY=VALUE"},
+        {{"--set", "=x"}, "--set: '=x' is not KEY=VALUE"},
+        {{"a.txt", "b.txt"}, "one file at a time: 'b.txt' is one too many"},
+        {{"--size", "800"}, "--size: '800' is not WIDTHxHEIGHT between 200x200 and 10000x10000"},
+        {{"--view", "91,0,4"}, "--view: '91,0,4' is not LAT,LON,ZOOM with a zoom from 1 to 19"},
+        {{"--scale", "nan"}, "--scale: 'nan' is not a number from 1 to 4"},
+    };
+    for (const auto& [words, message] : cases) {
+        try {
+            ReadOptions(words);
+            ADD_FAILURE() << words.front() << " is taken";
+        } catch (const UsageError& error) {
+            EXPECT_STREQ(error.what(), message);
+        }
+    }
+}
+
+} // namespace
+} // namespace ruvenmark
