@@ -2,6 +2,7 @@
 
 #include "app/options.h"
 #include "app/program_settings.h"
+#include "core/bare_dialogs.h"
 #include "core/lifecycle.h"
 #include "core/main_window.h"
 #include "desktop/base_places.h"
@@ -18,6 +19,7 @@
 #include "desktop/wave_sound.h"
 #include "devices/report_sources.h"
 #include "platform/failure.h"
+#include "platform/headless.h"
 
 #include <QApplication>
 #include <QFile>
@@ -54,8 +56,8 @@ std::optional<BaseMap> OpenBaseMap()
 struct Program {
     explicit Program(const ProgramOptions& options)
         : settings(files, options), baseMap(OpenBaseMap()), places(Base()), dialogs(icons, places),
-          main({settings.Store(), files, clock, sound, sleep, yield, prompts, dialogs, desktop, sources,
-                settings.Folder()}),
+          main({settings.Store(), files, clock, sound, sleep, yield, Prompts(options), Dialogs(options), desktop,
+                sources, settings.Folder()}),
           window(main, icons, Base())
     {
         prompts.SetWindow(&window);
@@ -64,6 +66,16 @@ struct Program {
     }
 
     const BaseMap* Base() const { return baseMap ? &*baseMap : nullptr; }
+
+    // Before a picture nobody sits who could answer a box.
+    IPrompts& Prompts(const ProgramOptions& options)
+    {
+        return options.screenshot ? static_cast<IPrompts&>(printedPrompts) : prompts;
+    }
+    IDialogs& Dialogs(const ProgramOptions& options)
+    {
+        return options.screenshot ? static_cast<IDialogs&>(bareDialogs) : dialogs;
+    }
 
     PosixFiles files;
     ProgramSettings settings;
@@ -75,7 +87,9 @@ struct Program {
     std::optional<BaseMap> baseMap;
     BasePlaces places;
     QtPrompts prompts;
+    HeadlessPrompts printedPrompts{std::cerr};
     QtDialogs dialogs;
+    BareDialogs bareDialogs;
     QtDesktop desktop;
     ReportSources sources;
     MainWindow main;

@@ -1,6 +1,8 @@
 #include "app/program_settings.h"
 
 #include "core/channel_state.h"
+#include "platform/map_model.h"
+#include "platform/numbers.h"
 #include "tracking/track_lists.h"
 
 namespace ruvenmark {
@@ -34,6 +36,9 @@ ProgramSettings::ProgramSettings(IFiles& files, const ProgramOptions& options)
         MakeFolder(FolderOf(DefaultSettingsFile()));
     for (const auto& [key, value] : options.settings)
         m_overlay.SetForThisRun(key, value);
+    const bool bUnattended = options.bHeadless || options.screenshot;
+    if (bUnattended && m_overlay.Get("Region", "").empty())
+        m_overlay.SetForThisRun("Region", ShortText(std::int64_t{kRegionNorthAmerica})); // The operator is asked later.
     if (!options.track.empty()) {
         const std::string_view key = Traits(Channel::FL).trackedSetting;
         ChannelState spelled(Channel::FL); // As the list is written at stop, so that it stays out of the file.

@@ -19,6 +19,7 @@ bool IsNameByte(char c)
     return !IsBetween(c, 0, 0x1f) && c != 0x7f;
 }
 
+// Blanks alone are none: there is nothing to file the object under.
 bool IsName(std::string_view name)
 {
     for (const char c : name) {
@@ -26,7 +27,7 @@ bool IsName(std::string_view name)
             return false;
         }
     }
-    return true;
+    return !Trim(name).empty();
 }
 
 } // namespace

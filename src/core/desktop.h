@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -17,7 +18,8 @@ class IDesktop {
 public:
     virtual ~IDesktop() = default;
 
-    virtual std::string ClipboardText() = 0; // Empty where there is no text.
+    // Empty where there is no text, or one of more bytes than this. Cheap to ask again.
+    virtual std::string ClipboardText(std::size_t longest) = 0;
     virtual void SetClipboardText(std::string_view text) = 0;
     virtual void CopyMapPicture() = 0; // The map as it is shown, to the clipboard.
 
@@ -32,7 +34,7 @@ public:
 // Where nobody watches: a clipboard of its own, and nothing else.
 class BareDesktop final : public IDesktop {
 public:
-    std::string ClipboardText() override { return m_text; }
+    std::string ClipboardText(std::size_t longest) override { return m_text.size() <= longest ? m_text : ""; }
     void SetClipboardText(std::string_view text) override { m_text = text; }
     void CopyMapPicture() override {}
     std::optional<PrintChoice> AskPrint(std::string_view /*title*/) override { return std::nullopt; }

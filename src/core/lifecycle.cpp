@@ -22,14 +22,16 @@ void LoadGeometry(MainWindow& main)
 {
     const ISettingsStore& store = main.services.store;
     WindowState& window = main.window;
-    window.splitterLeft = ToInt32(store.Get("WindowSplit", "2000"));
+    const auto stored = [&store](std::string_view key, std::int32_t first) {
+        return ToInt32(store.Get(key, ShortText(std::int64_t{first})));
+    };
+    window.splitterLeft = stored("WindowSplit", kFirstSplitterLeft);
     window.bLeftPane = ToBool(store.Get("ShowTreeView", "True"));
-    window.left = ToInt32(store.Get("MainLeft", "1000"));
-    window.top = ToInt32(store.Get("MainTop", "1000"));
-    window.width = ToInt32(store.Get("MainWidth", "6500"));
-    window.height = ToInt32(store.Get("MainHeight", "6500"));
+    window.left = stored("MainLeft", kFirstLeft);
+    window.top = stored("MainTop", kFirstTop);
+    window.width = stored("MainWidth", kFirstWidth);
+    window.height = stored("MainHeight", kFirstHeight);
     window.bGeometryLoaded = true;
-    window.Changed.Raise();
 }
 
 void BuildStationTree(MainWindow& main)
@@ -147,6 +149,8 @@ void StartMainWindow(MainWindow& main)
 {
     MakeSinks(main);
     bool bWell = Attempt(main.abandoned, "Start, geometry", [&] { LoadGeometry(main); });
+    main.window.bShown = true;
+    main.window.Changed.Raise();
     bWell &= Attempt(main.abandoned, "Start, map", [&] { StartMap(main); });
     bWell &= Attempt(main.abandoned, "Start, settings", [&] { LoadSettings(main.Settings, main.services.store); });
     bWell &= Attempt(main.abandoned, "Start, default map", [&] { OpenDefaultMap(main); });

@@ -10,11 +10,16 @@ namespace ruvenmark {
 enum class RightView : std::uint8_t { Map, Inbox, Sent, Web };
 enum class LeftTree : std::uint8_t { Stations, Messages };
 
+// Where nothing is stored, in twips.
+inline constexpr std::int32_t kFirstLeft = 1000, kFirstTop = 1000, kFirstWidth = 6500, kFirstHeight = 6500;
+inline constexpr std::int32_t kFirstSplitterLeft = 2000;
+
 // What the logic knows of the main window. Lengths are twips: 1/15 of a pixel at scale 1.
 struct WindowState {
-    std::int32_t left = 1000, top = 1000, width = 6500, height = 6500;
-    std::int32_t splitterLeft = 2000;
-    bool bGeometryLoaded = false;
+    std::int32_t left = kFirstLeft, top = kFirstTop, width = kFirstWidth, height = kFirstHeight;
+    std::int32_t splitterLeft = kFirstSplitterLeft;
+    bool bShown = false;          // From the first moment of the start on.
+    bool bGeometryLoaded = false; // Else it is not saved either.
     bool bMinimised = false;
     bool bLeftPane = true;
     bool bToolBar = true;

@@ -1,6 +1,7 @@
 #include "desktop/directions_pane.h"
 
 #include "core/main_window.h"
+#include "desktop/copy_keys.h"
 #include "desktop/dialogs/dialog_parts.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/shown_text.h"
@@ -47,6 +48,7 @@ DirectionsPane::DirectionsPane(MainWindow& main, const IconSet& icons, QWidget* 
     m_result->setTextFormat(Qt::PlainText);
     m_result->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_result->setWordWrap(true);
+    KeepCopyKeys(*m_result);
     NameControl(*m_copy, "CopyDirections", QStringLiteral("Copy the directions"));
     connect(m_copy, &QPushButton::clicked, this, [this] { RunMenuEntry(m_main, MenuEntry::mnuCopyDirections); });
     auto* close = new QPushButton(QStringLiteral("Close"), this);

@@ -1,6 +1,7 @@
 #include "desktop/help_view.h"
 
 #include "core/desktop.h"
+#include "desktop/copy_keys.h"
 #include "desktop/data_path.h"
 #include "desktop/icons/help_browser.h"
 #include "ui/layout.h"
@@ -22,6 +23,7 @@ HelpView::HelpView(IDesktop& desktop, QWidget* parent)
     m_browser->setObjectName(QStringLiteral("webCtrl"));
     m_browser->setAccessibleName(QStringLiteral("Help page"));
     m_browser->setOpenLinks(false);
+    KeepCopyKeys(*m_browser);
     connect(m_browser, &QTextBrowser::anchorClicked, this, &HelpView::Follow);
     setFocusProxy(m_browser);
 }

@@ -43,6 +43,13 @@ QString DraggedFile(const QMimeData& data)
     return urls.size() == 1 && urls.constFirst().isLocalFile() ? urls.constFirst().toLocalFile() : QString();
 }
 
+// Nobody has placed the window yet.
+bool IsAtFirstPlace(const WindowState& window)
+{
+    return window.left == kFirstLeft && window.top == kFirstTop && window.width == kFirstWidth &&
+           window.height == kFirstHeight;
+}
+
 } // namespace
 
 MainWindowView::MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* base)
@@ -145,7 +152,7 @@ void MainWindowView::ShowState()
         m_help->Show(window.webAddress);
     m_right->setCurrentWidget(window.rightView == RightView::Web ? static_cast<QWidget*>(m_help) : m_mapPane);
     m_right->setFocusProxy(m_right->currentWidget());
-    if (!m_bPlaced && window.bGeometryLoaded)
+    if (!m_bPlaced && window.bShown)
         ShowAtLastPlace();
     if (m_bPlaced && window.bFullScreen != isFullScreen())
         ShowFullScreen();
@@ -185,7 +192,7 @@ void MainWindowView::PopUp(QPoint place, int button, TreeNode* node)
     menu->popup(place);
 }
 
-// Where the window stood the last time; at a comfortable size where the store knows of none.
+// Where the window stood the last time; at first in the middle of the screen, at a comfortable size.
 void MainWindowView::ShowAtLastPlace()
 {
     constexpr QSize kFirstSize(1200, 800);
@@ -193,11 +200,11 @@ void MainWindowView::ShowAtLastPlace()
     WindowState& window = m_main.window;
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const QSize size(PixelsOfTwips(AllowedWindowWidth(window.width)), PixelsOfTwips(window.height));
-    const bool bFirstStart = m_main.services.store.Get("MainWidth", "").empty();
+    const bool bFirstStart = IsAtFirstPlace(window);
     QRect place(QPoint(PixelsOfTwips(window.left), PixelsOfTwips(window.top)),
                 (bFirstStart ? kFirstSize : size).boundedTo(screen.size()));
     // A screen that is gone must not take the window with it.
-    if (bFirstStart)
+    if (bFirstStart && window.splitterLeft == kFirstSplitterLeft)
         window.splitterLeft = TwipsOfPixels(kFirstLeftPane);
     if (bFirstStart || !QGuiApplication::screenAt(place.center()))
         place.moveCenter(screen.center());

@@ -14,9 +14,16 @@
 
 namespace ruvenmark {
 
-QtDesktop::QtDesktop() = default;
+QtDesktop::QtDesktop()
+{
+    m_clipboardChanged =
+        QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, [this] { m_clipboard.reset(); });
+}
 
-QtDesktop::~QtDesktop() = default;
+QtDesktop::~QtDesktop()
+{
+    QObject::disconnect(m_clipboardChanged);
+}
 
 void QtDesktop::SetWindow(QWidget* window, MapWidget* map)
 {
@@ -24,9 +31,13 @@ void QtDesktop::SetWindow(QWidget* window, MapWidget* map)
     m_map = map;
 }
 
-std::string QtDesktop::ClipboardText()
+std::string QtDesktop::ClipboardText(std::size_t longest)
 {
-    return QGuiApplication::clipboard()->text().toStdString();
+    if (!m_clipboard) {
+        const QString text = QGuiApplication::clipboard()->text();
+        m_clipboard = static_cast<std::size_t>(text.size()) <= longest ? text.toStdString() : std::string();
+    }
+    return m_clipboard->size() <= longest ? *m_clipboard : std::string();
 }
 
 void QtDesktop::SetClipboardText(std::string_view text)

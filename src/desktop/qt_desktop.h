@@ -6,6 +6,8 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
+#include <string>
 
 class QPrinter;
 
@@ -23,7 +25,7 @@ public:
 
     void SetWindow(QWidget* window, MapWidget* map);
 
-    std::string ClipboardText() override;
+    std::string ClipboardText(std::size_t longest) override;
     void SetClipboardText(std::string_view text) override;
     void CopyMapPicture() override;
     std::optional<PrintChoice> AskPrint(std::string_view title) override;
@@ -34,6 +36,9 @@ private:
     QPointer<QWidget> m_window;
     QPointer<MapWidget> m_map;
     std::unique_ptr<QPrinter> m_printer; // As it was chosen the last time.
+    // Fetched from another program, which may be slow or hang: once for each change.
+    std::optional<std::string> m_clipboard;
+    QMetaObject::Connection m_clipboardChanged;
 };
 
 } // namespace ruvenmark

@@ -16,11 +16,18 @@ constexpr std::string_view kPositions = "Positions";
 constexpr std::string_view kWeather = "Weather";
 constexpr std::size_t kMaxAckText = 3 + 5;
 
-// To a millionth, about 11 cm: finer than any packet tells, and short when it is shown.
+// Values are shown as they come: what counting in binary and changing units leave behind the last digit that a packet
+// can tell is taken off.
 double Degrees(double value)
 {
-    constexpr double kMillion = 1e6;
+    constexpr double kMillion = 1e6; // About 11 cm.
     return std::nearbyint(value * kMillion) / kMillion;
+}
+
+double Figure(const std::optional<double>& value)
+{
+    constexpr double kHundred = 100;
+    return value ? std::nearbyint(*value * kHundred) / kHundred : kAbsent;
 }
 
 double ValueOr(const std::optional<double>& value)
@@ -188,11 +195,11 @@ void EventRaiser::RaiseWeatherValues(std::string_view call, double lat, double l
         if (weather.windDirection) {
             event.windDir = static_cast<std::int32_t>(std::lround(*weather.windDirection));
         }
-        event.windSpeed = ValueOr(weather.gust ? weather.gust : weather.windSpeed);
-        event.temperature = ValueOr(weather.temperature);
-        event.rain = ValueOr(weather.rainDay ? weather.rainDay : weather.rainMidnight);
-        event.humidity = ValueOr(weather.humidity);
-        event.pressure = ValueOr(weather.pressure);
+        event.windSpeed = Figure(weather.gust ? weather.gust : weather.windSpeed);
+        event.temperature = Figure(weather.temperature);
+        event.rain = Figure(weather.rainDay ? weather.rainDay : weather.rainMidnight);
+        event.humidity = Figure(weather.humidity);
+        event.pressure = Figure(weather.pressure);
         m_sink.ReportWeather(event);
     });
 }
@@ -200,10 +207,6 @@ void EventRaiser::RaiseWeatherValues(std::string_view call, double lat, double l
 void EventRaiser::operator()(const aprs::ObjectReport& object)
 {
     const EventText name(object.name, m_bClean);
-    if (object.name.empty()) {
-        RaiseUndecoded(); // A name of blanks only: nothing to file it under.
-        return;
-    }
     if (object.bAlive) {
         RaisePosition(name, object.report);
         RaiseWeather(name, object.report);
@@ -232,8 +235,8 @@ void EventRaiser::operator()(const aprs::StatusReport& status)
     Raise([&] {
         const EventText text(status.text, m_bClean);
         m_sink.ReportStatus({m_header.source, m_header.dest, m_header.path,
-                             status.grid ? status.grid->latitude : kNoPosition,
-                             status.grid ? status.grid->longitude : kNoPosition, text});
+                             status.grid ? Degrees(status.grid->latitude) : kNoPosition,
+                             status.grid ? Degrees(status.grid->longitude) : kNoPosition, text});
     });
     if (!status.time.IsGiven()) {
         return;
@@ -248,8 +251,8 @@ void EventRaiser::operator()(const aprs::GridBeacon& beacon)
 {
     Raise([&] {
         const EventText comment(beacon.comment, m_bClean);
-        m_sink.ReportPos({m_header.source, m_header.dest, m_header.path, beacon.grid.latitude, beacon.grid.longitude,
-                          SymbolWord({'/', ')'}), comment});
+        m_sink.ReportPos({m_header.source, m_header.dest, m_header.path, Degrees(beacon.grid.latitude),
+                          Degrees(beacon.grid.longitude), SymbolWord({'/', ')'}), comment});
     });
 }
 

@@ -139,7 +139,9 @@ void SaveServerLists(MainWindow& main)
         for (const auto& [key, value] : main.serverLists.*list)
             table.push_back({key});
         if (!table.empty())
-            WriteRecords(main.services.files, table, JoinPath(main.services.programFolder, name), kListDelimiter);
+            Attempt(main.abandoned, "Stop, " + std::string(name), [&, file = name] {
+                WriteRecords(main.services.files, table, JoinPath(main.services.programFolder, file), kListDelimiter);
+            });
     }
     SaveServerForm(main.services.store, main.frmTcp);
 }

@@ -25,7 +25,7 @@ TextTable ReadRecords(IFiles& files, std::string_view path, std::string_view del
 void WriteRecords(IFiles& files, const TextTable& table, std::string_view path, std::string_view delimiter);
 
 // The three lists of the server dialog and its fields. An entry is cut at its first colon; an empty list leaves its
-// file as it is.
+// file as it is. A file that cannot be written is counted and keeps nothing else from being saved.
 void LoadServerLists(MainWindow& main);
 void SaveServerLists(MainWindow& main);
 

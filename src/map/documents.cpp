@@ -114,6 +114,7 @@ void mnuFileClose_Click(MainWindow& main)
 void ChangeRegion(MainWindow& main, std::int32_t region)
 {
     main.services.store.Set("Region", ShortText(std::int64_t{region}));
+    main.services.store.Flush();
     Attempt(main.abandoned, "ChangeRegion", [&] {
         if (main.mpCtrl.MapRegion() != region)
             NewMap(main, region);

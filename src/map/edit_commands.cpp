@@ -55,8 +55,8 @@ void DeleteSelection(MainWindow& main)
 // What the clipboard holds for the map; nothing where it holds something else.
 std::optional<MapDocument> ClipboardDocument(const MainWindow& main)
 {
-    const std::string text = main.services.desktop.ClipboardText();
-    if (text.size() > kLongestPaste || !text.starts_with('{'))
+    const std::string text = main.services.desktop.ClipboardText(kLongestPaste);
+    if (!text.starts_with('{'))
         return std::nullopt;
     try {
         MapDocument document = ReadMapDocument(text);

@@ -102,10 +102,12 @@ void ForEachMarkerOfRoot(MainWindow& main, const TreeNode& root, const std::func
         throw Failure("the folder does not stand");
     const auto matches = [&](const Pushpin& pin) { return pin.Note().starts_with(key); };
     if (folder->Children().size() < static_cast<std::size_t>(map.RecordCount())) {
+        ProgressWalk walk(main, folder->Children().size());
         for (const auto& station : folder->Children()) {
             auto pin = map.FindPushpin(MarkerName(key, station->Text()));
             if (pin && matches(*pin))
                 work(*pin);
+            walk.Step();
         }
         return;
     }

@@ -88,8 +88,8 @@ bool mpCtrl_Click(MainWindow& main, double x, double y)
             continue;
         Attempt(main.abandoned, "mpCtrl_Click",
                 [&] { target.take(main, main.mpCtrl.RequireMap().XYToLocation(x, y)); });
-        main.services.dialogs.ComeBack();
     }
+    main.services.dialogs.ComeBack();
     return true;
 }
 

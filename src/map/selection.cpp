@@ -17,7 +17,7 @@ bool IsThere(const SlotPool<Value>& pool, SlotRef ref)
 SelectionKind KindOfSelection(const MainWindow& main)
 {
     const Map* map = main.mpCtrl.ActiveMap();
-    if (!map)
+    if (!map || main.window.rightView != RightView::Map)
         return SelectionKind::Nothing;
     if (const auto* pin = std::get_if<Pushpin>(&main.map.Selection))
         return IsThere(map->Pins(), pin->Ref()) ? SelectionKind::Pushpin : SelectionKind::Nothing;

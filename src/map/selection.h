@@ -9,9 +9,10 @@ namespace ruvenmark {
 
 struct MainWindow;
 
-// What is selected on the map. A handle whose object is gone counts as nothing.
+// A handle whose object is gone counts as nothing.
 using MapSelection = std::variant<std::monostate, Pushpin, Shape>;
 
+// What commands on the selection act on: nothing while another page hides the map.
 enum class SelectionKind : std::uint8_t { Nothing, Pushpin, Shape };
 SelectionKind KindOfSelection(const MainWindow& main);
 

@@ -18,12 +18,15 @@ public:
     virtual ~ISettingsStore() = default;
     virtual std::string Get(std::string_view key, std::string_view defaultValue) const = 0;
     virtual void Set(std::string_view key, std::string_view value) = 0;
+    // From here on what was set outlasts even a crash. False where it cannot be kept.
+    virtual bool Flush() = 0;
 };
 
 class MemorySettingsStore final : public ISettingsStore {
 public:
     std::string Get(std::string_view key, std::string_view defaultValue) const override;
     void Set(std::string_view key, std::string_view value) override;
+    bool Flush() override { return true; }
     const Dictionary<std::string>& Values() const { return m_values; }
 
 private:
@@ -40,8 +43,8 @@ public:
 
     std::string Get(std::string_view key, std::string_view defaultValue) const override;
     void Set(std::string_view key, std::string_view value) override;
-    // Writes what was set since the last time; nothing where nothing was. False when the file cannot be written.
-    bool Flush();
+    // Writes what was set since the last time; nothing where nothing was.
+    bool Flush() override;
 
 private:
     void Read(std::string_view text);
@@ -64,6 +67,7 @@ public:
     void SetForThisRun(std::string_view key, std::string_view value) { m_values.Set(key, std::string(value)); }
     std::string Get(std::string_view key, std::string_view defaultValue) const override;
     void Set(std::string_view key, std::string_view value) override;
+    bool Flush() override { return m_below.Flush(); }
 
 private:
     ISettingsStore& m_below;

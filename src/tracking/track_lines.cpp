@@ -39,11 +39,14 @@ bool IsTrailShown(ChannelState& state, std::string_view call)
 void DrawTrackLine(MainWindow& main, ChannelState& state, std::string_view call, const Location& from,
                    const Location& to)
 {
-    const SettingsState& settings = main.Settings;
+    // Settings first: one that is unusable must not leave a line behind that nobody knows.
+    const std::int32_t weight = TrackLineWeight(main.Settings);
+    const bool bBegin = TrackBeginArrow(main.Settings);
+    const bool bEnd = TrackEndArrow(main.Settings);
     Shape line = main.mpCtrl.RequireMap().AddLine(from, to);
-    line.SetWeight(TrackLineWeight(settings));
-    line.SetBeginArrowhead(TrackBeginArrow(settings));
-    line.SetEndArrowhead(TrackEndArrow(settings));
+    line.SetWeight(weight);
+    line.SetBeginArrowhead(bBegin);
+    line.SetEndArrowhead(bEnd);
     state.TrackLines.Ensure(call).push_back(line);
     if (!IsTrailShown(state, call)) {
         line.SetBeginArrowhead(false);

@@ -74,6 +74,7 @@ TEST(Start, UnusableGeometryIsSkippedAndKept)
 {
     Stored p{{"MainLeft", "left"}, {"MainWidth", "4000"}, {"DefaultMap", "/gone.ptm"}, {"Call", "N0CALL"}};
     p.Start();
+    EXPECT_TRUE(p.main.window.bShown) << "a program that runs without a window";
     EXPECT_EQ(p.main.sbStatusBar.PanelText(Panel::Call), "N0CALL");
     EXPECT_EQ(p.Text("RF"), "RF reports");
     EXPECT_EQ(p.main.abandoned.Count(), 2U);

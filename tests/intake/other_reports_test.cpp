@@ -108,6 +108,13 @@ TEST_F(OtherReports, WeatherShowsWhatIsGivenAndKeepsWhatWas)
     EXPECT_THAT(p.ChildTexts("RFWeatherN1CALL"), ElementsAre("Path: ", "Received: 2026-11-22 20:15:04"));
 }
 
+// Units are converted and counted in binary on the way: no tail of digits may show.
+TEST_F(OtherReports, WeatherFiguresAreShort)
+{
+    p.Hear("N0CALL>APRS,TCPIP*:$ULTW005000CC030F0000276BFFEF85D70001028300A500060000003C");
+    EXPECT_THAT(p.ChildTexts("FLWeatherN0CALL"), testing::IsSupersetOf({"Gust: 4.97 mph", "Temperature: 78.3°F"}));
+}
+
 // A weather packet with a position is a marker by its position report; the weather reaches no note.
 TEST_F(OtherReports, WeatherTouchesNoMarker)
 {

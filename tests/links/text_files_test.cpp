@@ -76,6 +76,21 @@ TEST(ServerLists, EntriesAreCutAtTheirColonAndKeepTheirPlace)
     EXPECT_EQ(p.files.texts["/program/filters.txt"], "r/48/11/50 t/m\n");
 }
 
+TEST(ServerLists, AFileThatCannotBeWrittenCostsNothingElse)
+{
+    Program p;
+    p.main.serverLists.ServerList.Set("a", "a");
+    p.main.serverLists.PortList.Set("10152", "10152");
+    p.main.frmTcp.sPrimaryServer = "a";
+    p.main.frmImport.iFLDelay = 3;
+    p.files.FailWrite(1);
+    ASSERT_TRUE(StopMainWindow(p.main));
+    EXPECT_EQ(p.files.texts["/program/ports.txt"], "10152");
+    EXPECT_EQ(p.store.Get("PrimaryServer", ""), "a");
+    EXPECT_EQ(p.store.Get("FLDelay", ""), "3");
+    EXPECT_EQ(p.main.abandoned.Count(), 1U);
+}
+
 TEST(ServerLists, AnUnusablePortIsNotSavedOver)
 {
     Program p(false);

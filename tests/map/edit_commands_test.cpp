@@ -3,7 +3,9 @@
 #include "map/selection.h"
 #include "platform/map_document.h"
 #include "support/program.h"
+#include "ui/layout.h"
 #include "ui/menus.h"
+#include "ui/views.h"
 
 #include <gtest/gtest.h>
 
@@ -82,6 +84,10 @@ TEST_F(EditCommands, WhatIsGoneIsNotSelected)
     EXPECT_EQ(program.desktop.clipboard, "");
 
     SelectOnMap(program.main, *program.Marker("N1CALL(r)"));
+    mnuRuvenmarkHelp_Click(program.main);
+    Run(MenuEntry::mnuEditDelete);
+    EXPECT_EQ(program.MarkerNames().size(), 1U) << "what nobody sees is not deleted";
+    ShowMapView(program.main);
     program.prompts.answers = {Answer::No};
     Run(MenuEntry::mnuFileNew);
     EXPECT_EQ(KindOfSelection(program.main), SelectionKind::Nothing);

@@ -79,7 +79,7 @@ TEST_F(PointerTools, ADialogClosedInTheMeantimeGetsNothing)
     EXPECT_TRUE(ClickMiddle());
     EXPECT_EQ(Fields(Channel::RF).Lat, "");
     EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerDefault);
-    EXPECT_EQ(program.dialogs.calls.back(), "StandAside");
+    EXPECT_EQ(program.dialogs.calls.back(), "ComeBack") << "whatever stood aside for the click must not stay hidden";
 }
 
 TEST_F(PointerTools, PinPointingBringsTheMapToTheFront)

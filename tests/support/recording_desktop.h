@@ -56,7 +56,7 @@ public:
     std::vector<std::string> pages; // Opened in the browser.
     int mapPictures = 0;
 
-    std::string ClipboardText() override { return clipboard; }
+    std::string ClipboardText(std::size_t longest) override { return clipboard.size() <= longest ? clipboard : ""; }
     void SetClipboardText(std::string_view text) override { clipboard = text; }
     void CopyMapPicture() override { ++mapPictures; }
     std::optional<PrintChoice> AskPrint(std::string_view /*title*/) override { return printChoice; }

@@ -209,6 +209,7 @@ TEST_F(Tracks, AnUnusableLineSizeLeavesThePointAndTheReport)
     EXPECT_THAT(p.MarkerNames(), ElementsAre("N0CALL(t)*", "N0CALL(t)"));
     EXPECT_EQ(p.RecordText(Channel::TCP, "N0CALL", Field::Lat), "49");
     EXPECT_THAT(p.Note("N0CALL(t)"), testing::HasSubstr("49°"));
+    EXPECT_EQ(p.main.mpCtrl.RequireMap().Shapes().Count(), 0U) << "a line that no command could remove";
 }
 
 TEST_F(Tracks, StartAndStopTouchEveryNameThatHoldsTheCall)

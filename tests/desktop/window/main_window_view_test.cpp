@@ -111,6 +111,29 @@ TEST(MainWindowViewTest, GeometryComesBack)
     EXPECT_EQ(program.store.Get("WindowSplit", ""), "3000");
 }
 
+// Ctrl+C in the manual copies from the manual; the menu's entry of that key is the map's.
+TEST(MainWindowViewTest, TheManualKeepsItsCopyKeys)
+{
+    WindowProgram program;
+    program.Action("mnuRuvenmarkHelp").trigger();
+    QKeyEvent copy(QEvent::ShortcutOverride, Qt::Key_C, Qt::ControlModifier);
+    copy.ignore();
+    QCoreApplication::sendEvent(&program.Find<QWidget>("webCtrl"), &copy);
+    EXPECT_TRUE(copy.isAccepted());
+}
+
+// Where the operator has placed only the splitter, the window is still placed by the program.
+TEST(MainWindowViewTest, TheFirstPlaceIsTheProgramsOwn)
+{
+    WindowProgram program(false);
+    program.store.Set("MainWidth", "6500");
+    program.store.Set("MainHeight", "6500");
+    program.store.Set("WindowSplit", "3000");
+    StartMainWindow(program.main);
+    EXPECT_GT(program.window.width(), 700);
+    EXPECT_EQ(program.Find<QWidget>("tvStationList").width(), 200);
+}
+
 TEST(MainWindowViewTest, ClosingAsksAndCancelKeepsRunning)
 {
     WindowProgram program;
