@@ -36,18 +36,15 @@ struct BareSplit {
 BareSplit Split(std::string_view line)
 {
     const std::size_t colon = line.find(':');
-    if (colon == std::string_view::npos) {
+    if (colon == std::string_view::npos)
         return {};
-    }
     const std::string_view head = line.substr(0, colon);
     const std::size_t angle = head.find('>');
-    if (angle == std::string_view::npos) {
+    if (angle == std::string_view::npos)
         return {};
-    }
     const std::size_t comma = head.find(',', angle + 1);
-    if (comma == std::string_view::npos) {
+    if (comma == std::string_view::npos)
         return {head.substr(0, angle), head.substr(angle + 1), {}, line.substr(colon + 1)};
-    }
     return {head.substr(0, angle), head.substr(angle + 1, comma - angle - 1), head.substr(comma + 1),
             line.substr(colon + 1)};
 }
@@ -82,11 +79,9 @@ std::vector<std::string> ReadLines(const std::filesystem::path& path)
 {
     std::ifstream file(path, std::ios::binary);
     std::vector<std::string> lines;
-    for (std::string line; std::getline(file, line);) {
-        if (!line.empty()) {
+    for (std::string line; std::getline(file, line);)
+        if (!line.empty())
             lines.push_back(line);
-        }
-    }
     return lines;
 }
 
@@ -94,14 +89,11 @@ std::vector<LineSet> MakeLineSets()
 {
     std::vector<LineSet> sets{{"mix", MakePacketMix(kMixLines)}};
     const char* const folder = std::getenv("RUVENMARK_LOGS");
-    if (folder == nullptr) {
+    if (folder == nullptr)
         return sets;
-    }
-    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-        if (entry.path().extension() == ".log") {
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        if (entry.path().extension() == ".log")
             sets.push_back({entry.path().stem().string(), ReadLines(entry.path())});
-        }
-    }
     return sets;
 }
 
@@ -109,33 +101,29 @@ using PerLine = std::function<void(const std::vector<std::string>&)>;
 
 void SplitAll(const std::vector<std::string>& lines)
 {
-    for (const std::string& line : lines) {
+    for (const std::string& line : lines)
         benchmark::DoNotOptimize(Split(line));
-    }
 }
 
 void DecodeAll(const std::vector<std::string>& lines)
 {
-    for (const std::string& line : lines) {
+    for (const std::string& line : lines)
         benchmark::DoNotOptimize(aprs::Decode(line));
-    }
 }
 
 void RaiseAll(const std::vector<std::string>& lines)
 {
     IdleSink sink;
     const bool bStopped = false;
-    for (const std::string& line : lines) {
+    for (const std::string& line : lines)
         RaisePacketEvents(aprs::Decode(line), RawData::No, sink, bStopped);
-    }
 }
 
 void Register(const LineSet& set, const std::string& work, const PerLine& run)
 {
     benchmark::RegisterBenchmark((work + "/" + set.name).c_str(), [&set, run](benchmark::State& state) {
-        for ([[maybe_unused]] auto _ : state) {
+        for ([[maybe_unused]] auto _ : state)
             run(set.lines);
-        }
         state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations()) *
                                 static_cast<std::int64_t>(set.lines.size()));
     });
@@ -178,8 +166,7 @@ int main(int count, char** arguments)
     benchmark::Initialize(&count, arguments);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();
-    for (const LineSet& set : sets) {
+    for (const LineSet& set : sets)
         PrintRatio(set);
-    }
     return 0;
 }

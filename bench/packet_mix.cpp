@@ -72,9 +72,8 @@ private:
 std::string Mixer::Call()
 {
     std::string call = "N" + std::to_string(Below(10));
-    for (int i = 0; i < 3; ++i) {
+    for (int i = 0; i < 3; ++i)
         call += static_cast<char>('A' + Below(26));
-    }
     return Below(3) == 0 ? call : call + '-' + std::to_string(Below(15) + 1);
 }
 
@@ -82,9 +81,8 @@ std::string Mixer::PlainReport()
 {
     const Place place = AnyPlace();
     const std::string_view symbol = Pick(kSymbols);
-    if (Below(20) == 0) {
+    if (Below(20) == 0)
         return Head("APRS42") + '!' + CompressedPosition(place, symbol, AnyMovement()) + std::string(Pick(kComments));
-    }
     std::string text = Head("APRS42");
     switch (Below(3)) {
     case 0:
@@ -116,9 +114,8 @@ std::string Mixer::MicEReport()
     const Place place = AnyPlace();
     std::string text = Head(MicEDestination(place, Below(7))) + '`' + MicEBody(place, Pick(kSymbols), AnyMovement());
     text += '`' + MicEAltitude(Below(2000)) + std::string(Pick(kComments));
-    if (Below(4) == 0) {
+    if (Below(4) == 0)
         text += CommentTelemetry(Below(8000), Below(8000), Below(8000)) + Dao(place);
-    }
     return text + "_%";
 }
 
@@ -143,9 +140,8 @@ std::string Mixer::ObjectReport()
 {
     std::string name = "145." + Digits(Below(1000), 3) + "-A";
     const std::string rest = PlainPosition(AnyPlace(), "/r") + "T100 R25m Net Mon 2000";
-    if (Below(5) == 0) {
+    if (Below(5) == 0)
         return Head("APRS42") + ')' + name + '!' + rest;
-    }
     name.resize(9, ' ');
     return Head("APRS42") + ';' + name + (Below(20) == 0 ? '_' : '*') + Time() + rest;
 }
@@ -159,9 +155,8 @@ std::string Mixer::StatusReport()
 std::string Mixer::Telemetry()
 {
     std::string text = Head("APRS42") + "T#" + Digits(Below(1000), 3);
-    for (int i = 0; i < 5; ++i) {
+    for (int i = 0; i < 5; ++i)
         text += ',' + Digits(Below(256), 3);
-    }
     return text + ",01000110";
 }
 
@@ -188,24 +183,18 @@ std::string Mixer::Broken()
 std::string Mixer::Line()
 {
     const int share = Below(100);
-    if (share < 14) {
+    if (share < 14)
         return MicEReport();
-    }
-    if (share < 55) {
+    if (share < 55)
         return PlainReport();
-    }
-    if (share < 71) {
+    if (share < 71)
         return WeatherReport();
-    }
-    if (share < 83) {
+    if (share < 83)
         return ObjectReport();
-    }
-    if (share < 92) {
+    if (share < 92)
         return StatusReport();
-    }
-    if (share < 95) {
+    if (share < 95)
         return Telemetry();
-    }
     return share < 98 ? Message() : Broken();
 }
 
@@ -216,9 +205,8 @@ std::vector<std::string> MakePacketMix(std::size_t count, std::uint32_t seed)
     Mixer mixer(seed);
     std::vector<std::string> lines;
     lines.reserve(count);
-    for (std::size_t i = 0; i < count; ++i) {
+    for (std::size_t i = 0; i < count; ++i)
         lines.push_back(mixer.Line());
-    }
     return lines;
 }
 

@@ -50,9 +50,8 @@ char MicEByte(int figure)
 std::string Join(std::initializer_list<std::string_view> pieces)
 {
     std::string text;
-    for (const std::string_view piece : pieces) {
+    for (const std::string_view piece : pieces)
         text += piece;
-    }
     return text;
 }
 
@@ -107,9 +106,8 @@ std::string MicEDestination(Place place, int message)
     const std::array<bool, 6> high = {(bits & 4) != 0, (bits & 2) != 0, (bits & 1) != 0,
                                       !lat.bNegative,  bHundred,        place.lon < 0};
     std::string text;
-    for (std::size_t i = 0; i < high.size(); ++i) {
+    for (std::size_t i = 0; i < high.size(); ++i)
         text += high[i] ? static_cast<char>(digits[i] - '0' + 'P') : digits[i];
-    }
     return text;
 }
 
@@ -117,13 +115,12 @@ std::string MicEBody(Place place, std::string_view symbol, Movement movement)
 {
     const Angle lon = Split(place.lon);
     int degrees = lon.degrees;
-    if (degrees < 10) {
+    if (degrees < 10)
         degrees += 90;
-    } else if (degrees >= 110) {
+    else if (degrees >= 110)
         degrees -= 100;
-    } else if (degrees >= 100) {
+    else if (degrees >= 100)
         degrees -= 20;
-    }
     const int minutes = lon.hundredths / 100;
     const int tens = movement.knots / 10;
     std::string text(1, MicEByte(degrees));

@@ -94,10 +94,9 @@ std::string MakeFile(const QTemporaryDir& folder, int lines, int stations)
 void MeasureReplay(Program& program, const QTemporaryDir& folder, int lines, int stations, bool bExpanded)
 {
     const std::string path = MakeFile(folder, lines, stations);
-    if (bExpanded) {
+    if (bExpanded)
         for (const char* key : {"FL", "FLPositions"})
             program.window.ShowInTree(*program.main.tvStationList.Find(key));
-    }
     const int paintsBefore = program.window.Map().Paints();
     const double cpuBefore = CpuSeconds();
     QElapsedTimer timer;

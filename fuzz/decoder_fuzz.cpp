@@ -15,17 +15,15 @@ using namespace ruvenmark;
 
 void Require(bool bHolds)
 {
-    if (!bHolds) {
+    if (!bHolds)
         std::abort();
-    }
 }
 
 // Looks at each byte, so that a view into nowhere is found.
 void CheckText(std::string_view text)
 {
-    for (const char c : text) {
+    for (const char c : text)
         Require(c != '\0' && c != '\r' && c != '\n');
-    }
 }
 
 template <class... Texts>

@@ -25,12 +25,11 @@ bool MatchesByTable(std::string_view text, std::string_view pattern)
     while (!pattern.empty()) {
         const std::string_view element = pattern.substr(0, ElementLength(pattern));
         std::vector<bool> next(text.size() + 1);
-        for (std::size_t i = 0; i <= text.size(); ++i) {
+        for (std::size_t i = 0; i <= text.size(); ++i)
             if (element == "*")
                 next[i] = reached[i] || (i > 0 && next[i - 1]);
             else
                 next[i] = i > 0 && reached[i - 1] && MatchesPattern(text.substr(i - 1, 1), element);
-        }
         reached = std::move(next);
         pattern.remove_prefix(element.size());
     }

@@ -19,11 +19,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     files.texts["file"] = input.substr(std::min(length, size));
     const TextTable table = ReadRecords(files, "file", delimiter);
     for (const TextRecord& record : table) {
-        for (const std::string& field : record) {
+        for (const std::string& field : record)
             if (field.find('\n') != std::string::npos || field.find('\0') != std::string::npos ||
                 (!delimiter.empty() && field.find(delimiter) != std::string::npos))
                 std::abort();
-        }
     }
     WriteRecords(files, table, "again", delimiter);
     const bool bPlain = delimiter.find_first_of(std::string_view("\r\n\0", 3)) == std::string::npos;

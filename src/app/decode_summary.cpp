@@ -17,9 +17,8 @@ constexpr std::size_t kCountWidth = 10;
 std::uint64_t Total(const Counts& counts)
 {
     std::uint64_t total = 0;
-    for (const auto& [name, count] : counts) {
+    for (const auto& [name, count] : counts)
         total += count;
-    }
     return total;
 }
 
@@ -35,20 +34,18 @@ void AppendTable(std::string& text, std::string_view title, const Counts& counts
     AppendRow(text, "", title, Total(counts));
     std::vector<std::pair<std::string_view, std::uint64_t>> rows(counts.begin(), counts.end());
     std::stable_sort(rows.begin(), rows.end(), [](const auto& a, const auto& b) { return a.second > b.second; });
-    for (const auto& [name, count] : rows) {
+    for (const auto& [name, count] : rows)
         AppendRow(text, "  ", name, count);
-    }
 }
 
 } // namespace
 
 void DecodeSummary::Add(const aprs::Packet& packet)
 {
-    if (packet.IsDecoded()) {
+    if (packet.IsDecoded())
         ++m_types[PacketTypeName(packet)];
-    } else {
+    else
         ++m_reasons[RefusalText(packet.refusal)];
-    }
 }
 
 std::string DecodeSummary::ToString() const

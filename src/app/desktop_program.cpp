@@ -102,10 +102,9 @@ void TakeScreenshot(Program& program, const ProgramOptions& options)
     program.window.resize(size.width, size.height);
     if (options.loadFile)
         program.window.LoadFile(*options.loadFile);
-    for (const char* key : {"FL", "FLPositions"}) {
+    for (const char* key : {"FL", "FLPositions"})
         if (const TreeNode* node = program.main.tvStationList.Find(key))
             program.window.ShowInTree(*node);
-    }
     Map* map = program.main.mpCtrl.ActiveMap();
     if (map && options.view)
         map->SetView({options.view->lat, options.view->lon}, options.view->zoom);

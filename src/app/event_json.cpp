@@ -28,9 +28,8 @@ public:
     {
         const double rounded = RoundDecimals(value, kDecimals);
         m_json[key] = rounded;
-        if (std::abs(rounded) < 1e15 && rounded == std::trunc(rounded)) {
+        if (std::abs(rounded) < 1e15 && rounded == std::trunc(rounded))
             m_json[key] = static_cast<std::int64_t>(rounded);
-        }
         return *this;
     }
     Event& Place(double lat, double lon) { return Number("Lat", lat).Number("Lon", lon); }

@@ -39,13 +39,11 @@ bool LineReader::ReadAll(const std::function<void(std::string_view)>& onLine, co
     std::vector<char> buffer(kBufferSize);
     while (true) {
         const ssize_t count = ::read(m_descriptor, buffer.data(), buffer.size());
-        if (count < 0 && errno == EINTR) {
+        if (count < 0 && errno == EINTR)
             continue;
-        }
         if (count <= 0) {
-            if (!m_started.empty()) {
+            if (!m_started.empty())
                 onLine(m_started);
-            }
             onPause();
             return count == 0;
         }

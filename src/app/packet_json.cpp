@@ -14,20 +14,18 @@ constexpr int kValueDecimals = 2;
 
 void PutText(Json& json, const char* key, std::string_view text)
 {
-    if (!text.empty()) {
+    if (!text.empty())
         json[key] = ShownText(text);
-    }
 }
 
 void PutNumber(Json& json, const char* key, const std::optional<double>& value, int decimals = kValueDecimals)
 {
     if (value) {
         const double rounded = RoundDecimals(*value, decimals);
-        if (rounded == static_cast<double>(static_cast<std::int64_t>(rounded))) {
+        if (rounded == static_cast<double>(static_cast<std::int64_t>(rounded)))
             json[key] = static_cast<std::int64_t>(rounded);
-        } else {
+        else
             json[key] = rounded;
-        }
     }
 }
 
@@ -40,20 +38,17 @@ void PutPlace(Json& json, double latitude, double longitude)
 void PutTime(Json& json, const aprs::TimeStamp& time)
 {
     PutText(json, "time", time.text);
-    if (time.IsBad()) {
+    if (time.IsBad())
         json["warning"] = "bad time stamp";
-    }
 }
 
 void PutReach(Json& json, const aprs::Reach& reach)
 {
     PutText(json, reach.bDirectionFinding ? "dfs" : "phg", reach.digits);
-    if (reach.power) {
+    if (reach.power)
         json["power"] = *reach.power;
-    }
-    if (reach.height) {
+    if (reach.height)
         json["height"] = *reach.height;
-    }
     json["gain"] = reach.gain;
     PutText(json, "directivity", reach.directivity);
 }
@@ -82,25 +77,22 @@ public:
     {
         const aprs::Position& position = report.position;
         PutPlace(m_json, position.latitude, position.longitude);
-        if (position.ambiguity > 0) {
+        if (position.ambiguity > 0)
             m_json["ambiguity"] = position.ambiguity;
-        }
         m_json["symbol"] = std::string{position.symbol.table, position.symbol.code};
         PutNumber(m_json, "course", report.course);
         PutNumber(m_json, "speed_knots", report.speed);
         PutNumber(m_json, "altitude_ft", report.altitude);
-        if (report.reach) {
+        if (report.reach)
             PutReach(m_json, *report.reach);
-        }
         PutNumber(m_json, "range_miles", report.range);
         PutTime(m_json, report.time);
         PutText(m_json, "mic_e_status", report.micEStatus);
         PutText(m_json, "device", report.device);
         PutText(m_json, "telemetry", report.telemetry);
         PutText(m_json, "comment", report.comment.ToString());
-        if (report.weather) {
+        if (report.weather)
             PutWeather(m_json, *report.weather);
-        }
     }
     void operator()(const aprs::ObjectReport& object)
     {
@@ -116,14 +108,12 @@ public:
     }
     void operator()(const aprs::StatusReport& status)
     {
-        if (status.grid) {
+        if (status.grid)
             PutPlace(m_json, status.grid->latitude, status.grid->longitude);
-        }
         PutTime(m_json, status.time);
         m_json["status"] = ShownText(status.text);
-        if (status.grid) {
+        if (status.grid)
             PutText(m_json, "grid", status.grid->locator);
-        }
     }
     void operator()(const aprs::GridBeacon& beacon)
     {
@@ -143,9 +133,8 @@ public:
     {
         PutText(m_json, "sequence", telemetry.sequence);
         Json values = Json::array();
-        for (const auto& value : telemetry.values) {
+        for (const auto& value : telemetry.values)
             values.push_back(value ? Json(*value) : Json(nullptr));
-        }
         m_json["values"] = std::move(values);
         PutText(m_json, "bits", telemetry.bits);
         PutText(m_json, "comment", telemetry.comment);
@@ -202,9 +191,8 @@ void PutHeader(Json& json, const aprs::Header& header)
 {
     PutText(json, "source", header.source);
     PutText(json, "dest", header.dest);
-    if (!header.source.empty()) {
+    if (!header.source.empty())
         json["path"] = ShownText(header.path);
-    }
 }
 
 } // namespace
@@ -219,17 +207,14 @@ nlohmann::ordered_json PacketJson(const aprs::Packet& packet)
     Json json;
     json["line"] = ShownText(packet.line);
     json["ok"] = packet.IsDecoded();
-    if (packet.IsDecoded()) {
+    if (packet.IsDecoded())
         json["type"] = PacketTypeName(packet);
-    }
     PutHeader(json, packet.header);
-    if (packet.relay) {
+    if (packet.relay)
         PutHeader(json["third_party"], *packet.relay);
-    }
     std::visit(BodyWriter(json), packet.body);
-    if (!packet.IsDecoded()) {
+    if (!packet.IsDecoded())
         json["error"] = RefusalText(packet.refusal);
-    }
     return json;
 }
 

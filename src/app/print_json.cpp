@@ -100,10 +100,9 @@ Json RecordsJson(const MainWindow& main)
 Json CountsJson(const RunState& state)
 {
     Json undecoded = Json::object();
-    for (std::size_t i = 0; i < state.lines.undecoded.size(); ++i) {
+    for (std::size_t i = 0; i < state.lines.undecoded.size(); ++i)
         if (state.lines.undecoded[i] > 0)
             undecoded[std::string(RefusalText(static_cast<aprs::Refusal>(i)))] = state.lines.undecoded[i];
-    }
     Json abandoned = Json::object();
     std::size_t abandonedSum = 0;
     for (const auto& [reason, count] : state.main.abandoned) {

@@ -74,10 +74,9 @@ void PrintCounts(std::ostream& out, const RunState& state)
 {
     out << "decoded: " << state.lines.decoded << '\n';
     out << "undecoded: " << state.lines.Undecoded() << '\n';
-    for (std::size_t i = 0; i < state.lines.undecoded.size(); ++i) {
+    for (std::size_t i = 0; i < state.lines.undecoded.size(); ++i)
         if (state.lines.undecoded[i] > 0)
             out << "  " << RefusalText(static_cast<aprs::Refusal>(i)) << ": " << state.lines.undecoded[i] << '\n';
-    }
     std::size_t abandoned = 0;
     for (const auto& [reason, count] : state.main.abandoned)
         abandoned += count;

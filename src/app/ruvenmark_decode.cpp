@@ -83,9 +83,8 @@ std::optional<int> ReadArguments(int count, char** arguments, Options& options)
     for (int i = 1; i < count; ++i) {
         const std::string_view argument = arguments[i];
         if (!bOptions || argument == "-" || !argument.starts_with('-')) {
-            if (bFile) {
+            if (bFile)
                 return Complain("more than one file; see --help");
-            }
             options.file = argument;
             bFile = true;
         } else if (argument == "--") {
@@ -114,9 +113,8 @@ public:
     {
         m_text += json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
         m_text += '\n';
-        if (m_text.size() > kEnough) {
+        if (m_text.size() > kEnough)
             Flush();
-        }
     }
     void Text(std::string_view text) { m_text += text; }
     void Flush()
@@ -124,11 +122,10 @@ public:
         std::size_t done = 0;
         while (done < m_text.size() && !m_bFailed) {
             const ssize_t count = ::write(STDOUT_FILENO, m_text.data() + done, m_text.size() - done);
-            if (count >= 0) {
+            if (count >= 0)
                 done += static_cast<std::size_t>(count);
-            } else if (errno != EINTR) {
+            else if (errno != EINTR)
                 m_bFailed = true;
-            }
         }
         m_text.clear();
     }
@@ -153,9 +150,8 @@ int Run(int descriptor, const Options& options)
     const bool bNeverStopped = false;
     EventJsonSink sink([&](const nlohmann::ordered_json& event) { output.Line(event); });
     const auto onLine = [&](std::string_view line) {
-        if (IsBlankLine(line) || output.HasFailed()) {
+        if (IsBlankLine(line) || output.HasFailed())
             return;
-        }
         const aprs::Packet packet = aprs::Decode(line);
         switch (options.mode) {
         case Mode::Packets:
@@ -169,12 +165,10 @@ int Run(int descriptor, const Options& options)
             break;
         }
     };
-    if (!LineReader(descriptor).ReadAll(onLine, [&] { output.Flush(); })) {
+    if (!LineReader(descriptor).ReadAll(onLine, [&] { output.Flush(); }))
         return Complain("cannot read " + options.file + ": " + std::strerror(errno));
-    }
-    if (options.mode == Mode::Summary) {
+    if (options.mode == Mode::Summary)
         output.Text(summary.ToString());
-    }
     output.Flush();
     return output.HasFailed() ? kWriteFailed : 0;
 }
@@ -190,19 +184,15 @@ bool IsFolder(int descriptor)
 int main(int count, char** arguments)
 {
     Options options;
-    if (const auto status = ReadArguments(count, arguments, options)) {
+    if (const auto status = ReadArguments(count, arguments, options))
         return *status;
-    }
-    if (options.file == "-") {
+    if (options.file == "-")
         return Run(STDIN_FILENO, options);
-    }
     const int descriptor = ::open(options.file.c_str(), O_RDONLY | O_CLOEXEC);
-    if (descriptor < 0) {
+    if (descriptor < 0)
         return Complain("cannot open " + options.file + ": " + std::strerror(errno));
-    }
-    if (IsFolder(descriptor)) {
+    if (IsFolder(descriptor))
         return Complain("cannot read " + options.file + ": it is a folder");
-    }
     const int status = Run(descriptor, options);
     ::close(descriptor);
     return status;

@@ -19,26 +19,23 @@ void Comment::Set(std::size_t piece, std::string_view text)
 
 std::optional<std::string_view> Comment::Whole() const
 {
-    if (m_count > 1) {
+    if (m_count > 1)
         return std::nullopt;
-    }
     return m_count == 0 ? std::string_view() : (*this)[0];
 }
 
 std::string Comment::ToString() const
 {
     std::string text;
-    for (std::size_t i = 0; i < m_count; ++i) {
+    for (std::size_t i = 0; i < m_count; ++i)
         text += (*this)[i];
-    }
     return text;
 }
 
 void Comment::Erase(std::size_t piece)
 {
-    for (std::size_t i = piece + 1; i < m_count; ++i) {
+    for (std::size_t i = piece + 1; i < m_count; ++i)
         m_pieces[i - 1] = m_pieces[i];
-    }
     --m_count;
 }
 
@@ -53,9 +50,8 @@ void Comment::Cut(std::size_t piece, std::size_t begin, std::size_t size)
     } else if (after.empty()) {
         Set(piece, before);
     } else if (m_count < kMaxPieces) {
-        for (std::size_t i = m_count; i > piece + 1; --i) {
+        for (std::size_t i = m_count; i > piece + 1; --i)
             m_pieces[i] = m_pieces[i - 1];
-        }
         Set(piece, before);
         Set(piece + 1, after);
         ++m_count;
@@ -64,22 +60,19 @@ void Comment::Cut(std::size_t piece, std::size_t begin, std::size_t size)
 
 void Comment::Tidy()
 {
-    if (m_count > 0 && (*this)[0].front() == '/') {
+    if (m_count > 0 && (*this)[0].front() == '/')
         Set(0, (*this)[0].substr(1));
-    }
     while (m_count > 0) {
         Set(0, TrimLeft((*this)[0]));
-        if (m_pieces[0].size > 0) {
+        if (m_pieces[0].size > 0)
             break;
-        }
         Erase(0);
     }
     while (m_count > 0) {
         const std::size_t last = m_count - 1U;
         Set(last, TrimRight((*this)[last]));
-        if (m_pieces[last].size > 0) {
+        if (m_pieces[last].size > 0)
             break;
-        }
         Erase(last);
     }
 }

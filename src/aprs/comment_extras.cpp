@@ -29,9 +29,8 @@ void TakeAltitude(Comment& comment, PositionReport& report)
     for (std::size_t i = 0; i < comment.Count(); ++i) {
         const std::string_view piece = comment[i];
         for (std::size_t at = piece.find('='); at != std::string_view::npos; at = piece.find('=', at + 1)) {
-            if (at < 2 || piece[at - 1] != 'A' || piece[at - 2] != '/' || piece.size() - at < 7) {
+            if (at < 2 || piece[at - 1] != 'A' || piece[at - 2] != '/' || piece.size() - at < 7)
                 continue;
-            }
             if (const auto feet = AltitudeFeet(piece.substr(at + 1, 6))) {
                 report.altitude = *feet;
                 comment.Cut(i, at - 2, kAltitudeSize);
@@ -45,9 +44,8 @@ void TakeAltitude(Comment& comment, PositionReport& report)
 std::size_t TelemetrySize(std::string_view text)
 {
     std::size_t n = 0;
-    while (n < text.size() && n <= kMaxTelemetry && IsBase91(text[n])) {
+    while (n < text.size() && n <= kMaxTelemetry && IsBase91(text[n]))
         ++n;
-    }
     return n >= 4 && n <= kMaxTelemetry && n % 2 == 0 && n < text.size() && text[n] == '|' ? n : 0;
 }
 
@@ -96,9 +94,8 @@ void TakeDao(Comment& comment, PositionReport& report)
 {
     for (std::size_t i = comment.Count(); i-- > 0;) {
         const std::string_view piece = comment[i];
-        if (piece.size() < kDaoSize) {
+        if (piece.size() < kDaoSize)
             continue;
-        }
         std::size_t at = piece.rfind('!', piece.size() - kDaoSize);
         while (at != std::string_view::npos) {
             if (piece[at + 4] == '!' && ApplyDao(piece.substr(at + 1, 3), report.position)) {
@@ -115,9 +112,8 @@ void TakeMicEAltitude(Comment& comment, PositionReport& report)
 {
     const std::string_view piece = comment[0];
     for (std::size_t at = piece.find('}'); at != std::string_view::npos; at = piece.find('}', at + 1)) {
-        if (at < 3 || !IsBase91(piece[at - 1]) || !IsBase91(piece[at - 2]) || !IsBase91(piece[at - 3])) {
+        if (at < 3 || !IsBase91(piece[at - 1]) || !IsBase91(piece[at - 2]) || !IsBase91(piece[at - 3]))
             continue;
-        }
         const int value =
             (Base91Value(piece[at - 3]) * 91 + Base91Value(piece[at - 2])) * 91 + Base91Value(piece[at - 1]);
         report.altitude = (value - 10000) * kFeetPerMetre;
@@ -133,12 +129,10 @@ bool Holds(std::string_view text, char c)
 
 void TakeCommon(std::string_view text, PositionReport& report)
 {
-    if (Holds(text, '|')) {
+    if (Holds(text, '|'))
         TakeTelemetry(report.comment, report);
-    }
-    if (Holds(text, '!')) {
+    if (Holds(text, '!'))
         TakeDao(report.comment, report);
-    }
     report.comment.Tidy();
 }
 
@@ -146,28 +140,23 @@ void TakeCommon(std::string_view text, PositionReport& report)
 
 void ParseComment(std::string_view text, PositionReport& report)
 {
-    if (text.empty()) {
+    if (text.empty())
         return;
-    }
     report.comment = Comment(text);
-    if (Holds(text, '=')) {
+    if (Holds(text, '='))
         TakeAltitude(report.comment, report);
-    }
     TakeCommon(text, report);
 }
 
 void ParseMicEComment(std::string_view text, PositionReport& report)
 {
-    if (text.empty()) {
+    if (text.empty())
         return;
-    }
     report.comment = Comment(text);
-    if (Holds(text, '}')) {
+    if (Holds(text, '}'))
         TakeMicEAltitude(report.comment, report);
-    }
-    if (Holds(text, '=') && !report.altitude) {
+    if (Holds(text, '=') && !report.altitude)
         TakeAltitude(report.comment, report);
-    }
     TakeCommon(text, report);
 }
 

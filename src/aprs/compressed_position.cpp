@@ -28,11 +28,9 @@ constexpr std::array<double, 91> kPowers108 = MakePowers(1.08);
 
 bool AllBase91(std::string_view text)
 {
-    for (const char c : text) {
-        if (!IsBase91(c)) {
+    for (const char c : text)
+        if (!IsBase91(c))
             return false;
-        }
-    }
     return true;
 }
 
@@ -44,9 +42,8 @@ int FourDigits(std::string_view text)
 // c and s, whose meaning hangs on the type byte behind them.
 void ParseExtension(char first, char second, char type, PositionReport& report)
 {
-    if (first == ' ' || second == ' ') {
+    if (first == ' ' || second == ' ')
         return;
-    }
     const int c = Base91Value(first);
     const int s = Base91Value(second);
     if (type != ' ' && (Base91Value(type) & kSourceMask) == kSourceGga) {
@@ -73,19 +70,16 @@ bool StartsCompressed(char c)
 
 Refusal ParseCompressedPosition(std::string_view text, PositionReport& report)
 {
-    if (text.size() < kCompressedSize) {
+    if (text.size() < kCompressedSize)
         return Refusal::PositionTooShort;
-    }
     const char code = text[9];
     if (!StartsCompressed(text[0]) || !AllBase91(text.substr(1, 8)) || !IsOneOf(code, '!', '{', '}') ||
-        !IsOneOf(text[10], '!', '{', ' ') || !IsOneOf(text[11], '!', '{', ' ') || !IsOneOf(text[12], '!', '{', ' ')) {
+        !IsOneOf(text[10], '!', '{', ' ') || !IsOneOf(text[11], '!', '{', ' ') || !IsOneOf(text[12], '!', '{', ' '))
         return Refusal::BadCompressed;
-    }
     const double latitude = 90.0 - FourDigits(text.substr(1, 4)) / kLatitudeScale;
     const double longitude = -180.0 + FourDigits(text.substr(5, 4)) / kLongitudeScale;
-    if (latitude < -90.0 || longitude > 180.0) {
+    if (latitude < -90.0 || longitude > 180.0)
         return Refusal::PositionOutOfRange;
-    }
     const char table = text[0] >= 'a' ? static_cast<char>(text[0] - 'a' + '0') : text[0];
     report.position.latitude = latitude;
     report.position.longitude = longitude;

@@ -22,17 +22,15 @@ constexpr std::string_view kUltimeter = "$ULTW";
 
 Refusal DecodeBang(std::string_view rest, Packet& packet)
 {
-    if (rest.starts_with('!')) {
+    if (rest.starts_with('!'))
         return ParseUltimeterLogging(rest.substr(1), packet.body.emplace<WeatherReport>());
-    }
     return ParsePositionReport(rest, packet.body.emplace<PositionReport>());
 }
 
 Refusal DecodeDollar(Packet& packet)
 {
-    if (packet.info.starts_with(kUltimeter)) {
+    if (packet.info.starts_with(kUltimeter))
         return ParseUltimeterPacket(packet.info.substr(kUltimeter.size()), packet.body.emplace<WeatherReport>());
-    }
     return ParseNmea(packet.info, packet.header.dest, packet.body.emplace<PositionReport>());
 }
 
@@ -53,9 +51,8 @@ Refusal DecodeText(std::string_view rest, Packet& packet)
 
 Refusal DecodeUserDefined(std::string_view rest, Packet& packet)
 {
-    if (rest.size() < 2) {
+    if (rest.size() < 2)
         return Refusal::NothingInside;
-    }
     packet.body = UserDefined{rest.substr(0, 2), rest.substr(2)};
     return Refusal::None;
 }
@@ -64,9 +61,8 @@ Refusal DecodeUserDefined(std::string_view rest, Packet& packet)
 Refusal DecodeLateBang(Packet& packet)
 {
     const std::size_t bang = packet.info.substr(0, kLateBang).find('!');
-    if (bang == std::string_view::npos) {
+    if (bang == std::string_view::npos)
         return Refusal::UnknownType;
-    }
     auto& report = packet.body.emplace<PositionReport>();
     const Refusal refusal = ParsePositionReport(packet.info.substr(bang + 1), report);
     return refusal == Refusal::None ? Refusal::None : Refusal::UnknownType;
@@ -77,9 +73,8 @@ Refusal DecodePacket(std::string_view line, Packet& packet);
 // The packet inside counts, under its own sender; the outer header only tells who relayed it.
 Refusal DecodeThirdParty(std::string_view rest, Packet& packet)
 {
-    if (packet.relay) {
+    if (packet.relay)
         return Refusal::NestedThirdParty;
-    }
     packet.relay = packet.header;
     packet.header = {};
     return DecodePacket(rest, packet);
@@ -129,9 +124,8 @@ Refusal DecodeInfo(Packet& packet)
     case '*':
         return DecodeLateBang(packet) == Refusal::None ? Refusal::None : Refusal::RawWeather;
     case 'T':
-        if (rest.starts_with('#')) {
+        if (rest.starts_with('#'))
             return ParseTelemetry(rest.substr(1), packet.body.emplace<Telemetry>());
-        }
         break;
     default:
         break;
@@ -147,9 +141,8 @@ Refusal DecodePacket(std::string_view line, Packet& packet)
 
 std::string_view WithoutLineEnd(std::string_view line)
 {
-    while (!line.empty() && (line.back() == '\n' || line.back() == '\r')) {
+    while (!line.empty() && (line.back() == '\n' || line.back() == '\r'))
         line.remove_suffix(1);
-    }
     return line;
 }
 
@@ -158,18 +151,16 @@ std::string_view WithoutLineEnd(std::string_view line)
 Packet Decode(std::string_view line)
 {
     Packet packet(WithoutLineEnd(line));
-    if (packet.line.empty()) {
+    if (packet.line.empty())
         packet.refusal = Refusal::EmptyLine;
-    } else if (packet.line.size() > kMaxLine) {
+    else if (packet.line.size() > kMaxLine)
         packet.refusal = Refusal::LineTooLong;
-    } else if (packet.line.front() == '#') {
+    else if (packet.line.front() == '#')
         packet.refusal = Refusal::ServerComment;
-    } else {
+    else
         packet.refusal = DecodePacket(packet.line, packet);
-    }
-    if (!packet.IsDecoded()) {
+    if (!packet.IsDecoded())
         packet.body.emplace<std::monostate>();
-    }
     return packet;
 }
 

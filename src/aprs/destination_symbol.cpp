@@ -29,9 +29,8 @@ std::optional<Symbol> LetterSymbol(std::string_view letters)
 {
     for (const Stretch& stretch : kStretches) {
         const bool bPrimary = letters[0] == stretch.primary;
-        if ((!bPrimary && letters[0] != stretch.alternate) || !IsBetween(letters[1], stretch.from, stretch.to)) {
+        if ((!bPrimary && letters[0] != stretch.alternate) || !IsBetween(letters[1], stretch.from, stretch.to))
             continue;
-        }
         const char code = static_cast<char>(stretch.code + (letters[1] - stretch.from));
         const bool bOverlay = !bPrimary && letters.size() == 3 && (IsUpper(letters[2]) || IsDigit(letters[2]));
         return Symbol{bPrimary ? '/' : bOverlay ? letters[2] : '\\', code};
@@ -43,9 +42,8 @@ std::optional<Symbol> LetterSymbol(std::string_view letters)
 std::optional<Symbol> NumberSymbol(std::string_view text)
 {
     const auto number = ParseDigits(text.substr(1));
-    if (!number || *number < 1 || *number > 94 || (text[0] != 'C' && text[0] != 'E')) {
+    if (!number || *number < 1 || *number > 94 || (text[0] != 'C' && text[0] != 'E'))
         return std::nullopt;
-    }
     return Symbol{text[0] == 'C' ? '/' : '\\', static_cast<char>(kFirstCode - 1 + *number)};
 }
 
@@ -54,14 +52,12 @@ std::optional<Symbol> NumberSymbol(std::string_view text)
 std::optional<Symbol> DestinationSymbol(std::string_view dest)
 {
     dest = dest.substr(0, dest.find('-'));
-    if (dest.size() < kPrefixSize + 2 || (!dest.starts_with("GPS") && !dest.starts_with("SPC"))) {
+    if (dest.size() < kPrefixSize + 2 || (!dest.starts_with("GPS") && !dest.starts_with("SPC")))
         return std::nullopt;
-    }
     const std::string_view rest = dest.substr(kPrefixSize);
     if (rest.size() == 3) {
-        if (const auto symbol = NumberSymbol(rest)) {
+        if (const auto symbol = NumberSymbol(rest))
             return symbol;
-        }
     }
     return LetterSymbol(rest);
 }
@@ -69,13 +65,11 @@ std::optional<Symbol> DestinationSymbol(std::string_view dest)
 std::optional<Symbol> SsidSymbol(std::string_view source)
 {
     const std::size_t dash = source.find('-');
-    if (dash == std::string_view::npos) {
+    if (dash == std::string_view::npos)
         return std::nullopt;
-    }
     const auto ssid = ParseDigits(source.substr(dash + 1));
-    if (!ssid || *ssid < 1 || static_cast<std::size_t>(*ssid) > kSsidCodes.size()) {
+    if (!ssid || *ssid < 1 || static_cast<std::size_t>(*ssid) > kSsidCodes.size())
         return std::nullopt;
-    }
     return Symbol{'/', kSsidCodes[static_cast<std::size_t>(*ssid) - 1]};
 }
 

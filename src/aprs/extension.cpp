@@ -14,26 +14,21 @@ constexpr std::array<std::string_view, 10> kDirections = {"Omni", "45",  "90",  
 
 bool IsFigure(std::string_view text)
 {
-    for (const char c : text) {
-        if (!IsDigit(c) && c != '.' && c != ' ') {
+    for (const char c : text)
+        if (!IsDigit(c) && c != '.' && c != ' ')
             return false;
-        }
-    }
     return true;
 }
 
 bool ParseCourseSpeed(std::string_view text, PositionReport& report)
 {
-    if (text[3] != '/' || !IsFigure(text.substr(0, 3)) || !IsFigure(text.substr(4, 3))) {
+    if (text[3] != '/' || !IsFigure(text.substr(0, 3)) || !IsFigure(text.substr(4, 3)))
         return false;
-    }
     const auto course = ParseDigits(text.substr(0, 3));
-    if (course && *course >= 1 && *course <= 360) {
+    if (course && *course >= 1 && *course <= 360)
         report.course = *course;
-    }
-    if (const auto speed = ParseDigits(text.substr(4, 3))) {
+    if (const auto speed = ParseDigits(text.substr(4, 3)))
         report.speed = *speed;
-    }
     return true;
 }
 
@@ -46,25 +41,21 @@ bool IsReach(std::string_view digits)
 std::size_t ParseReach(std::string_view text, bool bDirectionFinding, PositionReport& report)
 {
     const std::string_view digits = text.substr(3, 4);
-    if (!IsReach(digits)) {
+    if (!IsReach(digits))
         return 0;
-    }
     Reach reach;
     reach.digits = digits;
     reach.bDirectionFinding = bDirectionFinding;
-    if (!bDirectionFinding) {
+    if (!bDirectionFinding)
         reach.power = DigitValue(digits[0]) * DigitValue(digits[0]);
-    }
     const int doublings = digits[1] - '0';
-    if (doublings <= kMaxDoublings) {
+    if (doublings <= kMaxDoublings)
         reach.height = 10 << doublings;
-    }
     reach.gain = DigitValue(digits[2]);
     reach.directivity = kDirections[static_cast<std::size_t>(DigitValue(digits[3]))];
     // A beacon rate has a slash behind it, which may begin an altitude.
-    if (text.size() > kExtensionSize + 1 && text[8] == '/' && (IsDigit(text[7]) || IsUpper(text[7]))) {
+    if (text.size() > kExtensionSize + 1 && text[8] == '/' && (IsDigit(text[7]) || IsUpper(text[7])))
         reach.digits = text.substr(3, 5);
-    }
     report.reach = reach;
     return 3 + reach.digits.size();
 }
@@ -72,21 +63,18 @@ std::size_t ParseReach(std::string_view text, bool bDirectionFinding, PositionRe
 bool ParseRange(std::string_view text, PositionReport& report)
 {
     const auto miles = ParseDigits(text.substr(3, 4));
-    if (miles) {
+    if (miles)
         report.range = *miles;
-    }
     return miles.has_value();
 }
 
 std::size_t ExtensionSize(std::string_view text, PositionReport& report)
 {
     const std::string_view tag = text.substr(0, 3);
-    if (tag == "PHG" || tag == "DFS") {
+    if (tag == "PHG" || tag == "DFS")
         return ParseReach(text, tag == "DFS", report);
-    }
-    if (tag == "RNG") {
+    if (tag == "RNG")
         return ParseRange(text, report) ? kExtensionSize : 0;
-    }
     return ParseCourseSpeed(text, report) ? kExtensionSize : 0;
 }
 
@@ -95,9 +83,8 @@ std::size_t ExtensionSize(std::string_view text, PositionReport& report)
 std::string_view ParseExtension(std::string_view text, PositionReport& report)
 {
     const Symbol symbol = report.position.symbol;
-    if (text.size() < kExtensionSize || (symbol.table == '\\' && symbol.code == 'l')) {
+    if (text.size() < kExtensionSize || (symbol.table == '\\' && symbol.code == 'l'))
         return text;
-    }
     return text.substr(ExtensionSize(text, report));
 }
 

@@ -39,24 +39,20 @@ bool IsCallByte(char c)
 std::size_t CallLength(std::string_view text)
 {
     std::size_t n = 0;
-    while (n < text.size() && IsCallByte(text[n])) {
+    while (n < text.size() && IsCallByte(text[n]))
         ++n;
-    }
     return n;
 }
 
 bool IsDestination(std::string_view dest)
 {
     std::size_t n = 0;
-    while (n < dest.size() && (IsUpper(dest[n]) || IsDigit(dest[n]))) {
+    while (n < dest.size() && (IsUpper(dest[n]) || IsDigit(dest[n])))
         ++n;
-    }
-    if (n == 0 || n > kMaxDestCall) {
+    if (n == 0 || n > kMaxDestCall)
         return false;
-    }
-    if (n == dest.size()) {
+    if (n == dest.size())
         return true;
-    }
     const std::string_view ssid = dest.substr(n + 1);
     const auto number = ParseDigits(ssid);
     return dest[n] == '-' && ssid.size() <= 2 && number && *number <= kMaxSsid;
@@ -64,14 +60,11 @@ bool IsDestination(std::string_view dest)
 
 bool IsHexAddress(std::string_view element)
 {
-    if (element.size() != kHexAddress) {
+    if (element.size() != kHexAddress)
         return false;
-    }
-    for (const char c : element) {
-        if (HexValue(c) < 0) {
+    for (const char c : element)
+        if (HexValue(c) < 0)
             return false;
-        }
-    }
     return true;
 }
 
@@ -79,12 +72,10 @@ bool IsHexAddress(std::string_view element)
 std::size_t ElementSize(std::string_view path, bool bBehindQ)
 {
     std::size_t n = CallLength(path);
-    if (n == 0 || (n > kMaxCall && !(bBehindQ && IsHexAddress(path.substr(0, n))))) {
+    if (n == 0 || (n > kMaxCall && !(bBehindQ && IsHexAddress(path.substr(0, n)))))
         return 0;
-    }
-    if (n < path.size() && path[n] == '*') {
+    if (n < path.size() && path[n] == '*')
         ++n;
-    }
     return n == path.size() || path[n] == ',' ? n : 0;
 }
 
@@ -93,9 +84,8 @@ bool IsPath(std::string_view path)
     bool bBehindQ = false;
     while (!path.empty()) {
         const std::size_t size = ElementSize(path, bBehindQ);
-        if (size == 0) {
+        if (size == 0)
             return path.find_first_not_of(',') == std::string_view::npos; // Empty elements may end it.
-        }
         bBehindQ = bBehindQ || (size == 3 && path[0] == 'q' && path[1] == 'A');
         path.remove_prefix(size == path.size() ? size : size + 1);
     }
@@ -105,24 +95,20 @@ bool IsPath(std::string_view path)
 Refusal ParseCarefully(std::string_view line, Header& header, std::string_view& info)
 {
     const std::size_t source = CallLength(line.substr(0, kMaxCall + 1));
-    if (source == 0 || source > kMaxCall || source == line.size() || line[source] != '>') {
+    if (source == 0 || source > kMaxCall || source == line.size() || line[source] != '>')
         return line.find(':') == std::string_view::npos ? Refusal::NoPayload : Refusal::BadSource;
-    }
     header.source = line.substr(0, source);
     const std::size_t colon = line.find(':', source + 1);
-    if (colon == std::string_view::npos || colon + 1 == line.size()) {
+    if (colon == std::string_view::npos || colon + 1 == line.size())
         return Refusal::NoPayload;
-    }
     info = line.substr(colon + 1);
     const std::string_view rest = line.substr(source + 1, colon - source - 1);
     const std::size_t comma = rest.find(',');
     header.dest = rest.substr(0, comma);
-    if (!IsDestination(header.dest)) {
+    if (!IsDestination(header.dest))
         return Refusal::BadDestination;
-    }
-    if (comma == std::string_view::npos) {
+    if (comma == std::string_view::npos)
         return Refusal::None;
-    }
     header.path = rest.substr(comma + 1);
     return IsPath(header.path) ? Refusal::None : Refusal::BadPath;
 }
@@ -207,16 +193,14 @@ bool ParseQuickly(std::string_view line, Header& header, std::string_view& info)
     const Bits bits = ReadWindow(text);
     const auto colon = static_cast<std::size_t>(std::countr_zero(bits.colon));
     const auto angle = static_cast<std::size_t>(std::countr_one(bits.call));
-    if (colon >= kWindow - 1 || angle >= colon || text[angle] != '>' || colon + 1 == line.size()) {
+    if (colon >= kWindow - 1 || angle >= colon || text[angle] != '>' || colon + 1 == line.size())
         return false;
-    }
     const std::uint64_t dest = bits.call & ~Below(angle + 1);
     const auto comma = angle + 1 + static_cast<std::size_t>(std::countr_one(dest >> (angle + 1)));
     const std::string_view destText = line.substr(angle + 1, comma - angle - 1);
     if (angle == 0 || (text[comma] != ',' && text[comma] != ':') || HasTooLong(bits.call & Below(colon)) ||
-        !IsDestination(destText) || !IsPlainPath(bits, comma, colon)) {
+        !IsDestination(destText) || !IsPlainPath(bits, comma, colon))
         return false;
-    }
     header.source = line.substr(0, angle);
     header.dest = destText;
     header.path = comma == colon ? std::string_view() : line.substr(comma + 1, colon - comma - 1);

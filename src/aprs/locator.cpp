@@ -24,9 +24,8 @@ int LetterValue(char c)
 std::size_t LocatorSize(std::string_view text)
 {
     if (text.size() < kSquareSize || !IsLetterUpTo(text[0], 'R') || !IsLetterUpTo(text[1], 'R') || !IsDigit(text[2]) ||
-        !IsDigit(text[3])) {
+        !IsDigit(text[3]))
         return 0;
-    }
     const bool bSubsquare = text.size() >= kSubsquareSize && IsLetterUpTo(text[4], 'X') && IsLetterUpTo(text[5], 'X');
     return bSubsquare ? kSubsquareSize : kSquareSize;
 }
@@ -48,9 +47,8 @@ GridPosition LocatorPosition(std::string_view locator)
 Refusal ParseGridBeacon(std::string_view text, GridBeacon& beacon)
 {
     const std::size_t size = LocatorSize(text);
-    if (size == 0 || size >= text.size() || text[size] != ']') {
+    if (size == 0 || size >= text.size() || text[size] != ']')
         return Refusal::BadGrid;
-    }
     beacon.grid = LocatorPosition(text.substr(0, size));
     beacon.comment = Trim(text.substr(size + 1));
     return Refusal::None;

@@ -32,9 +32,8 @@ bool IsNumber(std::string_view text)
 std::string_view NumberBehindWord(std::string_view text)
 {
     const std::string_view tail = TrimRight(text.substr(kAckWord));
-    if (tail.size() > kMaxNumber) {
+    if (tail.size() > kMaxNumber)
         return {};
-    }
     const std::size_t brace = tail.find('}');
     const std::string_view number = tail.substr(0, brace);
     const bool bGoodTail = brace == std::string_view::npos || AllAlnum(tail.substr(brace + 1));
@@ -45,20 +44,17 @@ std::string_view NumberBehindWord(std::string_view text)
 void TakeNumber(Message& message)
 {
     const std::size_t at = message.text.rfind('{');
-    if (at == std::string_view::npos) {
+    if (at == std::string_view::npos)
         return;
-    }
     const std::string_view tail = TrimRight(message.text.substr(at + 1));
     const std::size_t brace = tail.find('}');
     const std::string_view number = tail.substr(0, brace);
-    if (!IsNumber(number)) {
+    if (!IsNumber(number))
         return;
-    }
     if (brace != std::string_view::npos) {
         const std::string_view ack = tail.substr(brace + 1);
-        if (ack.size() > kMaxNumber || !AllAlnum(ack)) {
+        if (ack.size() > kMaxNumber || !AllAlnum(ack))
             return;
-        }
         message.ack = ack;
     }
     message.id = number;
@@ -67,9 +63,8 @@ void TakeNumber(Message& message)
 
 MessageKind KindOf(const Message& message)
 {
-    if (message.addressee.starts_with("BLN")) {
+    if (message.addressee.starts_with("BLN"))
         return MessageKind::Bulletin;
-    }
     const std::string_view word = message.text.substr(0, 5);
     const bool bDefinition = std::find(kDefinitions.begin(), kDefinitions.end(), word) != kDefinitions.end();
     return bDefinition ? MessageKind::TelemetryDefinition : MessageKind::Text;
@@ -79,13 +74,11 @@ MessageKind KindOf(const Message& message)
 
 Refusal ParseMessage(std::string_view text, Message& message)
 {
-    if (text.size() < kAddresseeSize + 2 || text[kAddresseeSize] != ':') {
+    if (text.size() < kAddresseeSize + 2 || text[kAddresseeSize] != ':')
         return Refusal::BadMessage;
-    }
     const std::string_view addressee = text.substr(0, kAddresseeSize);
-    if (!std::all_of(addressee.begin(), addressee.end(), IsAddresseeByte)) {
+    if (!std::all_of(addressee.begin(), addressee.end(), IsAddresseeByte))
         return Refusal::BadMessage;
-    }
     message.addressee = TrimRight(addressee);
     message.text = text.substr(kAddresseeSize + 1);
     if (message.text.starts_with("ack") || message.text.starts_with("rej")) {

@@ -30,15 +30,12 @@ bool IsDestinationByte(char c, std::size_t place)
 // Digit of the latitude that a byte of the destination stands for.
 char LatitudeDigit(char c)
 {
-    if (IsDigit(c)) {
+    if (IsDigit(c))
         return c;
-    }
-    if (IsBetween(c, 'A', 'J')) {
+    if (IsBetween(c, 'A', 'J'))
         return static_cast<char>(c - 'A' + '0');
-    }
-    if (IsBetween(c, 'P', 'Y')) {
+    if (IsBetween(c, 'P', 'Y'))
         return static_cast<char>(c - 'P' + '0');
-    }
     return kBlankDigit;
 }
 
@@ -57,21 +54,18 @@ Refusal ParseLatitude(std::string_view dest, Latitude& latitude)
 {
     std::array<int, kDestSize> digits{};
     for (std::size_t i = 0; i < kDestSize; ++i) {
-        if (!IsDestinationByte(dest[i], i)) {
+        if (!IsDestinationByte(dest[i], i))
             return Refusal::BadMicEDestination;
-        }
         const char digit = LatitudeDigit(dest[i]);
-        if (digit == kBlankDigit) {
+        if (digit == kBlankDigit)
             ++latitude.blanks;
-        } else if (latitude.blanks > 0) {
+        else if (latitude.blanks > 0)
             return Refusal::BlanksMisplaced;
-        } else {
+        else
             digits[i] = DigitValue(digit);
-        }
     }
-    if (latitude.blanks > kMaxBlanks) {
+    if (latitude.blanks > kMaxBlanks)
         return Refusal::BlanksMisplaced;
-    }
     latitude.degrees = digits[0] * 10 + digits[1];
     latitude.hundredths = ((digits[2] * 10 + digits[3]) * 10 + digits[4]) * 10 + digits[5];
     return latitude.degrees < 90 && latitude.hundredths < 6000 ? Refusal::None : Refusal::PositionOutOfRange;
@@ -88,9 +82,8 @@ std::string_view MessageText(std::string_view dest)
         bCustom = bCustom || bCustomBit;
         bStandard = bStandard || IsHigh(dest[i]);
     }
-    if (bStandard && bCustom) {
+    if (bStandard && bCustom)
         return "Unknown";
-    }
     return bCustom ? kCustom[bits] : kStandard[bits];
 }
 
@@ -119,11 +112,10 @@ int DropDigits(int hundredths, int blanks)
 double ParseLongitude(std::string_view body, bool bHundred, int blanks)
 {
     int degrees = Figure(body[0]) + (bHundred ? 100 : 0);
-    if (degrees >= 180 && degrees <= 189) {
+    if (degrees >= 180 && degrees <= 189)
         degrees -= 80;
-    } else if (degrees >= 190) {
+    else if (degrees >= 190)
         degrees -= 190;
-    }
     const int minutes = Figure(body[1]) >= 60 ? Figure(body[1]) - 60 : Figure(body[1]);
     const int hundredths = DropDigits(minutes * 100 + Figure(body[2]), blanks);
     return MiddleAngle(degrees, hundredths, blanks);
@@ -137,9 +129,8 @@ void ParseSpeedCourse(std::string_view body, PositionReport& report)
     speed = speed >= 800 ? speed - 800 : speed;
     course = course >= 400 ? course - 400 : course;
     report.speed = speed;
-    if (course >= 1 && course <= 360) {
+    if (course >= 1 && course <= 360)
         report.course = course;
-    }
 }
 
 } // namespace
@@ -147,27 +138,21 @@ void ParseSpeedCourse(std::string_view body, PositionReport& report)
 Refusal ParseMicE(std::string_view dest, std::string_view body, PositionReport& report)
 {
     dest = dest.substr(0, dest.find('-'));
-    if (dest.size() != kDestSize) {
+    if (dest.size() != kDestSize)
         return Refusal::BadMicEDestination;
-    }
-    if (body.size() < kBodySize) {
+    if (body.size() < kBodySize)
         return Refusal::PositionTooShort;
-    }
-    if (!IsBody(body)) {
+    if (!IsBody(body))
         return Refusal::BadMicE;
-    }
-    if (!IsSymbolTable(body[7])) {
+    if (!IsSymbolTable(body[7]))
         return Refusal::BadSymbolTable;
-    }
     Latitude latitude;
-    if (const Refusal refusal = ParseLatitude(dest, latitude); refusal != Refusal::None) {
+    if (const Refusal refusal = ParseLatitude(dest, latitude); refusal != Refusal::None)
         return refusal;
-    }
     const double degrees = MiddleAngle(latitude.degrees, latitude.hundredths, latitude.blanks);
     const double longitude = ParseLongitude(body, IsHigh(dest[4]), latitude.blanks);
-    if (longitude > 180.0) {
+    if (longitude > 180.0)
         return Refusal::PositionOutOfRange;
-    }
     report.position = {IsHigh(dest[3]) ? degrees : -degrees,
                        IsHigh(dest[5]) ? -longitude : longitude,
                        {body[7], body[6]},

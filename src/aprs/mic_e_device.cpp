@@ -62,9 +62,8 @@ std::string_view TakeSuffix(std::string_view text, const std::array<Device, size
 
 std::string_view TakeDevice(std::string_view text, std::string_view& device)
 {
-    if (text.empty()) {
+    if (text.empty())
         return text;
-    }
     const std::string_view body = text.substr(1);
     switch (text.front()) {
     case '>':

@@ -19,44 +19,37 @@ bool IsNameByte(char c)
     return !IsBetween(c, 0, 0x1f) && c != 0x7f;
 }
 
-// Blanks alone are none: there is nothing to file the object under.
 bool IsName(std::string_view name)
 {
-    for (const char c : name) {
-        if (!IsNameByte(c)) {
+    for (const char c : name)
+        if (!IsNameByte(c))
             return false;
-        }
-    }
-    return !Trim(name).empty();
+    return true;
 }
 
 } // namespace
 
 Refusal ParseObject(std::string_view text, ObjectReport& object)
 {
-    if (text.size() <= kNameSize + 1 + kTimeSize) {
+    if (text.size() <= kNameSize + 1 + kTimeSize)
         return Refusal::BadObject;
-    }
     const std::string_view name = text.substr(0, kNameSize);
     const char state = text[kNameSize];
-    if (!IsName(name) || (state != '*' && state != kDead)) {
+    if (!IsName(name) || (state != '*' && state != kDead))
         return Refusal::BadObject;
-    }
     object.name = TrimRight(name);
     object.bAlive = state != kDead;
     const Refusal refusal = ParseTimedPosition(text.substr(kNameSize + 1), object.report);
-    if (object.report.time.text == kPermanent) {
+    if (object.report.time.text == kPermanent)
         object.report.time.form = TimeForm::Permanent;
-    }
     return refusal;
 }
 
 Refusal ParseItem(std::string_view text, ObjectReport& object)
 {
     const std::size_t size = text.substr(0, kNameSize + 1).find_first_of("!_");
-    if (size == std::string_view::npos || size < kMinItemName || !IsName(text.substr(0, size))) {
+    if (size == std::string_view::npos || size < kMinItemName || !IsName(text.substr(0, size)))
         return Refusal::BadItem;
-    }
     object.name = TrimRight(text.substr(0, size));
     object.bItem = true;
     object.bAlive = text[size] != kDead;

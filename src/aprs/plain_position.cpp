@@ -17,15 +17,13 @@ int Hundredths(const char* minutes, int blanks)
     for (int i = 0; i < 4; ++i) {
         const char c = minutes[kPlaces[static_cast<std::size_t>(i)]];
         if (i >= 4 - blanks) {
-            if (!IsDigit(c) && c != ' ') {
+            if (!IsDigit(c) && c != ' ')
                 return -1;
-            }
             value *= 10;
             continue;
         }
-        if (!IsDigit(c)) {
+        if (!IsDigit(c))
             return -1;
-        }
         value = value * 10 + DigitValue(c);
     }
     return minutes[2] == '.' ? value : -1;
@@ -35,9 +33,8 @@ int CountBlanks(const char* minutes)
 {
     constexpr std::array<int, 4> kFromRight = {4, 3, 1, 0};
     int blanks = 0;
-    while (blanks < kMaxBlanks && minutes[kFromRight[static_cast<std::size_t>(blanks)]] == ' ') {
+    while (blanks < kMaxBlanks && minutes[kFromRight[static_cast<std::size_t>(blanks)]] == ' ')
         ++blanks;
-    }
     return blanks;
 }
 
@@ -102,9 +99,8 @@ bool ParseExact(const char* text, Position& position)
     const int east = Sign(text[17], 'E', 'W');
     if (bad != 0 || text[4] != '.' || text[14] != '.' || north * east == 0 || latDegrees > 89 || lonDegrees > 179 ||
         latMinutes >= unsigned{kHundredthsPerDegree} || lonMinutes >= unsigned{kHundredthsPerDegree} ||
-        !IsSymbolTable(text[8]) || !IsSymbolCode(text[18])) {
+        !IsSymbolTable(text[8]) || !IsSymbolCode(text[18]))
         return false;
-    }
     position.latitude = north * MiddleAngle(static_cast<int>(latDegrees), static_cast<int>(latMinutes), 0);
     position.longitude = east * MiddleAngle(static_cast<int>(lonDegrees), static_cast<int>(lonMinutes), 0);
     position.symbol = {text[8], text[18]};
@@ -115,21 +111,18 @@ bool ParseExact(const char* text, Position& position)
 
 Refusal ParsePlainPosition(std::string_view text, Position& position)
 {
-    if (text.size() < kPlainSize) {
+    if (text.size() < kPlainSize)
         return Refusal::PositionTooShort;
-    }
-    if (ParseExact(text.data(), position)) {
+    if (ParseExact(text.data(), position))
         return Refusal::None;
-    }
     const char* const lat = text.data();
     const char* const lon = lat + 9;
     const auto latDegrees = ParseDigits(text.substr(0, 2));
     const auto lonDegrees = ParseDigits(text.substr(9, 3));
     const int north = Sign(lat[7], 'N', 'S');
     const int east = Sign(lon[8], 'E', 'W');
-    if (!latDegrees || !lonDegrees || north == 0 || east == 0 || !IsSymbolCode(text[18])) {
+    if (!latDegrees || !lonDegrees || north == 0 || east == 0 || !IsSymbolCode(text[18]))
         return Refusal::BadPosition;
-    }
     const int blanks = CountBlanks(lat + 2);
     const int latHundredths = Hundredths(lat + 2, blanks);
     const int lonHundredths = Hundredths(lon + 3, blanks);
@@ -138,12 +131,10 @@ Refusal ParsePlainPosition(std::string_view text, Position& position)
                                                                            : Refusal::BadPosition;
     }
     if (*latDegrees > 89 || *lonDegrees > 179 || latHundredths >= kHundredthsPerDegree ||
-        lonHundredths >= kHundredthsPerDegree) {
+        lonHundredths >= kHundredthsPerDegree)
         return Refusal::PositionOutOfRange;
-    }
-    if (!IsSymbolTable(text[8])) {
+    if (!IsSymbolTable(text[8]))
         return Refusal::BadSymbolTable;
-    }
     position.latitude = north * MiddleAngle(*latDegrees, latHundredths, blanks);
     position.longitude = east * MiddleAngle(*lonDegrees, lonHundredths, blanks);
     position.symbol = {text[8], text[18]};

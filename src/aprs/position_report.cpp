@@ -34,11 +34,9 @@ bool TakeWeather(std::string_view text, PositionReport& report)
 // Six figures, known or not, and the letter that tells their kind, right or wrong.
 bool LooksLikeTime(std::string_view text)
 {
-    for (const char c : text.substr(0, kTimeSize - 1)) {
-        if (!IsDigit(c) && c != '.' && c != ' ') {
+    for (const char c : text.substr(0, kTimeSize - 1))
+        if (!IsDigit(c) && c != '.' && c != ' ')
             return false;
-        }
-    }
     return !IsDigit(text[kTimeSize - 1]);
 }
 
@@ -46,39 +44,33 @@ bool LooksLikeTime(std::string_view text)
 
 Refusal ParsePositionReport(std::string_view text, PositionReport& report)
 {
-    if (text.empty()) {
+    if (text.empty())
         return Refusal::PositionTooShort;
-    }
     std::string_view rest;
     if (IsDigit(text.front())) {
-        if (const Refusal refusal = ParsePlainPosition(text, report.position); refusal != Refusal::None) {
+        if (const Refusal refusal = ParsePlainPosition(text, report.position); refusal != Refusal::None)
             return refusal;
-        }
         rest = text.substr(kPlainSize);
     } else if (StartsCompressed(text.front())) {
-        if (const Refusal refusal = ParseCompressedPosition(text, report); refusal != Refusal::None) {
+        if (const Refusal refusal = ParseCompressedPosition(text, report); refusal != Refusal::None)
             return refusal;
-        }
         rest = text.substr(kCompressedSize);
     } else {
         return Refusal::BadPosition;
     }
-    if (report.position.symbol.code == kWeatherStation && TakeWeather(rest, report)) {
+    if (report.position.symbol.code == kWeatherStation && TakeWeather(rest, report))
         return Refusal::None;
-    }
     ParseComment(ParseExtension(rest, report), report);
     return Refusal::None;
 }
 
 Refusal ParseTimedPosition(std::string_view text, PositionReport& report)
 {
-    if (text.size() <= kTimeSize) {
+    if (text.size() <= kTimeSize)
         return Refusal::PositionTooShort;
-    }
     report.time = ParseTime(text.substr(0, kTimeSize));
-    if (report.time.IsBad() && !IsDigit(text[kTimeSize]) && !LooksLikeTime(report.time.text)) {
+    if (report.time.IsBad() && !IsDigit(text[kTimeSize]) && !LooksLikeTime(report.time.text))
         return Refusal::BadPosition; // No time at all: what stands there only by chance reads as compressed.
-    }
     return ParsePositionReport(text.substr(kTimeSize), report);
 }
 

@@ -13,9 +13,8 @@ namespace {
 std::size_t StatusLocatorSize(std::string_view text)
 {
     const std::size_t size = LocatorSize(text);
-    if (size == 0 || text.size() < size + 2 || !IsSymbolTable(text[size]) || !IsSymbolCode(text[size + 1])) {
+    if (size == 0 || text.size() < size + 2 || !IsSymbolTable(text[size]) || !IsSymbolCode(text[size + 1]))
         return 0;
-    }
     return text.size() == size + 2 || text[size + 2] == ' ' ? size : 0;
 }
 
@@ -28,9 +27,8 @@ void ParseStatus(std::string_view text, StatusReport& status)
         text.remove_prefix(kTimeSize);
     }
     status.text = Trim(text);
-    if (const std::size_t size = StatusLocatorSize(text)) {
+    if (const std::size_t size = StatusLocatorSize(text))
         status.grid = LocatorPosition(text.substr(0, size));
-    }
 }
 
 } // namespace ruvenmark::aprs

@@ -14,13 +14,11 @@ constexpr std::size_t kMaxBits = 8;
 // Digits, or "MIC", with or without a comma behind it.
 std::size_t SequenceSize(std::string_view text)
 {
-    if (text.starts_with("MIC")) {
+    if (text.starts_with("MIC"))
         return 3;
-    }
     std::size_t n = 0;
-    while (n < text.size() && IsDigit(text[n])) {
+    while (n < text.size() && IsDigit(text[n]))
         ++n;
-    }
     return n;
 }
 
@@ -30,15 +28,13 @@ std::size_t NumberSize(std::string_view text)
     std::size_t n = !text.empty() && text[0] == '-' ? 1 : 0;
     bool bDigit = false;
     bool bPoint = false;
-    for (; n < text.size(); ++n) {
-        if (IsDigit(text[n])) {
+    for (; n < text.size(); ++n)
+        if (IsDigit(text[n]))
             bDigit = true;
-        } else if (text[n] == '.' && !bPoint) {
+        else if (text[n] == '.' && !bPoint)
             bPoint = true;
-        } else {
+        else
             break;
-        }
-    }
     return bDigit ? n : 0;
 }
 
@@ -52,9 +48,8 @@ std::optional<double> ParseNumber(std::string_view text)
 void TakeBits(std::string_view text, Telemetry& telemetry)
 {
     std::size_t n = 0;
-    while (n < text.size() && n < kMaxBits && (text[n] == '0' || text[n] == '1')) {
+    while (n < text.size() && n < kMaxBits && (text[n] == '0' || text[n] == '1'))
         ++n;
-    }
     telemetry.bits = text.substr(0, n);
     telemetry.comment = Trim(text.substr(n));
 }
@@ -67,9 +62,8 @@ bool TakeValue(std::string_view& text, std::optional<double>& value)
         value = ParseNumber(text.substr(0, size));
         text.remove_prefix(size);
     }
-    if (text.empty() || text.front() != ',') {
+    if (text.empty() || text.front() != ',')
         return false;
-    }
     text.remove_prefix(1);
     return true;
 }
@@ -82,26 +76,21 @@ Refusal ParseTelemetry(std::string_view text, Telemetry& telemetry)
     telemetry.sequence = text.substr(0, size);
     text.remove_prefix(size);
     const bool bComma = !text.empty() && text.front() == ',';
-    if (size == 0 || (!bComma && telemetry.sequence != "MIC")) {
+    if (size == 0 || (!bComma && telemetry.sequence != "MIC"))
         return Refusal::BadTelemetry;
-    }
-    if (bComma) {
+    if (bComma)
         text.remove_prefix(1);
-    }
-    if (text.empty() || (NumberSize(text) == 0 && text.front() != ',')) {
+    if (text.empty() || (NumberSize(text) == 0 && text.front() != ','))
         return Refusal::BadTelemetry;
-    }
     bool bMore = true;
     for (std::size_t i = 0; bMore && i < telemetry.values.size(); ++i) {
         bMore = TakeValue(text, telemetry.values[i]);
         const auto& value = telemetry.values[i];
-        if (value && (*value < -kMaxValue || *value > kMaxValue)) {
+        if (value && (*value < -kMaxValue || *value > kMaxValue))
             return Refusal::TelemetryOutOfRange;
-        }
     }
-    if (bMore) {
+    if (bMore)
         TakeBits(text, telemetry);
-    }
     return Refusal::None;
 }
 

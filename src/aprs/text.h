@@ -45,48 +45,41 @@ constexpr bool IsBlank(char c)
 
 constexpr bool AllDigits(std::string_view text)
 {
-    for (const char c : text) {
-        if (!IsDigit(c)) {
+    for (const char c : text)
+        if (!IsDigit(c))
             return false;
-        }
-    }
     return !text.empty();
 }
 
 // Digits only, at most nine of them, so that it always fits.
 constexpr std::optional<int> ParseDigits(std::string_view text)
 {
-    if (!AllDigits(text) || text.size() > 9) {
+    if (!AllDigits(text) || text.size() > 9)
         return std::nullopt;
-    }
     int value = 0;
-    for (const char c : text) {
+    for (const char c : text)
         value = value * 10 + DigitValue(c);
-    }
     return value;
 }
 
 constexpr int HexValue(char c)
 {
-    if (IsDigit(c)) {
+    if (IsDigit(c))
         return c - '0';
-    }
     const char upper = ToUpper(c);
     return upper >= 'A' && upper <= 'F' ? upper - 'A' + 10 : -1;
 }
 
 constexpr std::string_view TrimLeft(std::string_view text)
 {
-    while (!text.empty() && IsBlank(text.front())) {
+    while (!text.empty() && IsBlank(text.front()))
         text.remove_prefix(1);
-    }
     return text;
 }
 constexpr std::string_view TrimRight(std::string_view text)
 {
-    while (!text.empty() && IsBlank(text.back())) {
+    while (!text.empty() && IsBlank(text.back()))
         text.remove_suffix(1);
-    }
     return text;
 }
 constexpr std::string_view Trim(std::string_view text)

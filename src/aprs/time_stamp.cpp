@@ -26,9 +26,8 @@ TimeStamp ParseTime(std::string_view text)
 {
     TimeStamp time;
     time.text = text;
-    if (text.size() != kTimeSize || !AllDigits(text.substr(0, 6))) {
+    if (text.size() != kTimeSize || !AllDigits(text.substr(0, 6)))
         return time;
-    }
     const std::uint8_t first = Pair(text, 0);
     const std::uint8_t second = Pair(text, 2);
     const std::uint8_t third = Pair(text, 4);
@@ -51,16 +50,14 @@ TimeStamp ParseMonthTime(std::string_view text)
 {
     TimeStamp time;
     time.text = text;
-    if (text.size() != kMonthTimeSize || !AllDigits(text)) {
+    if (text.size() != kMonthTimeSize || !AllDigits(text))
         return time;
-    }
     time.month = Pair(text, 0);
     time.day = Pair(text, 2);
     time.hour = Pair(text, 4);
     time.minute = Pair(text, 6);
-    if (time.month >= 1 && time.month <= 12 && IsDay(time.day) && IsClock(time.hour, time.minute)) {
+    if (time.month >= 1 && time.month <= 12 && IsDay(time.day) && IsClock(time.hour, time.minute))
         time.form = TimeForm::MonthDayHourMinute;
-    }
     return time;
 }
 

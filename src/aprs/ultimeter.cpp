@@ -26,9 +26,8 @@ std::optional<int> GroupValue(std::string_view digits)
     int value = 0;
     for (const char c : digits) {
         const int digit = HexValue(c);
-        if (digit < 0) {
+        if (digit < 0)
             return std::nullopt;
-        }
         value = value * 16 + digit;
     }
     return value < 0x8000 ? value : value - 0x10000;
@@ -40,9 +39,8 @@ Groups Split(std::string_view text)
     for (std::size_t i = 0; i < kMaxGroups && text.size() >= kGroup; ++i) {
         const std::string_view digits = text.substr(0, kGroup);
         const auto value = GroupValue(digits);
-        if (!value && digits != "----") {
+        if (!value && digits != "----")
             break;
-        }
         groups.values[i] = value;
         groups.bAny = groups.bAny || value;
         text.remove_prefix(kGroup);
@@ -79,9 +77,8 @@ constexpr double kHundredth = 0.01;
 Refusal ParseUltimeterPacket(std::string_view packet, WeatherReport& report)
 {
     const Groups groups = Split(packet);
-    if (!groups.bAny) {
+    if (!groups.bAny)
         return Refusal::BadWeather;
-    }
     const auto& values = groups.values;
     Weather& weather = report.weather;
     weather.gust = Scaled(values[0], kTenth * kMphPerKmh);
@@ -98,9 +95,8 @@ Refusal ParseUltimeterPacket(std::string_view packet, WeatherReport& report)
 Refusal ParseUltimeterLogging(std::string_view logging, WeatherReport& report)
 {
     const Groups groups = Split(logging);
-    if (!groups.bAny) {
+    if (!groups.bAny)
         return Refusal::BadWeather;
-    }
     const auto& values = groups.values;
     Weather& weather = report.weather;
     weather.windDirection = Direction(values[1]);

@@ -21,19 +21,16 @@ bool IsFiller(char c)
 std::size_t FillerSize(std::string_view text, std::size_t limit)
 {
     std::size_t n = 0;
-    while (n < text.size() && n < limit && IsFiller(text[n])) {
+    while (n < text.size() && n < limit && IsFiller(text[n]))
         ++n;
-    }
     return n;
 }
 
 bool IsWindFigure(std::string_view text)
 {
-    for (const char c : text) {
-        if (!IsDigit(c) && !IsFiller(c) && c != '-') {
+    for (const char c : text)
+        if (!IsDigit(c) && !IsFiller(c) && c != '-')
             return false;
-        }
-    }
     return true;
 }
 
@@ -43,15 +40,12 @@ bool TakeWind(std::string_view& text, Weather& weather)
     const bool bLetters = text.size() > kWindSize && text[0] == 'c' && text[4] == 's';
     const std::size_t at = bLetters ? 1 : 0;
     if (text.size() < kWindSize || (!bLetters && text[3] != '/') || !IsWindFigure(text.substr(at, 3)) ||
-        !IsWindFigure(text.substr(at + 4, 3))) {
+        !IsWindFigure(text.substr(at + 4, 3)))
         return false;
-    }
-    if (const auto direction = ParseDigits(text.substr(at, 3)); direction && *direction <= 360) {
+    if (const auto direction = ParseDigits(text.substr(at, 3)); direction && *direction <= 360)
         weather.windDirection = *direction;
-    }
-    if (const auto speed = ParseDigits(text.substr(at + 4, 3))) {
+    if (const auto speed = ParseDigits(text.substr(at + 4, 3)))
         weather.windSpeed = *speed;
-    }
     text.remove_prefix(at + kWindSize);
     return true;
 }
@@ -89,11 +83,10 @@ constexpr std::array<Field, 256> kFields = MakeFields();
 // Two digits have no room for 100, which is sent as 00.
 void CorrectHumidity(Weather& weather)
 {
-    if (weather.humidity == 0) {
+    if (weather.humidity == 0)
         weather.humidity = 100;
-    } else if (weather.humidity > 100) {
+    else if (weather.humidity > 100)
         weather.humidity.reset();
-    }
 }
 
 bool MayBeSigned(char letter, char sign)
@@ -107,9 +100,8 @@ std::size_t TakeField(std::string_view text, bool bBehindBlank, Weather& weather
 {
     const char letter = text[0];
     const Field& field = kFields[static_cast<unsigned char>(letter)];
-    if (field.maxDigits == 0 || text.size() < 2) {
+    if (field.maxDigits == 0 || text.size() < 2)
         return 0;
-    }
     const std::size_t start = MayBeSigned(letter, text[1]) ? 2 : 1;
     const std::size_t end = std::min(text.size(), start + field.maxDigits);
     std::size_t at = start;
@@ -118,16 +110,14 @@ std::size_t TakeField(std::string_view text, bool bBehindBlank, Weather& weather
         figure = (DigitValue(text[start]) * 10 + DigitValue(text[start + 1])) * 10 + DigitValue(text[start + 2]);
         at += 3;
     }
-    for (; at < end && IsDigit(text[at]); ++at) {
+    for (; at < end && IsDigit(text[at]); ++at)
         figure = figure * 10 + DigitValue(text[at]);
-    }
     if (at == start) {
         const std::size_t filler = FillerSize(text.substr(1), kMaxFiller);
         return start == 1 && filler >= 2 ? 1 + filler : 0;
     }
-    if (bBehindBlank && at == start + 1) {
+    if (bBehindBlank && at == start + 1)
         return 0;
-    }
     if (field.value != nullptr && at - start >= field.minDigits) {
         const int value = text[1] == '-' ? -figure : figure;
         weather.*field.value = value / field.divisor + field.addend;
@@ -141,14 +131,12 @@ bool TakeFields(std::string_view& text, Weather& weather)
     bool bAny = false;
     while (!text.empty()) {
         const std::size_t gap = IsFiller(text[0]) ? FillerSize(text, text.size()) : 0;
-        if (gap == text.size()) {
+        if (gap == text.size())
             break;
-        }
         const bool bBehindBlank = gap > 0 && text[gap - 1] == ' ';
         const std::size_t size = TakeField(text.substr(gap), bBehindBlank, weather);
-        if (size == 0) {
+        if (size == 0)
             break;
-        }
         text.remove_prefix(gap + size);
         bAny = true;
     }
@@ -168,9 +156,8 @@ bool StartsWithFigure(std::string_view text)
 bool ParseWeather(std::string_view text, Weather& weather, std::string_view& rest)
 {
     const bool bWind = TakeWind(text, weather);
-    if (!bWind && !StartsWithFigure(text)) {
+    if (!bWind && !StartsWithFigure(text))
         return false;
-    }
     const bool bFields = TakeFields(text, weather);
     CorrectHumidity(weather);
     rest = text;
@@ -179,14 +166,12 @@ bool ParseWeather(std::string_view text, Weather& weather, std::string_view& res
 
 Refusal ParsePositionlessWeather(std::string_view body, WeatherReport& report)
 {
-    if (body.size() <= kMonthTimeSize || !AllDigits(body.substr(0, kMonthTimeSize)) || body[kMonthTimeSize] != 'c') {
+    if (body.size() <= kMonthTimeSize || !AllDigits(body.substr(0, kMonthTimeSize)) || body[kMonthTimeSize] != 'c')
         return Refusal::BadWeather;
-    }
     report.time = ParseMonthTime(body.substr(0, kMonthTimeSize));
     std::string_view rest;
-    if (!ParseWeather(body.substr(kMonthTimeSize), report.weather, rest)) {
+    if (!ParseWeather(body.substr(kMonthTimeSize), report.weather, rest))
         return Refusal::BadWeather;
-    }
     report.comment = Trim(rest);
     return Refusal::None;
 }

@@ -40,10 +40,9 @@ constexpr const ChannelTraits& Traits(Channel channel)
 // The channel of exactly this word.
 constexpr std::optional<Channel> ChannelOfWord(std::string_view word)
 {
-    for (const auto& traits : kChannelTraits) {
+    for (const auto& traits : kChannelTraits)
         if (traits.word == word)
             return traits.channel;
-    }
     return std::nullopt;
 }
 

@@ -37,10 +37,9 @@ void LoadGeometry(MainWindow& main)
 void BuildStationTree(MainWindow& main)
 {
     AddMyStationTree(main.tvStationList);
-    for (const Channel channel : kChannels) {
+    for (const Channel channel : kChannels)
         if (Traits(channel).bRootAtStart)
             AddChannelTree(main.tvStationList, channel);
-    }
     main.window.bStationTreeVisible = true;
 }
 

@@ -11,12 +11,11 @@ MainToolBar::MainToolBar(MainWindow& main, const IconSet& icons, const Runner& r
     : EntryToolBar(main, icons, run, QStringLiteral("Main tool bar"), parent), m_coordinates(new QLineEdit(this))
 {
     setObjectName(QStringLiteral("tbToolBar"));
-    for (const ToolButton& button : ToolBar()) {
+    for (const ToolButton& button : ToolBar())
         if (button.key.empty())
             addSeparator();
         else
             AddEntry(button.entry, ForDisplay(button.text));
-    }
     addSeparator();
     NameControl(*m_coordinates, "txtTbCoordinates", QStringLiteral("Position under the pointer"));
     m_coordinates->setToolTip(QStringLiteral("Latitude and longitude under the pointer"));

@@ -68,10 +68,9 @@ void WaveSound::PlayAndWait(std::string_view path)
     if (!device)
         return;
     std::vector<short> samples(static_cast<std::size_t>(kFramesAtOnce) * static_cast<std::size_t>(info.channels));
-    while (const sf_count_t frames = sf_readf_short(file.get(), samples.data(), kFramesAtOnce)) {
+    while (const sf_count_t frames = sf_readf_short(file.get(), samples.data(), kFramesAtOnce))
         if (!Play(device.get(), samples.data(), frames, info.channels))
             return;
-    }
     snd_pcm_drain(device.get());
 }
 

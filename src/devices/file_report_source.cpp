@@ -19,9 +19,8 @@ FileReportSource::FileReportSource(IReportSink& sink, LineCounts& counts) : m_si
 
 FileReportSource::~FileReportSource()
 {
-    for (Call* call = m_call; call != nullptr; call = call->outer) {
+    for (Call* call = m_call; call != nullptr; call = call->outer)
         call->bDropped = true;
-    }
 }
 
 void FileReportSource::OpenPort(std::string_view /*port*/, std::int32_t /*baud*/, std::string_view /*token*/)
@@ -92,9 +91,8 @@ void FileReportSource::ParseLine(std::string_view line)
         Call& call;
         ~Leave()
         {
-            if (!call.bDropped) {
+            if (!call.bDropped)
                 source.m_call = call.outer;
-            }
         }
     } const leave{*this, call};
     RaisePacketEvents(packet, RawData::No, m_sink, call.bDropped);

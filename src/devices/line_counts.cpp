@@ -6,11 +6,10 @@ namespace ruvenmark {
 
 void LineCounts::Add(aprs::Refusal refusal)
 {
-    if (refusal == aprs::Refusal::None) {
+    if (refusal == aprs::Refusal::None)
         ++decoded;
-    } else {
+    else
         ++undecoded[static_cast<std::size_t>(refusal)];
-    }
 }
 
 std::uint64_t LineCounts::Undecoded() const

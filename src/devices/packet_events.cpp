@@ -77,9 +77,8 @@ private:
     template <class Event>
     void Raise(Event event)
     {
-        if (!m_bStopped) {
+        if (!m_bStopped)
             event();
-        }
     }
 
     std::string_view WordOf(const aprs::PositionReport& report) const;
@@ -102,9 +101,8 @@ private:
 
 std::string_view EventRaiser::WordOf(const aprs::PositionReport& report) const
 {
-    if (report.weather) {
+    if (report.weather)
         return kWeather;
-    }
     if (report.position.form == aprs::PositionForm::Nmea && !aprs::DestinationSymbol(m_header.dest)) {
         const auto symbol = aprs::SsidSymbol(m_header.source);
         return symbol ? SymbolWord(*symbol) : SymbolWord({'/', ')'});
@@ -129,9 +127,8 @@ void EventRaiser::RaisePosition(std::string_view call, const aprs::PositionRepor
 void EventRaiser::RaisePositionExt(std::string_view call, const aprs::PositionReport& report)
 {
     const bool bMoves = !report.weather && (report.speed || report.course);
-    if (!report.altitude && !bMoves) {
+    if (!report.altitude && !bMoves)
         return;
-    }
     Raise([&] {
         m_sink.ReportPosExt({call, m_header.dest, Degrees(report.position.latitude), Degrees(report.position.longitude),
                              ValueOr(report.altitude), bMoves ? ValueOr(report.speed) : kAbsent,
@@ -141,9 +138,8 @@ void EventRaiser::RaisePositionExt(std::string_view call, const aprs::PositionRe
 
 void EventRaiser::RaiseReach(std::string_view call, const aprs::PositionReport& report)
 {
-    if (!report.reach) {
+    if (!report.reach)
         return;
-    }
     Raise([&] {
         const aprs::Reach& reach = *report.reach;
         m_sink.ReportDataExt({call, m_header.dest, Degrees(report.position.latitude),
@@ -155,9 +151,8 @@ void EventRaiser::RaiseReach(std::string_view call, const aprs::PositionReport& 
 void EventRaiser::RaiseTime(std::string_view call, const aprs::PositionReport& report)
 {
     const aprs::TimeStamp& time = report.time;
-    if (!time.IsGiven()) {
+    if (!time.IsGiven())
         return;
-    }
     Raise([&] {
         TimeReport event{};
         event.call = call;
@@ -192,9 +187,8 @@ void EventRaiser::RaiseWeatherValues(std::string_view call, double lat, double l
         event.path = m_header.path;
         event.lat = lat;
         event.lon = lon;
-        if (weather.windDirection) {
+        if (weather.windDirection)
             event.windDir = static_cast<std::int32_t>(std::lround(*weather.windDirection));
-        }
         event.windSpeed = Figure(weather.gust ? weather.gust : weather.windSpeed);
         event.temperature = Figure(weather.temperature);
         event.rain = Figure(weather.rainDay ? weather.rainDay : weather.rainMidnight);
@@ -207,6 +201,10 @@ void EventRaiser::RaiseWeatherValues(std::string_view call, double lat, double l
 void EventRaiser::operator()(const aprs::ObjectReport& object)
 {
     const EventText name(object.name, m_bClean);
+    if (object.name.empty()) {
+        RaiseUndecoded(); // A name of blanks only: heard on the air, but there is nothing to file it under.
+        return;
+    }
     if (object.bAlive) {
         RaisePosition(name, object.report);
         RaiseWeather(name, object.report);
@@ -221,9 +219,8 @@ void EventRaiser::operator()(const aprs::WeatherReport& report)
 {
     RaiseWeatherValues(m_header.source, kNoPosition, kNoPosition, report.weather);
     const aprs::TimeStamp& time = report.time;
-    if (!time.IsGiven()) {
+    if (!time.IsGiven())
         return;
-    }
     Raise([&] {
         m_sink.ReportTime({m_header.source, m_header.dest, kNoPosition, kNoPosition, time.month, time.day, time.hour,
                            time.minute, kAbsentLong, ZoneText(time), kWeather});
@@ -238,9 +235,8 @@ void EventRaiser::operator()(const aprs::StatusReport& status)
                              status.grid ? Degrees(status.grid->latitude) : kNoPosition,
                              status.grid ? Degrees(status.grid->longitude) : kNoPosition, text});
     });
-    if (!status.time.IsGiven()) {
+    if (!status.time.IsGiven())
         return;
-    }
     Raise([&] {
         m_sink.ReportStatusTime({m_header.source, m_header.dest, status.time.day, status.time.hour, status.time.minute,
                                  ZoneText(status.time)});
@@ -287,9 +283,8 @@ void EventRaiser::operator()(const aprs::Message& message)
     case aprs::MessageKind::Text:
     case aprs::MessageKind::Bulletin:
         RaiseMessage(message.addressee, message.text, message.id);
-        if (!message.ack.empty()) {
+        if (!message.ack.empty())
             RaiseNumberWord(message.addressee, "ack", message.ack); // A reply that acknowledges an earlier message.
-        }
         break;
     }
 }
@@ -315,9 +310,8 @@ void EventRaiser::RaiseInfo()
 void RaisePacketEvents(const aprs::Packet& packet, RawData rawData, IReportSink& sink, const bool& bStopped)
 {
     EventRaiser raiser(packet, sink, bStopped);
-    if (rawData == RawData::Yes) {
+    if (rawData == RawData::Yes)
         raiser.RaiseRaw();
-    }
     std::visit(raiser, packet.body);
 }
 

@@ -21,9 +21,8 @@ constexpr std::array<std::string_view, kCodes> MakeTable(const std::array<Entry,
 {
     std::array<std::string_view, kCodes> table{};
     table.fill(kDefault);
-    for (const Entry& entry : entries) {
+    for (const Entry& entry : entries)
         table[static_cast<std::size_t>(entry.code - kFirstCode)] = entry.word;
-    }
     return table;
 }
 
@@ -63,9 +62,8 @@ constexpr auto kAlternate = MakeTable(std::to_array<Entry>({
 std::string_view SymbolWord(aprs::Symbol symbol)
 {
     const auto place = static_cast<unsigned char>(symbol.code - kFirstCode);
-    if (place >= kCodes) {
+    if (place >= kCodes)
         return kDefault;
-    }
     return symbol.table == '/' ? kPrimary[place] : kAlternate[place];
 }
 

@@ -37,10 +37,9 @@ void FileDataExt(MainWindow& main, Channel channel, const DataExtReport& report)
          {Field::Directivity, "Directivity: ", "", "Arrow", std::string(report.directivity)}}};
     FactWriter writer(main.tvStationList, channel, kPositions);
     writer.Station(report.call);
-    for (const auto& value : values) {
+    for (const auto& value : values)
         if (!value.text.empty())
             writer.Fact(FieldName(value.field), value.label, value.text, value.unit, value.image);
-    }
     writer.Counts();
 
     ChannelState& state = main.Of(channel);
@@ -51,10 +50,9 @@ void FileDataExt(MainWindow& main, Channel channel, const DataExtReport& report)
         state.StationRanges.Set(report.call, range);
     }
     Record& record = EnsureRecord(state, report.call);
-    for (const auto& value : values) {
+    for (const auto& value : values)
         if (!value.text.empty())
             record.Set(value.field, value.text);
-    }
     RefreshMarkerNote(main, channel, report.call);
 }
 

@@ -109,10 +109,9 @@ private:
 
     const Entry* Find(Field field) const
     {
-        for (const auto& entry : m_entries) {
+        for (const auto& entry : m_entries)
             if (entry.first == field)
                 return &entry;
-        }
         return nullptr;
     }
 

@@ -45,10 +45,9 @@ std::string CountText(std::string_view label, std::size_t count)
 
 std::string_view LabelOf(std::string_view folderWord)
 {
-    for (const auto& folder : kFolders) {
+    for (const auto& folder : kFolders)
         if (folder.word == folderWord)
             return folder.word;
-    }
     throw Failure("no such folder");
 }
 

@@ -43,19 +43,17 @@ void FileWeather(MainWindow& main, Channel channel, const WeatherReport& report)
     const auto values = WeatherValues(report);
     FactWriter writer(main.tvStationList, channel, kWeather);
     writer.Station(report.call, "Weather");
-    for (const auto& value : values) {
+    for (const auto& value : values)
         if (!value.text.empty())
             writer.Fact(FieldName(value.field), value.label, value.text, value.unit, value.image);
-    }
     writer.Fact("Path", "Path: ", report.path, "", "Path");
     writer.Fact("Received", "Received: ", received, "", "Received");
     writer.Counts();
 
     Record& record = EnsureRecord(main.Of(channel), report.call);
-    for (const auto& value : values) {
+    for (const auto& value : values)
         if (!value.text.empty())
             record.Set(value.field, value.text);
-    }
     if (!report.path.empty())
         record.Set(Field::WeatherPath, report.path);
     if (!received.empty())

@@ -32,10 +32,9 @@ inline constexpr std::int32_t kFirstSelectedRegion = 1; // Closed without a butt
 // The region after the button of this key; any other key leaves it as it was.
 constexpr std::int32_t RegionOfButton(std::string_view key, std::int32_t selectedRegion)
 {
-    for (const auto& button : kRegionButtons) {
+    for (const auto& button : kRegionButtons)
         if (button.key == key)
             return button.region;
-    }
     return selectedRegion;
 }
 

@@ -36,10 +36,9 @@ public:
             return;
         const Raising raising(*this);
         const std::size_t count = m_observers.size();
-        for (std::size_t i = 0; i < count; ++i) {
+        for (std::size_t i = 0; i < count; ++i)
             if (const auto observer = m_observers[i].lock())
                 (*observer)(args...);
-        }
     }
 
 private:

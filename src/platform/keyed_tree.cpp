@@ -78,10 +78,9 @@ TreeNode* KeyedTree::Find(std::string_view key) const
 TreeNode* KeyedTree::Find(const TreeNode& parent, std::string_view word) const
 {
     if (parent.m_children.size() <= kFewChildren) {
-        for (const auto& child : parent.m_children) {
+        for (const auto& child : parent.m_children)
             if (child->m_word == word)
                 return child.get();
-        }
     }
     const auto it = m_index.find(KeyHash::Below{parent, word, HashOf(parent.m_hash, word)});
     return it == m_index.end() ? nullptr : *it;

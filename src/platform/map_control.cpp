@@ -23,10 +23,9 @@ template <typename Value>
 std::vector<Value> OldestFirst(const SlotPool<Value>& pool)
 {
     std::vector<SlotRef> refs;
-    for (std::size_t slot = 0; slot < pool.SlotCount(); ++slot) {
+    for (std::size_t slot = 0; slot < pool.SlotCount(); ++slot)
         if (pool.At(slot))
             refs.push_back(pool.RefAt(slot));
-    }
     std::sort(refs.begin(), refs.end(), [](SlotRef a, SlotRef b) { return a.id < b.id; });
     std::vector<Value> values;
     values.reserve(refs.size());

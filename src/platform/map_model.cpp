@@ -235,10 +235,9 @@ std::vector<Pushpin> Map::AllRecords()
 {
     std::vector<Pushpin> records;
     records.reserve(m_pins.Count());
-    for (std::size_t slot = 0; slot < m_pins.SlotCount(); ++slot) {
+    for (std::size_t slot = 0; slot < m_pins.SlotCount(); ++slot)
         if (m_pins.At(slot))
             records.push_back({*this, m_pins.RefAt(slot)});
-    }
     std::sort(records.begin(), records.end(), [](const auto& a, const auto& b) { return a.m_ref.id < b.m_ref.id; });
     return records;
 }

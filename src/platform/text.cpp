@@ -15,10 +15,9 @@ std::size_t SequenceLength(std::string_view text)
     const auto follows = [&](std::size_t count) {
         if (text.size() <= count)
             return false;
-        for (std::size_t i = 1; i <= count; ++i) {
+        for (std::size_t i = 1; i <= count; ++i)
             if ((byte(i) & 0xC0U) != 0x80U)
                 return false;
-        }
         return true;
     };
     const std::uint8_t lead = byte(0);
@@ -83,10 +82,9 @@ std::vector<std::string_view> Words(std::string_view text)
 std::vector<std::string_view> Lines(std::string_view text)
 {
     auto lines = Split(text, '\n');
-    for (auto& line : lines) {
+    for (auto& line : lines)
         if (!line.empty() && line.back() == '\r')
             line.remove_suffix(1);
-    }
     return lines;
 }
 

@@ -81,10 +81,9 @@ std::string FilterKey(Channel channel, std::string_view name)
 
 bool MatchesList(std::string_view text, std::string_view list)
 {
-    for (const std::string_view piece : Split(list, ' ')) {
+    for (const std::string_view piece : Split(list, ' '))
         if (piece.find('\0') == std::string_view::npos && MatchesPattern(text, Trim(piece)))
             return true;
-    }
     return false;
 }
 
@@ -120,14 +119,12 @@ bool IsFiltered(MainWindow& main, Channel channel, std::string_view call, std::s
 void LoadFilters(MainWindow& main)
 {
     const ISettingsStore& store = main.services.store;
-    for (ChannelState& state : main.channels) {
+    for (ChannelState& state : main.channels)
         for (const auto& [name, text] : kTexts)
             state.Filter.*text = store.Get(FilterKey(state.channel, name), "");
-    }
-    for (ChannelState& state : main.channels) {
+    for (ChannelState& state : main.channels)
         for (const auto& [name, flag, defaultValue] : kFlags)
             state.Filter.*flag = ToBool(store.Get(FilterKey(state.channel, name), defaultValue));
-    }
     main.tracking.bFiltersLoaded = true;
 }
 
@@ -136,14 +133,12 @@ void SaveFilters(MainWindow& main)
     if (!main.tracking.bFiltersLoaded)
         return;
     ISettingsStore& store = main.services.store;
-    for (const ChannelState& state : main.channels) {
+    for (const ChannelState& state : main.channels)
         for (const auto& [name, text] : kTexts)
             store.Set(FilterKey(state.channel, name), state.Filter.*text);
-    }
-    for (const ChannelState& state : main.channels) {
+    for (const ChannelState& state : main.channels)
         for (const auto& [name, flag, defaultValue] : kFlags)
             store.Set(FilterKey(state.channel, name), BoolText(state.Filter.*flag));
-    }
 }
 
 } // namespace ruvenmark

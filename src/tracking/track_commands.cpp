@@ -40,10 +40,9 @@ void SetNamesContaining(MainWindow& main, std::string_view call, std::int32_t ba
 void ShowTrail(MainWindow& main, ChannelState& state, std::string_view call, bool bShow)
 {
     state.TrackVisible.Set(TrackKey(call), bShow);
-    if (auto* points = state.TrackMarkers.Find(call)) {
+    if (auto* points = state.TrackMarkers.Find(call))
         for (Pushpin& point : *points)
             point.SetBalloonState(bShow ? 1 : 0);
-    }
     auto* lines = state.TrackLines.Find(call);
     if (!lines)
         return;
@@ -57,10 +56,9 @@ void ShowTrail(MainWindow& main, ChannelState& state, std::string_view call, boo
 
 bool IsTrackedAnywhere(const MainWindow& main, std::string_view key)
 {
-    for (const ChannelState& state : main.channels) {
+    for (const ChannelState& state : main.channels)
         if (state.Tracked.Contains(key))
             return true;
-    }
     return false;
 }
 

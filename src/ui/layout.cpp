@@ -30,7 +30,7 @@ std::string_view FileName(std::string_view address)
 std::string HtmlEscaped(std::string_view text)
 {
     std::string escaped;
-    for (const char c : text) {
+    for (const char c : text)
         if (c == '&')
             escaped += "&amp;";
         else if (c == '<')
@@ -41,7 +41,6 @@ std::string HtmlEscaped(std::string_view text)
             escaped += "&quot;";
         else
             escaped += c;
-    }
     return escaped;
 }
 

@@ -154,10 +154,9 @@ constexpr std::array kEntries = {
 
 constexpr bool StandInOrder()
 {
-    for (std::size_t i = 0; i < kEntries.size(); ++i) {
+    for (std::size_t i = 0; i < kEntries.size(); ++i)
         if (static_cast<std::size_t>(kEntries[i].entry) != i)
             return false;
-    }
     return true;
 }
 static_assert(StandInOrder());

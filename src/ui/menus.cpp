@@ -207,10 +207,9 @@ constexpr std::array kToolButtons = {ToolButton{"New", "New map", E::mnuFileNew}
 const MenuPlace* FindPlace(MenuEntry entry)
 {
     for (const MenuInfo& menu : kMenus) {
-        for (const MenuPlace& place : menu.places) {
+        for (const MenuPlace& place : menu.places)
             if (place.entry == entry)
                 return &place;
-        }
     }
     return nullptr;
 }
@@ -259,10 +258,9 @@ std::span<const ToolButton> ToolBar()
 
 void tbToolBar_ButtonClick(MainWindow& main, std::string_view key)
 {
-    for (const ToolButton& button : kToolButtons) {
+    for (const ToolButton& button : kToolButtons)
         if (!key.empty() && button.key == key)
             RunMenuEntry(main, button.entry);
-    }
 }
 
 MenuEntryState ToolButtonState(const MainWindow& main, const ToolButton& button)

@@ -228,10 +228,9 @@ constexpr std::array kPopups = {
 
 std::span<const MenuPlace> PopupPlaces(Menu menu)
 {
-    for (const PopupInfo& popup : kPopups) {
+    for (const PopupInfo& popup : kPopups)
         if (popup.menu == menu)
             return popup.places;
-    }
     return {};
 }
 

@@ -106,10 +106,9 @@ NodeKind KindOf(const TreeNode* node)
 Menu PopupMenuOf(const TreeNode* node)
 {
     const NodeKind kind = KindOf(node);
-    for (const KindMenu& row : kKindMenus) {
+    for (const KindMenu& row : kKindMenus)
         if (row.kind == kind)
             return row.menu;
-    }
     return Menu::None;
 }
 

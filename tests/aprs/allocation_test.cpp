@@ -16,9 +16,8 @@ std::size_t allocations = 0;
 [[gnu::noinline]] void* operator new(std::size_t size)
 {
     ++allocations;
-    if (void* const block = std::malloc(size == 0 ? 1 : size)) {
+    if (void* const block = std::malloc(size == 0 ? 1 : size))
         return block;
-    }
     throw std::bad_alloc();
 }
 
@@ -42,9 +41,8 @@ TEST(Allocation, DecodingTakesNoMemory)
     lines.push_back("N0GATE>APRS42:}N0BBB>APRS42,TCPIP,N0GATE*:$GPGLL,4916.45,N,12311.12,W,225444,A");
     std::size_t decoded = 0;
     const std::size_t before = allocations;
-    for (const std::string& line : lines) {
+    for (const std::string& line : lines)
         decoded += Decode(line).IsDecoded() ? 1U : 0U;
-    }
     EXPECT_EQ(allocations, before);
     EXPECT_GT(decoded, 2900U);
 }

@@ -81,9 +81,8 @@ TEST(Header, EveryRefusalHasItsOwnWords)
     for (std::size_t i = 1; i < kRefusalCount; ++i) {
         const auto text = RefusalText(static_cast<Refusal>(i));
         EXPECT_FALSE(text.empty());
-        for (std::size_t j = 1; j < i; ++j) {
+        for (std::size_t j = 1; j < i; ++j)
             EXPECT_NE(text, RefusalText(static_cast<Refusal>(j)));
-        }
     }
 }
 

@@ -51,9 +51,8 @@ TEST(DestinationSymbol, LettersNumbersAndSsids)
         EXPECT_EQ(symbol->table, test.table) << test.dest;
         EXPECT_EQ(symbol->code, test.code) << test.dest;
     }
-    for (const std::string_view dest : {"APRS42", "GPS", "GPSX", "GPSZZ", "GPSC00", "GPSC95"}) {
+    for (const std::string_view dest : {"APRS42", "GPS", "GPSX", "GPSZZ", "GPSC00", "GPSC95"})
         EXPECT_FALSE(DestinationSymbol(dest)) << dest;
-    }
     EXPECT_EQ(SsidSymbol("N0AAA-9")->code, '>');
     EXPECT_EQ(SsidSymbol("N0AAA-15")->code, 'v');
     EXPECT_FALSE(SsidSymbol("N0AAA"));

@@ -32,7 +32,6 @@ TEST(Object, Faults)
 {
     EXPECT_EQ(RefusalOf(";LEADER   !092345z4903.50N/07201.75W>"), Refusal::BadObject);
     EXPECT_EQ(RefusalOf(";LEADER"), Refusal::BadObject);
-    EXPECT_EQ(RefusalOf(";         *092345z4903.50N/07201.75W>"), Refusal::BadObject) << "nothing to file it under";
     EXPECT_EQ(RefusalOf(";LEAD\x01R   *092345z4903.50N/07201.75W>"), Refusal::BadObject);
     EXPECT_EQ(RefusalOf(";LEADER   *092345z"), Refusal::BadObject);
     EXPECT_EQ(RefusalOf(";LEADER   *092345z4903.50N"), Refusal::PositionTooShort);

@@ -77,9 +77,8 @@ TEST(ShortKinds, TextsAndEmptiness)
     const auto user = Decoded<UserDefined>("N0AAA>APRS42:{Qxdata");
     EXPECT_EQ(user.id, "Qx");
     EXPECT_EQ(user.data, "data");
-    for (const std::string_view info : {"<", "? ", ",", "{", "{Q"}) {
+    for (const std::string_view info : {"<", "? ", ",", "{", "{Q"})
         EXPECT_EQ(RefusalOf(info), Refusal::NothingInside) << info;
-    }
     EXPECT_EQ(RefusalOf("#50B7500820082"), Refusal::RawWeather);
     EXPECT_EQ(RefusalOf("*7007600000000"), Refusal::RawWeather);
 }

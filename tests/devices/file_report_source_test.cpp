@@ -37,9 +37,8 @@ TEST(FileReportSource, DroppedInsideAnyOfItsEventsItFallsSilent)
         RecordingSink sink;
         std::unique_ptr<IReportSource> source = std::make_unique<FileReportSource>(sink, counts);
         sink.onEvent = [&] {
-            if (sink.events.size() == last) {
+            if (sink.events.size() == last)
                 source.reset();
-            }
         };
         source->ParseLine(kFourEvents);
         EXPECT_EQ(sink.events.size(), last);
@@ -53,11 +52,10 @@ TEST(FileReportSource, DroppedInsideANestedLineSilencesTheOuterToo)
     LineCounts counts;
     std::unique_ptr<IReportSource> source = std::make_unique<FileReportSource>(sink, counts);
     sink.onEvent = [&] {
-        if (sink.events.size() == 1) {
+        if (sink.events.size() == 1)
             source->ParseLine("N0BBB>APRS42:>092345zinner");
-        } else if (sink.events.size() == 2) {
+        else if (sink.events.size() == 2)
             source.reset();
-        }
     };
     source->ParseLine(kFourEvents);
     EXPECT_EQ(sink.events.size(), 2U);

@@ -24,9 +24,8 @@ struct Case {
 
 void Check(const std::vector<Case>& cases)
 {
-    for (const Case& test : cases) {
+    for (const Case& test : cases)
         EXPECT_EQ(EventsOf(test.line), test.events) << test.line;
-    }
 }
 
 TEST(PacketEvents, PositionsAndTheirCompanionsInOrder)
@@ -160,16 +159,14 @@ TEST(PacketEvents, NoLineEndOrNulReachesAText)
 {
     const auto line = [](std::string_view info) {
         std::string text = "N0AAA>APRS42:";
-        for (const char c : info) {
+        for (const char c : info)
             text += c == '0' ? '\0' : c == 'R' ? '\r' : c == 'N' ? '\n' : c;
-        }
         return text;
     };
     for (const std::string_view info : {">a0bRcNd", ":X        :a0bRcNd", "<a0bRcNd", "{Qa0bRcNd", "a0bRcNd"}) {
         const std::string text = line(info);
-        for (const std::string& event : EventsOf(text, RawData::Yes)) {
+        for (const std::string& event : EventsOf(text, RawData::Yes))
             EXPECT_EQ(event.find_first_of(std::string_view("\r\n\0", 3)), std::string::npos) << info;
-        }
         EXPECT_TRUE(EventsOf(text).back().find("abcd") != std::string::npos) << info;
     }
     constexpr char kPosition[] = "N0AAA>APRS42:!4930.00N/07230.00W-a\0b/A=000010c\rd";

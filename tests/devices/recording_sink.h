@@ -78,11 +78,10 @@ private:
     static void Append(std::ostringstream& out, std::string_view text) { out << '|' << text; }
     static void Append(std::ostringstream& out, double value)
     {
-        if (value == kAbsent || value == kAbsentLong) {
+        if (value == kAbsent || value == kAbsentLong)
             out << "|-";
-        } else {
+        else
             out << '|' << value;
-        }
     }
 
     template <class... Arguments>

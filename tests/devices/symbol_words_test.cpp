@@ -28,12 +28,10 @@ TEST(SymbolWords, OwnSymbolsComeBack)
         {'c', "Races"},     {'C', "CoastGuard"}, {'x', "PhoneBooth"}, {'y', "PostOffice"}, {'r', "Restroom"},
         {'1', "Num1"},      {'8', "Num8"},
     };
-    for (const Row& row : primary) {
+    for (const Row& row : primary)
         EXPECT_EQ(SymbolWord({'/', row.code}), row.word) << row.code;
-    }
-    for (const Row& row : alternate) {
+    for (const Row& row : alternate)
         EXPECT_EQ(SymbolWord({'\\', row.code}), row.word) << row.code;
-    }
 }
 
 TEST(SymbolWords, OverlaysAndStrangers)

@@ -45,10 +45,9 @@ TEST(StationTree, StandsAtStartAsTold)
 TEST(StationTree, OnlyRfStandsInOrder)
 {
     Program p;
-    for (const Channel channel : {Channel::RF, Channel::TCP}) {
+    for (const Channel channel : {Channel::RF, Channel::TCP})
         for (const char* call : {"b1", "A2", "C0", "a1"})
             p.Position(channel, call, 1, 2);
-    }
     EXPECT_THAT(p.ChildTexts("RFPositions"), ElementsAre("a1", "A2", "b1", "C0"));
     EXPECT_THAT(p.ChildTexts("TCPPositions"), ElementsAre("b1", "A2", "C0", "a1"));
     // A folder once sorted by command takes later stations in their order.

@@ -18,10 +18,9 @@ protected:
     {
         std::vector<ShapeData> circles;
         const auto& shapes = p.TheMap().Shapes();
-        for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot) {
+        for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot)
             if (shapes.At(slot))
                 circles.push_back(*shapes.At(slot));
-        }
         return circles;
     }
     void Station(Channel channel, const char* call)

@@ -71,10 +71,9 @@ public:
     std::vector<std::string> ChildTexts(std::string_view key) const
     {
         std::vector<std::string> texts;
-        if (const TreeNode* node = Node(key)) {
+        if (const TreeNode* node = Node(key))
             for (const auto& child : node->Children())
                 texts.push_back(child->Text());
-        }
         return texts;
     }
     void Select(std::string_view key) { main.tvStationList.Select(Node(key)); }

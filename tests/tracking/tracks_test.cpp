@@ -33,10 +33,9 @@ protected:
     {
         std::vector<ShapeData> lines;
         const auto& shapes = p.TheMap().Shapes();
-        for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot) {
+        for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot)
             if (shapes.At(slot))
                 lines.push_back(*shapes.At(slot));
-        }
         return lines;
     }
     void Set(const char* key, const char* value) { SetSetting(p.main.Settings, key, value); }

@@ -23,10 +23,9 @@ MenuEntryState StateOf(const Program& program, Menu menu, MenuEntry entry)
 std::vector<std::string> Ticked(const Program& program, Menu menu)
 {
     std::vector<std::string> ticked;
-    for (const MenuItem& item : MenuItems(program.main, menu)) {
+    for (const MenuItem& item : MenuItems(program.main, menu))
         if (item.state.bChecked)
             ticked.emplace_back(Info(item.entry).name);
-    }
     return ticked;
 }
 
@@ -40,10 +39,9 @@ std::vector<Menu> MenuBarAndBelow(const Program& program)
 {
     std::vector<Menu> menus(MenuBar().begin(), MenuBar().end());
     for (std::size_t i = 0; i < menus.size(); ++i) {
-        for (const MenuItem& item : MenuItems(program.main, menus[i])) {
+        for (const MenuItem& item : MenuItems(program.main, menus[i]))
             if (item.submenu != Menu::None)
                 menus.push_back(item.submenu);
-        }
     }
     return menus;
 }
@@ -78,10 +76,9 @@ TEST(Menus, EveryCommandOfTheMenuBarRunsOnAFreshProgramAndWithoutAMap)
 {
     for (const bool bStarted : {true, false}) {
         Program program(bStarted);
-        for (const Menu menu : MenuBarAndBelow(program)) {
+        for (const Menu menu : MenuBarAndBelow(program))
             for (const MenuItem& item : MenuItems(program.main, menu))
                 EXPECT_NO_THROW(RunMenuEntry(program.main, item.entry)) << Info(item.entry).name;
-        }
     }
 }
 

@@ -66,9 +66,8 @@ QImage Stacked(const std::vector<QImage>& images)
 QImage TreeSheet(const IconSet& icons)
 {
     std::vector<std::pair<QString, QIcon>> named;
-    for (const std::string& key : icons.TreeKeys()) {
+    for (const std::string& key : icons.TreeKeys())
         named.emplace_back(QString::fromStdString(key), icons.Tree(key));
-    }
     return Stacked({NamedSheet(named, kLight, Qt::black, 1), NamedSheet(named, kDark, Qt::white, 1),
                     NamedSheet(named, kLight, Qt::black, 2), NamedSheet(named, kDark, Qt::white, 2)});
 }
@@ -79,9 +78,8 @@ QImage ActionSheet(const IconSet& icons)
         QPalette palette(text, background, text, background, background.darker(), text, background);
         palette.setColor(QPalette::ButtonText, text);
         std::vector<std::pair<QString, QIcon>> named;
-        for (const QString& name : icons.ActionNames()) {
+        for (const QString& name : icons.ActionNames())
             named.emplace_back(name, icons.Action(name, palette));
-        }
         return NamedSheet(named, background, text, ratio);
     };
     return Stacked({sheet(QColor(0xef, 0xf0, 0xf1), kDark, 1), sheet(QColor(0x31, 0x36, 0x3b), kLight, 1),

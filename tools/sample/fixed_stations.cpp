@@ -56,9 +56,8 @@ void AddHome(SampleDay& day, const Town& town)
     const std::string report = Join({head, "=", position, reach, AnyComment(day, town)});
     const int period = day.Between(3, 5) * kHour;
     const int start = day.Below(period);
-    for (int at = start; at < kDay; at += period) {
+    for (int at = start; at < kDay; at += period)
         day.Add(at, report);
-    }
     if (day.Chance(60)) {
         const std::string stamp = day.Chance(50) ? SampleDay::ZuluStamp(start) : std::string();
         const std::string grid = stamp.empty() && day.Chance(30) ? Join({Locator(place), symbol, " "}) : std::string();
@@ -76,9 +75,8 @@ void AddDigi(SampleDay& day, const Town& town)
                                   Digits(day.Between(3, 7), 1), Digits(day.Between(0, 8), 1)});
     const std::string comment = Join({town.name, " digi W2,", town.prefix, " 12.", std::to_string(day.Below(10)), "V"});
     const int period = 4 * kHour;
-    for (int at = day.Below(period); at < kDay; at += period) {
+    for (int at = day.Below(period); at < kDay; at += period)
         day.Add(at, Join({head, "!", packet_text::PlainPosition(place, symbol), phg, comment}));
-    }
 }
 
 void AddGate(SampleDay& day, const Town& town)
@@ -103,15 +101,12 @@ void AddFixedStations(SampleDay& day)
 {
     for (const Town& town : Towns()) {
         AddHome(day, town);
-        if (day.Chance(35)) {
+        if (day.Chance(35))
             AddHome(day, town);
-        }
-        if (day.Chance(45)) {
+        if (day.Chance(45))
             AddDigi(day, town);
-        }
-        if (day.Chance(25)) {
+        if (day.Chance(25))
             AddGate(day, town);
-        }
     }
 }
 

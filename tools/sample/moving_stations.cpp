@@ -57,9 +57,8 @@ std::string Sentence(Place place, Movement movement, int second)
                              plain.substr(7, 1), ",", plain.substr(9, 8), "00,", plain.substr(17, 1), ",",
                              std::to_string(movement.knots), ".0,", std::to_string(movement.course), ".0,140626,,"});
     unsigned sum = 0;
-    for (const char c : text) {
+    for (const char c : text)
         sum ^= static_cast<unsigned char>(c);
-    }
     constexpr std::string_view kHexDigits = "0123456789ABCDEF";
     return Join({"$", text, "*", kHexDigits.substr(sum >> 4U, 1), kHexDigits.substr(sum & 15U, 1)});
 }
@@ -132,9 +131,8 @@ void AddDrivers(SampleDay& day)
         who.path = Join({"WIDE1-1,WIDE2-1,qAR,", route.prefix, "QTH-10"});
         who.comment = day.Pick(kComments);
         std::vector<Place> points(route.points.begin(), route.points.end());
-        if (number % 3 == 1) {
+        if (number % 3 == 1)
             points.assign(route.points.rbegin(), route.points.rend());
-        }
         Travel(day, who, points, day.Between(1, 14) * kHour, day.Between(82, 112), day.Between(220, 420));
         ++number;
     }
@@ -157,9 +155,8 @@ void AddWalkers(SampleDay& day)
         who.path = day.RadioPath(town);
         who.comment = AnyComment(day, town);
         std::vector<Place> points(7);
-        for (Place& point : points) {
+        for (Place& point : points)
             point = day.Near(town, bBicycle ? 9 : 3);
-        }
         points.push_back(points.front());
         Travel(day, who, points, day.Between(6, 15) * kHour, bBicycle ? 17 : 4.6, bBicycle ? 6 * kMinute : 9 * kMinute);
         ++number;

@@ -209,9 +209,8 @@ std::span<const Town> Towns()
 const Town& TownNamed(std::string_view name)
 {
     const auto* const found = std::find_if(kTowns.begin(), kTowns.end(), [&](const Town& t) { return t.name == name; });
-    if (found == kTowns.end()) {
+    if (found == kTowns.end())
         std::abort();
-    }
     return *found;
 }
 

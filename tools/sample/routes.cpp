@@ -219,9 +219,8 @@ std::vector<Route> Routes()
 {
     std::vector<Route> routes;
     routes.reserve(kRows.size());
-    for (const Row& row : kRows) {
+    for (const Row& row : kRows)
         routes.push_back({row.name, row.prefix, std::span(row.points).first(row.count)});
-    }
     return routes;
 }
 

@@ -52,19 +52,16 @@ constexpr auto kComments = std::to_array<LocaleComments>({
 
 std::string_view AnyComment(SampleDay& day, const Town& town)
 {
-    for (const LocaleComments& entry : kComments) {
-        if (entry.locale == town.locale) {
+    for (const LocaleComments& entry : kComments)
+        if (entry.locale == town.locale)
             return day.Pick(entry.comments);
-        }
-    }
     return {};
 }
 
 void SampleDay::Add(int second, std::string line)
 {
-    if (second >= 0 && second < kDay) {
+    if (second >= 0 && second < kDay)
         m_lines.push_back({second, std::move(line)});
-    }
 }
 
 std::string SampleDay::ToString() const
@@ -72,9 +69,8 @@ std::string SampleDay::ToString() const
     std::vector<TimedLine> lines = m_lines;
     std::stable_sort(lines.begin(), lines.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
     std::string text;
-    for (const TimedLine& line : lines) {
+    for (const TimedLine& line : lines)
         text.append(line.text).append("\n");
-    }
     return text;
 }
 
@@ -91,9 +87,8 @@ std::string SampleDay::NewCall(std::string_view prefix)
     while (true) {
         const std::array<char, 3> suffix = {'Q', static_cast<char>('R' + Below(4)), static_cast<char>('A' + Below(26))};
         const std::string_view letters(suffix.data(), suffix.size());
-        if (std::find(kTaken.begin(), kTaken.end(), letters) != kTaken.end()) {
+        if (std::find(kTaken.begin(), kTaken.end(), letters) != kTaken.end())
             continue;
-        }
         std::string call = Join({prefix, letters});
         if (std::find(m_calls.begin(), m_calls.end(), call) == m_calls.end()) {
             m_calls.push_back(call);

@@ -35,13 +35,11 @@ void AddRepeaters(SampleDay& day)
             Join({frequency, "MHz T", Digits(day.Between(67, 203), 3), " -060 R", Digits(day.Between(20, 60), 2),
                   "k Net ", day.Chance(50) ? "Mon" : "Thu", " 2000"});
         const int period = 6 * kHour;
-        for (int at = day.Below(period); at < kDay; at += period) {
-            if (i % 5 == 0) {
+        for (int at = day.Below(period); at < kDay; at += period)
+            if (i % 5 == 0)
                 day.Add(at, Join({NetHead(day, call), ")", frequency, "!", place, text}));
-            } else {
+            else
                 day.Add(at, Join({NetHead(day, call), ";", Padded(Join({frequency, "-R"})), "*111111z", place, text}));
-            }
-        }
     }
 }
 
@@ -84,9 +82,8 @@ void AddHappenings(SampleDay& day)
         for (int at = happening.begin * kHour + day.Below(kHour); at < end; at += 45 * kMinute) {
             day.Add(at, Join({NetHead(day, call), ";", Padded(happening.name), "*", SampleDay::ZuluStamp(at),
                               packet_text::PlainPosition(place, happening.symbol), happening.text}));
-            if (happening.name == "TORNADO 1" || happening.name == "LEADER") {
+            if (happening.name == "TORNADO 1" || happening.name == "LEADER")
                 place = day.Near(place, 3);
-            }
         }
         for (int i = 0; i < 2; ++i) { // A cancellation is sent more than once.
             day.Add(end + i * 5 * kMinute,
@@ -129,9 +126,8 @@ void AddConversation(SampleDay& day, int start)
 
 void AddMessages(SampleDay& day)
 {
-    for (int i = 0; i < 34; ++i) {
+    for (int i = 0; i < 34; ++i)
         AddConversation(day, day.Below(kDay - kHour));
-    }
     constexpr auto kBulletins = std::to_array<std::string_view>(
         {"BLN1     :Net tonight 2000 local on the hill repeater", "BLN2     :Club meeting Friday, all welcome",
          "BLNA     :Digi on the mountain is off until Monday", "BLN3WX   :Thunderstorms expected after noon",

@@ -49,9 +49,8 @@ std::string Hex(int value)
 {
     constexpr std::string_view kHexDigits = "0123456789ABCDEF";
     std::string text;
-    for (int shift = 12; shift >= 0; shift -= 4) {
+    for (int shift = 12; shift >= 0; shift -= 4)
         text += kHexDigits[static_cast<std::size_t>(value >> shift & 15)];
-    }
     return text;
 }
 

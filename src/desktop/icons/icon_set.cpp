@@ -45,12 +45,10 @@ IconSet::IconSet()
     // On a selected row only the shape speaks: its own colour might be that of the row.
     const IconColours tree{
         .normal = {}, .disabled = {}, .selected = QGuiApplication::palette().color(QPalette::HighlightedText)};
-    for (const QString& file : Files("tree")) {
+    for (const QString& file : Files("tree"))
         m_tree.emplace(BaseName(file).toStdString(), Icon(Folder("tree/") + file, tree));
-    }
-    for (const QString& file : Files("map")) {
+    for (const QString& file : Files("map"))
         m_map.emplace(BaseName(file).toInt(), MapEntry{.path = Folder("map/") + file, .drawn = {}});
-    }
 }
 
 QIcon IconSet::Tree(std::string_view key) const
@@ -62,9 +60,8 @@ QIcon IconSet::Tree(std::string_view key) const
 QIcon IconSet::Action(const QString& name, const QPalette& palette) const
 {
     const QString path = Folder("actions/") + name + QStringLiteral(".svg");
-    if (!QFile::exists(path)) {
+    if (!QFile::exists(path))
         return {};
-    }
     return Icon(path, {.normal = palette.color(QPalette::Active, QPalette::ButtonText),
                        .disabled = palette.color(QPalette::Disabled, QPalette::ButtonText),
                        .selected = palette.color(QPalette::Active, QPalette::HighlightedText)});
@@ -78,9 +75,8 @@ QIcon IconSet::Program() const
 QPixmap IconSet::MapPicture(int number, int size, qreal ratio)
 {
     auto found = m_map.find(number);
-    if (found == m_map.end()) {
+    if (found == m_map.end())
         found = m_map.find(kDefaultMapPicture);
-    }
     QPixmap picture = Drawn(found->second, qRound(size * ratio));
     picture.setDevicePixelRatio(ratio);
     return picture;
@@ -89,14 +85,12 @@ QPixmap IconSet::MapPicture(int number, int size, qreal ratio)
 const MapAtlas& IconSet::Atlas(int size, qreal ratio)
 {
     const std::pair key(size, ratio);
-    if (const auto kept = m_atlases.find(key); kept != m_atlases.end()) {
+    if (const auto kept = m_atlases.find(key); kept != m_atlases.end())
         return kept->second;
-    }
     const int cell = qRound(size * ratio);
     std::map<int, QPixmap> pictures;
-    for (auto& [number, entry] : m_map) {
+    for (auto& [number, entry] : m_map)
         pictures.emplace(number, Drawn(entry, cell));
-    }
     return m_atlases.emplace(key, MapAtlas(pictures, cell, kDefaultMapPicture, ratio)).first->second;
 }
 
@@ -110,27 +104,24 @@ const QPixmap& IconSet::Drawn(MapEntry& entry, int pixels)
 std::vector<std::string> IconSet::TreeKeys() const
 {
     std::vector<std::string> keys;
-    for (const auto& [key, icon] : m_tree) {
+    for (const auto& [key, icon] : m_tree)
         keys.push_back(key);
-    }
     return keys;
 }
 
 std::vector<int> IconSet::MapNumbers() const
 {
     std::vector<int> numbers;
-    for (const auto& [number, entry] : m_map) {
+    for (const auto& [number, entry] : m_map)
         numbers.push_back(number);
-    }
     return numbers;
 }
 
 std::vector<QString> IconSet::ActionNames() const
 {
     std::vector<QString> names;
-    for (const QString& file : Files("actions")) {
+    for (const QString& file : Files("actions"))
         names.push_back(BaseName(file));
-    }
     return names;
 }
 

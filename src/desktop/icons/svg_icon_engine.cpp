@@ -66,25 +66,20 @@ bool SvgIconEngine::isNull()
 
 QPixmap SvgIconEngine::Drawn(int pixels, QIcon::Mode mode)
 {
-    if (pixels <= 0) {
+    if (pixels <= 0)
         return {};
-    }
-    if (const auto kept = m_drawn.find({pixels, mode}); kept != m_drawn.end()) {
+    if (const auto kept = m_drawn.find({pixels, mode}); kept != m_drawn.end())
         return kept->second;
-    }
-    if (!m_picture) {
+    if (!m_picture)
         m_picture.emplace(m_path, m_colours.normal);
-    }
     QPixmap pixmap = m_picture->Draw(pixels);
-    if (mode == QIcon::Selected && m_colours.selected.isValid()) {
+    if (mode == QIcon::Selected && m_colours.selected.isValid())
         Tint(pixmap, m_colours.selected);
-    }
     if (mode == QIcon::Disabled) {
-        if (m_colours.disabled.isValid()) {
+        if (m_colours.disabled.isValid())
             Tint(pixmap, m_colours.disabled);
-        } else {
+        else
             pixmap = Faded(pixmap);
-        }
     }
     return m_drawn.emplace(std::pair(pixels, mode), pixmap).first->second;
 }

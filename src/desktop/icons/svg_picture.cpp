@@ -9,12 +9,10 @@ namespace ruvenmark {
 SvgPicture::SvgPicture(const QString& path, const QColor& colour)
 {
     QFile file(path);
-    if (file.open(QIODevice::ReadOnly)) {
+    if (file.open(QIODevice::ReadOnly))
         m_svg = file.readAll();
-    }
-    if (colour.isValid()) {
+    if (colour.isValid())
         m_svg.replace("currentColor", colour.name().toLatin1());
-    }
 }
 
 QPixmap SvgPicture::Draw(int pixels) const

@@ -65,10 +65,9 @@ void BaseMapPainter::Each(const Canvas& canvas, BaseMapLayer layer, double margi
         const UnitsToPixels toPixel{scale, (copy - canvas.left) * canvas.worldPixels, -canvas.top * canvas.worldPixels};
         for (const VectorLayer::Leaf& leaf : source.LeavesIn(rect)) {
             LeafReader reader(source, leaf);
-            while (reader.Next()) {
+            while (reader.Next())
                 if (reader.Points().size() > 1)
                     add(reader, toPixel, Bit(reader.Attribute() & 31));
-            }
         }
     }
 }
@@ -82,10 +81,9 @@ std::vector<QPainterPath> BaseMapPainter::Fill(const Canvas& canvas, BaseMapLaye
     const double step = kStep / canvas.devicePixelRatio;
     const QRectF rect = canvas.rect.adjusted(-1, -1, 1, 1);
     Each(canvas, layer, kMargin, [&](const LeafReader& reader, const UnitsToPixels& toPixel, std::uint32_t bit) {
-        for (std::size_t i = 0; i < wanted.size(); ++i) {
+        for (std::size_t i = 0; i < wanted.size(); ++i)
             if ((wanted[i] & bit) != 0)
                 AddRing(paths[i], reader, toPixel, rect, step);
-        }
     });
     return paths;
 }
@@ -101,10 +99,9 @@ void BaseMapPainter::Stroke(Canvas& canvas, BaseMapLayer layer, const std::vecto
     }
     const bool areRings = layer == BaseMapLayer::Land || layer == BaseMapLayer::CountryAreas;
     Each(canvas, layer, margin, [&](const LeafReader& reader, const UnitsToPixels& toPixel, std::uint32_t bit) {
-        for (std::size_t i = 0; i < lines.size(); ++i) {
+        for (std::size_t i = 0; i < lines.size(); ++i)
             if ((lines[i].wanted & bit) != 0)
                 builders[i].Add(reader, toPixel, areRings);
-        }
     });
     for (std::size_t i = 0; i < lines.size(); ++i) {
         QPen solid = lines[i].pen;

@@ -52,10 +52,9 @@ bool LabelGrid::IsFree(const QRectF& rect) const
     const auto words = static_cast<std::size_t>(m_words);
     for (int word = squares.left / kWordBits; word <= squares.right / kWordBits; ++word) {
         const std::uint64_t bits = Bits(squares, word);
-        for (int row = squares.top; row <= squares.bottom; ++row) {
+        for (int row = squares.top; row <= squares.bottom; ++row)
             if ((m_taken[static_cast<std::size_t>(row) * words + static_cast<std::size_t>(word)] & bits) != 0)
                 return false;
-        }
     }
     return true;
 }
@@ -76,10 +75,9 @@ void LabelGrid::Block(const QRectF& rect)
     if (squares.left > squares.right || squares.top > squares.bottom)
         return;
     const auto words = static_cast<std::size_t>(m_words);
-    for (int word = squares.left / kWordBits; word <= squares.right / kWordBits; ++word) {
+    for (int word = squares.left / kWordBits; word <= squares.right / kWordBits; ++word)
         for (int row = squares.top; row <= squares.bottom; ++row)
             m_taken[static_cast<std::size_t>(row) * words + static_cast<std::size_t>(word)] |= Bits(squares, word);
-    }
 }
 
 } // namespace ruvenmark

@@ -87,12 +87,11 @@ void MarkerLayout::Update(const std::vector<PinPoint>& points, const ViewFrame& 
         ++m_seen;
     });
     m_items.clear();
-    for (const Square& square : m_squares) {
+    for (const Square& square : m_squares)
         if (square.count > kMostInSquare)
             Add(square.best, square.count);
         else
             Thin(square);
-    }
     const auto isBelow = [this](const MarkerItem& a, const MarkerItem& b) {
         const bool bSelectedA = m_selected == a.slot, bSelectedB = m_selected == b.slot;
         return bSelectedA != bSelectedB ? bSelectedB : a.slot < b.slot;

@@ -118,10 +118,9 @@ void OnlineTiles::Want(const std::vector<TileId>& tiles)
     if (!IsOn())
         return;
     m_wanted = tiles;
-    for (const TileId tile : tiles) {
+    for (const TileId tile : tiles)
         if (!m_pictures.contains(tile) && !m_reading.contains(tile) && !m_absent.contains(tile))
             ReadKept(tile);
-    }
     FetchWanted();
 }
 
@@ -166,10 +165,9 @@ void OnlineTiles::FetchWanted()
     if (m_choice.kind != TileChoice::Kind::Server)
         return;
     std::vector<TileId> missing;
-    for (const TileId tile : m_wanted) {
+    for (const TileId tile : m_wanted)
         if (!m_reading.contains(tile) && (m_stale.contains(tile) || !m_pictures.contains(tile)))
             missing.push_back(tile);
-    }
     m_fetcher.SetWanted(std::move(missing));
 }
 

@@ -28,10 +28,9 @@ QString Broken(QString text, qsizetype longest)
     if (text.size() <= longest)
         return text;
     qsizetype best = -1;
-    for (qsizetype i = 0; i < text.size(); ++i) {
+    for (qsizetype i = 0; i < text.size(); ++i)
         if (text[i] == u' ' && (best < 0 || std::abs(2 * i - text.size()) < std::abs(2 * best - text.size())))
             best = i;
-    }
     if (best >= 0)
         text[best] = u'\n';
     return text;
@@ -69,10 +68,9 @@ PlaceLabels::PlaceLabels(const BaseMap& map)
     : m_map(map), m_countryOrder(LargestFirst(map.CountryCount(), [&](std::size_t i) { return map.Country(i); })),
       m_stateOrder(LargestFirst(map.StateCount(), [&](std::size_t i) { return map.State(i); }))
 {
-    for (std::size_t i = 0; i < map.PlaceCount(); ++i) {
+    for (std::size_t i = 0; i < map.PlaceCount(); ++i)
         if (map.Place(i).isCapital)
             m_capitals.push_back(static_cast<std::uint32_t>(i));
-    }
 }
 
 void PlaceLabels::SetFaces(const How& how)
@@ -227,17 +225,15 @@ std::vector<PlaceLabels::Spot> PlaceLabels::CitiesIn(double leastWeight) const
                 const auto wrapped = static_cast<std::uint32_t>((column % count + count) % count);
                 if (row < 0 || row >= count)
                     continue;
-                for (const std::uint32_t index : m_map.PlacesInCell(wrapped, static_cast<std::uint32_t>(row))) {
+                for (const std::uint32_t index : m_map.PlacesInCell(wrapped, static_cast<std::uint32_t>(row)))
                     if (!add(index))
                         break;
-                }
             }
         }
     }
-    for (const std::uint32_t capital : m_capitals) {
+    for (const std::uint32_t capital : m_capitals)
         if (m_map.Place(capital).population < leastWeight)
             add(capital);
-    }
     return spots;
 }
 

@@ -179,10 +179,9 @@ Relief::Window Relief::Load(double left, double top, double worldPixels, int wid
     window.height.assign(static_cast<std::size_t>(window.columns) * static_cast<std::size_t>(window.rows), 0);
     const int right = window.left + window.columns, bottom = window.top + window.rows;
     for (int y = window.top; y < bottom; y = Next(y, bottom)) {
-        for (int x = window.left; x < right; x = Next(x, right)) {
+        for (int x = window.left; x < right; x = Next(x, right))
             if (!Copy(window, x, y, Next(x, right), Next(y, bottom)))
                 return {};
-        }
     }
     window.Light();
     for (double closer = worldPixels / side; closer > 1.2; closer /= 2.5) {

@@ -120,14 +120,12 @@ void PaintSelected(QPainter& painter, const ShapeLayout& layout, const SlotPool<
 {
     highlight.setAlpha(150);
     painter.setPen(ShapePen(highlight, shapes.At(selected) ? shapes.At(selected)->weight + 7 : 7));
-    for (const LineItem& item : layout.Lines()) {
+    for (const LineItem& item : layout.Lines())
         if (item.slot == selected)
             painter.drawLine(item.line);
-    }
-    for (const CircleItem& item : layout.Circles()) {
+    for (const CircleItem& item : layout.Circles())
         if (item.slot == selected)
             PaintOutline(painter, item.outline, area);
-    }
 }
 
 } // namespace

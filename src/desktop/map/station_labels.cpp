@@ -119,16 +119,14 @@ void StationLabels::Place(const std::vector<MarkerItem>& items, const SlotPool<P
     m_namesPlaced.clear();
     m_badgesPlaced.clear();
     SetGround(frame);
-    for (std::size_t i = items.size(); i-- > 0;) {
+    for (std::size_t i = items.size(); i-- > 0;)
         if (items[i].count > 1)
             PlaceBadge(items[i]);
-    }
     for (const MarkerItem& item : items)
         m_grid.Block(Around(item.at, kCore).translated(m_onGround));
-    for (std::size_t i = items.size(); i-- > 0;) {
+    for (std::size_t i = items.size(); i-- > 0;)
         if (items[i].bBalloon || selected == items[i].slot)
             PlaceName(items[i], pins, selected == items[i].slot ? kRingGap : kGap);
-    }
 }
 
 void StationLabels::BlockIn(LabelGrid& grid, const std::vector<MarkerItem>& items) const
@@ -214,13 +212,12 @@ void StationLabels::Paint(QPainter& painter, bool bVector)
     const auto name = [this](QPainter& on, const Text& text, const QRectF& rect) { PaintName(on, text, rect); };
     const auto badge = [this](QPainter& on, const Text& text, const QRectF& rect) { PaintBadge(on, text, rect); };
     const auto paintAll = [&](std::vector<Todo>& todo, const auto& paintText) {
-        for (const Todo& one : todo) {
+        for (const Todo& one : todo)
             if (bVector)
                 paintText(painter, *one.text, one.rect);
             else
                 PaintKept(painter, *one.text, one.rect,
                           [&](QPainter& on, const QRectF& rect) { paintText(on, *one.text, rect); });
-        }
     };
     paintAll(m_nameTodo, name);
     paintAll(m_badgeTodo, badge);

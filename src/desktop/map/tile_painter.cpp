@@ -161,10 +161,9 @@ bool TilePainter::Paint(QPainter& painter, const ViewFrame& frame, const How& ho
         Remember(span.worldPixels);
 
     m_wanted.clear();
-    for (const GroundTile& tile : Tiles(span, how, how.wait ? 0 : 1)) { // Those just outside come last.
+    for (const GroundTile& tile : Tiles(span, how, how.wait ? 0 : 1)) // Those just outside come last.
         if (!m_ready.contains(tile) && !m_started.contains(tile))
             m_wanted.append(tile);
-    }
     StartNext();
     return isWhole;
 }
@@ -176,10 +175,9 @@ void TilePainter::Finish(const QList<GroundTile>& tiles)
         QImage image;
     };
     std::vector<Job> jobs;
-    for (const GroundTile& tile : tiles) {
+    for (const GroundTile& tile : tiles)
         if (!m_ready.contains(tile))
             jobs.push_back({tile, {}});
-    }
     for (Job& job : jobs)
         m_pool.start([this, &job] { job.image = Render(m_painter, job.tile); });
     m_pool.waitForDone();

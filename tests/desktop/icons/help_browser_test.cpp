@@ -21,9 +21,8 @@ QStringList Captures(const QString& text, const char* pattern)
 {
     QStringList found;
     auto matches = QRegularExpression(QLatin1String(pattern)).globalMatch(text);
-    while (matches.hasNext()) {
+    while (matches.hasNext())
         found.append(matches.next().captured(1));
-    }
     return found;
 }
 
@@ -33,9 +32,8 @@ TEST(HelpBrowser, EveryLinkOfTheManualLeadsSomewhere)
     const QStringList anchors = Captures(manual, "<a name=\"([^\"]*)\"");
     const QStringList links = Captures(manual, "href=\"([^\"]*)\"");
     EXPECT_GT(links.size(), 10);
-    for (const QString& link : links) {
+    for (const QString& link : links)
         EXPECT_TRUE(link.startsWith('#') && anchors.contains(link.mid(1))) << link.toStdString();
-    }
 }
 
 TEST(HelpBrowser, EveryPictureOfTheManualIsThere)

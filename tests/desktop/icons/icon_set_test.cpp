@@ -45,9 +45,8 @@ TEST(TreeIcons, AWordWithoutAPictureLooksLikeDefault)
 {
     const IconSet icons;
     const QImage standIn = Drawn(icons.Tree("Default"), 16);
-    for (const char* key : {"", "car", "Car ", "No such symbol", "../map/1"}) {
+    for (const char* key : {"", "car", "Car ", "No such symbol", "../map/1"})
         EXPECT_EQ(Drawn(icons.Tree(key), 16), standIn) << key;
-    }
     EXPECT_NE(Drawn(icons.Tree("Car"), 16), standIn);
 }
 
@@ -107,9 +106,8 @@ TEST(ActionIcons, TheWindowsCommandsHaveThem)
           "delete",    "view-left",     "view-map",      "help",         "zoom-in",      "zoom-out",   "pan-north",
           "pan-south", "pan-east",      "pan-west",      "fit-world",    "find",         "directions", "pointer",
           "crosshair", "load-stations", "stop",          "filter",       "track",        "region",     "style",
-          "layers",    "tiles-online",  "send-position", "send-message", "view-messages"}) {
+          "layers",    "tiles-online",  "send-position", "send-message", "view-messages"})
         EXPECT_FALSE(icons.Action(name, QPalette()).isNull()) << name;
-    }
     EXPECT_TRUE(icons.Action("no-such-action", QPalette()).isNull());
 }
 

@@ -32,9 +32,8 @@ TEST(MapPictures, ANumberWithoutAPictureLooksLikeTheDefault)
 {
     IconSet icons;
     const QImage standIn = icons.MapPicture(1, 18, 1).toImage();
-    for (const int number : {0, 2, -1, 207, 251, 32767, -32768}) {
+    for (const int number : {0, 2, -1, 207, 251, 32767, -32768})
         EXPECT_EQ(icons.MapPicture(number, 18, 1).toImage(), standIn) << number;
-    }
 }
 
 TEST(MapPictures, AreDrawnForTheDevice)
@@ -56,9 +55,8 @@ TEST(MapAtlas, HoldsEveryPictureApartFromTheOthers)
     for (const int number : kNumbers) {
         const QRect source = atlas.Source(number);
         EXPECT_TRUE(atlas.Sheet().rect().contains(source)) << number;
-        for (const QRect& other : taken) {
+        for (const QRect& other : taken)
             EXPECT_FALSE(other.adjusted(-1, -1, 1, 1).intersects(source)) << number;
-        }
         taken.push_back(source);
         QPixmap alone = icons.MapPicture(number, 18, 2);
         alone.setDevicePixelRatio(1);
@@ -70,9 +68,8 @@ TEST(MapAtlas, GivesTheDefaultForAnyOtherNumber)
 {
     IconSet icons;
     const MapAtlas& atlas = icons.Atlas(18, 1);
-    for (const int number : {0, 2, -1, 251, 1000000}) {
+    for (const int number : {0, 2, -1, 251, 1000000})
         EXPECT_EQ(atlas.Source(number), atlas.Source(1)) << number;
-    }
 }
 
 TEST(MapAtlas, IsMadeOnceForASizeAndARatio)

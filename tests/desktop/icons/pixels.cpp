@@ -23,11 +23,9 @@ template <typename Visit>
 void ForEachOpaque(const QImage& image, int alpha, Visit visit)
 {
     for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (const QColor colour = image.pixelColor(x, y); colour.alpha() >= alpha) {
+        for (int x = 0; x < image.width(); ++x)
+            if (const QColor colour = image.pixelColor(x, y); colour.alpha() >= alpha)
                 visit(colour);
-            }
-        }
     }
 }
 

@@ -57,10 +57,9 @@ TEST_F(BaseMapPainterTest, NoSeamsInsideOneSurface)
                 const QRgb expected = (surface.isLand ? palette.land : palette.water).rgb();
                 const QImage image = PaintGround(map, FrameAt(surface.centre, zoom, 300, 200), MapStyle::Data, ratio);
                 std::size_t wrong = 0;
-                for (int y = 0; y < image.height(); ++y) {
+                for (int y = 0; y < image.height(); ++y)
                     for (int x = 0; x < image.width(); ++x)
                         wrong += image.pixel(x, y) != expected ? 1 : 0;
-                }
                 // Islands of the ocean and lakes of the ice may show; a seam would be some hundred pixels.
                 EXPECT_LT(wrong, 120U) << surface.centre.lon << " zoom " << zoom << " ratio " << ratio;
             }

@@ -24,10 +24,9 @@ protected:
     static std::size_t Unpainted(const QImage& image)
     {
         std::size_t count = 0;
-        for (int y = 0; y < image.height(); ++y) {
+        for (int y = 0; y < image.height(); ++y)
             for (int x = 0; x < image.width(); ++x)
                 count += image.pixel(x, y) == QColor(Qt::magenta).rgb() ? 1 : 0;
-        }
         return count;
     }
 
@@ -56,10 +55,9 @@ TEST_F(TilePainterTest, LooksAsPaintedAtOnce)
 
 TEST_F(TilePainterTest, CoversEveryPixelAcrossTheDateLine)
 {
-    for (const double zoom : {1.0, 2.3, 6.71}) {
+    for (const double zoom : {1.0, 2.3, 6.71})
         for (const double lon : {-180.0, 179.9, 0.0})
             EXPECT_EQ(Unpainted(Paint(FrameAt({52, lon}, zoom, 700, 300), true)), 0U) << zoom << ' ' << lon;
-    }
 }
 
 TEST_F(TilePainterTest, FillsInLaterAndShowsOlderScalesMeanwhile)

@@ -43,10 +43,9 @@ inline int Difference(QRgb a, QRgb b)
 inline std::size_t DifferentPixels(const QImage& a, const QImage& b)
 {
     std::size_t count = 0;
-    for (int y = 0; y < a.height(); ++y) {
+    for (int y = 0; y < a.height(); ++y)
         for (int x = 0; x < a.width(); ++x)
             count += Difference(a.pixel(x, y), b.pixel(x, y)) > 12 ? 1 : 0;
-    }
     return count;
 }
 

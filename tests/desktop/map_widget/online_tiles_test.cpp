@@ -262,10 +262,9 @@ TEST_F(TilesOnMapTest, TilesCoverTheRoadStylesAndNoOthers)
     const auto magenta = [&] { return Painted().pixelColor(400, 200) == QColor("magenta"); };
     ASSERT_TRUE(QTest::qWaitFor(magenta));
     const QImage covered = Painted();
-    for (int y = 0; y < 500; ++y) {
+    for (int y = 0; y < 500; ++y)
         for (int x = 0; x < 740; ++x)
             ASSERT_EQ(covered.pixelColor(x, y), QColor("magenta")) << "a seam at " << x << ", " << y;
-    }
     TheMap().SetMapStyle(2);
     EXPECT_FALSE(magenta());
     TheMap().SetMapStyle(1);

@@ -28,14 +28,12 @@ TEST_F(StationLabelsTest, NothingOverprints)
     Painted();
     const std::vector<QRectF> rects = Rects();
     ASSERT_GT(rects.size(), 100U);
-    for (std::size_t i = 0; i < rects.size(); ++i) {
+    for (std::size_t i = 0; i < rects.size(); ++i)
         for (std::size_t j = i + 1; j < rects.size(); ++j)
             ASSERT_FALSE(rects[i].intersects(rects[j])) << i << " and " << j;
-    }
-    for (const auto& name : widget.Scene().Labels().Names()) {
+    for (const auto& name : widget.Scene().Labels().Names())
         for (const MarkerItem& item : widget.Scene().Markers().Items())
             ASSERT_FALSE(name.rect.contains(item.at)) << "a name lies on a marker";
-    }
 }
 
 TEST_F(StationLabelsTest, TheNewestNameWinsAndHiddenNamesAreNotWritten)
@@ -59,10 +57,9 @@ TEST_F(StationLabelsTest, NamesKeepTheirPlacesWhileTheMapIsMoved)
     const auto places = [&] {
         Painted();
         std::map<std::uint32_t, QPointF> found;
-        for (const auto& name : widget.Scene().Labels().Names()) {
+        for (const auto& name : widget.Scene().Labels().Names())
             if (QRectF(100, 100, 600, 400).contains(name.rect))
                 found[name.slot] = name.rect.center();
-        }
         return found;
     };
     const auto before = places();

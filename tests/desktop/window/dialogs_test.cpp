@@ -39,10 +39,9 @@ protected:
     }
     QDialog& Modeless(const char* title)
     {
-        for (auto* dialog : program.window.findChildren<QDialog*>()) {
+        for (auto* dialog : program.window.findChildren<QDialog*>())
             if (dialog->isVisible() && dialog->windowTitle() == QLatin1String(title))
                 return *dialog;
-        }
         throw std::logic_error("no such dialog");
     }
     QDialog& Filter()

@@ -22,9 +22,8 @@ namespace {
 std::string ManyLines(int count)
 {
     std::string text;
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < count; ++i)
         text += "N" + std::to_string(i % 500) + "X>APRS:!4903.50N/07201.75W-line " + std::to_string(i) + "\r\n";
-    }
     return text;
 }
 

@@ -32,10 +32,9 @@ public:
     std::vector<FoundPlace> Search(std::string_view text, std::size_t limit) const override
     {
         std::vector<FoundPlace> found;
-        for (const std::string name : {"Springfield", "Springdale"}) {
+        for (const std::string name : {"Springfield", "Springdale"})
             if (found.size() < limit && CompareIgnoringCase(std::string_view(name).substr(0, text.size()), text) == 0)
                 found.push_back({FoundPlace::Kind::Place, name, "Illinois", {39.8, -89.6}, {}, {}});
-        }
         return found;
     }
 };
