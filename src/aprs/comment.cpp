@@ -4,6 +4,15 @@
 
 namespace ruvenmark::aprs {
 
+namespace {
+
+bool IsTidy(std::string_view text)
+{
+    return text.front() != '/' && !IsBlank(text.front()) && !IsBlank(text.back());
+}
+
+} // namespace
+
 Comment::Comment(std::string_view text) : m_text(text.data())
 {
     if (!text.empty()) {
@@ -60,6 +69,8 @@ void Comment::Cut(std::size_t piece, std::size_t begin, std::size_t size)
 
 void Comment::Tidy()
 {
+    if (m_count == 1 && IsTidy((*this)[0]))
+        return;
     if (m_count > 0 && (*this)[0].front() == '/')
         Set(0, (*this)[0].substr(1));
     while (m_count > 0) {

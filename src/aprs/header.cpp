@@ -119,7 +119,8 @@ constexpr std::size_t kWindow = 64;
 
 // One bit a byte of a line's first 64, the first byte in the lowest bit.
 struct Bits {
-    std::uint64_t call = 0; // Letters, digits, dashes.
+    std::uint64_t call = 0;  // Letters, digits, dashes.
+    std::uint64_t plain = 0; // Capitals and digits.
     std::uint64_t comma = 0, star = 0, colon = 0;
 };
 
@@ -146,8 +147,9 @@ Bits ReadWindow(const char* text)
     for (std::size_t at = 0; at < kWindow; at += sizeof(__m128i)) {
         const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + at));
         const __m128i letter = Between(_mm_or_si128(bytes, _mm_set1_epi8(0x20)), 'a', 'z');
-        const __m128i other = _mm_or_si128(Between(bytes, '0', '9'), Equal(bytes, '-'));
-        AddBits(bits.call, _mm_or_si128(letter, other), at);
+        const __m128i digit = Between(bytes, '0', '9');
+        AddBits(bits.call, _mm_or_si128(letter, _mm_or_si128(digit, Equal(bytes, '-'))), at);
+        AddBits(bits.plain, _mm_or_si128(Between(bytes, 'A', 'Z'), digit), at);
         AddBits(bits.comma, Equal(bytes, ','), at);
         AddBits(bits.star, Equal(bytes, '*'), at);
         AddBits(bits.colon, Equal(bytes, ':'), at);
@@ -198,8 +200,10 @@ bool ParseQuickly(std::string_view line, Header& header, std::string_view& info)
     const std::uint64_t dest = bits.call & ~Below(angle + 1);
     const auto comma = angle + 1 + static_cast<std::size_t>(std::countr_one(dest >> (angle + 1)));
     const std::string_view destText = line.substr(angle + 1, comma - angle - 1);
+    const auto destPlain = static_cast<std::size_t>(std::countr_one(bits.plain >> (angle + 1)));
+    const bool bPlainDest = destPlain > 0 && destPlain == destText.size() && destPlain <= kMaxDestCall;
     if (angle == 0 || (text[comma] != ',' && text[comma] != ':') || HasTooLong(bits.call & Below(colon)) ||
-        !IsDestination(destText) || !IsPlainPath(bits, comma, colon))
+        (!bPlainDest && !IsDestination(destText)) || !IsPlainPath(bits, comma, colon))
         return false;
     header.source = line.substr(0, angle);
     header.dest = destText;

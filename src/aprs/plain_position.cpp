@@ -1,5 +1,6 @@
 #include "aprs/plain_position.h"
 
+#include "aprs/digit_block.h"
 #include "aprs/text.h"
 
 namespace ruvenmark::aprs {
@@ -70,39 +71,31 @@ double MiddleAngle(int degrees, int hundredths, int blanks)
 
 namespace {
 
-// Value of the digits at the given places; `bad` gets a bit set where one of them is none.
-template <std::size_t size>
-unsigned Gather(const char* text, const std::array<std::size_t, size>& places, unsigned& bad)
+// Degrees and minutes of an angle with all its digits, as ten-thousands and hundredths of a minute; -1 for any other.
+template <std::size_t degreeDigits>
+int ReadAngle(const char* text)
 {
-    unsigned value = 0;
-    for (const std::size_t place : places) {
-        const unsigned digit = static_cast<unsigned char>(text[place]) - unsigned{'0'};
-        bad |= digit > 9U ? 1U : 0U;
-        value = value * 10 + digit;
-    }
-    return value;
+    constexpr std::size_t kPoint = degreeDigits + 2;
+    constexpr std::size_t kDigits = degreeDigits + 4;
+    const DigitBlock block(text);
+    const DigitBlock digits = block.Without(kPoint);
+    return block.Is(kPoint, '.') && digits.Count() >= kDigits ? static_cast<int>(digits.Value(kDigits)) : -1;
 }
 
 // The usual position, with all its digits and nothing wrong. Any other is left to a closer look.
 bool ParseExact(const char* text, Position& position)
 {
-    constexpr std::array<std::size_t, 2> kLatDegrees = {0, 1};
-    constexpr std::array<std::size_t, 4> kLatMinutes = {2, 3, 5, 6};
-    constexpr std::array<std::size_t, 3> kLonDegrees = {9, 10, 11};
-    constexpr std::array<std::size_t, 4> kLonMinutes = {12, 13, 15, 16};
-    unsigned bad = 0;
-    const unsigned latDegrees = Gather(text, kLatDegrees, bad);
-    const unsigned latMinutes = Gather(text, kLatMinutes, bad);
-    const unsigned lonDegrees = Gather(text, kLonDegrees, bad);
-    const unsigned lonMinutes = Gather(text, kLonMinutes, bad);
+    constexpr int kDegree = 10000;
+    const int lat = ReadAngle<2>(text);
+    const int lon = ReadAngle<3>(text + 9);
     const int north = Sign(text[7], 'N', 'S');
     const int east = Sign(text[17], 'E', 'W');
-    if (bad != 0 || text[4] != '.' || text[14] != '.' || north * east == 0 || latDegrees > 89 || lonDegrees > 179 ||
-        latMinutes >= unsigned{kHundredthsPerDegree} || lonMinutes >= unsigned{kHundredthsPerDegree} ||
-        !IsSymbolTable(text[8]) || !IsSymbolCode(text[18]))
+    if (lat < 0 || lon < 0 || north * east == 0 || lat >= 90 * kDegree || lon >= 180 * kDegree ||
+        lat % kDegree >= kHundredthsPerDegree || lon % kDegree >= kHundredthsPerDegree || !IsSymbolTable(text[8]) ||
+        !IsSymbolCode(text[18]))
         return false;
-    position.latitude = north * MiddleAngle(static_cast<int>(latDegrees), static_cast<int>(latMinutes), 0);
-    position.longitude = east * MiddleAngle(static_cast<int>(lonDegrees), static_cast<int>(lonMinutes), 0);
+    position.latitude = north * MiddleAngle(lat / kDegree, lat % kDegree, 0);
+    position.longitude = east * MiddleAngle(lon / kDegree, lon % kDegree, 0);
     position.symbol = {text[8], text[18]};
     return true;
 }

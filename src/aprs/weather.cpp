@@ -1,5 +1,6 @@
 #include "aprs/weather.h"
 
+#include "aprs/digit_block.h"
 #include "aprs/text.h"
 #include "aprs/time_stamp.h"
 
@@ -34,9 +35,30 @@ bool IsWindFigure(std::string_view text)
     return true;
 }
 
+// The usual wind, "ddd/sss" with all its digits.
+bool TakeExactWind(std::string_view& text, Weather& weather)
+{
+    constexpr std::size_t kSlash = 3;
+    constexpr std::size_t kDigits = kWindSize - 1;
+    if (text.size() < DigitBlock::kSize)
+        return false;
+    const DigitBlock block(text.data());
+    const DigitBlock digits = block.Without(kSlash);
+    if (!block.Is(kSlash, '/') || digits.Count() < kDigits)
+        return false;
+    const std::uint32_t both = digits.Value(kDigits);
+    if (both / 1000 <= 360)
+        weather.windDirection = both / 1000;
+    weather.windSpeed = both % 1000;
+    text.remove_prefix(kWindSize);
+    return true;
+}
+
 // "ddd/sss" or "cdddsddd" in front; takes it off the text.
 bool TakeWind(std::string_view& text, Weather& weather)
 {
+    if (TakeExactWind(text, weather))
+        return true;
     const bool bLetters = text.size() > kWindSize && text[0] == 'c' && text[4] == 's';
     const std::size_t at = bLetters ? 1 : 0;
     if (text.size() < kWindSize || (!bLetters && text[3] != '/') || !IsWindFigure(text.substr(at, 3)) ||
@@ -55,8 +77,8 @@ using Value = std::optional<double> Weather::*;
 // What the figure behind a letter means: its value is the figure divided, with something added.
 struct Field {
     Value value = nullptr; // None for letters that are known, but of no use.
-    double divisor = 1;
-    int addend = 0;
+    float divisor = 1;     // Small whole numbers, like the next: 16 bytes make a field quick to find.
+    std::int16_t addend = 0;
     std::uint8_t minDigits = 1;
     std::uint8_t maxDigits = 0; // 0 for letters that mean nothing here.
 };
@@ -94,35 +116,31 @@ bool MayBeSigned(char letter, char sign)
     return (sign == '-' && (letter == 't' || letter == 'v')) || (sign == '+' && letter == 'v');
 }
 
-// One letter with its figure in front of the text; returns its size, or 0 where there is none. Behind a blank a single
-// digit is no figure, but a word.
-std::size_t TakeField(std::string_view text, bool bBehindBlank, Weather& weather)
+const Field& FieldOf(char letter)
 {
-    const char letter = text[0];
-    const Field& field = kFields[static_cast<unsigned char>(letter)];
-    if (field.maxDigits == 0 || text.size() < 2)
+    return kFields[static_cast<unsigned char>(letter)];
+}
+
+// The field's letter with its figure in front of the text; returns its size, or 0 where there is no figure. Behind a
+// blank a single digit is no figure, but a word.
+std::size_t TakeField(std::string_view text, const Field& field, bool bBehindBlank, Weather& weather)
+{
+    if (text.size() < 2)
         return 0;
-    const std::size_t start = MayBeSigned(letter, text[1]) ? 2 : 1;
-    const std::size_t end = std::min(text.size(), start + field.maxDigits);
-    std::size_t at = start;
-    int figure = 0;
-    if (end - start >= 3 && AllDigits(text.substr(start, 3))) { // Nearly always three.
-        figure = (DigitValue(text[start]) * 10 + DigitValue(text[start + 1])) * 10 + DigitValue(text[start + 2]);
-        at += 3;
-    }
-    for (; at < end && IsDigit(text[at]); ++at)
-        figure = figure * 10 + DigitValue(text[at]);
-    if (at == start) {
+    const bool bSigned = MayBeSigned(text[0], text[1]);
+    const std::size_t start = bSigned ? 2 : 1;
+    const DigitRun run = ReadDigits(text.substr(start), field.maxDigits);
+    if (run.count == 0) {
         const std::size_t filler = FillerSize(text.substr(1), kMaxFiller);
-        return start == 1 && filler >= 2 ? 1 + filler : 0;
+        return !bSigned && filler >= 2 ? 1 + filler : 0;
     }
-    if (bBehindBlank && at == start + 1)
+    if (bBehindBlank && run.count == 1)
         return 0;
-    if (field.value != nullptr && at - start >= field.minDigits) {
-        const int value = text[1] == '-' ? -figure : figure;
-        weather.*field.value = value / field.divisor + field.addend;
+    if (field.value != nullptr && run.count >= field.minDigits) {
+        const int figure = static_cast<int>(run.value);
+        weather.*field.value = (text[1] == '-' ? -figure : figure) / double{field.divisor} + field.addend;
     }
-    return at;
+    return start + run.count;
 }
 
 // All letters with figures; returns whether there was one.
@@ -130,11 +148,12 @@ bool TakeFields(std::string_view& text, Weather& weather)
 {
     bool bAny = false;
     while (!text.empty()) {
-        const std::size_t gap = IsFiller(text[0]) ? FillerSize(text, text.size()) : 0;
-        if (gap == text.size())
+        const bool bGap = FieldOf(text[0]).maxDigits == 0;
+        const std::size_t gap = bGap ? FillerSize(text, text.size()) : 0;
+        if (gap == text.size() || FieldOf(text[gap]).maxDigits == 0)
             break;
-        const bool bBehindBlank = gap > 0 && text[gap - 1] == ' ';
-        const std::size_t size = TakeField(text.substr(gap), bBehindBlank, weather);
+        const bool bBehindBlank = bGap && text[gap - 1] == ' ';
+        const std::size_t size = TakeField(text.substr(gap), FieldOf(text[gap]), bBehindBlank, weather);
         if (size == 0)
             break;
         text.remove_prefix(gap + size);

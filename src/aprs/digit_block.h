@@ -1,0 +1,93 @@
+#pragma once
+
+#include "aprs/text.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+// Several decimal digits at once, eight bytes of text in one number: figures of a packet have no fixed length, and a
+// branch a digit is what reading them costs.
+namespace ruvenmark::aprs {
+
+// Eight bytes, the first in the lowest: a digit is its value, any other byte is more than 9.
+class DigitBlock {
+public:
+    explicit DigitBlock(const char* text)
+    {
+        std::memcpy(&m_bytes, text, kSize);
+        if constexpr (std::endian::native == std::endian::big)
+            m_bytes = __builtin_bswap64(m_bytes);
+        m_bytes ^= kZeros;
+    }
+
+    static constexpr std::size_t kSize = 8;
+
+    // How many digits stand in front, up to eight.
+    std::size_t Count() const
+    {
+        // A carry only reaches bytes behind the first that is no digit.
+        const std::uint64_t others = ((m_bytes + kUpToNine) | m_bytes) & kHighBits;
+        return static_cast<std::size_t>(std::countr_zero(others)) / 8;
+    }
+
+    // The number that the first `count` bytes, digits all and one at least, stand for.
+    std::uint32_t Value(std::size_t count) const { return Join(m_bytes << (64 - 8 * count)); }
+
+    // Whether the byte is this character, which is no digit.
+    bool Is(std::size_t at, char c) const
+    {
+        return ((m_bytes ^ kZeros) >> (at * 8) & 0xFFU) == static_cast<unsigned char>(c);
+    }
+
+    // The block with one byte taken out and 0 put behind the last.
+    DigitBlock Without(std::size_t at) const
+    {
+        const std::uint64_t front = (std::uint64_t{1} << (at * 8)) - 1;
+        return DigitBlock((m_bytes & front) | (m_bytes >> 8U & ~front));
+    }
+
+private:
+    explicit DigitBlock(std::uint64_t bytes) : m_bytes(bytes) {}
+
+    // Pairs, then fours, then all eight.
+    static std::uint32_t Join(std::uint64_t digits)
+    {
+        digits = digits * 10 + (digits >> 8U);
+        digits = ((digits & 0x000000FF000000FFU) * (100 + (1000000ULL << 32U)) +
+                  (digits >> 16U & 0x000000FF000000FFU) * (1 + (10000ULL << 32U))) >>
+                 32U;
+        return static_cast<std::uint32_t>(digits);
+    }
+
+    static constexpr std::uint64_t kZeros = 0x3030303030303030U;
+    static constexpr std::uint64_t kUpToNine = 0x7676767676767676U;
+    static constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+
+    std::uint64_t m_bytes;
+};
+
+struct DigitRun {
+    std::size_t count = 0;
+    std::uint32_t value = 0;
+};
+
+// The digits in front of the text, `limit` at most, which is nine at most.
+inline DigitRun ReadDigits(std::string_view text, std::size_t limit)
+{
+    if (text.size() >= DigitBlock::kSize) {
+        const DigitBlock block(text.data());
+        const std::size_t count = std::min(block.Count(), limit);
+        if (count > 0 && count < DigitBlock::kSize)
+            return {count, block.Value(count)};
+    }
+    DigitRun run;
+    for (; run.count < std::min(text.size(), limit) && IsDigit(text[run.count]); ++run.count)
+        run.value = run.value * 10 + static_cast<std::uint32_t>(DigitValue(text[run.count]));
+    return run;
+}
+
+} // namespace ruvenmark::aprs
