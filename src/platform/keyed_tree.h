@@ -7,8 +7,9 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
+
+#include <tsl/robin_set.h>
 
 namespace ruvenmark {
 
@@ -117,6 +118,11 @@ private:
         bool operator()(const TreeNode* a, const TreeNode* b) const { return a == b; }
         bool operator()(const KeyHash::Whole& probe, const TreeNode* node) const;
         bool operator()(const KeyHash::Below& probe, const TreeNode* node) const;
+        template <typename Probe>
+        bool operator()(const TreeNode* node, const Probe& probe) const
+        {
+            return (*this)(probe, node);
+        }
     };
 
     std::uint32_t HashOf(std::uint32_t start, std::string_view text) const;
@@ -129,7 +135,8 @@ private:
     const TreeNode* Told(const TreeNode& node) const { return &node == &m_root ? nullptr : &node; }
 
     TreeNode m_root; // Above the roots; never shown.
-    std::unordered_set<TreeNode*, KeyHash, KeyEqual> m_index;
+    // Flat, as a report pays for every cache line that it has to wait for.
+    tsl::robin_set<TreeNode*, KeyHash, KeyEqual, std::allocator<TreeNode*>, true> m_index;
     std::vector<std::string> m_images; // The words in use; the first is the empty one.
     TreeNode* m_selected = nullptr;
     std::uint32_t m_seed; // So that nobody on the air can choose calls that collide.
