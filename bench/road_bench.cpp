@@ -1,7 +1,7 @@
 // The whole road without a window: line in, decoder, filter, marker, tree, record, note. Prints reports a second at
 // 10,000 and at 1,000,000 stations in one run, their ratio, and the bytes a station takes.
 
-#include "core/bare_dialogs.h"
+#include "core/bare_surface.h"
 #include "core/lifecycle.h"
 #include "core/main_window.h"
 #include "devices/report_sources.h"
@@ -75,7 +75,7 @@ struct Machine {
         store.Set("Region", "1");
         StartMainWindow(main);
         AddChannelTree(main.tvStationList, Channel::FL);
-        source = sources.CreateFileSource(*main.sinks[static_cast<std::size_t>(Channel::FL)]);
+        source = sources.CreateFileSource(*main.sinks[Index(Channel::FL)]);
     }
 };
 

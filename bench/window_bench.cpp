@@ -2,7 +2,7 @@
 // shown, a tree of 100,000 stations, and what an idle window costs. Runs without a screen unless QT_QPA_PLATFORM says
 // otherwise.
 
-#include "core/bare_dialogs.h"
+#include "core/bare_surface.h"
 #include "core/lifecycle.h"
 #include "core/main_window.h"
 #include "desktop/call_search.h"

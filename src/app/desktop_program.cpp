@@ -2,7 +2,7 @@
 
 #include "app/options.h"
 #include "app/program_settings.h"
-#include "core/bare_dialogs.h"
+#include "core/bare_surface.h"
 #include "core/lifecycle.h"
 #include "core/main_window.h"
 #include "desktop/base_places.h"
@@ -116,8 +116,7 @@ void TakeScreenshot(Program& program, const ProgramOptions& options)
 int RunDesktop(int argc, char** argv, const ProgramOptions& options)
 {
     PosixFiles files;
-    if (options.loadFile)
-        files.ReadText(*options.loadFile); // A name that was typed wrong is told before anything starts.
+    RequireReadable(files, options);
     SetEnvironment(options);
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("ruvenmark"));

@@ -44,6 +44,19 @@ private:
     Json m_json;
 };
 
+// What an event of a station begins with; not every one has a path and a position.
+template <typename Report>
+Event Head(std::string_view name, const Report& report)
+{
+    Event event(name);
+    event.Text("Call", report.call).Text("Dest", report.dest);
+    if constexpr (requires { report.path; })
+        event.Text("Path", report.path);
+    if constexpr (requires { report.lat; })
+        event.Place(report.lat, report.lon);
+    return event;
+}
+
 } // namespace
 
 EventJsonSink::EventJsonSink(std::function<void(const nlohmann::ordered_json&)> onEvent) : m_onEvent(std::move(onEvent))
@@ -52,9 +65,7 @@ EventJsonSink::EventJsonSink(std::function<void(const nlohmann::ordered_json&)> 
 
 void EventJsonSink::ReportPos(const PosReport& report)
 {
-    Event event("ReportPos");
-    event.Text("Call", report.call).Text("Dest", report.dest).Text("Path", report.path).Place(report.lat, report.lon);
-    m_onEvent(event.Text("Symbol", report.symbol).Text("Comment", report.comment).Done());
+    m_onEvent(Head("ReportPos", report).Text("Symbol", report.symbol).Text("Comment", report.comment).Done());
 }
 
 void EventJsonSink::ReportPacket(std::string_view packet)
@@ -64,8 +75,7 @@ void EventJsonSink::ReportPacket(std::string_view packet)
 
 void EventJsonSink::ReportTime(const TimeReport& report)
 {
-    Event event("ReportTime");
-    event.Text("Call", report.call).Text("Dest", report.dest).Place(report.lat, report.lon);
+    Event event = Head("ReportTime", report);
     event.Number("Month", report.month).Number("Day", report.day).Number("Hour", report.hour);
     event.Number("Minute", report.minute).Number("Second", report.second);
     m_onEvent(event.Text("Zone", report.zone).Text("Kind", report.kind).Done());
@@ -73,46 +83,38 @@ void EventJsonSink::ReportTime(const TimeReport& report)
 
 void EventJsonSink::ReportDataExt(const DataExtReport& report)
 {
-    Event event("ReportDataExt");
-    event.Text("Call", report.call).Text("Dest", report.dest).Place(report.lat, report.lon);
+    Event event = Head("ReportDataExt", report);
     event.Number("Power", report.power).Number("Height", report.height).Number("Gain", report.gain);
     m_onEvent(event.Text("Directivity", report.directivity).Done());
 }
 
 void EventJsonSink::ReportPosExt(const PosExtReport& report)
 {
-    Event event("ReportPosExt");
-    event.Text("Call", report.call).Text("Dest", report.dest).Place(report.lat, report.lon);
+    Event event = Head("ReportPosExt", report);
     event.Number("Altitude", report.altitude).Number("Speed", report.speed).Number("Course", report.course);
     m_onEvent(event.Done());
 }
 
 void EventJsonSink::ReportStatus(const StatusReport& report)
 {
-    Event event("ReportStatus");
-    event.Text("Call", report.call).Text("Dest", report.dest).Text("Path", report.path).Place(report.lat, report.lon);
-    m_onEvent(event.Text("Status", report.status).Done());
+    m_onEvent(Head("ReportStatus", report).Text("Status", report.status).Done());
 }
 
 void EventJsonSink::ReportStatusTime(const StatusTimeReport& report)
 {
-    Event event("ReportStatusTime");
-    event.Text("Call", report.call).Text("Dest", report.dest);
+    Event event = Head("ReportStatusTime", report);
     event.Number("Day", report.day).Number("Hour", report.hour).Number("Minute", report.minute);
     m_onEvent(event.Text("Zone", report.zone).Done());
 }
 
 void EventJsonSink::ReportInfo(const InfoReport& report)
 {
-    Event event("ReportInfo");
-    event.Text("Call", report.call).Text("Dest", report.dest).Text("Path", report.path);
-    m_onEvent(event.Text("Info", report.info).Done());
+    m_onEvent(Head("ReportInfo", report).Text("Info", report.info).Done());
 }
 
 void EventJsonSink::ReportWeather(const WeatherReport& report)
 {
-    Event event("ReportWeather");
-    event.Text("Call", report.call).Text("Dest", report.dest).Text("Path", report.path).Place(report.lat, report.lon);
+    Event event = Head("ReportWeather", report);
     event.Number("WindDir", report.windDir).Number("WindSpeed", report.windSpeed);
     event.Number("Temperature", report.temperature).Number("Rain", report.rain);
     m_onEvent(event.Number("Humidity", report.humidity).Number("Pressure", report.pressure).Done());
@@ -120,9 +122,7 @@ void EventJsonSink::ReportWeather(const WeatherReport& report)
 
 void EventJsonSink::ReportCapabilities(const CapabilitiesReport& report)
 {
-    Event event("ReportCapabilities");
-    event.Text("Call", report.call).Text("Dest", report.dest).Text("Path", report.path);
-    m_onEvent(event.Text("Capabilities", report.capabilities).Done());
+    m_onEvent(Head("ReportCapabilities", report).Text("Capabilities", report.capabilities).Done());
 }
 
 void EventJsonSink::ReportAprsMsg(const MessageReport& report)

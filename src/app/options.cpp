@@ -1,8 +1,10 @@
 #include "app/options.h"
 
-#include "core/settings.h"
+#include "platform/map_model.h"
 #include "platform/numbers.h"
+#include "platform/program_name.h"
 #include "platform/text.h"
+#include "tracking/track_lists.h"
 
 #include <array>
 #include <cstddef>
@@ -98,8 +100,8 @@ void ReadView(ProgramOptions& options, const std::string& option, std::string_vi
         numbers[i] = number.value_or(0);
     }
     if (!bGood || !(numbers[0] >= -90 && numbers[0] <= 90) || !(numbers[1] >= -180 && numbers[1] <= 180) ||
-        !(numbers[2] >= 1 && numbers[2] <= 19))
-        Refuse(option, value, "LAT,LON,ZOOM with a zoom from 1 to 19");
+        !(numbers[2] >= kMinZoom && numbers[2] <= kMaxZoom))
+        Refuse(option, value, "LAT,LON,ZOOM with a zoom from " + ShortText(kMinZoom) + " to " + ShortText(kMaxZoom));
     options.view = ViewOption{numbers[0], numbers[1], numbers[2]};
 }
 
@@ -251,8 +253,7 @@ std::string_view HelpText()
 
 std::string VersionText()
 {
-    return "ruvenmark " + std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) + "." +
-           std::to_string(kVersionRevision);
+    return "ruvenmark " + std::string(ProgramVersion());
 }
 
 } // namespace ruvenmark

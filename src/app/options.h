@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -14,7 +13,7 @@ namespace ruvenmark {
 enum class PrintPart : std::uint8_t { Tree, Markers, Records, Messages, Counts };
 
 struct ViewOption {
-    double lat = 0, lon = 0, zoom = 4;
+    double lat, lon, zoom;
 };
 struct SizeOption {
     int width = 1280, height = 800; // Pixels at scale 1.

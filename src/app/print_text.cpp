@@ -10,22 +10,6 @@ namespace ruvenmark {
 
 namespace {
 
-// One line of a terminal, whatever the air sent. The controls above ASCII, two bytes each, start sequences too.
-std::string TerminalText(std::string_view text)
-{
-    const std::string shown = ShownText(text);
-    std::string line;
-    line.reserve(shown.size());
-    for (std::size_t i = 0; i < shown.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(shown[i]);
-        const bool bHighControl =
-            byte == 0xC2 && i + 1 < shown.size() && static_cast<unsigned char>(shown[i + 1]) < 0xA0;
-        line += byte < ' ' || byte == 0x7F || bHighControl ? '.' : shown[i];
-        i += bHighControl ? 1 : 0;
-    }
-    return line;
-}
-
 void PrintNode(std::ostream& out, const TreeNode& node, std::size_t depth)
 {
     out << std::string(2 * depth, ' ') << TerminalText(node.Text()) << '\n';

@@ -19,13 +19,13 @@ std::string SettingsPath(IFiles& files, const ProgramOptions& options)
     return *options.settingsFile;
 }
 
-std::string FolderOf(std::string path)
-{
-    path.resize(path.rfind('/'));
-    return path;
-}
-
 } // namespace
+
+void RequireReadable(IFiles& files, const ProgramOptions& options)
+{
+    if (options.loadFile)
+        files.ReadText(*options.loadFile);
+}
 
 ProgramSettings::ProgramSettings(IFiles& files, const ProgramOptions& options)
     : m_file(files, SettingsPath(files, options)), m_overlay(m_file),

@@ -8,6 +8,9 @@
 
 namespace ruvenmark {
 
+// Raises Failure for a file to load that cannot be read: a name that was typed wrong is told before anything starts.
+void RequireReadable(IFiles& files, const ProgramOptions& options);
+
 // The settings and the program folder that a command line names, or the user's own. Raises Failure where the folder
 // cannot be made or the named settings file cannot be read.
 class ProgramSettings {

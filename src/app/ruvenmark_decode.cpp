@@ -4,6 +4,7 @@
 #include "app/packet_json.h"
 #include "aprs/decode.h"
 #include "devices/packet_events.h"
+#include "platform/program_name.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -93,7 +94,7 @@ std::optional<int> ReadArguments(int count, char** arguments, Options& options)
             std::cout << kHelp;
             return 0;
         } else if (argument == "-V" || argument == "--version") {
-            std::cout << "ruvenmark-decode " RUVENMARK_VERSION "\n";
+            std::cout << "ruvenmark-decode " << ProgramVersion() << '\n';
             return 0;
         } else if (argument == "-e" || argument == "--events") {
             options.mode = Mode::Events;

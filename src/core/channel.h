@@ -14,6 +14,12 @@ enum class Channel : std::uint8_t { RF, TCP, FL };
 
 inline constexpr std::array<Channel, 3> kChannels = {Channel::RF, Channel::TCP, Channel::FL};
 
+// Its place in every table by channel.
+constexpr std::size_t Index(Channel channel)
+{
+    return static_cast<std::size_t>(channel);
+}
+
 struct ChannelTraits {
     Channel channel;
     std::string_view word; // First part of every tree key, first letters of every note.
@@ -34,7 +40,7 @@ inline constexpr std::array<ChannelTraits, 3> kChannelTraits = {{
 
 constexpr const ChannelTraits& Traits(Channel channel)
 {
-    return kChannelTraits[static_cast<std::size_t>(channel)];
+    return kChannelTraits[Index(channel)];
 }
 
 // The channel of exactly this word.
@@ -45,11 +51,5 @@ constexpr std::optional<Channel> ChannelOfWord(std::string_view word)
             return traits.channel;
     return std::nullopt;
 }
-
-// Folder words: with the channel word in front they are keys of the station tree.
-inline constexpr std::string_view kPositions = "Positions";
-inline constexpr std::string_view kStatus = "Status";
-inline constexpr std::string_view kWeather = "Weather";
-inline constexpr std::string_view kUnknown = "Unknown";
 
 } // namespace ruvenmark

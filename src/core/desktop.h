@@ -31,18 +31,4 @@ public:
     virtual bool OpenBrowser(std::string_view url) = 0;
 };
 
-// Where nobody watches: a clipboard of its own, and nothing else.
-class BareDesktop final : public IDesktop {
-public:
-    std::string ClipboardText(std::size_t longest) override { return m_text.size() <= longest ? m_text : ""; }
-    void SetClipboardText(std::string_view text) override { m_text = text; }
-    void CopyMapPicture() override {}
-    std::optional<PrintChoice> AskPrint(std::string_view /*title*/) override { return std::nullopt; }
-    void PrintMap(const PrintChoice& /*choice*/) override {}
-    bool OpenBrowser(std::string_view /*url*/) override { return false; }
-
-private:
-    std::string m_text;
-};
-
 } // namespace ruvenmark

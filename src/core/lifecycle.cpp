@@ -3,12 +3,13 @@
 #include "core/main_window.h"
 #include "intake/report_handlers.h"
 #include "intake/station_store.h"
-#include "links/station_files.h"
-#include "links/text_files.h"
+#include "links/import_form_rules.h"
+#include "links/server_lists.h"
 #include "map/documents.h"
 #include "map/map_start.h"
 #include "map/tile_settings.h"
 #include "platform/numbers.h"
+#include "platform/program_name.h"
 #include "tracking/filters.h"
 #include "tracking/track_lists.h"
 
@@ -47,7 +48,7 @@ void BuildStationTree(MainWindow& main)
 void MakeSinks(MainWindow& main)
 {
     for (const Channel channel : kChannels)
-        main.sinks[static_cast<std::size_t>(channel)] = MakeReportSink(main, channel);
+        main.sinks[Index(channel)] = MakeReportSink(main, channel);
 }
 
 void LoadUnknownSettings(MainWindow& main)
@@ -88,7 +89,7 @@ void StartSubsystems(MainWindow& main)
     LoadImportSettings(main);
     LoadTileSettings(main);
     ShowOwnCall(main);
-    main.window.caption = kApplication;
+    main.window.caption = kProgramName;
     main.window.Changed.Raise();
 }
 

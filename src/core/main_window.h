@@ -16,8 +16,8 @@
 #include "tracking/track_state.h"
 
 #include <array>
-#include <cstddef>
 #include <memory>
+#include <utility>
 
 namespace ruvenmark {
 
@@ -32,7 +32,6 @@ struct MainWindow {
     WindowState window;
     StatusBar sbStatusBar;
     KeyedTree tvStationList;
-    KeyedTree tvMessageBoxes;
     MapControl mpCtrl; // Before all that holds handles of its map.
     MapSession map;
     std::array<ChannelState, 3> channels = {ChannelState(Channel::RF), ChannelState(Channel::TCP),
@@ -51,8 +50,8 @@ struct MainWindow {
     std::array<std::unique_ptr<IReportSink>, 3> sinks;
     std::unique_ptr<IReportSource> aprsfl;
 
-    ChannelState& Of(Channel channel) { return channels[static_cast<std::size_t>(channel)]; }
-    const ChannelState& Of(Channel channel) const { return channels[static_cast<std::size_t>(channel)]; }
+    ChannelState& Of(Channel channel) { return channels[Index(channel)]; }
+    const ChannelState& Of(Channel channel) const { return channels[Index(channel)]; }
 };
 
 } // namespace ruvenmark

@@ -1,6 +1,7 @@
 #include "core/settings.h"
 
 #include "platform/numbers.h"
+#include "platform/program_name.h"
 #include "platform/settings_store.h"
 
 #include <array>
@@ -67,7 +68,9 @@ constexpr std::array<SettingDefault, 46> kDefaults = {{
 
 std::string VersionDigits()
 {
-    return std::to_string(kVersionMajor) + std::to_string(kVersionMinor) + std::to_string(kVersionRevision);
+    std::string digits(ProgramVersion());
+    std::erase(digits, '.');
+    return digits;
 }
 
 } // namespace

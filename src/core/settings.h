@@ -27,9 +27,4 @@ std::int32_t SettingInt32(const SettingsState& settings, std::string_view key);
 bool SettingBool(const SettingsState& settings, std::string_view key);
 void SetSetting(SettingsState& settings, std::string_view key, std::string_view value);
 
-// The program's version numbers, as they stand in the default destination.
-inline constexpr int kVersionMajor = 1;
-inline constexpr int kVersionMinor = 0;
-inline constexpr int kVersionRevision = 0;
-
 } // namespace ruvenmark

@@ -4,7 +4,7 @@
 #include "desktop/copy_keys.h"
 #include "desktop/data_path.h"
 #include "desktop/icons/help_browser.h"
-#include "ui/layout.h"
+#include "ui/web_page.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -12,8 +12,6 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr std::string_view kPositions = "Positions";
-constexpr std::string_view kWeather = "Weather";
 constexpr std::size_t kMaxAckText = 3 + 5;
 
 // Values are shown as they come: what counting in binary and changing units leave behind the last digit that a packet

@@ -1,8 +1,27 @@
 #include "intake/fact_writer.h"
 
+#include "intake/report_source.h"
 #include "intake/station_store.h"
+#include "platform/numbers.h"
 
 namespace ruvenmark {
+
+std::string GivenText(double value)
+{
+    return value > kAbsent ? ShortText(value) : std::string();
+}
+
+std::string GivenText(std::int32_t value)
+{
+    return value > kAbsentLong ? ShortText(std::int64_t{value}) : std::string();
+}
+
+void SetGiven(Record& record, std::span<const FactValue> values)
+{
+    for (const FactValue& value : values)
+        if (!value.text.empty())
+            record.Set(value.field, value.text);
+}
 
 FactWriter::FactWriter(KeyedTree& tree, Channel channel, std::string_view folderWord)
     : m_tree(tree), m_channel(channel), m_folder(RequireFolder(tree, channel, folderWord))
@@ -26,6 +45,13 @@ void FactWriter::Fact(std::string_view word, std::string_view label, std::string
     m_text += value;
     m_text += unit;
     Fact(word, m_text, image);
+}
+
+void FactWriter::Given(std::span<const FactValue> values)
+{
+    for (const FactValue& value : values)
+        if (!value.text.empty())
+            Fact(FieldName(value.field), value.label, value.text, value.unit, value.image);
 }
 
 void FactWriter::Color(std::uint32_t color)

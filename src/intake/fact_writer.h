@@ -1,12 +1,26 @@
 #pragma once
 
 #include "core/channel.h"
+#include "intake/station_record.h"
 #include "platform/keyed_tree.h"
 
+#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace ruvenmark {
+
+// A value of a report, as a node under its station and as a field of the record.
+struct FactValue {
+    Field field; // Its name is the node's word.
+    std::string_view label, unit, image;
+    std::string text; // Empty when the value is not given.
+};
+// Empty for a value that stands for "not given".
+std::string GivenText(double value);
+std::string GivenText(std::int32_t value);
+void SetGiven(Record& record, std::span<const FactValue> values);
 
 // Writes the nodes of one report: the station's under its folder, then its facts, and at the end the counts.
 class FactWriter {
@@ -19,6 +33,7 @@ public:
     // The same with a label in front and a unit behind.
     void Fact(std::string_view word, std::string_view label, std::string_view value, std::string_view unit,
               std::string_view image);
+    void Given(std::span<const FactValue> values);
     void Color(std::uint32_t color); // Of the station's node.
     void Counts();
 

@@ -15,6 +15,12 @@ inline constexpr std::int32_t kAbsentLong = -1;
 // Latitude and longitude of a report that has no position.
 inline constexpr double kNoPosition = -1000.0;
 
+// Folder words: with the channel word in front they are keys of the station tree.
+inline constexpr std::string_view kPositions = "Positions";
+inline constexpr std::string_view kStatus = "Status";
+inline constexpr std::string_view kWeather = "Weather";
+inline constexpr std::string_view kUnknown = "Unknown";
+
 // The arguments of the report events. Texts are views of the raiser's buffers: they live until the event returns.
 // Degrees are decimal, north and east positive. Texts never hold CR, LF or NUL.
 struct PosReport {
@@ -43,7 +49,7 @@ struct TimeReport {
     double lat, lon;
     std::int32_t month = kAbsentLong, day = kAbsentLong, hour = kAbsentLong, minute = kAbsentLong, second = kAbsentLong;
     std::string_view zone;
-    std::string_view kind; // "Positions" or "Weather": the folder word.
+    std::string_view kind; // A folder word: kPositions or kWeather.
 };
 struct StatusReport {
     std::string_view call, dest, path;

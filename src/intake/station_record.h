@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/geometry.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -84,18 +87,18 @@ constexpr std::string_view FieldName(Field field)
 // What has been reported of a station on one channel so far: only the fields that were given, in order of first report.
 class Record {
 public:
-    bool Has(Field field) const { return Find(field) != nullptr; }
+    bool Has(Field field) const { return Find(m_entries, field) != nullptr; }
 
     // Empty for a field that was never set.
     std::string_view Get(Field field) const
     {
-        const auto* entry = Find(field);
+        const auto* entry = Find(m_entries, field);
         return entry ? std::string_view(entry->second) : std::string_view();
     }
 
     void Set(Field field, std::string_view value)
     {
-        if (auto* entry = const_cast<Entry*>(Find(field)))
+        if (auto* entry = Find(m_entries, field))
             entry->second = value;
         else
             m_entries.emplace_back(field, value);
@@ -105,17 +108,20 @@ public:
     auto end() const { return m_entries.end(); }
 
 private:
-    using Entry = std::pair<Field, std::string>;
-
-    const Entry* Find(Field field) const
+    // Null where there is none; as constant as the entries are.
+    template <typename Entries>
+    static auto Find(Entries& entries, Field field) -> decltype(entries.data())
     {
-        for (const auto& entry : m_entries)
+        for (auto& entry : entries)
             if (entry.first == field)
                 return &entry;
         return nullptr;
     }
 
-    std::vector<Entry> m_entries;
+    std::vector<std::pair<Field, std::string>> m_entries;
 };
+
+// Where the station was last reported; nothing where no position is known.
+std::optional<GeoPoint> PositionOf(const Record& record);
 
 } // namespace ruvenmark

@@ -3,6 +3,7 @@
 #include "core/main_window.h"
 #include "map/marker_names.h"
 #include "map/markers.h"
+#include "map/range_circles.h"
 #include "platform/failure.h"
 #include "tracking/track_lines.h"
 #include "ui/progress.h"
@@ -41,14 +42,6 @@ std::string CountText(std::string_view label, std::size_t count)
         text += ")";
     }
     return text;
-}
-
-std::string_view LabelOf(std::string_view folderWord)
-{
-    for (const auto& folder : kFolders)
-        if (folder.word == folderWord)
-            return folder.word;
-    throw Failure("no such folder");
 }
 
 void WriteRootCount(KeyedTree& tree, Channel channel, TreeNode& root)
@@ -110,7 +103,7 @@ TreeNode& UpdateStationNode(KeyedTree& tree, TreeNode& parent, std::string_view 
 
 void WriteCounts(KeyedTree& tree, Channel channel, TreeNode& folder)
 {
-    tree.SetText(folder, CountText(LabelOf(folder.Word()), folder.Children().size()));
+    tree.SetText(folder, CountText(folder.Word(), folder.Children().size()));
     if (folder.Parent())
         WriteRootCount(tree, channel, *folder.Parent());
 }
@@ -139,10 +132,7 @@ void RemoveStation(MainWindow& main, Channel channel, std::string_view call, std
     if (folderWord == kPositions) {
         RemoveStationTrack(main, channel, call);
         state.StationRanges.Remove(call);
-        if (Shape* circle = state.RangeCircles.Find(call)) {
-            Attempt(main.abandoned, "RemoveStation", [&] { circle->Delete(); });
-            state.RangeCircles.Remove(call);
-        }
+        Attempt(main.abandoned, "RemoveStation", [&] { DeleteCircle(state, call); });
         const std::string_view word = Traits(channel).word;
         Attempt(main.abandoned, "RemoveStation", [&] { DeleteMarker(main, word, MarkerName(word, call)); });
     }
@@ -186,9 +176,7 @@ void ClearChannelReports(MainWindow& main, Channel channel)
     RemoveChannelTracks(main, channel);
     Attempt(main.abandoned, "ClearChannelReports", [&] { DeleteChannelMarkers(main, channel); });
     state.StationRanges.Clear();
-    for (auto& [call, circle] : state.RangeCircles)
-        Attempt(main.abandoned, "ClearChannelReports", [&, &shape = circle] { shape.Delete(); });
-    state.RangeCircles.Clear();
+    DeleteAllCircles(main, state, "ClearChannelReports");
     state.Stations.Clear();
 
     KeyedTree& tree = main.tvStationList;

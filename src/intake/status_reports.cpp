@@ -1,10 +1,9 @@
-// ReportStatus, ReportStatusTime and ReportTime, and the two other reports that are filed as a status is.
+// ReportStatus, and the two other reports that are filed as a status is.
 
 #include "core/main_window.h"
 #include "intake/fact_writer.h"
 #include "intake/report_handlers.h"
 #include "intake/station_store.h"
-#include "platform/numbers.h"
 #include "tracking/filters.h"
 
 #include <string>
@@ -13,117 +12,55 @@ namespace ruvenmark {
 
 namespace {
 
-// What ReportStatus, ReportCapabilities and ReportInfo differ in.
+// What the three reports differ in.
 struct StatusKind {
+    std::string_view report;
     std::string_view word;
     Field field;
 };
-constexpr StatusKind kStatusText = {"Status", Field::Status};
-constexpr StatusKind kCapabilitiesText = {"Capabilities", Field::Capabilities};
-constexpr StatusKind kInfoText = {"Info", Field::Info};
+constexpr StatusKind kStatusText = {"ReportStatus", "Status", Field::Status};
+constexpr StatusKind kCapabilitiesText = {"ReportCapabilities", "Capabilities", Field::Capabilities};
+constexpr StatusKind kInfoText = {"ReportInfo", "Info", Field::Info};
 
-void FileStatus(MainWindow& main, Channel channel, StatusKind kind, std::string_view call, std::string_view path,
-                std::string_view text)
+void FileStatus(MainWindow& main, Channel channel, const StatusKind& kind, const StatusReport& report)
 {
     const std::string received(main.services.clock.LocalNowText());
     FactWriter writer(main.tvStationList, channel, kStatus);
-    writer.Station(call, "Report");
-    writer.Fact(kind.word, text, "Info");
-    writer.Fact("Path", "Path: ", path, "", "Path");
+    writer.Station(report.call, "Report");
+    writer.Fact(kind.word, report.status, "Info");
+    writer.Fact("Path", "Path: ", report.path, "", "Path");
     writer.Fact("Received", "Received: ", received, "", "Received");
     writer.Counts();
-    Record& record = EnsureRecord(main.Of(channel), call);
-    record.Set(kind.field, text);
-    record.Set(Field::StatusPath, path);
+    Record& record = EnsureRecord(main.Of(channel), report.call);
+    record.Set(kind.field, report.status);
+    record.Set(Field::StatusPath, report.path);
     record.Set(Field::StatusReceived, received);
 }
 
-// At least two digits; "00" for a value that is not given.
-std::string TwoDigits(std::int32_t value)
+void TakeStatus(MainWindow& main, Channel channel, const StatusKind& kind, const StatusReport& report)
 {
-    if (value < 0)
-        return "00";
-    std::string text = ShortText(std::int64_t{value});
-    if (text.size() < 2)
-        text.insert(0, 1, '0');
-    return text;
-}
-
-std::string StatusTimeText(const StatusTimeReport& report)
-{
-    // A day that is not given is announced with its letters in another order.
-    std::string text = report.day < 0 ? "(DHM)" : "(DMH)";
-    text += TwoDigits(report.day) + ":" + TwoDigits(report.hour) + ":" + TwoDigits(report.minute) + " ";
-    text += report.zone;
-    return text;
-}
-
-std::string TimeText(const TimeReport& report)
-{
-    const std::string hourMinute = TwoDigits(report.hour) + ":" + TwoDigits(report.minute);
-    std::string text;
-    if (report.kind == kWeather)
-        text = "(MDHM)" + TwoDigits(report.month) + ":" + TwoDigits(report.day) + ":" + hourMinute + " ";
-    else if (report.month != kAbsentLong || report.day != kAbsentLong)
-        text = "(DHM)" + TwoDigits(report.day) + ":" + hourMinute + " ";
-    else
-        text = "(HMS)" + hourMinute + ":" + TwoDigits(report.second) + " ";
-    text += report.zone;
-    return text;
-}
-
-void FileTime(MainWindow& main, Channel channel, std::string_view folderWord, std::string_view call, Field field,
-              std::string_view text)
-{
-    FactWriter writer(main.tvStationList, channel, folderWord);
-    writer.Station(call);
-    writer.Fact("Time", text, "Clock");
-    writer.Counts();
-    EnsureRecord(main.Of(channel), call).Set(field, text);
+    if (IsFiltered(main, channel, report.call, report.dest, report.lat, report.lon))
+        return;
+    Attempt(main.abandoned, kind.report, [&] { FileStatus(main, channel, kind, report); });
 }
 
 } // namespace
 
 void aprs_ReportStatus(MainWindow& main, Channel channel, const StatusReport& report)
 {
-    if (IsFiltered(main, channel, report.call, report.dest, report.lat, report.lon))
-        return;
-    Attempt(main.abandoned, "ReportStatus",
-            [&] { FileStatus(main, channel, kStatusText, report.call, report.path, report.status); });
+    TakeStatus(main, channel, kStatusText, report);
 }
 
 void aprs_ReportCapabilities(MainWindow& main, Channel channel, const CapabilitiesReport& report)
 {
-    if (IsFiltered(main, channel, report.call, report.dest, kNoPosition, kNoPosition))
-        return;
-    Attempt(main.abandoned, "ReportCapabilities",
-            [&] { FileStatus(main, channel, kCapabilitiesText, report.call, report.path, report.capabilities); });
+    TakeStatus(main, channel, kCapabilitiesText,
+               {report.call, report.dest, report.path, kNoPosition, kNoPosition, report.capabilities});
 }
 
 void aprs_ReportInfo(MainWindow& main, Channel channel, const InfoReport& report)
 {
-    if (IsFiltered(main, channel, report.call, report.dest, kNoPosition, kNoPosition))
-        return;
-    Attempt(main.abandoned, "ReportInfo",
-            [&] { FileStatus(main, channel, kInfoText, report.call, report.path, report.info); });
-}
-
-void aprs_ReportStatusTime(MainWindow& main, Channel channel, const StatusTimeReport& report)
-{
-    if (IsFiltered(main, channel, report.call, report.dest, kNoPosition, kNoPosition))
-        return;
-    Attempt(main.abandoned, "ReportStatusTime",
-            [&] { FileTime(main, channel, kStatus, report.call, Field::StatusTime, StatusTimeText(report)); });
-}
-
-void aprs_ReportTime(MainWindow& main, Channel channel, const TimeReport& report)
-{
-    if (IsFiltered(main, channel, report.call, report.dest, report.lat, report.lon))
-        return;
-    Attempt(main.abandoned, "ReportTime", [&] {
-        const Field field = report.kind == kPositions ? Field::PositionTime : Field::WeatherTime;
-        FileTime(main, channel, report.kind, report.call, field, TimeText(report));
-    });
+    TakeStatus(main, channel, kInfoText,
+               {report.call, report.dest, report.path, kNoPosition, kNoPosition, report.info});
 }
 
 } // namespace ruvenmark

@@ -1,26 +1,14 @@
 #include "links/text_files.h"
 
-#include "core/main_window.h"
 #include "platform/failure.h"
-#include "platform/numbers.h"
+#include "platform/files.h"
 #include "platform/text.h"
-
-#include <array>
 
 namespace ruvenmark {
 
 namespace {
 
 constexpr std::string_view kLineEnd = "\r\n";
-constexpr std::string_view kListDelimiter = ":";
-
-struct ListFile {
-    std::string_view name;
-    Dictionary<std::string> ServerLists::*list;
-};
-constexpr std::array<ListFile, 3> kListFiles = {{{"servers.txt", &ServerLists::ServerList},
-                                                 {"ports.txt", &ServerLists::PortList},
-                                                 {"filters.txt", &ServerLists::ServerFilterList}}};
 
 TextRecord SplitRecord(std::string_view line, std::string_view delimiter)
 {
@@ -45,38 +33,6 @@ std::string Join(const TextRecord& pieces, std::string_view delimiter)
     return text;
 }
 
-void LoadServerForm(const ISettingsStore& store, ServerForm& form)
-{
-    form.sPrimaryServer = store.Get("PrimaryServer", "");
-    form.iPrimaryPort = ToInt16(store.Get("PrimaryPort", "-1"));
-    form.sPrimaryFilter = store.Get("PrimaryFilter", "");
-    form.bServerBeacon = ToBool(store.Get("ServerBeacon", "True"));
-    form.bAddTCPSymbol = ToBool(store.Get("AddTCPSymbol", "True"));
-    form.bReconnectServer = ToBool(store.Get("ReconnectServer", "False"));
-    form.iReconnectAttempt = ToInt16(store.Get("ReconnectAttempt", "0"));
-    form.sBackupServer = store.Get("BackupServer", "");
-    form.iBackupPort = ToInt16(store.Get("BackupPort", "-1"));
-    form.sBackupFilter = store.Get("BackupFilter", "");
-    form.bBackupBeacon = ToBool(store.Get("BackupBeacon", "False"));
-    form.bAutoTCP = ToBool(store.Get("AutoTCP", "False"));
-}
-
-void SaveServerForm(ISettingsStore& store, const ServerForm& form)
-{
-    store.Set("PrimaryServer", form.sPrimaryServer);
-    store.Set("PrimaryPort", ShortText(std::int64_t{form.iPrimaryPort}));
-    store.Set("PrimaryFilter", form.sPrimaryFilter);
-    store.Set("ServerBeacon", BoolText(form.bServerBeacon));
-    store.Set("AddTCPSymbol", BoolText(form.bAddTCPSymbol));
-    store.Set("ReconnectServer", BoolText(form.bReconnectServer));
-    store.Set("ReconnectAttempt", ShortText(std::int64_t{form.iReconnectAttempt}));
-    store.Set("BackupServer", form.sBackupServer);
-    store.Set("BackupPort", ShortText(std::int64_t{form.iBackupPort}));
-    store.Set("BackupFilter", form.sBackupFilter);
-    store.Set("BackupBeacon", BoolText(form.bBackupBeacon));
-    store.Set("AutoTCP", BoolText(form.bAutoTCP));
-}
-
 } // namespace
 
 std::vector<std::string_view> UsedLines(std::string_view text)
@@ -87,21 +43,11 @@ std::vector<std::string_view> UsedLines(std::string_view text)
     return lines;
 }
 
-std::string ReadTextFile(IFiles& files, std::string_view path)
-{
-    return files.ReadText(path);
-}
-
-void WriteTextFile(IFiles& files, std::string_view text, std::string_view path)
-{
-    files.WriteText(text, path);
-}
-
 TextTable ReadRecords(IFiles& files, std::string_view path, std::string_view delimiter)
 {
     TextTable table;
     try {
-        const std::string text = ReadTextFile(files, path);
+        const std::string text = files.ReadText(path);
         for (const std::string_view line : UsedLines(text))
             table.push_back(SplitRecord(line, delimiter));
     } catch (const Failure&) {
@@ -115,35 +61,7 @@ void WriteRecords(IFiles& files, const TextTable& table, std::string_view path, 
     TextRecord lines;
     for (const auto& record : table)
         lines.push_back(Join(record, delimiter));
-    WriteTextFile(files, Join(lines, kLineEnd), path);
-}
-
-void LoadServerLists(MainWindow& main)
-{
-    for (const auto& [name, list] : kListFiles) {
-        auto& entries = main.serverLists.*list;
-        for (const auto& record :
-             ReadRecords(main.services.files, JoinPath(main.services.programFolder, name), kListDelimiter))
-            entries.Set(record.front(), record.front());
-    }
-    LoadServerForm(main.services.store, main.frmTcp);
-    main.serverLists.bLoaded = true;
-}
-
-void SaveServerLists(MainWindow& main)
-{
-    if (!main.serverLists.bLoaded)
-        return;
-    for (const auto& [name, list] : kListFiles) {
-        TextTable table;
-        for (const auto& [key, value] : main.serverLists.*list)
-            table.push_back({key});
-        if (!table.empty())
-            Attempt(main.abandoned, "Stop, " + std::string(name), [&, file = name] {
-                WriteRecords(main.services.files, table, JoinPath(main.services.programFolder, file), kListDelimiter);
-            });
-    }
-    SaveServerForm(main.services.store, main.frmTcp);
+    files.WriteText(Join(lines, kLineEnd), path);
 }
 
 } // namespace ruvenmark

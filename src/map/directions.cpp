@@ -13,7 +13,6 @@ namespace ruvenmark {
 namespace {
 
 constexpr double kKilometresPerMile = 1.609344;
-constexpr int kPointDecimals = 5;
 
 std::optional<DirectionsEnd> ReadPoint(std::string_view text)
 {
@@ -40,10 +39,8 @@ std::optional<DirectionsEnd> FindStation(const MainWindow& main, std::string_vie
 {
     for (const ChannelState& channel : main.channels) {
         const Record* record = channel.Stations.Find(call);
-        const auto lat = record ? ReadNumber(record->Get(Field::Lat)) : std::nullopt;
-        const auto lon = record ? ReadNumber(record->Get(Field::Lon)) : std::nullopt;
-        if (lat && lon)
-            return DirectionsEnd{MarkerName(Traits(channel.channel).word, call), {*lat, *lon}};
+        if (const auto point = record ? PositionOf(*record) : std::nullopt)
+            return DirectionsEnd{MarkerName(Traits(channel.channel).word, call), *point};
     }
     return std::nullopt;
 }
@@ -90,8 +87,8 @@ std::string DirectionsEndText(const DirectionsEnd& end)
 {
     if (!end.name.empty())
         return end.name;
-    return ShortText(RoundDecimals(end.point.lat, kPointDecimals)) + ", " +
-           ShortText(RoundDecimals(end.point.lon, kPointDecimals));
+    const GeoPoint shown = ShownPoint(end.point);
+    return ShortText(shown.lat) + ", " + ShortText(shown.lon);
 }
 
 bool SetDirectionsEnd(MainWindow& main, std::size_t end, std::string_view text)

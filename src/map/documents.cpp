@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "platform/numbers.h"
+#include "platform/program_name.h"
 
 #include <optional>
 #include <string>
@@ -11,13 +12,12 @@ namespace ruvenmark {
 namespace {
 
 constexpr FileFilter kMapFiles = {"Mappoint Files (*.ptm)", "*.ptm"};
-constexpr std::string_view kTitle = "Ruvenmark";
 
 // An empty path stands for a new map.
 void SetMapFile(MainWindow& main, std::string_view path)
 {
     main.map.sMainMapFile = path;
-    main.window.caption = kTitle;
+    main.window.caption = kProgramName;
     if (!path.empty())
         main.window.caption.append(" - ").append(path);
     main.window.Changed.Raise();

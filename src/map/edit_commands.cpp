@@ -14,18 +14,6 @@ namespace {
 
 constexpr std::size_t kLongestPaste = 1 << 20; // Bytes; what is longer is not looked into.
 
-MapDocument EmptyDocument(const MainWindow& main)
-{
-    const Map& map = main.mpCtrl.RequireMap();
-    MapDocument document;
-    document.region = main.mpCtrl.MapRegion();
-    document.style = map.MapStyle();
-    document.font = map.MapFont();
-    document.centre = map.View().centre;
-    document.zoom = map.View().zoom;
-    return document;
-}
-
 // False when nothing is selected.
 bool CopySelection(MainWindow& main)
 {
@@ -33,7 +21,7 @@ bool CopySelection(MainWindow& main)
     if (kind == SelectionKind::Nothing)
         return false;
     const Map& map = main.mpCtrl.RequireMap();
-    MapDocument document = EmptyDocument(main);
+    MapDocument document = main.mpCtrl.EmptyDocument();
     if (kind == SelectionKind::Pushpin)
         document.pins.push_back(*map.Pins().At(std::get<Pushpin>(main.map.Selection).Ref().slot));
     else

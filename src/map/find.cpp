@@ -3,7 +3,6 @@
 #include "core/main_window.h"
 #include "map/marker_names.h"
 #include "map/selection.h"
-#include "platform/numbers.h"
 #include "platform/text.h"
 #include "ui/views.h"
 
@@ -52,15 +51,6 @@ private:
     std::vector<FoundPlace> m_first, m_others;
 };
 
-std::optional<GeoPoint> PointOf(const Record& record)
-{
-    const auto lat = ReadNumber(record.Get(Field::Lat));
-    const auto lon = ReadNumber(record.Get(Field::Lon));
-    if (!lat || !lon)
-        return std::nullopt;
-    return GeoPoint{*lat, *lon};
-}
-
 std::vector<FoundPlace> FindStations(const MainWindow& main, std::string_view text, std::size_t limit)
 {
     if (text.empty())
@@ -72,7 +62,7 @@ std::vector<FoundPlace> FindStations(const MainWindow& main, std::string_view te
             if (hits.IsFull())
                 return hits.Take();
             hits.Offer(call, [&, &name = call, &facts = record]() -> std::optional<FoundPlace> {
-                const auto point = PointOf(facts);
+                const auto point = PositionOf(facts);
                 if (!point)
                     return std::nullopt;
                 return FoundPlace{

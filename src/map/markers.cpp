@@ -7,8 +7,12 @@
 #include "platform/numbers.h"
 #include "tracking/track_lines.h"
 #include "ui/progress.h"
-#include "ui/selection.h"
+#include "ui/tree_selection.h"
 #include "ui/views.h"
+
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace ruvenmark {
 
@@ -20,6 +24,16 @@ void AddMarker(MainWindow& main, Channel channel, const Location& location, std:
     Pushpin pin = main.mpCtrl.RequireMap().AddPushpin(location, name);
     pin.SetBalloonState(bTracked ? main.tracking.NewMarkerBalloon : NamesState(main, channel));
     pin.SetSymbol(SymbolId(symbolWord));
+}
+
+// The marker of this name at the place, added where there is none. True when it was added.
+std::pair<Pushpin, bool> MarkerAt(Map& map, std::string_view name, const Location& location)
+{
+    if (auto pin = map.FindPushpin(name)) {
+        pin->SetLocation(location);
+        return {*pin, false};
+    }
+    return {map.AddPushpin(location, name), true};
 }
 
 } // namespace
@@ -91,6 +105,28 @@ void SetNamesState(MainWindow& main, Channel channel, bool bShow)
         SetSetting(main.Settings, setting, bShow ? "1" : "0");
 }
 
+Pushpin ShowStationMarker(MainWindow& main, const StationNode& station, const Record& record, GeoPoint point)
+{
+    Map& map = main.mpCtrl.RequireMap();
+    const std::string name = MarkerName(station.rootKey, station.node->Text());
+    auto [pin, bNew] = MarkerAt(map, name, map.GetLocation(point.lat, point.lon));
+    if (bNew)
+        pin.SetBalloonState(1);
+    pin.SetNote(MarkerNote(station.rootKey, record));
+    return pin;
+}
+
+Pushpin ShowMyMarker(MainWindow& main)
+{
+    Map& map = main.mpCtrl.RequireMap();
+    const Location location =
+        map.GetLocation(ToDouble(SettingText(main.Settings, "Lat")), ToDouble(SettingText(main.Settings, "Lon")));
+    Pushpin pin = MarkerAt(map, SettingText(main.Settings, "Call"), location).first;
+    pin.SetSymbol(kMyStationSymbol);
+    pin.SetBalloonState(1);
+    return pin;
+}
+
 void ForEachMarkerOfRoot(MainWindow& main, const TreeNode& root, const std::function<void(Pushpin&)>& work)
 {
     Map& map = main.mpCtrl.RequireMap();
@@ -137,28 +173,9 @@ void ShowFolderNames(MainWindow& main, bool bShow)
     ForEachMarkerOfRoot(main, *root, [&](Pushpin& pin) { pin.SetBalloonState(bShow ? 1 : 0); });
 }
 
-// The marker of this name at the place, added where there is none. True when it was added.
-std::pair<Pushpin, bool> MarkerAt(Map& map, std::string_view name, const Location& location)
+void ViewStation(MainWindow& main, const StationNode& station, const Record& record, GeoPoint point)
 {
-    if (auto pin = map.FindPushpin(name)) {
-        pin->SetLocation(location);
-        return {*pin, false};
-    }
-    return {map.AddPushpin(location, name), true};
-}
-
-Location RecordLocation(Map& map, const Record& record)
-{
-    return map.GetLocation(ToDouble(record.Get(Field::Lat)), ToDouble(record.Get(Field::Lon)));
-}
-
-void ViewStation(MainWindow& main, const StationNode& station, const Record& record)
-{
-    Map& map = main.mpCtrl.RequireMap();
-    auto [pin, bNew] = MarkerAt(map, MarkerName(station.rootKey, station.node->Text()), RecordLocation(map, record));
-    if (bNew)
-        pin.SetBalloonState(1);
-    pin.SetNote(MarkerNote(station.rootKey, record));
+    Pushpin pin = ShowStationMarker(main, station, record, point);
     pin.SetSymbol(SymbolId(record.Get(Field::Symbol)));
     pin.Location().GoTo();
     main.tvStationList.SetBold(*station.node, false);
@@ -195,23 +212,18 @@ void mnuViewPosition_Click(MainWindow& main)
     const auto channel = ChannelOfWord(station->rootKey);
     const std::string& call = station->node->Text();
     const Record* record = channel ? main.Of(*channel).Stations.Find(call) : nullptr;
-    if (!record || !record->Has(Field::Lat) || !record->Has(Field::Lon)) {
+    const auto point = record ? PositionOf(*record) : std::nullopt;
+    if (!point) {
         main.services.prompts.Message("No position report available for station " + call);
         return;
     }
-    Attempt(main.abandoned, "mnuViewPosition", [&] { ViewStation(main, *station, *record); });
+    Attempt(main.abandoned, "mnuViewPosition", [&] { ViewStation(main, *station, *record, *point); });
 }
 
 void mnuViewMyPosition_Click(MainWindow& main)
 {
     Attempt(main.abandoned, "mnuViewMyPosition", [&] {
-        Map& map = main.mpCtrl.RequireMap();
-        const Location location =
-            map.GetLocation(ToDouble(SettingText(main.Settings, "Lat")), ToDouble(SettingText(main.Settings, "Lon")));
-        Pushpin pin = MarkerAt(map, SettingText(main.Settings, "Call"), location).first;
-        pin.SetSymbol(kMyStationSymbol);
-        pin.Location().GoTo();
-        pin.SetBalloonState(1);
+        ShowMyMarker(main).Location().GoTo();
         ShowMapView(main);
     });
 }

@@ -10,8 +10,10 @@ namespace ruvenmark {
 
 class Pushpin;
 class TreeNode;
-struct ChannelState;
+class Record;
+struct GeoPoint;
 struct MainWindow;
+struct StationNode;
 
 // Places the marker of a position report: adds it, moves it, or makes the track step. Raises Failure.
 void PlaceMarker(MainWindow& main, Channel channel, std::string_view call, double lat, double lon,
@@ -30,6 +32,11 @@ void WalkMarkers(MainWindow& main, const std::function<void(Pushpin&)>& work);
 // Balloon state of new markers of the channel, and of all that show.
 std::int32_t NamesState(const MainWindow& main, Channel channel); // Raises Failure for a setting that is no number.
 void SetNamesState(MainWindow& main, Channel channel, bool bShow);
+
+// Put the marker of a station of the tree, and that of the own station, where it is known to be: made, with its name
+// shown, or moved. Raise Failure.
+Pushpin ShowStationMarker(MainWindow& main, const StationNode& station, const Record& record, GeoPoint point);
+Pushpin ShowMyMarker(MainWindow& main);
 
 // Does the work on the markers of a folder root: over its stations or over all markers, whichever walk is shorter.
 void ForEachMarkerOfRoot(MainWindow& main, const TreeNode& root, const std::function<void(Pushpin&)>& work);

@@ -12,8 +12,6 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr int kDecimals = 5;
-
 // Who may wait for a click, and what the click gives it.
 struct PinPointTarget {
     std::string_view source;
@@ -43,8 +41,7 @@ bool IsItineraryVisible(const MainWindow& main)
 template <std::size_t kEnd>
 void TakeForDirections(MainWindow& main, const Location& location)
 {
-    SetDirectionsEnd(main, kEnd,
-                     {"", {RoundDecimals(location.Lat(), kDecimals), RoundDecimals(location.Lon(), kDecimals)}});
+    SetDirectionsEnd(main, kEnd, {"", ShownPoint(location.Point())});
 }
 
 constexpr std::array kTargets = {
@@ -57,7 +54,8 @@ constexpr std::array kTargets = {
 
 LatLonText LocationToLatLon(const Location& location)
 {
-    return {ShortText(RoundDecimals(location.Lat(), kDecimals)), ShortText(RoundDecimals(location.Lon(), kDecimals))};
+    const GeoPoint shown = ShownPoint(location.Point());
+    return {ShortText(shown.lat), ShortText(shown.lon)};
 }
 
 void StartPinPoint(MainWindow& main, std::string_view source)

@@ -1,14 +1,14 @@
 #include "map/range_circles.h"
 
 #include "core/main_window.h"
-#include "map/marker_names.h"
-#include "map/symbols.h"
-#include "platform/failure.h"
+#include "map/markers.h"
 #include "platform/numbers.h"
-#include "ui/selection.h"
+#include "ui/tree_selection.h"
 #include "ui/views.h"
 
 #include <cmath>
+#include <optional>
+#include <string>
 
 namespace ruvenmark {
 
@@ -23,51 +23,20 @@ Shape DrawCircle(Map& map, const Location& centre, double range)
     return circle;
 }
 
-// The marker stands where the record says, made or moved; its place is the circle's centre.
-Location PlaceCentre(Map& map, std::string_view name, const Location& location, std::string_view note)
-{
-    auto pin = map.FindPushpin(name);
-    if (!pin) {
-        pin = map.AddPushpin(location, name);
-        pin->SetBalloonState(1);
-    } else {
-        pin->SetLocation(location);
-    }
-    pin->SetNote(note);
-    return pin->Location();
-}
-
 void ShowRange(MainWindow& main, const StationNode& station, ChannelState& state)
 {
     const std::string& call = station.node->Text();
     const double* range = state.StationRanges.Find(call);
     const Record* record = state.Stations.Find(call);
-    if (!range || !record || !record->Has(Field::Lat) || !record->Has(Field::Lon))
+    const auto point = record ? PositionOf(*record) : std::nullopt;
+    if (!range || !point)
         return;
-    Map& map = main.mpCtrl.RequireMap();
-    const Location location = map.GetLocation(ToDouble(record->Get(Field::Lat)), ToDouble(record->Get(Field::Lon)));
-    const Location centre =
-        PlaceCentre(map, MarkerName(station.rootKey, call), location, MarkerNote(station.rootKey, *record));
-    const Shape circle = DrawCircle(map, centre, *range);
+    const Location centre = ShowStationMarker(main, station, *record, *point).Location();
+    const Shape circle = DrawCircle(main.mpCtrl.RequireMap(), centre, *range);
     ShowMapView(main);
     main.tvStationList.SetBold(*station.node, false);
-    if (const Shape* found = state.RangeCircles.Find(call)) {
-        Shape old = *found;
-        state.RangeCircles.Remove(call);
-        state.RangeCircles.Add(call, circle);
-        old.Delete();
-        return;
-    }
+    Attempt(main.abandoned, "mnuShowRange", [&] { DeleteCircle(state, call); });
     state.RangeCircles.Add(call, circle);
-}
-
-void HideRange(ChannelState& state, std::string_view call)
-{
-    if (const Shape* found = state.RangeCircles.Find(call)) {
-        Shape circle = *found;
-        state.RangeCircles.Remove(call);
-        circle.Delete();
-    }
 }
 
 // The state of the selected station's channel, or null.
@@ -120,17 +89,24 @@ void DrawMyRange(MainWindow& main)
         main.map.MyRange = 0;
         return;
     }
-    Map& map = main.mpCtrl.RequireMap();
-    const Location location = map.GetLocation(ToDouble(lat), ToDouble(lon));
-    const std::string_view name = SettingText(main.Settings, "Call");
-    auto pin = map.FindPushpin(name);
-    if (!pin)
-        pin = map.AddPushpin(location, name);
-    else
-        pin->SetLocation(location);
-    pin->SetSymbol(kMyStationSymbol);
-    pin->SetBalloonState(1);
-    main.map.MyRangeCircle = DrawCircle(map, pin->Location(), main.map.MyRange);
+    const Location centre = ShowMyMarker(main).Location();
+    main.map.MyRangeCircle = DrawCircle(main.mpCtrl.RequireMap(), centre, main.map.MyRange);
+}
+
+void DeleteCircle(ChannelState& state, std::string_view call)
+{
+    if (const Shape* found = state.RangeCircles.Find(call)) {
+        Shape circle = *found;
+        state.RangeCircles.Remove(call);
+        circle.Delete();
+    }
+}
+
+void DeleteAllCircles(MainWindow& main, ChannelState& state, std::string_view place)
+{
+    for (auto& [call, circle] : state.RangeCircles)
+        Attempt(main.abandoned, place, [&shape = circle] { shape.Delete(); });
+    state.RangeCircles.Clear();
 }
 
 void mnuShowRange_Click(MainWindow& main)
@@ -146,16 +122,13 @@ void mnuHideRange_Click(MainWindow& main)
     const auto station = SelectedStation(main.tvStationList);
     ChannelState* state = SelectedChannel(main, station);
     if (state)
-        Attempt(main.abandoned, "mnuHideRange", [&] { HideRange(*state, station->node->Text()); });
+        Attempt(main.abandoned, "mnuHideRange", [&] { DeleteCircle(*state, station->node->Text()); });
 }
 
 void mnuHideAllRangeCircles_Click(MainWindow& main)
 {
-    for (ChannelState& state : main.channels) {
-        for (auto& [call, circle] : state.RangeCircles)
-            Attempt(main.abandoned, "mnuHideAllRangeCircles", [&shape = circle] { shape.Delete(); });
-        state.RangeCircles.Clear();
-    }
+    for (ChannelState& state : main.channels)
+        DeleteAllCircles(main, state, "mnuHideAllRangeCircles");
 }
 
 void mnuShowMyRange_Click(MainWindow& main)

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "core/channel.h"
-
-#include <cstdint>
+#include <string_view>
 
 namespace ruvenmark {
 
+struct ChannelState;
 struct MainWindow;
 
 // The radio range in miles of power in watts, antenna height in feet and gain in dB.
@@ -15,6 +14,11 @@ double StationRange(double power, double height, double gain);
 void UpdateMyRange(MainWindow& main);
 // Draws or redraws the own circle. Raises Failure.
 void DrawMyRange(MainWindow& main);
+
+// The circle of a station, where it has one. Raises Failure where the map has lost it; it is forgotten all the same.
+void DeleteCircle(ChannelState& state, std::string_view call);
+// All circles of a channel. What the map has lost is counted under the place.
+void DeleteAllCircles(MainWindow& main, ChannelState& state, std::string_view place);
 
 // Commands. A Failure ends them without a word.
 void mnuShowRange_Click(MainWindow& main); // On the selected station.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/map_model.h"
+
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -13,21 +15,22 @@ struct RegionButton {
     std::int32_t region;
 };
 inline constexpr std::array<RegionButton, 12> kRegionButtons = {{
-    {"US", "&United States", 1},
-    {"Canada", "&Canada", 1},
-    {"France", "&France", 2},
-    {"Germany", "&Germany", 2},
-    {"Italy", "&Italy", 2},
-    {"UK", "United &Kingdom", 2},
-    {"Austria", "&Austria", 2},
-    {"Belgium", "&Belgium", 2},
-    {"Denmark", "&Denmark", 2},
-    {"Netherlands", "&Netherlands", 2},
-    {"Spain", "&Spain", 2},
-    {"Switzerland", "S&witzerland", 2},
+    {"US", "&United States", kRegionNorthAmerica},
+    {"Canada", "&Canada", kRegionNorthAmerica},
+    {"France", "&France", kRegionEurope},
+    {"Germany", "&Germany", kRegionEurope},
+    {"Italy", "&Italy", kRegionEurope},
+    {"UK", "United &Kingdom", kRegionEurope},
+    {"Austria", "&Austria", kRegionEurope},
+    {"Belgium", "&Belgium", kRegionEurope},
+    {"Denmark", "&Denmark", kRegionEurope},
+    {"Netherlands", "&Netherlands", kRegionEurope},
+    {"Spain", "&Spain", kRegionEurope},
+    {"Switzerland", "S&witzerland", kRegionEurope},
 }};
 
-inline constexpr std::int32_t kFirstSelectedRegion = 1; // Closed without a button, the dialog leaves this.
+inline constexpr std::int32_t kFirstSelectedRegion =
+    kRegionNorthAmerica; // Closed without a button, the dialog leaves this.
 
 // The region after the button of this key; any other key leaves it as it was.
 constexpr std::int32_t RegionOfButton(std::string_view key, std::int32_t selectedRegion)

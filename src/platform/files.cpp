@@ -56,12 +56,16 @@ private:
     int m_number;
 };
 
+std::string TemporaryPath(const std::string& folder)
+{
+    return JoinPath(folder, ".ruvenmark-" + std::to_string(::getpid()));
+}
+
 // A new file beside the one to be replaced; removed unless it took that one's place.
 class TemporaryFile {
 public:
     TemporaryFile(const std::string& folder, mode_t mode)
-        : m_path(JoinPath(folder, ".ruvenmark-" + std::to_string(::getpid()))),
-          m_file(::open(m_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode))
+        : m_path(TemporaryPath(folder)), m_file(::open(m_path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode))
     {
     }
     TemporaryFile(const TemporaryFile&) = delete;
@@ -98,14 +102,6 @@ private:
     bool m_bRenamed = false;
 };
 
-std::string FolderOf(const std::string& path)
-{
-    const auto slash = path.rfind('/');
-    if (slash == std::string::npos)
-        return ".";
-    return path.substr(0, slash == 0 ? 1 : slash);
-}
-
 // The file that a symbolic link stands for, there or not.
 std::string FollowLinks(std::string path)
 {
@@ -122,7 +118,7 @@ std::string FollowLinks(std::string path)
 // A file left behind by a crash may carry the name of our process.
 void RemoveLeftover(const std::string& folder)
 {
-    ::unlink(JoinPath(folder, ".ruvenmark-" + std::to_string(::getpid())).c_str());
+    ::unlink(TemporaryPath(folder).c_str());
 }
 
 // So that the new name is on the disk too. Some file systems cannot; the file itself is whole either way.
@@ -205,6 +201,14 @@ std::string JoinPath(std::string_view folder, std::string_view name)
         path += '/';
     path += name;
     return path;
+}
+
+std::string FolderOf(std::string_view path)
+{
+    const auto slash = path.rfind('/');
+    if (slash == std::string_view::npos)
+        return ".";
+    return std::string(path.substr(0, slash == 0 ? 1 : slash));
 }
 
 std::string DefaultProgramFolder()

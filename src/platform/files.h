@@ -27,6 +27,8 @@ public:
 
 // The folder and the name with one separator between them.
 std::string JoinPath(std::string_view folder, std::string_view name);
+// What stands ahead of the last separator: "." where there is none, "/" right under the root.
+std::string FolderOf(std::string_view path);
 
 // The program folder and the settings file of this user, by the XDG base directory rules; an unset or relative
 // variable counts as its default.

@@ -1,5 +1,7 @@
 #include "platform/geometry.h"
 
+#include "platform/numbers.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -11,8 +13,14 @@ namespace {
 constexpr double kEarthRadiusMiles = 3958.7613;
 constexpr double kDegree = std::numbers::pi / 180;
 constexpr double kMaxMercatorLat = 85.05112877980659;
+constexpr int kShownDecimals = 5;
 
 } // namespace
+
+GeoPoint ShownPoint(GeoPoint point)
+{
+    return {RoundDecimals(point.lat, kShownDecimals), RoundDecimals(point.lon, kShownDecimals)};
+}
 
 MercatorPoint ToMercator(GeoPoint point)
 {

@@ -7,6 +7,9 @@ struct GeoPoint {
     friend bool operator==(const GeoPoint&, const GeoPoint&) = default;
 };
 
+// As a point is shown and taken from the map: at most 5 decimals, about a metre.
+GeoPoint ShownPoint(GeoPoint point);
+
 // Web Mercator on the unit square: x from 0 (180 west) to 1 (180 east), y from 0 (north) to 1 (south). The poles beyond
 // about 85.05 degrees fall on the edges.
 struct MercatorPoint {

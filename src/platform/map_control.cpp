@@ -101,16 +101,23 @@ void MapControl::OpenMap(std::string_view path)
 void MapControl::SaveMapAs(std::string_view path)
 {
     Map& map = RequireMap();
+    MapDocument document = EmptyDocument();
+    document.pins = OldestFirst(map.Pins());
+    document.shapes = OldestFirst(map.Shapes());
+    m_files.WriteText(WriteMapDocument(document), path);
+    map.SetSaved(true);
+}
+
+MapDocument MapControl::EmptyDocument() const
+{
+    const Map& map = RequireMap();
     MapDocument document;
     document.region = m_region;
     document.style = map.MapStyle();
     document.font = map.MapFont();
     document.centre = map.View().centre;
     document.zoom = map.View().zoom;
-    document.pins = OldestFirst(map.Pins());
-    document.shapes = OldestFirst(map.Shapes());
-    m_files.WriteText(WriteMapDocument(document), path);
-    map.SetSaved(true);
+    return document;
 }
 
 bool MapControl::ToolbarVisible(std::int32_t index) const

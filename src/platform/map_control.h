@@ -11,6 +11,7 @@
 namespace ruvenmark {
 
 class IFiles;
+struct MapDocument;
 
 inline constexpr std::int32_t kPointerDefault = 0;
 inline constexpr std::int32_t kPointerCross = 2; // A click on the map is waited for.
@@ -33,6 +34,8 @@ public:
     void NewMap(std::int32_t region);    // Raises Failure for an unknown region.
     void OpenMap(std::string_view path); // On Failure the map is as it was.
     void SaveMapAs(std::string_view path);
+    // A document with the region, style, font and view of the map, and nothing on it. Raises Failure without a map.
+    MapDocument EmptyDocument() const;
 
     // Tool bars 1 to 4; any other index raises Failure.
     bool ToolbarVisible(std::int32_t index) const;

@@ -12,10 +12,10 @@ namespace ruvenmark {
 // A map as a file holds it.
 struct MapDocument {
     std::int32_t region = kRegionNorthAmerica;
-    std::int32_t style = 0;
-    std::int32_t font = 2;
+    std::int32_t style = kFirstMapStyle;
+    std::int32_t font = kFirstMapFont;
     GeoPoint centre;
-    double zoom = 4;
+    double zoom = kFirstZoom;
     std::vector<PinData> pins; // Oldest first.
     std::vector<ShapeData> shapes;
 };

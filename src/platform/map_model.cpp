@@ -10,127 +10,12 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr double kMinZoom = 1, kMaxZoom = 19;
-
 std::uint32_t ToFixed(double unit)
 {
     return static_cast<std::uint32_t>(std::clamp(unit, 0.0, 0.9999999998) * 4294967296.0);
 }
 
 } // namespace
-
-// --- Handles
-
-void Location::GoTo() const
-{
-    m_map->CheckSerial(*this);
-    m_map->SetView(m_point, m_map->View().zoom);
-}
-
-const std::string& Pushpin::Name() const
-{
-    return m_map->Pin(m_ref).name;
-}
-
-void Pushpin::SetName(std::string_view name)
-{
-    PinData& pin = m_map->Pin(m_ref);
-    if (pin.name == name)
-        return;
-    m_map->UnlinkName(m_ref);
-    pin.name = name;
-    m_map->LinkName(m_ref);
-    m_map->Touch();
-}
-
-ruvenmark::Location Pushpin::Location() const
-{
-    return {*m_map, m_map->m_serial, m_map->Pin(m_ref).point};
-}
-
-void Pushpin::SetLocation(const ruvenmark::Location& location)
-{
-    m_map->CheckSerial(location);
-    m_map->Pin(m_ref).point = location.Point();
-    m_map->Mark(m_ref);
-}
-
-const std::string& Pushpin::Note() const
-{
-    return m_map->Pin(m_ref).note;
-}
-
-void Pushpin::SetNote(std::string_view note)
-{
-    PinData& pin = m_map->Pin(m_ref);
-    pin.note = note;
-    m_map->Touch();
-}
-
-std::int16_t Pushpin::Symbol() const
-{
-    return m_map->Pin(m_ref).symbol;
-}
-
-void Pushpin::SetSymbol(std::int16_t symbol)
-{
-    m_map->Pin(m_ref).symbol = symbol;
-    m_map->Mark(m_ref);
-}
-
-std::int32_t Pushpin::BalloonState() const
-{
-    return m_map->Pin(m_ref).balloonState;
-}
-
-void Pushpin::SetBalloonState(std::int32_t state)
-{
-    m_map->Pin(m_ref).balloonState = state;
-    m_map->Mark(m_ref);
-}
-
-void Pushpin::Delete()
-{
-    m_map->Pin(m_ref); // Raises where it is gone already.
-    m_map->UnlinkName(m_ref);
-    m_map->m_pins.Remove(m_ref);
-    m_map->m_points[m_ref.slot] = PinPoint();
-    m_map->Touch();
-}
-
-void Shape::SetForeColor(std::uint32_t color)
-{
-    m_map->ShapeOf(m_ref).foreColor = color;
-    m_map->Touch();
-}
-void Shape::SetVisible(bool bVisible)
-{
-    m_map->ShapeOf(m_ref).bVisible = bVisible;
-    m_map->Touch();
-}
-void Shape::SetWeight(std::int32_t weight)
-{
-    m_map->ShapeOf(m_ref).weight = weight;
-    m_map->Touch();
-}
-void Shape::SetBeginArrowhead(bool bArrow)
-{
-    m_map->ShapeOf(m_ref).bBeginArrowhead = bArrow;
-    m_map->Touch();
-}
-void Shape::SetEndArrowhead(bool bArrow)
-{
-    m_map->ShapeOf(m_ref).bEndArrowhead = bArrow;
-    m_map->Touch();
-}
-void Shape::Delete()
-{
-    m_map->ShapeOf(m_ref);
-    m_map->m_shapes.Remove(m_ref);
-    m_map->Touch();
-}
-
-// --- The map
 
 void Map::CheckSerial(const Location& location) const
 {
@@ -358,12 +243,12 @@ void Map::Replace(std::int32_t region)
     m_shapes.Clear();
     m_points.clear();
     ++m_serial;
-    m_style = 0;
-    m_font = 2;
+    m_style = kFirstMapStyle;
+    m_font = kFirstMapFont;
     m_bSaved = true;
     m_bPinEverAdded = false;
     m_view.centre = region == kRegionEurope ? GeoPoint{50.5, 10.0} : GeoPoint{39.5, -98.35};
-    m_view.zoom = 4;
+    m_view.zoom = kFirstZoom;
     Changed.Raise();
     ViewChanged.Raise();
 }

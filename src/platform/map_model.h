@@ -4,7 +4,6 @@
 #include "platform/geometry.h"
 #include "platform/slot_pool.h"
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -23,7 +22,12 @@ constexpr bool IsMapRegion(std::int32_t region)
     return region == kRegionNorthAmerica || region == kRegionEurope;
 }
 inline constexpr std::int32_t kLastMapStyle = 4;
-inline constexpr std::int32_t kLastMapFont = 4;
+inline constexpr std::int32_t kLastMapFont = 4; // The smallest.
+inline constexpr double kMinZoom = 1, kMaxZoom = 19;
+// Of a new map.
+inline constexpr std::int32_t kFirstMapStyle = 0;
+inline constexpr std::int32_t kFirstMapFont = 2;
+inline constexpr double kFirstZoom = 4;
 inline constexpr std::int32_t kUnitsMiles = 0;
 inline constexpr std::int32_t kShapeRadiusCircle = 1009;
 inline constexpr std::int16_t kDefaultSymbol = 1;
@@ -147,12 +151,12 @@ public:
     bool Saved() const { return m_bSaved; }
     void SetSaved(bool bSaved) { m_bSaved = bSaved; }
     std::int32_t MapStyle() const { return m_style; }
-    void SetMapStyle(std::int32_t style); // 0 to 4; anything else raises Failure.
+    void SetMapStyle(std::int32_t style); // 0 to kLastMapStyle; anything else raises Failure.
     std::int32_t MapFont() const { return m_font; }
-    void SetMapFont(std::int32_t font); // 0 (largest) to 4; anything else raises Failure.
+    void SetMapFont(std::int32_t font); // 0 to kLastMapFont; anything else raises Failure.
 
     const MapView& View() const { return m_view; }
-    void SetView(GeoPoint centre, double zoom); // Clamped to the world and to zoom 1 to 19.
+    void SetView(GeoPoint centre, double zoom); // Clamped to the world and to the zooms there are.
     void SetSize(int width, int height);
     Location XYToLocation(double x, double y);
     std::int32_t LocationToX(const Location& location) const;
@@ -192,8 +196,8 @@ private:
     std::unordered_map<std::string_view, SlotRef> m_names; // The oldest of each name; keys are views of its name.
     MapView m_view;
     std::uint64_t m_serial = 0;
-    std::int32_t m_style = 0;
-    std::int32_t m_font = 2;
+    std::int32_t m_style = kFirstMapStyle;
+    std::int32_t m_font = kFirstMapFont;
     bool m_bSaved = true;
     bool m_bPinEverAdded = false;
 };

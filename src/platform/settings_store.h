@@ -9,9 +9,6 @@ namespace ruvenmark {
 
 class IFiles;
 
-inline constexpr std::string_view kApplication = "Ruvenmark";
-inline constexpr std::string_view kSettingsSection = "Settings";
-
 // The per-user store of named texts. No failure is reported: a value that cannot be read is not there.
 class ISettingsStore {
 public:

@@ -55,11 +55,6 @@ std::string_view Trim(std::string_view text)
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-std::string TrackKey(std::string_view call)
-{
-    return ToUpper(Trim(call));
-}
-
 std::vector<std::string_view> Split(std::string_view text, char separator)
 {
     std::vector<std::string_view> pieces;
@@ -137,6 +132,21 @@ std::string ShownText(std::string_view bytes)
     return shown;
 }
 
+std::string TerminalText(std::string_view bytes)
+{
+    const std::string shown = ShownText(bytes);
+    std::string line;
+    line.reserve(shown.size());
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const auto byte = static_cast<std::uint8_t>(shown[i]);
+        const bool bHighControl =
+            byte == 0xC2 && i + 1 < shown.size() && static_cast<std::uint8_t>(shown[i + 1]) < 0xA0;
+        line += byte < ' ' || byte == 0x7F || bHighControl ? '.' : shown[i];
+        i += bHighControl ? 1 : 0;
+    }
+    return line;
+}
+
 std::string_view FirstCharacters(std::string_view text, std::size_t count)
 {
     if (text.size() <= count)
@@ -147,14 +157,6 @@ std::string_view FirstCharacters(std::string_view text, std::size_t count)
     while (count-- > 0 && end < text.size())
         end += SequenceLength(text.substr(end));
     return text.substr(0, end);
-}
-
-std::size_t CharacterCount(std::string_view text)
-{
-    if (!IsUtf8(text))
-        return text.size();
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char c) { return (static_cast<std::uint8_t>(c) & 0xC0U) != 0x80U; }));
 }
 
 } // namespace ruvenmark

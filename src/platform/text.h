@@ -26,9 +26,6 @@ std::string ToUpper(std::string_view text);
 // Without the blanks at both ends.
 std::string_view Trim(std::string_view text);
 
-// Trimmed and upper-cased: how the track lists know a call.
-std::string TrackKey(std::string_view call);
-
 // The pieces between the separators; an empty text has one empty piece. Views of the text.
 std::vector<std::string_view> Split(std::string_view text, char separator);
 
@@ -46,10 +43,10 @@ bool IsUtf8(std::string_view bytes);
 
 // What a person or another program is shown: valid UTF-8 as it is, anything else read as Latin-1.
 std::string ShownText(std::string_view bytes);
+// The same as one line that cannot steer a terminal: every control character, U+0080 to U+009F too, turns into a point.
+std::string TerminalText(std::string_view bytes);
 
 // The first `count` characters: UTF-8 sequences where the text is UTF-8, bytes where it is not.
 std::string_view FirstCharacters(std::string_view text, std::size_t count);
-// The number of characters in the same sense.
-std::size_t CharacterCount(std::string_view text);
 
 } // namespace ruvenmark

@@ -37,7 +37,7 @@ void frmFilter_Load(MainWindow& main)
 std::string frmFilter_LostFocus(FilterForm& form, Channel channel, FilterField field)
 {
     const FieldRule& rule = kRules[static_cast<std::size_t>(field)];
-    std::string& text = form.fields[static_cast<std::size_t>(channel)].*rule.text;
+    std::string& text = form.fields[Index(channel)].*rule.text;
     const auto value = ReadNumber(text);
     if (!value || (*value >= rule.lowest && *value <= rule.highest))
         return {};
@@ -65,7 +65,7 @@ void mnuToolsFilter_Click(MainWindow& main)
 {
     const std::string_view unit = main.mpCtrl.Units() == kUnitsMiles ? "miles" : "kilometers";
     for (const Channel channel : {Channel::RF, Channel::TCP}) // The label of FL stays as designed.
-        main.frmFilter.unitLabels[static_cast<std::size_t>(channel)] = unit;
+        main.frmFilter.unitLabels[Index(channel)] = unit;
     if (!main.services.dialogs.IsFilterVisible())
         frmFilter_Load(main);
     main.services.dialogs.ShowFilter(main);

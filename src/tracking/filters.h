@@ -6,7 +6,6 @@
 
 namespace ruvenmark {
 
-class ISettingsStore;
 struct MainWindow;
 
 // Whether the text is like one of the patterns that stand in the list with blanks between them: "*" any run, "?" one

@@ -6,7 +6,7 @@
 #include "platform/text.h"
 #include "tracking/track_lines.h"
 #include "tracking/track_lists.h"
-#include "ui/selection.h"
+#include "ui/tree_selection.h"
 
 #include <optional>
 

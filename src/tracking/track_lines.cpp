@@ -3,7 +3,7 @@
 #include "core/main_window.h"
 #include "map/marker_names.h"
 #include "map/symbols.h"
-#include "platform/text.h"
+#include "tracking/track_lists.h"
 
 #include <array>
 

@@ -6,6 +6,11 @@
 
 namespace ruvenmark {
 
+std::string TrackKey(std::string_view call)
+{
+    return ToUpper(Trim(call));
+}
+
 bool IsTracked(const ChannelState& state, std::string_view call)
 {
     return !state.Tracked.IsEmpty() && state.Tracked.Contains(TrackKey(call));

@@ -10,6 +10,9 @@ namespace ruvenmark {
 struct ChannelState;
 struct MainWindow;
 
+// Trimmed and upper-cased: how the track lists know a call.
+std::string TrackKey(std::string_view call);
+
 // Whether the call, trimmed and upper-cased, is on the channel's track list.
 bool IsTracked(const ChannelState& state, std::string_view call);
 

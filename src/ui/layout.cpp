@@ -1,7 +1,6 @@
 #include "ui/layout.h"
 
 #include "core/main_window.h"
-#include "platform/files.h"
 #include "ui/views.h"
 
 #include <algorithm>
@@ -13,35 +12,10 @@ namespace {
 
 constexpr std::int32_t kGripWidth = 40;    // Between the panes.
 constexpr std::int32_t kRightMargin = 100; // Right of the right pane.
-constexpr std::string_view kHelpPage = "Readme.htm";
-constexpr std::string_view kBrowserScheme = "https://";
 
 std::int32_t NotNegative(std::int32_t length)
 {
     return std::max(length, 0);
-}
-
-std::string_view FileName(std::string_view address)
-{
-    const std::size_t slash = address.find_last_of("/\\");
-    return slash == std::string_view::npos ? address : address.substr(slash + 1);
-}
-
-std::string HtmlEscaped(std::string_view text)
-{
-    std::string escaped;
-    for (const char c : text)
-        if (c == '&')
-            escaped += "&amp;";
-        else if (c == '<')
-            escaped += "&lt;";
-        else if (c == '>')
-            escaped += "&gt;";
-        else if (c == '"')
-            escaped += "&quot;";
-        else
-            escaped += c;
-    return escaped;
 }
 
 } // namespace
@@ -139,37 +113,6 @@ void mnuViewFullScreen_Click(MainWindow& main)
 void mnuViewMap_Click(MainWindow& main)
 {
     ShowMapView(main);
-}
-
-void mnuRuvenmarkHelp_Click(MainWindow& main)
-{
-    if (FileName(main.window.webAddress) == kHelpPage)
-        ShowWebView(main, std::string(main.window.webAddress));
-    else
-        ShowWebView(main, JoinPath(main.services.programFolder, kHelpPage));
-}
-
-void ShowWebView(MainWindow& main, std::string_view address)
-{
-    WindowState& window = main.window;
-    window.webAddress = address;
-    window.rightView = RightView::Web;
-    window.bMapTicked = false;
-    window.bMessagesTicked = false;
-    window.Changed.Raise();
-}
-
-bool IsBrowserPage(std::string_view address)
-{
-    return address.starts_with(kBrowserScheme);
-}
-
-std::string BrowserNotice(std::string_view address)
-{
-    const std::string shown = HtmlEscaped(address);
-    return "<html><body><h2>Operator Info</h2>\n<p>The page of the call-sign directory opens in your web browser:</p>\n"
-           "<p><a href=\"" +
-           shown + "\">" + shown + "</a></p></body></html>\n";
 }
 
 } // namespace ruvenmark

@@ -1,13 +1,10 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
-#include <string_view>
 
 namespace ruvenmark {
 
 struct MainWindow;
-struct WindowState;
 
 // Lengths are twips: 1/15 of a pixel at scale 1.
 inline constexpr double kTwipsPerPixel = 15;
@@ -55,15 +52,5 @@ void mnuViewToolbar_Click(MainWindow& main);
 void mnuViewStatusBar_Click(MainWindow& main);
 void mnuViewFullScreen_Click(MainWindow& main);
 void mnuViewMap_Click(MainWindow& main);
-void mnuRuvenmarkHelp_Click(MainWindow& main);
-
-// The web view in the right pane; the tree stays.
-void ShowWebView(MainWindow& main, std::string_view address);
-
-// What the web view shows at an address: true for a page that was opened in the system's browser instead; the view then
-// shows BrowserNotice.
-bool IsBrowserPage(std::string_view address);
-// A small HTML page that says so, with the link.
-std::string BrowserNotice(std::string_view address);
 
 } // namespace ruvenmark

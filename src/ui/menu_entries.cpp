@@ -12,8 +12,8 @@
 #include "ui/layout.h"
 #include "ui/menus.h"
 #include "ui/station_tree_commands.h"
+#include "ui/web_page.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -167,13 +167,6 @@ static_assert(kEntries.size() == static_cast<std::size_t>(E::mnuShowUnknown) + 1
 const MenuEntryInfo& Info(MenuEntry entry)
 {
     return kEntries[static_cast<std::size_t>(entry)];
-}
-
-MenuEntry MenuEntryOfName(std::string_view name)
-{
-    const auto* found =
-        std::find_if(kEntries.begin(), kEntries.end(), [&](const auto& row) { return row.name == name; });
-    return found == kEntries.end() ? MenuEntry::None : found->entry;
 }
 
 void RunMenuEntry(MainWindow& main, MenuEntry entry)

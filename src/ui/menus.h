@@ -121,7 +121,6 @@ struct MenuEntryInfo {
     void (*run)(MainWindow&); // Null for lines.
 };
 const MenuEntryInfo& Info(MenuEntry entry);
-MenuEntry MenuEntryOfName(std::string_view name); // None for any other word.
 
 struct MenuEntryState {
     std::string caption;

@@ -1,6 +1,5 @@
 #include "core/main_window.h"
 #include "platform/numbers.h"
-#include "platform/text.h"
 #include "tracking/track_lists.h"
 #include "ui/menu_places.h"
 #include "ui/station_tree_commands.h"

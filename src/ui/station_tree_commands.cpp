@@ -3,9 +3,11 @@
 #include "core/main_window.h"
 #include "intake/station_store.h"
 #include "map/markers.h"
+#include "map/range_circles.h"
 #include "tracking/filter_form_rules.h"
-#include "ui/layout.h"
-#include "ui/selection.h"
+#include "ui/call_sign_page.h"
+#include "ui/tree_selection.h"
+#include "ui/web_page.h"
 
 #include <algorithm>
 #include <array>
@@ -14,7 +16,6 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr std::string_view kDirectoryHost = "www.qrz.com";
 constexpr std::string_view kMyRoot = "My";
 
 bool IsMyRoot(const TreeNode& node)
@@ -46,44 +47,12 @@ std::optional<Channel> SelectedChannel(const MainWindow& main)
     return root ? ChannelOfWord(root->Word()) : std::nullopt;
 }
 
-void ClearReports(MainWindow& main, Channel channel)
-{
-    ClearChannelReports(main, channel);
-    if (TreeNode* root = main.tvStationList.Find(Traits(channel).word))
-        main.tvStationList.SetText(*root, Traits(channel).rootText);
-}
-
 void UnloadChannel(MainWindow& main, Channel channel)
 {
     ChannelState& state = main.Of(channel);
     state.StationRanges.Clear();
-    for (auto& entry : state.RangeCircles)
-        Attempt(main.abandoned, "mnuUnloadFolder", [&] { entry.value.Delete(); });
-    state.RangeCircles.Clear();
+    DeleteAllCircles(main, state, "mnuUnloadFolder");
     state.Stations.Clear();
-}
-
-bool IsUnreserved(char c)
-{
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || c == '.' ||
-           c == '_' || c == '~';
-}
-
-std::string PercentEncoded(std::string_view text)
-{
-    constexpr std::string_view kHex = "0123456789ABCDEF";
-    std::string encoded;
-    for (const char c : text) {
-        if (IsUnreserved(c)) {
-            encoded += c;
-            continue;
-        }
-        const auto byte = static_cast<unsigned char>(c);
-        encoded += '%';
-        encoded += kHex[byte >> 4U];
-        encoded += kHex[byte & 15U];
-    }
-    return encoded;
 }
 
 } // namespace
@@ -129,15 +98,6 @@ void tvStationList_Expand(MainWindow& main, TreeNode& node)
 {
     if (node.Parent() && node.Parent()->Parent())
         main.tvStationList.SetBold(node, false);
-}
-
-std::string CallSignPage(std::string_view call)
-{
-    std::string page = "https://";
-    page += kDirectoryHost;
-    page += "/detail/";
-    page += PercentEncoded(call.substr(0, call.find('-')));
-    return page;
 }
 
 void mnuInfo_Click(MainWindow& main)
@@ -187,7 +147,7 @@ void mnuClearReports_Click(MainWindow& main)
         return;
     const std::string word(Traits(*channel).word);
     if (main.services.prompts.AskYesNo("Are you sure you want to delete all " + word + " reports?"))
-        ClearReports(main, *channel);
+        ClearChannelReports(main, *channel);
 }
 
 void mnuClearAllReports_Click(MainWindow& main)
@@ -195,7 +155,7 @@ void mnuClearAllReports_Click(MainWindow& main)
     if (!main.services.prompts.AskYesNo("Are you sure you want to delete all reports?"))
         return;
     for (const Channel channel : kChannels)
-        ClearReports(main, channel);
+        ClearChannelReports(main, channel);
 }
 
 void mnuUnloadFolder_Click(MainWindow& main)

@@ -4,8 +4,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace ruvenmark {
@@ -41,9 +39,6 @@ inline constexpr int kRightButton = 2; // Bit of the button mask.
 std::optional<PopupMenu> tvStationList_MouseUp(MainWindow& main, int button, TreeNode* hit);
 // A node was expanded: a station is no news any more.
 void tvStationList_Expand(MainWindow& main, TreeNode& node);
-
-// The page of the public call-sign directory: the call up to its first "-", percent-encoded.
-std::string CallSignPage(std::string_view call);
 
 // Commands on the selected node.
 void mnuTcpSort_Click(MainWindow& main);     // Sorts once: later arrivals go to the end.

@@ -1,3 +1,4 @@
+#include "links/import_form_rules.h"
 #include "links/station_files.h"
 #include "platform/failure.h"
 #include "support/program.h"

@@ -3,9 +3,9 @@
 #include "map/selection.h"
 #include "platform/map_document.h"
 #include "support/program.h"
-#include "ui/layout.h"
 #include "ui/menus.h"
 #include "ui/views.h"
+#include "ui/web_page.h"
 
 #include <gtest/gtest.h>
 

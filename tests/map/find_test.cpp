@@ -1,7 +1,7 @@
 #include "map/find.h"
 #include "map/selection.h"
 #include "support/program.h"
-#include "ui/layout.h"
+#include "ui/web_page.h"
 
 #include <gtest/gtest.h>
 

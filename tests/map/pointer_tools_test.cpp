@@ -1,8 +1,8 @@
 #include "map/pointer_tools.h"
 #include "support/program.h"
 #include "tracking/filter_form_rules.h"
-#include "ui/layout.h"
 #include "ui/menus.h"
+#include "ui/web_page.h"
 
 #include <gtest/gtest.h>
 

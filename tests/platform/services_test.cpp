@@ -64,24 +64,21 @@ TEST(Clocks, ShowLocalTimeInOneForm)
     EXPECT_EQ(fake.LocalNowText(), "2027-01-01 20:14:59");
 }
 
-TEST(HeadlessPrompts, PrintsAndTakesGivenAnswersOrTheHarmlessOne)
+TEST(HeadlessPrompts, PrintsWithTheHarmlessAnswerAndKeepsTheMessages)
 {
     std::ostringstream out;
     HeadlessPrompts prompts(out);
-    prompts.GiveAnswer(Answer::Yes);
-    prompts.GiveAnswer(Answer::No);
-    prompts.GiveFile("/x/y");
-    EXPECT_TRUE(prompts.AskYesNo("Remove?"));
-    EXPECT_EQ(prompts.AskYesNoCancel("Save?"), Answer::No);
     EXPECT_EQ(prompts.AskYesNoCancel("Save?"), Answer::Cancel);
     EXPECT_FALSE(prompts.AskYesNo("Remove?"));
-    EXPECT_EQ(prompts.OpenFile("Open", {"All (*.*)", "*.*"}), "/x/y");
+    EXPECT_EQ(prompts.OpenFile("Open", {"All (*.*)", "*.*"}), std::nullopt);
     EXPECT_EQ(prompts.SaveFile("Save As", {"All (*.*)", "*.*"}), std::nullopt);
     prompts.Message("gr\xFC\xDF\n\x1B[2J\x9B");
     prompts.Message("\xC2\x9B\x7F\xC2\xA0");
-    EXPECT_EQ(out.str(), "Ruvenmark: Remove? Yes\nRuvenmark: Save? No\nRuvenmark: Save? Cancel\nRuvenmark: Remove? No\n"
-                         "Ruvenmark: Open, All (*.*): /x/y\nRuvenmark: Save As, All (*.*): no file\n"
-                         "Ruvenmark: gr\xC3\xBC\xC3\x9F\n?[2J?\nRuvenmark: ??\xC2\xA0\n");
+    EXPECT_EQ(out.str(), "Ruvenmark: Save? Cancel\nRuvenmark: Remove? No\n"
+                         "Ruvenmark: Open, All (*.*): no file\nRuvenmark: Save As, All (*.*): no file\n"
+                         "Ruvenmark: gr\xC3\xBC\xC3\x9F..[2J.\nRuvenmark: ..\xC2\xA0\n");
+    ASSERT_EQ(prompts.Messages().size(), 2U);
+    EXPECT_EQ(prompts.Messages()[1], "\xC2\x9B\x7F\xC2\xA0");
 }
 
 } // namespace

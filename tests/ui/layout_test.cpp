@@ -1,6 +1,7 @@
 #include "support/program.h"
 #include "ui/layout.h"
 #include "ui/menus.h"
+#include "ui/web_page.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,7 @@
 #include "support/program.h"
-#include "ui/layout.h"
+#include "ui/call_sign_page.h"
 #include "ui/station_tree_commands.h"
+#include "ui/web_page.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "desktop/dialogs/about_dialog.h"
 
-#include "core/settings.h"
 #include "desktop/dialogs/dialog_parts.h"
 #include "desktop/icons/icon_set.h"
+#include "platform/program_name.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -33,9 +33,8 @@ AboutDialog::AboutDialog(const IconSet& icons, QWidget* parent) : QDialog(parent
     picture->setAlignment(Qt::AlignTop);
     auto* text = new QLabel(this);
     text->setTextFormat(Qt::RichText);
-    text->setText(
-        QStringLiteral("<h2>Ruvenmark %1.%2.%3</h2>").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision) +
-        QString::fromUtf8(kCredits));
+    text->setText(QStringLiteral("<h2>Ruvenmark %1</h2>").arg(QString::fromStdString(std::string(ProgramVersion()))) +
+                  QString::fromUtf8(kCredits));
     text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     NameControl(*text, "lblAbout", QStringLiteral("About Ruvenmark"));
     auto* close = new QPushButton(QStringLiteral("&Close"), this);

@@ -3,8 +3,8 @@
 #include "desktop/bind.h"
 #include "desktop/dialogs/dialog_parts.h"
 #include "desktop/dialogs/field_check.h"
+#include "links/import_form_rules.h"
 #include "links/link_forms.h"
-#include "links/station_files.h"
 #include "platform/services.h"
 
 #include <QFormLayout>

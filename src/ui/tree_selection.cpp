@@ -1,4 +1,4 @@
-#include "ui/selection.h"
+#include "ui/tree_selection.h"
 
 #include "platform/keyed_tree.h"
 
