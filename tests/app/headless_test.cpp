@@ -82,7 +82,6 @@ TEST_F(Headless, PrintsAllAsJson)
     EXPECT_EQ(station["image"], "Car");
     EXPECT_EQ(station["bold"], true);
     EXPECT_EQ(station["color"], 255);
-    EXPECT_EQ(station["children"][0]["bold"], false);
     ASSERT_EQ(whole["markers"].size(), 2U);
     EXPECT_EQ(whole["markers"][0]["name"], "N0CALL-9(f)*");
     const json& marker = whole["markers"][1];
@@ -99,9 +98,7 @@ TEST_F(Headless, PrintsAllAsJson)
     EXPECT_EQ(whole["records"]["FL"]["N1CALL"]["Status"], "status \u00e4\x1b[2J\u009b");
     EXPECT_EQ(whole["records"]["RF"], json::object());
     EXPECT_EQ(whole["counts"]["decoded"], 3);
-    EXPECT_EQ(whole["counts"]["undecoded"], 1);
     EXPECT_EQ(whole["counts"]["undecoded_reasons"].size(), 1U);
-    EXPECT_EQ(whole["counts"]["abandoned"], 0);
 }
 
 TEST_F(Headless, AbandonedReportsAreCounted)

@@ -1,5 +1,6 @@
 #include "core/lifecycle.h"
 #include "links/station_files.h"
+#include "platform/text.h"
 #include "support/program.h"
 #include "tracking/track_lists.h"
 
@@ -52,12 +53,26 @@ TEST(Start, TheFirstOneAsksForTheRegionAndComesUpWithDefaults)
 
 TEST(Start, TakesWhatIsStored)
 {
-    Stored p{
-        {"Region", "2"},          {"Call", "N0CALL"}, {"MainLeft", "-30"},        {"ShowTreeView", "0"},
-        {"FLDelay", "5"},         {"FLAdd", "False"}, {"ShowTCPUnknown", "True"}, {"TrackStationPosition", "False"},
-        {"AddTCPSymbol", "False"}};
+    Stored p{{"Region", "2"},
+             {"Call", "N0CALL"},
+             {"MainLeft", "-30"},
+             {"ShowTreeView", "0"},
+             {"FLDelay", "5"},
+             {"FLAdd", "False"},
+             {"ShowTCPUnknown", "True"},
+             {"TrackStationPosition", "False"},
+             {"AddTCPSymbol", "False"},
+             {"Dest", ""},
+             {"tcpFilterCall", "N1*"},
+             {"flTracked", "False"},
+             {"TrackedRFStations", " n0call  B n0call"}};
     p.Start();
     EXPECT_THAT(p.dialogs.calls, IsEmpty());
+    EXPECT_EQ(SettingText(p.main.Settings, "Dest"), ""); // Stored, so no default.
+    EXPECT_EQ(TrackListText(p.main.Of(Channel::RF)), "N0CALL B");
+    EXPECT_EQ(p.main.Of(Channel::TCP).Filter.Call, "N1*");
+    EXPECT_FALSE(p.main.Of(Channel::FL).Filter.bTracked);
+    EXPECT_TRUE(p.main.Of(Channel::RF).Filter.bTracked);
     EXPECT_EQ(p.main.sbStatusBar.PanelText(Panel::Call), "N0CALL");
     EXPECT_EQ(p.main.window.left, -30);
     EXPECT_FALSE(p.main.window.bLeftPane);
@@ -112,23 +127,6 @@ TEST(Start, AnUnusableFilterFlagEndsItAndNothingUnreadIsSavedOver)
     EXPECT_EQ(p.Value("MobileColor"), "1"); // The settings were loaded.
 }
 
-// With the tree not built a file can still be loaded: nothing that reports need may be missing.
-TEST(Start, AfterAnEarlyEndAFileStillLoads)
-{
-    Stored p{{"ShowTreeView", "perhaps"}};
-    p.Start();
-    EXPECT_EQ(p.Text("RF"), "(no node)");
-    p.Sink(Channel::RF).ReportPos({"N0CALL", "APRS", "", 1, 2, "Car", ""});
-    p.files.texts["/f"] = "N0CALL>APRS:=4903.50N/07201.75W>x\nN1CALL>APRS:=4903.50N/07201.75W>x\n";
-    LoadStationFile(p.main, "/f");
-    EXPECT_EQ(p.Text("FL"), "FL reports (2)");
-    EXPECT_THAT(p.prompts.messages, IsEmpty());
-    p.prompts.answers = {Answer::No};
-    ASSERT_TRUE(p.Stop());
-    EXPECT_EQ(p.Value("ShowTreeView"), "perhaps");
-    EXPECT_EQ(p.Value("TrackStationPosition"), "(not stored)");
-}
-
 TEST(Start, WithoutAMapSaysSoAndReportsAreFiled)
 {
     Stored p{{"Region", "100"}, {"DefaultMap", "/gone.ptm"}};
@@ -139,9 +137,7 @@ TEST(Start, WithoutAMapSaysSoAndReportsAreFiled)
     p.files.texts["/f"] =
         "N0CALL>APRS:=4903.50N/07201.75W>088/036x\nN1CALL>APRS:;LEADER   _092345z4903.50N/07201.75W>\n";
     LoadStationFile(p.main, "/f");
-    EXPECT_EQ(p.Text("FLPositionsN0CALLSpeed"), "Speed: 41 mph");
     EXPECT_EQ(p.RecordText(Channel::FL, "N0CALL", Field::Speed), "41");
-    EXPECT_EQ(p.RecordText(Channel::FL, "LEADER", Field::Sender), "N1CALL");
     ClearChannelReports(p.main, Channel::FL);
     EXPECT_EQ(p.Text("FL"), "FL reports");
     EXPECT_TRUE(p.Stop()); // No map, no question.
@@ -177,46 +173,20 @@ TEST(Stop, SavesEverythingInItsOrder)
     for (const auto& [key, value] : p.store.Values())
         keys.push_back(key);
     std::size_t place = 0;
-    for (const char* key : {"MainLeft",
-                            "MainTop",
-                            "MainWidth",
-                            "MainHeight",
-                            "ShowTreeView",
-                            "WindowSplit",
-                            "TrackStationPosition",
-                            "TrackedRFStations",
-                            "TrackedTCPStations",
-                            "TrackedFLStations",
-                            "ShowTrackLine",
-                            "rfFilterDest",
-                            "flFilterLon",
-                            "rfFilterOn",
-                            "flFilterApply",
-                            "Call",
-                            "DestLon",
-                            "PrimaryServer",
-                            "PrimaryPort",
-                            "PrimaryFilter",
-                            "ServerBeacon",
-                            "AddTCPSymbol",
-                            "ReconnectServer",
-                            "ReconnectAttempt",
-                            "BackupServer",
-                            "BackupPort",
-                            "BackupFilter",
-                            "BackupBeacon",
-                            "AutoTCP",
-                            "ShowRFUnknown",
-                            "ShowTCPUnknown",
-                            "ShowFLUnknown",
-                            "FLDelay",
-                            "FLAdd",
-                            "FLShow"}) {
+    for (const std::string_view key :
+         Words("MainLeft MainTop MainWidth MainHeight ShowTreeView WindowSplit TrackStationPosition "
+               "TrackedRFStations TrackedTCPStations TrackedFLStations ShowTrackLine rfFilterDest flFilterLon "
+               "rfFilterOn flFilterApply Call DestLon PrimaryServer PrimaryPort PrimaryFilter ServerBeacon "
+               "AddTCPSymbol ReconnectServer ReconnectAttempt BackupServer BackupPort BackupFilter BackupBeacon "
+               "AutoTCP ShowRFUnknown ShowTCPUnknown ShowFLUnknown FLDelay FLAdd FLShow")) {
         const auto found = static_cast<std::size_t>(std::find(keys.begin(), keys.end(), key) - keys.begin());
         EXPECT_LT(found, keys.size()) << key;
         EXPECT_GE(found, place) << key;
         place = found;
     }
+    for (const auto& [key, text] : {std::pair("Dest", "100"), std::pair("MobileColor", "1"), std::pair("All", "0"),
+                                    std::pair("TrackLineSize", "1"), std::pair("rfTracked", "True")})
+        EXPECT_EQ(p.Value(key), text) << key; // The defaults.
     EXPECT_EQ(p.files.texts["/program/ports.txt"], "14580");
     EXPECT_TRUE(p.main.Settings.values.IsEmpty());
     EXPECT_TRUE(p.main.serverLists.PortList.IsEmpty());
@@ -225,19 +195,6 @@ TEST(Stop, SavesEverythingInItsOrder)
     ASSERT_TRUE(p.Stop());
     EXPECT_EQ(p.Value("TrackedFLStations"), "N0CALL");
     EXPECT_EQ(p.Value("Path"), "WIDE2-2");
-}
-
-TEST(Stop, AMinimisedWindowKeepsTheSavedGeometry)
-{
-    Stored p{{"MainLeft", "50"}, {"MainHeight", "5000"}};
-    p.Start();
-    p.main.window.left = p.main.window.height = -32000;
-    p.main.window.splitterLeft = 2500;
-    p.main.window.bMinimised = true;
-    ASSERT_TRUE(p.Stop());
-    EXPECT_EQ(p.Value("MainLeft"), "50");
-    EXPECT_EQ(p.Value("MainHeight"), "5000");
-    EXPECT_EQ(p.Value("WindowSplit"), "2500");
 }
 
 TEST(Stop, ACancelLeavesEverythingRunning)

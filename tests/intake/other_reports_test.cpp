@@ -1,4 +1,3 @@
-#include "map/markers.h"
 #include "support/program.h"
 
 #include <gmock/gmock.h>
@@ -245,6 +244,7 @@ TEST_F(OtherReports, EveryKindPassesTheFilter)
     filter.Range = "10", filter.Lat = "1", filter.Lon = "2";
     filter.bApply = true; // Without a usable position: out.
     const auto raiseAll = [&](double lat) {
+        p.Position(Channel::RF, "N0CALL", lat, 2);
         Rf().ReportPosExt({.call = "N0CALL", .dest = "APRS", .lat = lat, .lon = 2, .altitude = 1});
         Rf().ReportDataExt({"N0CALL", "APRS", lat, 2, 1, 1, 1, ""});
         Rf().ReportStatus({"N0CALL", "APRS", "", lat, 2, "x"});
@@ -261,6 +261,7 @@ TEST_F(OtherReports, EveryKindPassesTheFilter)
     raisePlaceless();
     EXPECT_EQ(p.main.Of(Channel::RF).Stations.Count(), 0U);
     EXPECT_EQ(p.Text("RF"), "RF reports");
+    EXPECT_THAT(p.MarkerNames(), IsEmpty());
     raiseAll(1);
     EXPECT_EQ(p.Text("RF"), "RF reports (3)");
     EXPECT_EQ(Recorded(Field::Info), "(not set)");

@@ -96,22 +96,6 @@ TEST(ReportPos, AnUntrackedStationMovesAtOnceAndLeavesNothingBehind)
     EXPECT_THAT(pin.Note(), testing::EndsWith("50°, 12°"));
 }
 
-TEST(ReportPos, ARejectedReportChangesNothingAtAll)
-{
-    Program p;
-    p.main.Of(Channel::RF).Filter.bOn = true;
-    p.main.Of(Channel::RF).Filter.Reject = "N0CALL";
-    const std::size_t nodes = p.Tree().NodeCount();
-    p.Hear(Channel::RF, "N0CALL>APRS:=4903.50N/07201.75W>088/036/A=001000test");
-    EXPECT_EQ(p.Tree().NodeCount(), nodes);
-    EXPECT_THAT(p.MarkerNames(), IsEmpty());
-    EXPECT_EQ(p.main.Of(Channel::RF).Stations.Count(), 0U);
-    EXPECT_EQ(p.Text("RF"), "RF reports");
-    p.main.Of(Channel::RF).Filter.bOn = false; // The lists alone do nothing.
-    p.Hear(Channel::RF, "N0CALL>APRS:=4903.50N/07201.75W>test");
-    EXPECT_EQ(p.Text("RF"), "RF reports (1)");
-}
-
 // Whatever fails on the map, the tree and the record are written.
 TEST(ReportPos, AMapFailureLeavesTreeAndRecord)
 {
@@ -268,31 +252,6 @@ TEST_F(Movement, OnlyAMovingStationIsColoured)
     SetSetting(p.main.Settings, "MobileColor", "8"); // Outside the table.
     Ext({.speed = 5});
     EXPECT_EQ(Color(), 0U);
-}
-
-// The first failure ends the handler: what was written stays, the record is not reached.
-TEST_F(Movement, AnUnusableColourEndsTheReportAfterItsNodes)
-{
-    SetSetting(p.main.Settings, "MobileColor", "red");
-    Ext({.speed = 5});
-    EXPECT_EQ(Fact("Speed"), "Speed: 6 mph");
-    EXPECT_EQ(p.RecordText(Channel::TCP, "N0CALL", Field::Speed), "(no record)");
-    EXPECT_EQ(p.main.abandoned.Count(), 1U);
-}
-
-TEST(PacketRoad, APacketWithEverythingArrivesWhole)
-{
-    Program p;
-    p.Hear("N0CALL-9>APRS,WIDE1-1:@092345z4903.50N/07201.75W>088/036/A=001234hi");
-    EXPECT_EQ(p.Text("FLPositionsN0CALL-9Altitude"), "Altitude: 1234 feet");
-    EXPECT_EQ(p.Text("FLPositionsN0CALL-9Speed"), "Speed: 41 mph");
-    EXPECT_EQ(p.Text("FLPositionsN0CALL-9Course"), "Course: 88°");
-    EXPECT_EQ(p.Text("FLPositionsN0CALL-9Time"), "(DHM)09:23:45 UTC");
-    EXPECT_EQ(p.Text("FL"), "FL reports (1)");
-    EXPECT_THAT(p.Note("N0CALL-9(f)"), testing::HasSubstr("\r\n1234 ft, 41 mph, 88°"));
-    p.Hear("N0CALL-9>APRS:!4903.50N/07201.75W#PHG5132");
-    EXPECT_EQ(p.Text("FLPositionsN0CALL-9Power"), "Power: 25 watts");
-    EXPECT_TRUE(p.main.Of(Channel::FL).StationRanges.Contains("N0CALL-9"));
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "links/import_form_rules.h"
 #include "links/station_files.h"
-#include "platform/failure.h"
 #include "support/program.h"
 
 #include <gmock/gmock.h>
@@ -79,14 +78,6 @@ TEST_F(StationFiles, NoLinesSayNothingAndNoFileFails)
     EXPECT_EQ(p.prompts.messages.size(), 2U);
 }
 
-TEST_F(StationFiles, BlankLinesOfBlanksMakeNoNodes)
-{
-    p.main.Of(Channel::FL).bShowUnknown = true;
-    Load("   \r\n?\r\n  \r\n");
-    EXPECT_THAT(p.ChildTexts("FLUnknown"), ElementsAre("?"));
-    EXPECT_EQ(p.Image("FLUnknown"), "Unknown");
-}
-
 TEST_F(StationFiles, AStopKeepsWhatWasParsed)
 {
     p.yield.At(2, [&] { mnuImportStations_Click(p.main); });
@@ -127,37 +118,6 @@ TEST_F(StationFiles, AnythingMayHappenInAYield)
     EXPECT_THAT(p.prompts.messages, IsEmpty());
 }
 
-TEST_F(StationFiles, ADroppedSourceEndsTheLoad)
-{
-    p.yield.At(2, [&] { p.main.aprsfl.reset(); });
-    Load(FourLines());
-    EXPECT_THAT(Stations(), ElementsAre("A", "B"));
-    EXPECT_THAT(p.prompts.messages, IsEmpty());
-}
-
-TEST_F(StationFiles, AFailureInAYieldEndsTheLoadWithTheMessage)
-{
-    p.yield.At(2, [] { throw Failure("something"); });
-    Load(FourLines());
-    EXPECT_THAT(Stations(), ElementsAre("A", "B"));
-    EXPECT_THAT(p.prompts.messages, ElementsAre(kFailed));
-}
-
-TEST_F(StationFiles, ClosingDuringALoadStopsItAndSaves)
-{
-    p.prompts.answers = {Answer::No};
-    bool bStopped = false;
-    p.yield.At(2, [&] {
-        bStopped = StopMainWindow(p.main);
-        EXPECT_FALSE(p.main.FileLoading);
-    });
-    Load(FourLines());
-    EXPECT_TRUE(bStopped);
-    EXPECT_THAT(Stations(), ElementsAre("A", "B"));
-    EXPECT_EQ(p.store.Get("FLDelay", ""), "0");
-    EXPECT_THAT(p.prompts.messages, IsEmpty());
-}
-
 TEST_F(StationFiles, TheMenuAsksForFileAndOptions)
 {
     p.files.texts["/day.txt"] = FourLines();
@@ -176,25 +136,10 @@ TEST_F(StationFiles, TheMenuAsksForFileAndOptions)
     p.dialogs.onImport = [](MainWindow& main) {
         frmImport_Load(main.frmImport);
         EXPECT_EQ(main.frmImport.txtDelay, "0"); // A former cancel shows as none.
-        main.frmImport.txtDelay = "";
-        main.frmImport.chkShow = false;
         frmImport_Accept(main.frmImport);
     };
     mnuLoadStations_Click(p.main);
-    EXPECT_EQ(p.main.frmImport.iFLDelay, 0);
     EXPECT_EQ(p.Text("FL"), "FL reports (4)");
-    EXPECT_EQ(p.Marker("A(f)")->BalloonState(), 0);
-}
-
-TEST_F(StationFiles, TheDelayFieldTakesNonNegativeNumbers)
-{
-    constexpr const char* kMessage = "Enter a non negative number for delay!";
-    for (const auto& [text, message] :
-         {std::pair("", ""), std::pair("0", ""), std::pair(" 250 ", ""), std::pair("-1", kMessage),
-          std::pair("32768", kMessage), std::pair("soon", kMessage)}) {
-        p.main.frmImport.txtDelay = text;
-        EXPECT_EQ(frmImport_txtDelay_LostFocus(p.main.frmImport), message) << text;
-    }
 }
 
 } // namespace

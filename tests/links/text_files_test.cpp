@@ -35,17 +35,6 @@ TEST(Records, AreTheUsedLinesSplitAtTheDelimiter)
     EXPECT_THAT(ReadRecords(files, "/missing", ":"), IsEmpty());
 }
 
-TEST(Records, ComeBackAsTheyWereWritten)
-{
-    MemoryFiles files;
-    const TextTable table = {{"a", "", "b\xff"}, {"c"}, {"", "d"}};
-    WriteRecords(files, table, "/f", "\t");
-    EXPECT_EQ(files.texts["/f"], "a\t\tb\xff\r\nc\r\n\td"); // No end behind the last line.
-    EXPECT_EQ(ReadRecords(files, "/f", "\t"), table);
-    files.FailWrite(1);
-    EXPECT_THROW(WriteRecords(files, table, "/f", "\t"), Failure);
-}
-
 std::vector<std::string> Keys(const Dictionary<std::string>& list)
 {
     std::vector<std::string> keys;
@@ -88,19 +77,6 @@ TEST(ServerLists, AFileThatCannotBeWrittenCostsNothingElse)
     EXPECT_EQ(p.store.Get("PrimaryServer", ""), "a");
     EXPECT_EQ(p.store.Get("FLDelay", ""), "3");
     EXPECT_EQ(p.main.abandoned.Count(), 1U);
-}
-
-TEST(ServerLists, AnUnusablePortIsNotSavedOver)
-{
-    Program p(false);
-    p.store.Set("PrimaryPort", "99999"); // No 16-bit number.
-    p.store.Set("AutoTCP", "True");
-    p.files.texts["/program/servers.txt"] = "a:1";
-    StartMainWindow(p.main);
-    ASSERT_TRUE(StopMainWindow(p.main));
-    EXPECT_EQ(p.store.Get("PrimaryPort", ""), "99999");
-    EXPECT_EQ(p.store.Get("AutoTCP", ""), "True");
-    EXPECT_EQ(p.files.texts["/program/servers.txt"], "a:1");
 }
 
 } // namespace

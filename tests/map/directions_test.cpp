@@ -21,16 +21,6 @@ TEST(Directions, TellDistanceAndBearingsOfTheGreatCircle)
     EXPECT_NE(text.find("Back bearing: 288° (WNW)"), std::string::npos) << text;
 }
 
-TEST(Directions, CompassPointsAreSixteenAndGoRound)
-{
-    EXPECT_EQ(CompassPoint(0), "N");
-    EXPECT_EQ(CompassPoint(11.2), "N");
-    EXPECT_EQ(CompassPoint(11.3), "NNE");
-    EXPECT_EQ(CompassPoint(270), "W");
-    EXPECT_EQ(CompassPoint(348.8), "N");
-    EXPECT_EQ(CompassPoint(359.9), "N");
-}
-
 TEST(Directions, EndsAreStationsMarkersOrPoints)
 {
     Program program;
@@ -49,14 +39,6 @@ TEST(Directions, EndsAreStationsMarkersOrPoints)
     EXPECT_TRUE(program.main.map.directions[0]);
     EXPECT_TRUE(SetDirectionsEnd(program.main, 0, ""));
     EXPECT_FALSE(program.main.map.directions[0]);
-}
-
-TEST(Directions, TheSamePointTwiceHasNoBearing)
-{
-    Program program;
-    SetDirectionsEnd(program.main, 0, "40, -80");
-    SetDirectionsEnd(program.main, 1, "40, -80");
-    EXPECT_EQ(DirectionsText(program.main), "From: 40, -80\r\nTo: 40, -80\r\nDistance: 0 miles (0 km)");
 }
 
 } // namespace

@@ -51,17 +51,6 @@ TEST_F(Documents, OpenBringsBackWhatWasSaved)
     EXPECT_TRUE(program.prompts.questions.empty());
 }
 
-TEST_F(Documents, ANewMapKeepsTheFourToolBars)
-{
-    for (const std::int32_t index : {1, 3})
-        ToggleMapToolbar(program.main, index);
-    Run(MenuEntry::mnuFileNew);
-    EXPECT_TRUE(program.main.mpCtrl.ToolbarVisible(1));
-    EXPECT_TRUE(program.main.mpCtrl.ToolbarVisible(2));
-    EXPECT_FALSE(program.main.mpCtrl.ToolbarVisible(3));
-    EXPECT_FALSE(program.main.mpCtrl.ToolbarVisible(4));
-}
-
 TEST_F(Documents, CancelInTheQuestionLeavesEverything)
 {
     Mark();
@@ -153,7 +142,7 @@ TEST_F(Documents, ARegionIsKeptAtOnceAndMakesANewMapOnlyWhereItIsAnother)
     EXPECT_EQ(program.store.Get("Region", ""), "2");
 }
 
-TEST_F(Documents, PrintsWhatTheDialogGives)
+TEST_F(Documents, PrintsWhatTheDialogGivesAndCopiesThePicture)
 {
     Run(MenuEntry::mnuFilePrint);
     EXPECT_TRUE(program.desktop.prints.empty());
@@ -161,7 +150,8 @@ TEST_F(Documents, PrintsWhatTheDialogGives)
     Run(MenuEntry::mnuFilePrint);
     ASSERT_EQ(program.desktop.prints.size(), 1U);
     EXPECT_EQ(program.desktop.prints[0].copies, 3);
-    EXPECT_TRUE(program.desktop.prints[0].bLandscape);
+    Run(MenuEntry::mnuCopyMap);
+    EXPECT_EQ(program.desktop.mapPictures, 1);
 }
 
 } // namespace

@@ -1,4 +1,3 @@
-#include "map/directions.h"
 #include "map/edit_commands.h"
 #include "map/selection.h"
 #include "platform/map_document.h"
@@ -111,18 +110,6 @@ TEST_F(EditCommands, OtherTextsAreNotPasted)
         EXPECT_TRUE(program.MarkerNames().empty());
     }
     EXPECT_TRUE(program.main.abandoned.IsEmpty());
-}
-
-TEST_F(EditCommands, CopiesThePictureAndTheDirections)
-{
-    Run(MenuEntry::mnuCopyMap);
-    EXPECT_EQ(program.desktop.mapPictures, 1);
-    Run(MenuEntry::mnuCopyDirections);
-    EXPECT_EQ(program.desktop.clipboard, "");
-    SetDirectionsEnd(program.main, 0, "40, -80");
-    SetDirectionsEnd(program.main, 1, "41, -80");
-    Run(MenuEntry::mnuCopyDirections);
-    EXPECT_EQ(program.desktop.clipboard, DirectionsText(program.main));
 }
 
 } // namespace

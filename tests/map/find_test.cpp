@@ -13,18 +13,6 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-class SomePlaces final : public IPlaceSearch {
-public:
-    std::size_t count = 0;
-    std::vector<FoundPlace> Search(std::string_view text, std::size_t limit) const override
-    {
-        std::vector<FoundPlace> found;
-        for (std::size_t i = 0; i < std::min(count, limit); ++i)
-            found.push_back({FoundPlace::Kind::Place, std::string(text) + " town", "", {50, 10}, "", Channel::RF});
-        return found;
-    }
-};
-
 Texts NamesOf(const std::vector<FoundPlace>& places)
 {
     Texts names;
@@ -41,7 +29,7 @@ protected:
     }
 
     Program program;
-    SomePlaces places;
+    FakePlaces places;
 };
 
 TEST_F(Finding, StationsOfAllChannelsBeginningsFirst)
@@ -76,13 +64,13 @@ TEST_F(Finding, NeitherStationsNorPlacesCrowdTheOthersOut)
 {
     for (int i = 0; i < 30; ++i)
         program.Position(Channel::RF, "DEN" + std::to_string(i), 40, -80);
-    places.count = 30;
+    places.names.assign(30, "Den town");
     const auto both = Names("den", 10);
     EXPECT_EQ(both.size(), 10U);
-    EXPECT_EQ(std::count(both.begin(), both.end(), "den town"), 5);
-    places.count = 2;
-    EXPECT_EQ(Names("den", 10)[7], "DEN7(r)");
-    EXPECT_EQ(Names("paris", 10), (Texts{"paris town", "paris town"}));
+    EXPECT_EQ(std::count(both.begin(), both.end(), "Den town"), 5);
+    places.names = {"Den Haag", "Paris"};
+    EXPECT_EQ(Names("den", 10)[8], "DEN8(r)");
+    EXPECT_EQ(Names("paris", 10), Texts{"Paris"});
 }
 
 TEST_F(Finding, GoesThereAndSelectsWhatItFound)
@@ -104,18 +92,6 @@ TEST_F(Finding, GoesThereAndSelectsWhatItFound)
     GoToFound(program.main, found[0]);
     EXPECT_EQ(program.TheMap().View().zoom, 14);
     EXPECT_EQ(KindOfSelection(program.main), SelectionKind::Nothing);
-}
-
-TEST_F(Finding, FindAndDirectionsBringTheMapToTheFront)
-{
-    mnuRuvenmarkHelp_Click(program.main);
-    mnuFind_Click(program.main);
-    EXPECT_EQ(program.main.window.rightView, RightView::Map);
-    EXPECT_EQ(program.dialogs.calls, Texts{"ShowFind"});
-    mnuDirections_Click(program.main);
-    EXPECT_TRUE(program.main.mpCtrl.ItineraryVisible());
-    mnuDirections_Click(program.main);
-    EXPECT_FALSE(program.main.mpCtrl.ItineraryVisible());
 }
 
 } // namespace

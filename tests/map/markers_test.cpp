@@ -1,3 +1,4 @@
+#include "devices/symbol_words.h"
 #include "map/marker_names.h"
 #include "map/markers.h"
 #include "map/symbols.h"
@@ -8,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <string>
 
 namespace ruvenmark {
 namespace {
@@ -15,20 +17,6 @@ namespace {
 using testing::ElementsAre;
 using testing::Pair;
 using testing::UnorderedElementsAre;
-
-TEST(MarkerName, TellsStationAndChannel)
-{
-    EXPECT_EQ(MarkerName("", "N0CALL"), "N0CALL");
-    EXPECT_EQ(MarkerName("RF", "N0CALL"), "N0CALL(r)");
-    EXPECT_EQ(MarkerName("FL", " n0call"), " n0call(f)");
-    EXPECT_EQ(MarkerName("Club", "N0CALL"), "N0CALL(Club)");
-    EXPECT_EQ(MarkerName("rf", "N0CALL"), "N0CALL(rf)"); // The words are exact.
-    EXPECT_EQ(TrackPointName("TCP", "N0CALL"), "N0CALL(t)*");
-    EXPECT_EQ(TrackPointName("", "N0CALL"), "N0CALL*");
-    EXPECT_EQ(CallOfMarkerName("N0CALL(t)*"), "N0CALL");
-    EXPECT_EQ(CallOfMarkerName("N0CALL"), "N0CALL");
-    EXPECT_EQ(CallOfMarkerName("(odd(r)"), "");
-}
 
 Record RecordOf(std::initializer_list<std::pair<Field, const char*>> fields)
 {
@@ -246,6 +234,20 @@ TEST(MarkerWalk, IsNothingOnAnEmptyMap)
     EXPECT_EQ(p.TheMap().RecordCount(), 0);
     EXPECT_GT(changes, 0);
     EXPECT_FALSE(p.main.sbStatusBar.IsWaitPointer());
+}
+
+// A word that the report source makes up, or one misspelled on either side, would be drawn as nothing in particular.
+TEST(SymbolId, KnowsEveryWordOfTheReportSource)
+{
+    std::map<std::string, int, std::less<>> seen;
+    for (const char table : {'/', '\\', '1', 'A'}) {
+        for (char code = '!'; code <= '~'; ++code) {
+            const std::string word(SymbolWord({table, code}));
+            ++seen[word];
+            EXPECT_EQ(SymbolId(word) == 1, word == "Default") << word << " of " << table << code;
+        }
+    }
+    EXPECT_GT(seen.size(), 45U);
 }
 
 } // namespace

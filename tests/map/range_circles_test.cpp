@@ -41,14 +41,6 @@ protected:
     Program p;
 };
 
-TEST_F(RangeCircles, TheRangeFollowsPowerHeightAndGain)
-{
-    EXPECT_NEAR(StationRange(50, 20, 3), 9.4518, 0.0001);
-    EXPECT_EQ(StationRange(0, 20, 3), 0);
-    EXPECT_EQ(StationRange(50, 0, 3), 0);
-    EXPECT_GT(StationRange(50, 20, 9), StationRange(50, 20, 3));
-}
-
 TEST_F(RangeCircles, ShowTwiceLeavesOneCircleAtTheMarker)
 {
     Station(Channel::RF, "N0CALL");
@@ -75,6 +67,12 @@ TEST_F(RangeCircles, ShowTwiceLeavesOneCircleAtTheMarker)
     EXPECT_THAT(Circles(), IsEmpty());
     mnuHideRange_Click(p.main);
     EXPECT_TRUE(p.main.abandoned.IsEmpty());
+    mnuShowRange_Click(p.main);
+    p.main.mpCtrl.NewMap(kRegionEurope); // The circle is dead now.
+    mnuShowRange_Click(p.main);
+    EXPECT_EQ(Circles().size(), 1U);
+    mnuHideAllRangeCircles_Click(p.main);
+    EXPECT_THAT(Circles(), IsEmpty());
 }
 
 TEST_F(RangeCircles, NoRangeOrNoPositionDrawsNothing)
@@ -92,25 +90,6 @@ TEST_F(RangeCircles, NoRangeOrNoPositionDrawsNothing)
     EXPECT_THAT(Circles(), IsEmpty());
     EXPECT_FALSE(p.Marker("N0CALL(r)"));
     EXPECT_THAT(p.prompts.messages, IsEmpty());
-}
-
-// The circles of a former map are dead; commands go on past them.
-TEST_F(RangeCircles, OutliveTheirMapWithoutHarm)
-{
-    for (const Channel channel : {Channel::RF, Channel::TCP}) {
-        Station(channel, "N0CALL");
-        p.Select(std::string(Traits(channel).word) + "PositionsN0CALL");
-        mnuShowRange_Click(p.main);
-    }
-    p.main.mpCtrl.NewMap(kRegionEurope);
-    mnuShowRange_Click(p.main); // TCP: a new circle takes the place of the dead one.
-    EXPECT_EQ(Circles().size(), 1U);
-    EXPECT_EQ(p.Marker("N0CALL(t)")->BalloonState(), 1); // Its marker is made anew.
-    p.main.map.MyRangeCircle = p.TheMap().AddShape(kShapeRadiusCircle, p.TheMap().GetLocation(1, 2), 3, 3);
-    mnuHideAllRangeCircles_Click(p.main);
-    EXPECT_EQ(Circles().size(), 1U); // The own one stays.
-    for (const ChannelState& state : p.main.channels)
-        EXPECT_TRUE(state.RangeCircles.IsEmpty());
 }
 
 TEST_F(RangeCircles, TheOwnCircleFollowsTheSettings)

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <random>
-
 namespace ruvenmark {
 namespace {
 
@@ -35,35 +32,6 @@ TEST(Geometry, BearingsAreClockwiseFromNorth)
     EXPECT_NEAR(InitialBearing({0, 179.5}, {0, -179.5}), 90, 1e-9);
     EXPECT_NEAR(InitialBearing(kLondon, kNewYork), 288.3, 0.1);
     EXPECT_LT(InitialBearing({0, 0}, {1, -1e-18}), 360); // A hair west of north.
-}
-
-TEST(Geometry, PixelsComeBackAlsoAcrossThe180thMeridian)
-{
-    std::mt19937 random(5);
-    const auto between = [&](double low, double high) { return std::uniform_real_distribution(low, high)(random); };
-    for (int i = 0; i < 2000; ++i) {
-        MapView view;
-        view.centre = {between(-80, 80), i % 2 == 0 ? between(-180, 180) : between(179.9, 180)};
-        view.zoom = between(1, 19);
-        const PixelPoint pixel{between(0, view.width), between(0, view.height)};
-        const bool bOnTheWorld = std::abs(ToMercator(view.centre).y - 0.5 + (pixel.y - 300) / view.WorldPixels()) < 0.5;
-        const GeoPoint point = FromPixel(view, pixel);
-        EXPECT_LE(std::abs(point.lat), 90);
-        EXPECT_LE(std::abs(point.lon), 180);
-        if (!bOnTheWorld || view.WorldPixels() < view.width)
-            continue;
-        const PixelPoint back = ToPixel(view, point);
-        EXPECT_NEAR(back.x, pixel.x, 1e-5);
-        EXPECT_NEAR(back.y, pixel.y, 1e-5);
-    }
-}
-
-TEST(Geometry, ThePolesFallOnTheEdges)
-{
-    EXPECT_NEAR(ToMercator({90, 0}).y, 0, 1e-9);
-    EXPECT_NEAR(ToMercator({-90, 0}).y, 1, 1e-9);
-    EXPECT_NEAR(ToMercator({0, -180}).x, 0, 1e-12);
-    EXPECT_NEAR(FromMercator({1, 0.5}).lon, 180, 1e-9);
 }
 
 } // namespace

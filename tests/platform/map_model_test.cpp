@@ -35,27 +35,6 @@ private:
     }
 };
 
-TEST_F(MapModel, FindGivesTheOldestOfEqualNames)
-{
-    Pushpin first = Add("A");
-    Pushpin second = Add("A");
-    Pushpin third = Add("B");
-    EXPECT_EQ(TheMap().FindPushpin("A"), first);
-    EXPECT_FALSE(TheMap().FindPushpin("a"));
-
-    third.SetName("A"); // The newest of the three.
-    first.Delete();
-    EXPECT_EQ(TheMap().FindPushpin("A"), second);
-    second.SetName("B");
-    EXPECT_EQ(TheMap().FindPushpin("A"), third);
-    third.SetName("B"); // Younger than the second, which keeps its place.
-    EXPECT_EQ(TheMap().FindPushpin("B"), second);
-    second.SetName("C");
-    second.SetName("B"); // Comes back in front.
-    EXPECT_EQ(TheMap().FindPushpin("B"), second);
-    EXPECT_FALSE(TheMap().FindPushpin("A"));
-}
-
 TEST_F(MapModel, NamesFollowRandomEditsAsTheNaiveModelHasThem)
 {
     std::mt19937 random(3);
@@ -200,20 +179,6 @@ TEST(MapControl, BeforeTheFirstMapThereIsNone)
     EXPECT_EQ(control.ActiveMap(), nullptr);
     EXPECT_THROW(control.ToolbarVisible(0), Failure);
     EXPECT_THROW(control.SetToolbarVisible(5, true), Failure);
-}
-
-TEST(MapControl, TellsRealChangesOnly)
-{
-    MemoryFiles files;
-    MapControl control(files);
-    int told = 0;
-    const auto observing = control.ControlChanged.Observe([&] { ++told; });
-    control.SetToolbarVisible(1, true);
-    control.SetToolbarVisible(1, true);
-    control.SetMousePointer(kPointerCross);
-    control.SetMousePointer(kPointerCross);
-    control.SetItineraryVisible(false);
-    EXPECT_EQ(told, 2);
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "platform/headless.h"
 #include "platform/services.h"
-#include "platform/status_bar.h"
 #include "support/doubles.h"
 
 #include <gtest/gtest.h>
@@ -10,41 +9,6 @@
 
 namespace ruvenmark {
 namespace {
-
-TEST(StatusBar, TellsRealChangesOnly)
-{
-    StatusBar bar;
-    int told = 0;
-    const auto observing = bar.Changed.Observe([&] { ++told; });
-    bar.SetPanel(Panel::Call, "N0CALL");
-    bar.SetPanel(Panel::Call, "N0CALL");
-    bar.SetPanel(Panel::Tnc, "");
-    bar.SetPacketLine("x");
-    bar.SetPacketLine("x");
-    bar.SetCoordinates("");
-    bar.SetWaitPointer(false);
-    EXPECT_EQ(told, 2);
-    EXPECT_EQ(bar.PanelText(Panel::Call), "N0CALL");
-    EXPECT_EQ(bar.PanelText(Panel::Server), "");
-}
-
-TEST(StatusBar, ProgressStartsAndEndsAtNothing)
-{
-    StatusBar bar;
-    int told = 0;
-    const auto observing = bar.Changed.Observe([&] { ++told; });
-    bar.ShowProgress();
-    bar.SetProgress(40);
-    bar.SetProgress(40);
-    bar.SetProgress(1000);
-    EXPECT_EQ(bar.Progress(), 100);
-    EXPECT_TRUE(bar.IsProgressVisible());
-    bar.HideProgress();
-    bar.HideProgress();
-    EXPECT_FALSE(bar.IsProgressVisible());
-    EXPECT_EQ(bar.Progress(), 0);
-    EXPECT_EQ(told, 4);
-}
 
 TEST(Clocks, ShowLocalTimeInOneForm)
 {
@@ -57,11 +21,6 @@ TEST(Clocks, ShowLocalTimeInOneForm)
     ASSERT_TRUE(end && *end == '\0') << text;
     EXPECT_EQ(text.size(), 19U);
     EXPECT_NEAR(static_cast<double>(::timegm(&shown)), static_cast<double>(std::time(nullptr)) + 7200, 2);
-
-    FakeClock fake;
-    EXPECT_EQ(fake.LocalNowText(), "2026-11-22 20:15:03");
-    fake.Advance(std::chrono::hours(24 * 40) - std::chrono::seconds(4));
-    EXPECT_EQ(fake.LocalNowText(), "2027-01-01 20:14:59");
 }
 
 TEST(HeadlessPrompts, PrintsWithTheHarmlessAnswerAndKeepsTheMessages)

@@ -3,41 +3,10 @@
 
 #include <gtest/gtest.h>
 
-#include <random>
-
 namespace ruvenmark {
 namespace {
 
 constexpr const char* kPath = "settings.ini";
-
-std::string RandomBytes(std::mt19937& random)
-{
-    std::string bytes;
-    for (auto length = random() % 12; length > 0; --length)
-        bytes += random() % 3 == 0 ? " =[]#;\\\n\rx0"[random() % 11] : static_cast<char>(random());
-    return bytes;
-}
-
-TEST(FileSettingsStore, KeysAndValuesComeBackByteForByte)
-{
-    std::mt19937 random(2);
-    MemoryFiles files;
-    MemorySettingsStore expected;
-    FileSettingsStore store(files, kPath);
-    for (int i = 0; i < 3000; ++i) {
-        const std::string key = RandomBytes(random);
-        const std::string value = RandomBytes(random);
-        expected.Set(key, value);
-        store.Set(key, value);
-    }
-    ASSERT_TRUE(store.Flush());
-    const FileSettingsStore again(files, kPath);
-    for (const auto& [key, value] : expected.Values()) {
-        ASSERT_EQ(store.Get(key, "default"), value);
-        ASSERT_EQ(again.Get(key, "default"), value);
-    }
-    EXPECT_EQ(again.Get("no such key", "default"), "default");
-}
 
 TEST(FileSettingsStore, IsTextThatPersonsMayEdit)
 {
@@ -82,17 +51,6 @@ TEST(FileSettingsStore, AFileThatCannotBeReadIsNotWrittenOver)
     EXPECT_EQ(store.Get("a", "default"), "2");
     EXPECT_FALSE(store.Flush());
     EXPECT_EQ(files.texts[kPath], "[Settings]\na=1\n");
-}
-
-TEST(FileSettingsStore, DamageCostsNoMoreThanItsLine)
-{
-    MemoryFiles files;
-    files.texts[kPath] =
-        "[Settings]\na=1\n" + std::string(3, '\0') + "\xFF garbage\n=\n[broken\n[]\nlost=1\n[Settings]\nb=\\x\n";
-    const FileSettingsStore store(files, kPath);
-    EXPECT_EQ(store.Get("a", ""), "1");
-    EXPECT_EQ(store.Get("b", ""), "\\x");
-    EXPECT_EQ(store.Get("lost", "none"), "none");
 }
 
 TEST(OverlaySettingsStore, HoldsForThisRunUntilSet)

@@ -4,9 +4,8 @@
 #include "platform/files.h"
 #include "platform/services.h"
 
-#include <array>
 #include <chrono>
-#include <cstdio>
+#include <ctime>
 #include <deque>
 #include <functional>
 #include <map>
@@ -24,15 +23,9 @@ class FakeClock final : public IClock {
 public:
     std::string_view LocalNowText() override
     {
-        const auto day = std::chrono::floor<std::chrono::days>(m_now);
-        const std::chrono::year_month_day date(day);
-        const std::chrono::hh_mm_ss time(m_now - day);
-        std::array<char, 64> text{};
-        std::snprintf(text.data(), text.size(), "%04d-%02u-%02u %02d:%02d:%02d", static_cast<int>(date.year()),
-                      static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                      static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),
-                      static_cast<int>(time.seconds().count()));
-        m_text = text.data();
+        const std::time_t seconds = m_now.time_since_epoch().count();
+        m_text.resize(19);
+        std::strftime(m_text.data(), m_text.size() + 1, "%Y-%m-%d %H:%M:%S", std::gmtime(&seconds));
         return m_text;
     }
     void Advance(std::chrono::seconds seconds) { m_now += seconds; }

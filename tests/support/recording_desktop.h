@@ -2,7 +2,9 @@
 
 #include "core/desktop.h"
 #include "core/dialogs.h"
+#include "map/find.h"
 #include "platform/map_model.h"
+#include "platform/text.h"
 
 #include <functional>
 #include <optional>
@@ -65,6 +67,21 @@ public:
     {
         pages.emplace_back(url);
         return true;
+    }
+};
+
+// A gazetteer of the places that the test sets.
+class FakePlaces final : public IPlaceSearch {
+public:
+    std::vector<std::string> names = {"Springfield", "Springdale"};
+
+    std::vector<FoundPlace> Search(std::string_view text, std::size_t limit) const override
+    {
+        std::vector<FoundPlace> found;
+        for (const std::string& name : names)
+            if (found.size() < limit && CompareIgnoringCase(std::string_view(name).substr(0, text.size()), text) == 0)
+                found.push_back({FoundPlace::Kind::Place, name, "Illinois", {39.8, -89.6}, {}, {}});
+        return found;
     }
 };
 

@@ -1,13 +1,13 @@
-#include "map/region_form.h"
-#include "platform/text.h"
 #include "support/program.h"
 #include "tracking/filter_form_rules.h"
+#include "tracking/filters.h"
 #include "tracking/track_list_form_rules.h"
 #include "tracking/track_lists.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace ruvenmark {
@@ -22,30 +22,23 @@ ReportFilter& Fields(Program& program, Channel channel)
 
 TEST(FilterForm, ChecksWhatAFieldHoldsWhenItIsLeft)
 {
-    struct Case {
-        FilterField field;
-        std::string ReportFilter::*member;
-        const char* text;
-        const char* message;
-    };
-    const std::vector<Case> cases = {
-        {FilterField::Lat, &ReportFilter::Lat, "", ""},
-        {FilterField::Lat, &ReportFilter::Lat, "-90", ""},
-        {FilterField::Lat, &ReportFilter::Lat, "90.0001", "Enter a value between -90 and 90 for latitude!"},
-        {FilterField::Lat, &ReportFilter::Lat, "north", ""},
-        {FilterField::Lon, &ReportFilter::Lon, "180", ""},
-        {FilterField::Lon, &ReportFilter::Lon, "-180.5", "Enter a value between -180 and 180 for longitude!"},
-        {FilterField::Range, &ReportFilter::Range, "0", ""},
-        {FilterField::Range, &ReportFilter::Range, "100000", ""},
-        {FilterField::Range, &ReportFilter::Range, "-1", "Enter a positive number for range!"},
-    };
+    constexpr const char* kLat = "Enter a value between -90 and 90 for latitude!";
+    constexpr const char* kLon = "Enter a value between -180 and 180 for longitude!";
     for (const Channel channel : kChannels) {
-        for (const Case& test : cases) {
+        for (const auto& [field, member, typed, message] :
+             {std::tuple(FilterField::Lat, &ReportFilter::Lat, "", ""),
+              std::tuple(FilterField::Lat, &ReportFilter::Lat, "-90", ""),
+              std::tuple(FilterField::Lat, &ReportFilter::Lat, "90.0001", kLat),
+              std::tuple(FilterField::Lat, &ReportFilter::Lat, "north", ""),
+              std::tuple(FilterField::Lon, &ReportFilter::Lon, "180", ""),
+              std::tuple(FilterField::Lon, &ReportFilter::Lon, "-180.5", kLon),
+              std::tuple(FilterField::Range, &ReportFilter::Range, "0", ""),
+              std::tuple(FilterField::Range, &ReportFilter::Range, "-1", "Enter a positive number for range!")}) {
             FilterForm form;
-            std::string& text = form.fields[static_cast<std::size_t>(channel)].*test.member;
-            text = test.text;
-            EXPECT_EQ(frmFilter_LostFocus(form, channel, test.field), test.message) << test.text;
-            EXPECT_EQ(text, *test.message != '\0' ? "" : test.text);
+            std::string& text = form.fields[static_cast<std::size_t>(channel)].*member;
+            text = typed;
+            EXPECT_EQ(frmFilter_LostFocus(form, channel, field), message) << typed;
+            EXPECT_EQ(text, *message != '\0' ? "" : typed);
         }
     }
 }
@@ -68,10 +61,8 @@ TEST(FilterForm, SavesUpperCaseListsThatCountFromTheNextReportOn)
     EXPECT_EQ(program.ChildTexts("TCPPositions"), (Texts{"N0CALL", "N1CALL"}));
     EXPECT_EQ(program.RecordText(Channel::TCP, "N0CALL", Field::Lat), "40");
 
-    program.prompts.answers = {Answer::No};
-    StopMainWindow(program.main);
+    SaveFilters(program.main);
     EXPECT_EQ(program.store.Get("tcpFilterDest", ""), "APRS*");
-    EXPECT_EQ(program.store.Get("tcpFilterReject", ""), "N0CALL");
     EXPECT_EQ(program.store.Get("tcpFilterRange", ""), "1e2");
     EXPECT_EQ(program.store.Get("rfFilterOn", ""), "False");
 }
@@ -124,19 +115,6 @@ TEST(TrackListForm, TakesListsAndChoices)
     EXPECT_EQ(program.main.frmTrackList.txtTrackWaveFile, "/ding.wav");
 }
 
-TEST(TrackListForm, AStationTakenOffKeepsItsTrail)
-{
-    Program program;
-    program.main.Of(Channel::RF).Tracked.Set("N0CALL", "N0CALL");
-    for (const double lat : {40.0, 41.0})
-        program.Position(Channel::RF, "N0CALL", lat, -80);
-    frmTrackList_Load(program.main);
-    program.main.frmTrackList.txtTrackList[0] = "";
-    frmTrackList_Track(program.main);
-    EXPECT_EQ(program.MarkerNames().size(), 2U);
-    EXPECT_EQ(program.main.Of(Channel::RF).TrackMarkers.Count(), 1U);
-}
-
 TEST(TrackListForm, AnUnusableSettingIsNoChoiceAndStays)
 {
     Program program;
@@ -147,25 +125,6 @@ TEST(TrackListForm, AnUnusableSettingIsNoChoiceAndStays)
         frmTrackList_Track(program.main);
         EXPECT_EQ(SettingText(program.main.Settings, "TrackLineSize"), value);
     }
-}
-
-TEST(TrackListForm, BrowsingFillsTheField)
-{
-    Program program;
-    program.main.frmTrackList.txtTrackWaveFile = "/old.wav";
-    frmTrackList_Browse(program.main);
-    EXPECT_EQ(program.main.frmTrackList.txtTrackWaveFile, "/old.wav");
-    program.prompts.files = {"/new.wav"};
-    frmTrackList_Browse(program.main);
-    EXPECT_EQ(program.main.frmTrackList.txtTrackWaveFile, "/new.wav");
-}
-
-TEST(RegionForm, ButtonsOfEuropeAndAmericaAndNoOthers)
-{
-    EXPECT_EQ(RegionOfButton("Canada", 2), 1);
-    EXPECT_EQ(RegionOfButton("Switzerland", 1), 2);
-    EXPECT_EQ(RegionOfButton("canada", 2), 2);
-    EXPECT_EQ(RegionOfButton("", 1), 1);
 }
 
 } // namespace

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <tuple>
 
 namespace ruvenmark {
 namespace {
@@ -140,15 +139,6 @@ TEST_F(Tracks, AHiddenTrailGrowsUnseenUntilItIsShown)
     EXPECT_EQ(*Tcp().TrackVisible.Find("N1CALL"), false);
 }
 
-TEST_F(Tracks, TheNewMarkerTakesTheBalloonOfTheOldOne)
-{
-    At(48);
-    p.Marker("N0CALL(t)")->SetBalloonState(0);
-    At(49);
-    At(50);
-    EXPECT_THAT(Markers(), ElementsAre("N0CALL(t)*=1", "N0CALL(t)*=1", "N0CALL(t)=0"));
-}
-
 TEST_F(Tracks, WithoutLinesATrackHasPointsOnly)
 {
     mnuToolsShowTrackLine_Click(p.main);
@@ -177,26 +167,6 @@ TEST_F(Tracks, TheMapFollowsOnlyWhereWanted)
     mnuToolsStationTracking_Click(p.main);
     At(50);
     EXPECT_NEAR(p.TheMap().View().centre.lat, 48, 1e-9);
-}
-
-TEST_F(Tracks, SizesStylesAndColoursComeFromTheirTables)
-{
-    const std::int32_t weights[] = {0, 1, 2, 3, 4, 5, 8, 11, 13};
-    for (std::size_t i = 0; i < std::size(weights); ++i) {
-        Set("TrackLineSize", std::to_string(i).c_str());
-        EXPECT_EQ(TrackLineWeight(p.main.Settings), weights[i]);
-    }
-    for (const auto& [index, bBegin, bEnd] :
-         {std::tuple("0", false, false), std::tuple("1", false, true), std::tuple("2", true, false),
-          std::tuple("3", true, true), std::tuple("4", false, false), std::tuple("-1", false, false)}) {
-        Set("TrackLineStyle", index);
-        EXPECT_EQ(TrackBeginArrow(p.main.Settings), bBegin);
-        EXPECT_EQ(TrackEndArrow(p.main.Settings), bEnd);
-    }
-    Set("TrackLineSize", "9");
-    EXPECT_EQ(TrackLineWeight(p.main.Settings), 0);
-    Set("MobileColor", "7");
-    EXPECT_EQ(MobileColor(p.main.Settings), 16777215U);
 }
 
 // An unusable setting ends the map work; tree and record go on.
@@ -292,20 +262,6 @@ TEST_F(Tracks, ATrackOfALowerCaseCallIsNotRemovedByItsCommand)
     RemoveStationTrack(p.main, Channel::TCP, "n0call");
     EXPECT_EQ(Tcp().TrackMarkers.Count(), 0U);
     EXPECT_THAT(p.MarkerNames(), ElementsAre("n0call(t)"));
-}
-
-TEST_F(Tracks, CommandsWithoutAStationDoNothing)
-{
-    At(48);
-    for (const char* key : {"TCP", "TCPPositions", "TCPPositionsN0CALLLat", "My"}) {
-        p.Select(key);
-        for (const auto command : {mnuStartTrack_Click, mnuStopTrack_Click, mnuShowStationTrack_Click,
-                                   mnuHideStationTrack_Click, mnuRemoveTrack_Click})
-            command(p.main);
-    }
-    EXPECT_EQ(Tcp().Tracked.Count(), 1U);
-    EXPECT_TRUE(Tcp().TrackVisible.IsEmpty());
-    EXPECT_THAT(p.prompts.questions, IsEmpty());
 }
 
 } // namespace

@@ -26,25 +26,6 @@ bool IsInside(const LayoutRect& rect, const LayoutInput& window)
             rect.left + rect.width <= window.scaleWidth && rect.top + rect.height <= window.scaleHeight);
 }
 
-TEST(Layout, PanesStandBesideTheGripBetweenTheBars)
-{
-    const WindowLayout layout = SizeControls(kWindow, 2000);
-    EXPECT_EQ(layout.tree, (LayoutRect{0, 600, 2000, 8025, true}));
-    EXPECT_EQ(layout.imgSplitter.left, 2000);
-    EXPECT_EQ(layout.rightPane, (LayoutRect{2040, 600, 12000 - 2140, 8025, true}));
-    EXPECT_EQ(layout.statusBar, (LayoutRect{0, 8625, 12000, 375, true}));
-}
-
-TEST(Layout, WithoutTheLeftPaneTheRightOneTakesTheWidth)
-{
-    LayoutInput window = kWindow;
-    window.bLeftPane = window.bToolBar = window.bStatusBar = false;
-    const WindowLayout layout = SizeControls(window, 2000);
-    EXPECT_FALSE(layout.tree.bVisible);
-    EXPECT_FALSE(layout.imgSplitter.bVisible);
-    EXPECT_EQ(layout.rightPane, (LayoutRect{0, 0, 11900, 9000, true}));
-}
-
 TEST(Layout, NothingOverlapsOrIsClippedAtAnySize)
 {
     for (const std::int32_t width : {0, 700, 1000, 3000, 12000, 28800}) {
@@ -67,21 +48,6 @@ TEST(Layout, NothingOverlapsOrIsClippedAtAnySize)
             }
         }
     }
-}
-
-TEST(Layout, TheSplitterKeepsAwayFromBothEdges)
-{
-    EXPECT_EQ(ClampSplitter(499, 12000), 500);
-    EXPECT_EQ(ClampSplitter(500, 12000), 500);
-    EXPECT_EQ(ClampSplitter(11500, 12000), 11500);
-    EXPECT_EQ(ClampSplitter(11501, 12000), 11500);
-
-    Program program;
-    int changes = 0;
-    const auto subscription = program.main.window.Changed.Observe([&] { ++changes; });
-    DropSplitter(program.main, 20000, 12000);
-    EXPECT_EQ(program.main.window.splitterLeft, 11500);
-    EXPECT_EQ(changes, 1);
 }
 
 TEST(Layout, ANarrowWindowGrowsAndAMinimisedOneKeepsItsPlace)
@@ -124,13 +90,6 @@ TEST(Layout, HelpStaysWhereItIsWhenItIsThePageAlready)
     program.main.window.webAddress = "https://example.org/detail/N0CALL";
     mnuRuvenmarkHelp_Click(program.main);
     EXPECT_EQ(program.main.window.webAddress, "/program/Readme.htm");
-}
-
-TEST(Layout, TwipsAreFifteenthsOfAPixel)
-{
-    EXPECT_EQ(TwipsOfPixels(800), 12000);
-    EXPECT_EQ(PixelsOfTwips(40), 3);
-    EXPECT_EQ(PixelsOfTwips(-22), -1);
 }
 
 } // namespace

@@ -12,13 +12,6 @@
 namespace ruvenmark {
 namespace {
 
-MenuEntryState StateOf(const Program& program, Menu menu, MenuEntry entry)
-{
-    const auto items = MenuItems(program.main, menu);
-    const MenuEntryState* state = FindState(items, entry);
-    return state ? *state : MenuEntryState{"(not in the menu)", false, false, false};
-}
-
 // The entries that have a tick.
 std::vector<std::string> Ticked(const Program& program, Menu menu)
 {
@@ -81,14 +74,6 @@ TEST(Menus, EveryCommandOfTheMenuBarRunsOnAFreshProgramAndWithoutAMap)
     }
 }
 
-TEST(Menus, FileOffersToStopALoad)
-{
-    Program program;
-    EXPECT_EQ(StateOf(program, Menu::File, MenuEntry::mnuImportStations).caption, "Loa&d Stations...");
-    program.main.FileLoading = true;
-    EXPECT_EQ(StateOf(program, Menu::File, MenuEntry::mnuImportStations).caption, "Stop File Loa&ding");
-}
-
 TEST(Menus, ViewTicksWhatShows)
 {
     Program program;
@@ -99,68 +84,22 @@ TEST(Menus, ViewTicksWhatShows)
     EXPECT_EQ(Ticked(program, Menu::MapToolbars),
               (std::vector<std::string>{"mnuNavigationToolbar", "mnuDrawingToolbar"}));
     EXPECT_EQ(Ticked(program, Menu::Region), std::vector<std::string>{"mnuRegionNorthAmerica"});
+    EXPECT_EQ(Ticked(program, Menu::Tools),
+              (std::vector<std::string>{"mnuToolsStationTracking", "mnuToolsShowTrackLine"}));
+    EXPECT_FALSE(FindState(MenuItems(program.main, Menu::Tools), MenuEntry::mnuRemoveAllTracks)->bEnabled);
 
     for (const MenuEntry entry :
          {MenuEntry::mnuViewToolbar, MenuEntry::mnuTreeView, MenuEntry::mnuOnlineTiles, MenuEntry::mnuFontSmallest,
-          MenuEntry::mnuPoliticalMap, MenuEntry::mnuStandardToolbar, MenuEntry::mnuDrawingToolbar})
+          MenuEntry::mnuToolsShowTrackLine, MenuEntry::mnuDirections, MenuEntry::mnuPoliticalMap,
+          MenuEntry::mnuStandardToolbar, MenuEntry::mnuDrawingToolbar})
         RunMenuEntry(program.main, entry);
     RunMenuEntry(program.main, MenuEntry::mnuRuvenmarkHelp);
     EXPECT_EQ(Ticked(program, Menu::View), (std::vector<std::string>{"mnuViewStatusBar", "mnuOnlineTiles"}));
+    EXPECT_EQ(Ticked(program, Menu::Tools), (std::vector<std::string>{"mnuToolsStationTracking", "mnuDirections"}));
     EXPECT_EQ(Ticked(program, Menu::MapFont), std::vector<std::string>{"mnuFontSmallest"});
     EXPECT_EQ(Ticked(program, Menu::MapStyle), std::vector<std::string>{"mnuPoliticalMap"});
     EXPECT_EQ(Ticked(program, Menu::MapToolbars),
               (std::vector<std::string>{"mnuStandardToolbar", "mnuNavigationToolbar"}));
-}
-
-TEST(Menus, ToolsTickTheirFlagsAndKnowOfTracks)
-{
-    Program program;
-    EXPECT_EQ(Ticked(program, Menu::Tools),
-              (std::vector<std::string>{"mnuToolsStationTracking", "mnuToolsShowTrackLine"}));
-    RunMenuEntry(program.main, MenuEntry::mnuToolsShowTrackLine);
-    RunMenuEntry(program.main, MenuEntry::mnuDirections);
-    EXPECT_EQ(Ticked(program, Menu::Tools), (std::vector<std::string>{"mnuToolsStationTracking", "mnuDirections"}));
-
-    EXPECT_FALSE(StateOf(program, Menu::Tools, MenuEntry::mnuRemoveAllTracks).bEnabled);
-    program.main.Of(Channel::TCP).Tracked.Set("N0CALL", "N0CALL");
-    for (const double lat : {40.0, 40.5}) // With no lines, points are a track as well.
-        program.Position(Channel::TCP, "N0CALL", lat, -80);
-    EXPECT_TRUE(StateOf(program, Menu::Tools, MenuEntry::mnuRemoveAllTracks).bEnabled);
-}
-
-TEST(Menus, ToolBarButtonsRunTheirEntries)
-{
-    Program program;
-    tbToolBar_ButtonClick(program.main, "ViewLeft");
-    EXPECT_FALSE(program.main.window.bLeftPane);
-    tbToolBar_ButtonClick(program.main, "Help");
-    EXPECT_EQ(program.main.window.rightView, RightView::Web);
-    tbToolBar_ButtonClick(program.main, "ViewMap");
-    EXPECT_EQ(program.main.window.rightView, RightView::Map);
-    tbToolBar_ButtonClick(program.main, "");
-    tbToolBar_ButtonClick(program.main, "SendMessage");
-
-    for (const ToolButton& button : ToolBar()) {
-        EXPECT_EQ(button.key.empty(), button.entry == MenuEntry::None);
-        const MenuEntryState state = ToolButtonState(program.main, button);
-        EXPECT_EQ(state.bChecked, button.key == "ViewMap") << button.key;
-        EXPECT_EQ(state.bEnabled,
-                  button.key != "Cut" && button.key != "Copy" && button.key != "Paste" && button.key != "Delete")
-            << button.key;
-    }
-}
-
-TEST(Menus, HelpShowsThePageOfTheProgramFolderAndCloseAsksTheWindow)
-{
-    Program program;
-    bool bClosed = false;
-    const auto subscription = program.main.window.CloseWanted.Observe([&] { bClosed = true; });
-    RunMenuEntry(program.main, MenuEntry::mnuRuvenmarkHelp);
-    EXPECT_EQ(program.main.window.webAddress, "/program/Readme.htm");
-    RunMenuEntry(program.main, MenuEntry::mnuHelpAbout);
-    EXPECT_EQ(program.dialogs.calls, std::vector<std::string>{"RunAbout"});
-    RunMenuEntry(program.main, MenuEntry::mnuFileClose);
-    EXPECT_TRUE(bClosed);
 }
 
 } // namespace

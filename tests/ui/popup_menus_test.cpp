@@ -61,17 +61,13 @@ TEST(PopupMenus, RootsShowTheirOwnForm)
               (Names{"Filter FL Reports", "Edit FL Filter...", "Delete FL Reports", "-Hide All Range Circles",
                      "Show Tracked Stations Only", "Show FL Station Names*", "Hide FL Station Names",
                      "Stop File Loading", "Unload"}));
-}
 
-TEST(PopupMenus, ALoadedFolderIsCaptionedUpToItsLastBlank)
-{
-    Program program;
-    program.Tree().AddRoot("Club", "My Club (3)");
+    TreeNode& club = program.Tree().AddRoot("Club", "My Q&A (3)"); // Captioned up to its last blank.
     EXPECT_EQ(Shown(RightClick(program, "Club")),
-              (Names{"-Hide All Range Circles", "Show Tracked Stations Only", "Show My Club Stations",
-                     "Hide My Club Stations", "Unload My Club"}));
-    program.Tree().SetText(*program.Node("Club"), "Q&A");
-    EXPECT_EQ(Shown(RightClick(program, "Club")).back(), "Unload Q&&A");
+              (Names{"-Hide All Range Circles", "Show Tracked Stations Only", "Show My Q&&A Stations",
+                     "Hide My Q&&A Stations", "Unload My Q&&A"}));
+    program.Tree().Add(program.Tree().Add(club, "Positions", "Positions"), "N0CALL", "N0CALL");
+    EXPECT_EQ(Shown(RightClick(program, "ClubPositionsN0CALL"))[2], "-Start Tracking");
 }
 
 TEST(PopupMenus, NothingUnderThePointerOffersWhatIsForAll)
@@ -113,17 +109,6 @@ TEST(PopupMenus, AStationsEntriesFollowItsChannel)
     EXPECT_EQ(Shown(RightClick(program, ""))[3], "Hide All Range Circles");
 }
 
-TEST(PopupMenus, AStationOfALoadedFolderCannotBeTracked)
-{
-    Program program;
-    auto& tree = program.Tree();
-    TreeNode& folder = tree.Add(tree.AddRoot("Club", "Club"), "Positions", "Positions");
-    tree.Add(folder, "N0CALL", "N0CALL");
-    EXPECT_EQ(Shown(RightClick(program, "ClubPositionsN0CALL")),
-              (Names{"View Position", "Operator Info", "-Start Tracking", "-Stop Tracking", "-Show Track",
-                     "-Hide Track", "-Remove Track", "-Show Signal Range", "-Hide Signal Range", "Delete Report"}));
-}
-
 TEST(PopupMenus, FoldersAreSortedOrCatchPackets)
 {
     Program program;
@@ -131,7 +116,8 @@ TEST(PopupMenus, FoldersAreSortedOrCatchPackets)
     EXPECT_FALSE(RightClick(program, "RFPositions"));
     EXPECT_EQ(Shown(RightClick(program, "RFUnknown")), Names{"Catch Rejected Packets"});
     EXPECT_EQ(Shown(RightClick(program, "TCPStatus")), Names{"Sort in Alphabetic Order"});
-    program.main.Of(Channel::FL).bShowUnknown = true;
+    program.Select("FLUnknown");
+    RunMenuEntry(program.main, MenuEntry::mnuShowUnknown);
     EXPECT_EQ(Shown(RightClick(program, "FLUnknown")), (Names{"Sort in Alphabetic Order", "Catch Rejected Packets*"}));
     EXPECT_EQ(Shown(RightClick(program, "TCPUnknown")), (Names{"Sort in Alphabetic Order", "Catch Rejected Packets"}));
 }

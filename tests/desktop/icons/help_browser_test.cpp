@@ -50,13 +50,5 @@ TEST(HelpBrowser, EveryPictureOfTheManualIsThere)
     }
 }
 
-TEST(HelpBrowser, ReadsTheManualFromAFileToo)
-{
-    HelpBrowser browser;
-    browser.setSource(QUrl::fromLocalFile(QStringLiteral(RUVENMARK_SOURCE_DIR "/data/help/Readme.htm")));
-    EXPECT_EQ(browser.documentTitle(), QStringLiteral("Ruvenmark"));
-    EXPECT_TRUE(browser.toPlainText().contains(QStringLiteral("First steps")));
-}
-
 } // namespace
 } // namespace ruvenmark

@@ -72,17 +72,5 @@ TEST_F(HostileTextTest, BalloonsClipWhatIsTooLongAndStayInTheWindow)
     EXPECT_TRUE(Balloon(BalloonOf(pin), {400, 300}, area, look, false).Title().endsWith(QChar(0x2026)));
 }
 
-TEST_F(HostileTextTest, TinyWindowsArePainted)
-{
-    for (const std::string& text : texts)
-        AddPin({300, 300}, text, text);
-    for (const QSize size : {QSize(1, 1), QSize(120, 90), QSize(90, 700)}) {
-        widget.setMinimumSize(1, 1);
-        widget.resize(size);
-        Click({size.width() / 2, size.height() / 2});
-        EXPECT_EQ(Painted().size(), size);
-    }
-}
-
 } // namespace
 } // namespace ruvenmark

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <numeric>
 
 namespace ruvenmark {
@@ -66,28 +65,6 @@ TEST(MarkerLayout, NamedAndSelectedMarkersStandForTheirGroup)
     layout.Update(points, ViewFrame(kView), 11);
     EXPECT_EQ(layout.Items().back().slot, 11U);
     EXPECT_EQ(layout.Items().back().count, 20U);
-}
-
-TEST(MarkerLayout, GroupsStayTheSameWhileTheMapIsMoved)
-{
-    std::vector<PinPoint> points;
-    points.reserve(3000);
-    for (int i = 0; i < 3000; ++i)
-        points.push_back(PointAt(kView, 200 + i * 37 % 400, 150 + i * 53 % 300));
-    const auto groups = [&](double dx, double dy) {
-        MapView view = kView;
-        view.centre = FromPixel(kView, {400 + dx, 300 + dy});
-        MarkerLayout layout;
-        layout.Update(points, ViewFrame(view), std::nullopt);
-        std::vector<std::pair<std::uint32_t, std::uint32_t>> found;
-        for (const MarkerItem& item : layout.Items())
-            found.emplace_back(item.slot, item.count);
-        std::sort(found.begin(), found.end());
-        return found;
-    };
-    const auto still = groups(0, 0);
-    EXPECT_EQ(groups(13, 7), still);
-    EXPECT_EQ(groups(-101.5, 77.25), still);
 }
 
 TEST(MarkerLayout, ViewAcrossTheDateLineAndWiderThanTheWorld)

@@ -1,7 +1,5 @@
 #include "desktop/map_widget/map_fixture.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 #include <map>
 

@@ -1,7 +1,6 @@
 #include "desktop/map/map_widget.h"
 #include "desktop/qt_desktop.h"
 #include "desktop/qt_prompts.h"
-#include "desktop/wave_sound.h"
 #include "links/station_files.h"
 #include "map/find.h"
 #include "platform/failure.h"
@@ -146,16 +145,6 @@ TEST_F(DialogsTest, TrackListTakesTheListsOver)
     EXPECT_EQ(TrackListText(program.main.Of(Channel::TCP)), "DL1ABC DL2XYZ");
     EXPECT_EQ(SettingText(program.main.Settings, "TrackLineStyle"), "3");
     EXPECT_EQ(SettingText(program.main.Settings, "TrackWaveFile"), "/sounds/ping.wav");
-}
-
-TEST_F(DialogsTest, TrackListCancelChangesNothing)
-{
-    WhenModal([&](QDialog& dialog) {
-        Type(dialog, "txtRfTrackList", "N0CALL");
-        QTest::keyClick(&dialog, Qt::Key_Escape);
-    });
-    mnuTrackedStations_Click(program.main);
-    EXPECT_EQ(TrackListText(program.main.Of(Channel::RF)), "");
 }
 
 TEST_F(DialogsTest, FilterIsSavedInUpperCaseAndOnlyBySave)
@@ -304,13 +293,6 @@ TEST_F(DialogsTest, PrintingAsksFirstAndFillsThePage)
 
     desktop.CopyMapPicture();
     EXPECT_EQ(QGuiApplication::clipboard()->image().size(), program.window.Map().size());
-}
-
-TEST(WaveSoundTest, IsQuietAboutWhatCannotBePlayed)
-{
-    WaveSound sound;
-    sound.PlayAndWait("/no/such/file.wav");
-    sound.PlayAndWait(RUVENMARK_SOURCE_DIR "/CMakeLists.txt");
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "desktop/menu_binder.h"
 #include "desktop/tree_view.h"
-#include "platform/text.h"
 #include "window_program.h"
 
 #include <QMenu>

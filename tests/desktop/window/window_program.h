@@ -8,9 +8,7 @@
 #include "desktop/qt_services.h"
 #include "devices/report_sources.h"
 #include "intake/station_store.h"
-#include "map/find.h"
 #include "platform/settings_store.h"
-#include "platform/text.h"
 #include "support/doubles.h"
 #include "support/recording_desktop.h"
 
@@ -26,18 +24,6 @@
 #include <string>
 
 namespace ruvenmark {
-
-class FakePlaces final : public IPlaceSearch {
-public:
-    std::vector<FoundPlace> Search(std::string_view text, std::size_t limit) const override
-    {
-        std::vector<FoundPlace> found;
-        for (const std::string name : {"Springfield", "Springdale"})
-            if (found.size() < limit && CompareIgnoringCase(std::string_view(name).substr(0, text.size()), text) == 0)
-                found.push_back({FoundPlace::Kind::Place, name, "Illinois", {39.8, -89.6}, {}, {}});
-        return found;
-    }
-};
 
 // The whole program in its window, with the machine and the boxes of the test's making.
 struct WindowProgram {

@@ -1,8 +1,12 @@
 #include "desktop/icons/icon_set.h"
+#include "desktop/readable_color.h"
 #include "desktop/tree_model.h"
+#include "desktop/tree_view.h"
 #include "platform/keyed_tree.h"
 
 #include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QContextMenuEvent>
 #include <QIcon>
 #include <QSignalSpy>
 #include <QTest>
@@ -140,17 +144,87 @@ TEST_F(TreeModelTest, ShowsPictureBoldAndColour)
     EXPECT_NE(picture(), closed);
 }
 
-TEST_F(TreeModelTest, ShowsHostileTextAsOnePlainLine)
+class TreeViewTest : public TreeModelTest {
+protected:
+    TreeViewTest()
+    {
+        TreeNode& root = tree.AddRoot("FL", "FL reports");
+        folder = &tree.Add(root, "Positions", "Positions");
+        for (const char* call : {"DL1ABC", "DL2XYZ", "N0CALL", "DL2ZZZ-9"})
+            tree.Add(*folder, call, call);
+        view.resize(300, 400);
+        view.show();
+        model.Flush();
+    }
+
+    std::string SelectedText() const { return tree.Selected() ? tree.Selected()->Text() : std::string(); }
+    void Menu(QContextMenuEvent::Reason reason, QPoint place)
+    {
+        QContextMenuEvent event(reason, place, view.viewport()->mapToGlobal(place));
+        QApplication::sendEvent(view.viewport(), &event);
+    }
+
+    TreeNode* folder = nullptr;
+    TreeView view{tree, model};
+};
+
+TEST_F(TreeViewTest, TypingACallJumpsIntoACollapsedFolder)
 {
-    TreeNode& node = tree.AddRoot("X", "<b>A</b>\r\n\x1B[2J\xFF\xE2\x80\xAE"
-                                       "evil");
-    const QString shown = IndexOf("X").data().toString();
-    EXPECT_TRUE(shown.startsWith(QStringLiteral("<b>A</b>")));
-    for (const QChar c : shown)
-        EXPECT_TRUE(c.isPrint()) << static_cast<int>(c.unicode());
-    EXPECT_FALSE(shown.contains(QChar(0x202E)));
-    tree.SetText(node, std::string(5000, 'W'));
-    EXPECT_EQ(IndexOf("X").data().toString().size(), 5000);
+    QTest::keyClicks(&view, QStringLiteral("dl2"));
+    EXPECT_EQ(SelectedText(), "DL2XYZ");
+    EXPECT_TRUE(view.isExpanded(model.IndexOf(folder)));
+    EXPECT_TRUE(folder->IsExpanded()) << "the logic is told";
+    QTest::keyClicks(&view, QStringLiteral("z"));
+    EXPECT_EQ(SelectedText(), "DL2ZZZ-9");
+}
+
+TEST_F(TreeViewTest, TheSameLetterGoesRound)
+{
+    tree.Select(tree.Find("FLPositionsDL1ABC"));
+    QTest::keyClick(&view, 'd');
+    EXPECT_EQ(SelectedText(), "DL2XYZ");
+    QTest::keyClick(&view, 'd');
+    EXPECT_EQ(SelectedText(), "DL2ZZZ-9");
+    QTest::keyClick(&view, 'd');
+    EXPECT_EQ(SelectedText(), "DL1ABC");
+}
+
+TEST_F(TreeViewTest, SelectionGoesBothWays)
+{
+    tree.Select(tree.Find("FLPositionsN0CALL"));
+    EXPECT_EQ(view.currentIndex(), model.IndexOf(tree.Selected()));
+    QTest::keyClick(&view, Qt::Key_Up);
+    EXPECT_EQ(SelectedText(), "DL2XYZ");
+    tree.Remove(*tree.Selected());
+    EXPECT_EQ(model.NodeAt(view.currentIndex()), tree.Selected());
+    tree.Remove(*tree.Find("FL"));
+    EXPECT_EQ(tree.Selected(), nullptr);
+}
+
+TEST_F(TreeViewTest, RightClickSelectsTheNodeUnderThePointerFirst)
+{
+    std::vector<TreeNode*> asked;
+    QObject::connect(&view, &TreeView::MenuWanted, [&](TreeNode* node) {
+        EXPECT_EQ(node, tree.Selected());
+        asked.push_back(node);
+    });
+    view.expandAll();
+    TreeNode* station = tree.Find("FLPositionsN0CALL");
+    Menu(QContextMenuEvent::Mouse, view.visualRect(model.IndexOf(station)).center());
+    Menu(QContextMenuEvent::Mouse, QPoint(10, 390));
+    tree.Select(folder);
+    Menu(QContextMenuEvent::Keyboard, QPoint(0, 0));
+    EXPECT_EQ(asked, (std::vector<TreeNode*>{station, nullptr, folder}));
+}
+
+TEST(ReadableColorTest, KeepsTheHueAndReachesAContrastOnLightAndDark)
+{
+    const QColor onDark = ReadableColor(QColor(0, 0, 160), QColor(30, 30, 30));
+    EXPECT_GT(onDark.lightness(), 130);
+    EXPECT_NEAR(onDark.hue(), 240, 2);
+    const QColor onLight = ReadableColor(QColor(255, 255, 0), Qt::white);
+    EXPECT_LT(onLight.lightness(), 100);
+    EXPECT_EQ(ReadableColor(QColor(255, 0, 0), QColor(10, 10, 10)), QColor(255, 0, 0));
 }
 
 } // namespace

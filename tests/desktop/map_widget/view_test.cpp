@@ -1,5 +1,6 @@
+#include "desktop/map/scale_bar.h"
 #include "desktop/map/shape_layout.h"
-#include "desktop/map/shape_painter.h"
+#include "desktop/map/view_moves.h"
 
 #include <gtest/gtest.h>
 
@@ -103,13 +104,27 @@ TEST(ShapeLayout, AReusedSlotIsProjectedAnew)
     EXPECT_NEAR(layout.Lines()[0].line.dy(), 0, 1e-6);
 }
 
-TEST(ShapeLayout, ArrowheadsKeepClearOfTheMarkerWhereTheyCan)
+TEST(ViewMoves, NothingBesideTheWorldIsShown)
 {
-    EXPECT_GT(ArrowInset(100, 10).value_or(0), 10);
-    const double inset = ArrowInset(20, 10).value_or(-1);
-    EXPECT_NEAR(inset, 5, 1e-9) << "in the middle of a short line";
-    EXPECT_NEAR(ArrowInset(8, 10).value_or(0), -1, 1e-9) << "its middle on the line's middle";
-    EXPECT_EQ(ArrowInset(2, 10), std::nullopt);
+    const QSize window(1920, 1080);
+    const ViewTarget out = WithinWorld({{0.5, 0.1}, -3}, window);
+    EXPECT_NEAR(kTileSize * std::exp2(out.zoom), 1080, 0.01);
+    EXPECT_NEAR(out.centre.y, 0.5, 1e-9);
+    const ViewTarget north = WithinWorld({{1.25, -1}, 6}, window);
+    EXPECT_NEAR(north.centre.y, 540 / (kTileSize * 64), 1e-9);
+    EXPECT_NEAR(north.centre.x, 0.25, 1e-9) << "round the world";
+    EXPECT_EQ(WithinWorld({{0.5, 0.5}, 40}, window).zoom, kLargestZoom);
+}
+
+TEST(ScaleBar, MarksAreRoundAndAsLongAsTheySay)
+{
+    const MapView view{{0, 0}, 8, 800, 600};
+    const ScaleMark kilometres = KilometresMark(view, 120), miles = MilesMark(view, 120);
+    EXPECT_EQ(kilometres.text, "50 km");
+    EXPECT_NEAR(kilometres.pixels, 50 / (40075.017 / (256 * 256)), 0.01);
+    EXPECT_EQ(miles.text, "20 mi");
+    EXPECT_EQ(KilometresMark({{60, 0}, 19, 800, 600}, 120).text, "10 m");
+    EXPECT_EQ(MilesMark({{60, 0}, 19, 800, 600}, 120).text, "50 ft");
 }
 
 } // namespace

@@ -1,8 +1,10 @@
+#include "platform/dictionary.h"
 #include "platform/event.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace ruvenmark {
 namespace {
@@ -45,17 +47,30 @@ TEST(Event, AnObserverMayDropItselfAndOutliveTheEvent)
     EXPECT_EQ(calls, 2);
 }
 
-TEST(Event, MayBeRaisedFromItsOwnObserver)
+std::vector<std::string> Keys(const Dictionary<int>& dictionary)
 {
-    Event<int> event;
-    int deepest = 0;
-    const Subscription observing = event.Observe([&](int depth) {
-        deepest = std::max(deepest, depth);
-        if (depth < 3)
-            event.Raise(depth + 1);
-    });
-    event.Raise(1);
-    EXPECT_EQ(deepest, 3);
+    std::vector<std::string> keys;
+    for (const auto& entry : dictionary)
+        keys.push_back(entry.key);
+    return keys;
+}
+
+TEST(Dictionary, CopiesAndMovesStandOnTheirOwn)
+{
+    Dictionary<int> first;
+    first.Set("a", 1);
+    first.Set("b", 2);
+    Dictionary<int> copy = first;
+    first.Clear();
+    EXPECT_EQ(*copy.Find("a"), 1);
+    copy.Remove("a");
+    copy.Set("c", 3);
+    const Dictionary<int> moved = std::move(copy);
+    EXPECT_EQ(Keys(moved), (std::vector<std::string>{"b", "c"}));
+    EXPECT_EQ(*moved.Find("c"), 3);
+    first = moved;
+    EXPECT_EQ(*first.Find("b"), 2);
+    EXPECT_FALSE(first.Contains("a"));
 }
 
 } // namespace

@@ -1,11 +1,12 @@
 #include "desktop/map/base_map.h"
+#include "desktop/map/label_grid.h"
 #include "desktop/map/place_index.h"
+#include "desktop/map/place_labels.h"
 #include "world_map.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 
 namespace ruvenmark {
 namespace {
@@ -67,13 +68,54 @@ TEST_F(PlaceIndexTest, AnyTextIsTaken)
     EXPECT_TRUE(FindPlaces(map, broken, 10).empty());
 }
 
-TEST_F(PlaceIndexTest, IsFastEnoughToTypeAlong)
+class PlaceLabelsTest : public testing::Test {
+protected:
+    std::vector<PlaceLabels::Placed> Place(GeoPoint centre, double zoom, std::int32_t mapFont, const QRectF& taken = {})
+    {
+        QImage image(1000, 700, QImage::Format_RGB32);
+        QPainter painter(&image);
+        LabelGrid grid(1000, 700);
+        if (!taken.isEmpty())
+            grid.Block(taken);
+        labels.Paint(painter, FrameAt(centre, zoom, 1000, 700), grid, {MapStyle::Road, false, mapFont, 1, false});
+        return labels.LastPlaced();
+    }
+    bool Has(const std::vector<PlaceLabels::Placed>& placed, const QString& text)
+    {
+        return std::any_of(placed.begin(), placed.end(), [&](const auto& label) { return label.text == text; });
+    }
+
+    BaseMap map = BaseMap::Open(WorldMapPath());
+    PlaceLabels labels{map};
+};
+
+TEST_F(PlaceLabelsTest, NamesNeverOverlapNorLeaveTheView)
 {
-    const auto start = std::chrono::steady_clock::now();
-    for (char16_t letter = u'a'; letter <= u'z'; ++letter)
-        EXPECT_FALSE(FindPlaces(map, QString(QChar(letter)), 20).empty());
-    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
-    EXPECT_LT(time.count() / 26, 50); // Far below 5 ms when nothing else runs and nothing is checked.
+    const QRectF taken(300, 200, 400, 60);
+    for (const GeoPoint centre : {GeoPoint{48, 9}, GeoPoint{40.75, -73.95}, GeoPoint{0, 179}}) {
+        for (const double zoom : {1.0, 2.6, 4.5, 7.1, 9.0, 12.0}) {
+            const auto placed = Place(centre, zoom, static_cast<std::int32_t>(zoom) % 5, taken);
+            for (std::size_t i = 0; i < placed.size(); ++i) {
+                EXPECT_TRUE(QRectF(0, 0, 1000, 700).contains(placed[i].rect)) << placed[i].text.toStdString();
+                EXPECT_FALSE(placed[i].rect.intersects(taken)) << placed[i].text.toStdString();
+                for (std::size_t j = 0; j < i; ++j)
+                    EXPECT_FALSE(placed[i].rect.intersects(placed[j].rect))
+                        << placed[i].text.toStdString() << " / " << placed[j].text.toStdString();
+            }
+        }
+    }
+}
+
+TEST_F(PlaceLabelsTest, WeightyNamesComeFirst)
+{
+    const auto world = Place({20, 0}, 2, 2);
+    EXPECT_TRUE(Has(world, "UNITED STATES") && Has(world, "BRAZIL") && Has(world, "AUSTRALIA"));
+    const auto britain = Place({53.5, -2.5}, 6.5, 2);
+    EXPECT_TRUE(Has(britain, "London") && Has(britain, "Dublin") && Has(britain, "Douglas"));
+    const auto states = Place({39, -98}, 5, 2);
+    EXPECT_TRUE(Has(states, "KANSAS") && Has(states, "COLORADO"));
+    EXPECT_FALSE(Has(states, "Wichita Falls"));
+    EXPECT_TRUE(Has(Place({40.7, -73.95}, 12, 2), "Brooklyn"));
 }
 
 } // namespace

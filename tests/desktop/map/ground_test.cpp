@@ -1,8 +1,9 @@
 #include "desktop/map/base_map_painter.h"
+#include "desktop/map/tile_painter.h"
 #include "world_map.h"
 
-#include <QBuffer>
-#include <QPdfWriter>
+#include <QCoreApplication>
+#include <QElapsedTimer>
 
 #include <gtest/gtest.h>
 
@@ -67,33 +68,6 @@ TEST_F(BaseMapPainterTest, NoSeamsInsideOneSurface)
     }
 }
 
-TEST_F(BaseMapPainterTest, NeighbouringPiecesFitTogether)
-{
-    for (const GeoPoint centre : {GeoPoint{60.2, 5.4}, GeoPoint{-17, 179.93}, GeoPoint{46.9, 8.2}}) {
-        for (const MapStyle style : {MapStyle::Road, MapStyle::Terrain, MapStyle::Political}) {
-            const ViewFrame whole = FrameAt(centre, 6.3, 300, 130);
-            const QImage expected = PaintGround(map, whole, style);
-            QImage joined(expected.size(), QImage::Format_RGB32);
-            QPainter painter(&joined);
-            for (int part = 0; part < 3; ++part) {
-                ViewFrame piece = whole;
-                piece.left += part * 100 / whole.world;
-                piece.width = 100;
-                painter.drawImage(part * 100, 0, PaintGround(map, piece, style));
-            }
-            painter.end();
-            EXPECT_LT(DifferentPixels(expected, joined), 20U) << centre.lon << " style " << static_cast<int>(style);
-        }
-    }
-}
-
-TEST_F(BaseMapPainterTest, TheWorldRepeatsSideways)
-{
-    const ViewFrame frame = FrameAt({20, 180}, 1, 1024, 400);
-    const QImage image = PaintGround(map, frame, MapStyle::Political);
-    EXPECT_LT(DifferentPixels(image.copy(0, 0, 512, 400), image.copy(512, 0, 512, 400)), 20U);
-}
-
 TEST_F(BaseMapPainterTest, EveryStyleLooksDifferent)
 {
     const ViewFrame frame = FrameAt({47, 9}, 5.5, 200, 150);
@@ -103,20 +77,76 @@ TEST_F(BaseMapPainterTest, EveryStyleLooksDifferent)
     EXPECT_EQ(DifferentPixels(road, PaintGround(map, frame, MapStyle::RoadAndData)), 0U);
 }
 
-TEST_F(BaseMapPainterTest, PaintsVectorsForPrinters)
-{
-    QBuffer file;
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+class TilePainterTest : public testing::Test {
+protected:
+    QImage Paint(const ViewFrame& frame, bool wait, double ratio = 1)
     {
-        QPdfWriter writer(&file);
-        writer.setResolution(96);
-        QPainter painter(&writer);
-        const ViewFrame frame = FrameAt({51, 0}, 6, 400, 300);
-        BaseMapPainter(map).Paint(painter, {frame.left, frame.top, frame.world, 400, 300, 1}, MapStyle::Political,
-                                  false);
+        QImage image(static_cast<int>(frame.width * ratio), static_cast<int>(frame.height * ratio),
+                     QImage::Format_RGB32);
+        image.setDevicePixelRatio(ratio);
+        image.fill(Qt::magenta);
+        QPainter painter(&image);
+        isWhole = tiles.Paint(painter, frame, {MapStyle::Road, false, ratio, wait});
+        return image;
     }
-    EXPECT_GT(file.size(), 10000);
-    EXPECT_FALSE(file.data().contains("/Subtype /Image"));
+    static std::size_t Unpainted(const QImage& image)
+    {
+        std::size_t count = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                count += image.pixel(x, y) == QColor(Qt::magenta).rgb() ? 1 : 0;
+        return count;
+    }
+
+    BaseMap map = BaseMap::Open(WorldMapPath());
+    TilePainter tiles{map};
+    bool isWhole = false;
+};
+
+TEST_F(TilePainterTest, LooksAsPaintedAtOnce)
+{
+    for (const double ratio : {1.0, 2.0}) {
+        for (const double zoom : {1.7, 5.0, 9.33}) {
+            // On whole pixels, as the squares are.
+            ViewFrame frame = FrameAt({40.7, -73.9}, zoom, 600, 400);
+            const double pixels = frame.world * ratio;
+            frame.left = std::round(frame.left * pixels) / pixels;
+            frame.top = std::round(frame.top * pixels) / pixels;
+            const QImage tiled = Paint(frame, true, ratio);
+            EXPECT_TRUE(isWhole);
+            const QImage whole = PaintGround(map, frame, MapStyle::Road, ratio);
+            EXPECT_LT(DifferentPixels(tiled, whole), static_cast<std::size_t>(tiled.width() * tiled.height() / 500))
+                << "zoom " << zoom << " ratio " << ratio;
+        }
+    }
+}
+
+TEST_F(TilePainterTest, CoversEveryPixelAcrossTheDateLine)
+{
+    for (const double zoom : {1.0, 2.3, 6.71})
+        for (const double lon : {-180.0, 179.9, 0.0})
+            EXPECT_EQ(Unpainted(Paint(FrameAt({52, lon}, zoom, 700, 300), true)), 0U) << zoom << ' ' << lon;
+}
+
+TEST_F(TilePainterTest, FillsInLaterAndShowsOlderScalesMeanwhile)
+{
+    const ViewFrame frame = FrameAt({46, 8}, 6, 700, 500);
+    int changes = 0;
+    QObject::connect(&tiles, &TilePainter::Changed, [&] { ++changes; });
+    EXPECT_EQ(Unpainted(Paint(frame, false)), 0U);
+    EXPECT_FALSE(isWhole);
+    QElapsedTimer time;
+    time.start();
+    while (!isWhole && time.elapsed() < 20000) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        Paint(frame, false);
+    }
+    EXPECT_TRUE(isWhole);
+    EXPECT_GT(changes, 0);
+
+    // Switzerland lies inland: from nearer, the land of the scale before shows at once.
+    const QImage nearer = Paint(FrameAt({47, 8.5}, 7, 300, 200), false);
+    EXPECT_GT(Difference(nearer.pixel(150, 100), PaletteFor(MapStyle::Road, false).water.rgb()), 40);
 }
 
 } // namespace
