@@ -7,9 +7,8 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
-
 #include <tsl/robin_set.h>
+#include <vector>
 
 namespace ruvenmark {
 
