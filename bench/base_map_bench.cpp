@@ -61,7 +61,8 @@ void FirstFrame(benchmark::State& state)
         const BaseMap map = BaseMap::Open(kPath);
         TilePainter tiles(map);
         PlaceLabels labels(map);
-        LabelGrid grid(1280, 800);
+        LabelGrid grid;
+        grid.Reset(1280, 800);
         QPainter painter(&image);
         tiles.Paint(painter, FrameOf(spot, 1280, 800), {MapStyle::Road, false, 1, true});
         labels.Paint(painter, FrameOf(spot, 1280, 800), grid, {});

@@ -99,7 +99,10 @@ void Report(MapWidget& widget, Map& map, const char* what)
     };
     print("pan", pan);
     print("zoom", zoom);
-    std::printf("%-35s%zu in view, %zu pictures, %zu names, %zu lines\n", "", widget.Scene().Markers().Seen(),
+    std::size_t inView = 0;
+    for (const MarkerItem& item : widget.Scene().Markers().Items())
+        inView += item.count;
+    std::printf("%-35s%zu in view, %zu pictures, %zu names, %zu lines\n", "", inView,
                 widget.Scene().Markers().Items().size(), widget.Scene().Labels().Names().size(),
                 widget.Scene().Shapes().Lines().size());
     map.SetView({38, -96}, 4.6);

@@ -1,19 +1,13 @@
 // The whole road without a window: line in, decoder, filter, marker, tree, record, note. Prints reports a second at
 // 10,000 and at 1,000,000 stations in one run, their ratio, and the bytes a station takes.
 
-#include "core/bare_surface.h"
+#include "bench_machine.h"
 #include "core/lifecycle.h"
-#include "core/main_window.h"
-#include "devices/report_sources.h"
 #include "intake/station_store.h"
-#include "platform/headless.h"
-#include "platform/settings_store.h"
 
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
-#include <iostream>
 #include <malloc.h>
 #include <memory>
 #include <random>
@@ -23,12 +17,6 @@
 namespace {
 
 using namespace ruvenmark;
-
-// Of this process: other work on a shared machine does not count.
-double CpuSeconds()
-{
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
-}
 
 std::string Call(std::size_t number)
 {
@@ -56,26 +44,16 @@ std::string Line(std::size_t station, std::mt19937& random)
     return text.data();
 }
 
-struct Machine {
-    MemorySettingsStore store;
-    PosixFiles files;
-    SystemClock clock;
-    SilentSound sound;
-    SystemSleep sleep;
-    NoYield yield;
-    HeadlessPrompts prompts{std::cerr};
-    BareDialogs dialogs;
-    BareDesktop desktop;
-    ReportSources sources;
-    MainWindow main{Services{store, files, clock, sound, sleep, yield, prompts, dialogs, desktop, sources, "/tmp"}};
+struct Program {
+    BenchMachine<NoYield> machine;
+    MainWindow main{machine.Lend()};
     std::unique_ptr<IReportSource> source;
 
-    Machine()
+    Program()
     {
-        store.Set("Region", "1");
         StartMainWindow(main);
         AddChannelTree(main.tvStationList, Channel::FL);
-        source = sources.CreateFileSource(*main.sinks[Index(Channel::FL)]);
+        source = machine.sources.CreateFileSource(*main.sinks[Index(Channel::FL)]);
     }
 };
 
@@ -87,10 +65,10 @@ struct Figures {
 Figures Measure(std::size_t stations, std::size_t reports)
 {
     std::mt19937 random(7);
-    const auto machine = std::make_unique<Machine>();
+    const auto program = std::make_unique<Program>();
     const auto before = mallinfo2().uordblks + mallinfo2().hblkhd;
     for (std::size_t i = 0; i < stations; ++i)
-        machine->source->ParseLine(Line(i, random));
+        program->source->ParseLine(Line(i, random));
     Figures figures;
     figures.bytesPerStation =
         static_cast<double>(mallinfo2().uordblks + mallinfo2().hblkhd - before) / static_cast<double>(stations);
@@ -99,7 +77,7 @@ Figures Measure(std::size_t stations, std::size_t reports)
         lines.push_back(Line(random() % stations, random));
     const double start = CpuSeconds();
     for (const std::string& line : lines)
-        machine->source->ParseLine(line);
+        program->source->ParseLine(line);
     figures.reportsPerSecond = static_cast<double>(reports) / (CpuSeconds() - start);
     return figures;
 }

@@ -2,21 +2,17 @@
 // shown, a tree of 100,000 stations, and what an idle window costs. Runs without a screen unless QT_QPA_PLATFORM says
 // otherwise.
 
-#include "core/bare_surface.h"
+#include "bench_machine.h"
 #include "core/lifecycle.h"
-#include "core/main_window.h"
-#include "desktop/call_search.h"
 #include "desktop/data_path.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/main_window_view.h"
 #include "desktop/map/base_map.h"
 #include "desktop/map/map_widget.h"
-#include "desktop/qt_services.h"
-#include "desktop/tree_view.h"
-#include "devices/report_sources.h"
+#include "desktop/services/qt_yield.h"
+#include "desktop/tree/call_search.h"
+#include "desktop/tree/tree_view.h"
 #include "packet_text.h"
-#include "platform/files.h"
-#include "platform/headless.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -27,8 +23,6 @@
 #include <QTimer>
 
 #include <cstdio>
-#include <ctime>
-#include <iostream>
 #include <random>
 #include <string>
 
@@ -36,33 +30,18 @@ namespace {
 
 using namespace ruvenmark;
 
-double CpuSeconds()
-{
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
-}
-
 struct Program {
     Program() : baseMap(BaseMap::Open(DataPath(QStringLiteral("basemap/world.rvm"))))
     {
-        store.Set("Region", "1");
-        store.Set("MainWidth", "19200"); // 1280 x 800 pixels.
-        store.Set("MainHeight", "12000");
-        store.Set("WindowSplit", "3600");
+        machine.store.Set("MainWidth", "19200"); // 1280 x 800 pixels.
+        machine.store.Set("MainHeight", "12000");
+        machine.store.Set("WindowSplit", "3600");
     }
 
-    MemorySettingsStore store;
-    PosixFiles files;
-    SystemClock clock;
-    SilentSound sound;
-    SystemSleep sleep;
-    QtYield yield;
-    HeadlessPrompts prompts{std::cerr};
-    BareDialogs dialogs;
-    BareDesktop desktop;
-    ReportSources sources;
+    BenchMachine<QtYield> machine;
     IconSet icons;
     BaseMap baseMap;
-    MainWindow main{Services{store, files, clock, sound, sleep, yield, prompts, dialogs, desktop, sources, "/tmp"}};
+    MainWindow main{machine.Lend()};
     MainWindowView window{main, icons, &baseMap};
 };
 

@@ -2,17 +2,17 @@
 
 #include "core/lifecycle.h"
 #include "core/main_window.h"
-#include "desktop/help_view.h"
+#include "desktop/bars/main_tool_bar.h"
+#include "desktop/bars/status_bar_view.h"
 #include "desktop/icons/icon_set.h"
-#include "desktop/main_tool_bar.h"
 #include "desktop/map/map_widget.h"
-#include "desktop/map_pane.h"
-#include "desktop/panes.h"
+#include "desktop/panes/help_view.h"
+#include "desktop/panes/map_pane.h"
+#include "desktop/panes/panes.h"
 #include "desktop/shown_text.h"
-#include "desktop/status_bar_view.h"
 #include "desktop/tile_choice.h"
-#include "desktop/tree_model.h"
-#include "desktop/tree_view.h"
+#include "desktop/tree/tree_model.h"
+#include "desktop/tree/tree_view.h"
 #include "links/station_files.h"
 #include "map/pointer_tools.h"
 #include "ui/layout.h"
@@ -25,7 +25,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QScreen>
 #include <QStackedWidget>
 #include <QUrl>
 
@@ -43,13 +42,6 @@ QString DraggedFile(const QMimeData& data)
     return urls.size() == 1 && urls.constFirst().isLocalFile() ? urls.constFirst().toLocalFile() : QString();
 }
 
-// Nobody has placed the window yet.
-bool IsAtFirstPlace(const WindowState& window)
-{
-    return window.left == kFirstLeft && window.top == kFirstTop && window.width == kFirstWidth &&
-           window.height == kFirstHeight;
-}
-
 } // namespace
 
 MainWindowView::MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* base)
@@ -59,7 +51,7 @@ MainWindowView::MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* 
       m_toolBar(new MainToolBar(
           main, icons, [this](MenuEntry entry) { Run(entry); }, this)),
       m_statusBar(new StatusBarView(main.sbStatusBar, this)), m_right(new QStackedWidget(this)),
-      m_panes(new Panes(main, this))
+      m_panes(new Panes(main, this)), m_placement(main, *this)
 {
     setWindowIcon(icons.Program());
     setMinimumWidth(PixelsOfTwips(kMinWindowWidth));
@@ -152,16 +144,8 @@ void MainWindowView::ShowState()
         m_help->Show(window.webAddress);
     m_right->setCurrentWidget(window.rightView == RightView::Web ? static_cast<QWidget*>(m_help) : m_mapPane);
     m_right->setFocusProxy(m_right->currentWidget());
-    if (!m_bPlaced && window.bShown)
-        ShowAtLastPlace();
-    if (m_bPlaced && window.bFullScreen != isFullScreen())
-        ShowFullScreen();
+    m_placement.Apply();
     m_panes->ApplyLayout();
-}
-
-void MainWindowView::ShowFullScreen()
-{
-    setWindowState(windowState().setFlag(Qt::WindowFullScreen, m_main.window.bFullScreen));
 }
 
 void MainWindowView::RefreshStates()
@@ -190,28 +174,6 @@ void MainWindowView::PopUp(QPoint place, int button, TreeNode* node)
     QMenu* menu = m_menus.MakePopup(popup->items, m_tree);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->popup(place);
-}
-
-// Where the window stood the last time; at first in the middle of the screen, at a comfortable size.
-void MainWindowView::ShowAtLastPlace()
-{
-    constexpr QSize kFirstSize(1200, 800);
-    constexpr int kFirstLeftPane = 240;
-    WindowState& window = m_main.window;
-    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-    const QSize size(PixelsOfTwips(AllowedWindowWidth(window.width)), PixelsOfTwips(window.height));
-    const bool bFirstStart = IsAtFirstPlace(window);
-    QRect place(QPoint(PixelsOfTwips(window.left), PixelsOfTwips(window.top)),
-                (bFirstStart ? kFirstSize : size).boundedTo(screen.size()));
-    // A screen that is gone must not take the window with it.
-    if (bFirstStart && window.splitterLeft == kFirstSplitterLeft)
-        window.splitterLeft = TwipsOfPixels(kFirstLeftPane);
-    if (bFirstStart || !QGuiApplication::screenAt(place.center()))
-        place.moveCenter(screen.center());
-    m_bPlaced = true;
-    move(place.topLeft());
-    resize(place.size());
-    show();
 }
 
 void MainWindowView::ShowInTree(const TreeNode& node)
@@ -252,7 +214,7 @@ void MainWindowView::changeEvent(QEvent* event)
         RefreshIcons();
     if (event->type() == QEvent::WindowStateChange) {
         m_main.window.bFullScreen = isFullScreen();
-        KeepPlace();
+        m_placement.Keep();
     }
 }
 
@@ -288,24 +250,13 @@ void MainWindowView::dropEvent(QDropEvent* event)
 void MainWindowView::moveEvent(QMoveEvent* event)
 {
     QMainWindow::moveEvent(event);
-    KeepPlace();
+    m_placement.Keep();
 }
 
 void MainWindowView::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
-    KeepPlace();
-}
-
-void MainWindowView::KeepPlace()
-{
-    if (!m_bPlaced)
-        return;
-    const bool bOrdinary = !isMaximized() && !isFullScreen() && !isMinimized();
-    const QRect place = bOrdinary ? QRect(pos(), size()) : normalGeometry();
-    if (place.isValid())
-        KeepGeometry(m_main, TwipsOfPixels(place.left()), TwipsOfPixels(place.top()), TwipsOfPixels(place.width()),
-                     TwipsOfPixels(place.height()), isMinimized());
+    m_placement.Keep();
 }
 
 } // namespace ruvenmark

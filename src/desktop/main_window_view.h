@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/menu_binder.h"
+#include "desktop/window_placement.h"
 #include "platform/event.h"
 
 #include <QMainWindow>
@@ -56,13 +57,10 @@ private:
     void ConnectTree();
     void Observe();
     void ShowState();
-    void ShowAtLastPlace();
-    void ShowFullScreen();
     void RefreshStates();
     void RefreshIcons();
     void ShowTiles();
     void PopUp(QPoint place, int button, TreeNode* node);
-    void KeepPlace();
     void AfterCommand();
 
     MainWindow& m_main;
@@ -77,10 +75,10 @@ private:
     MapPane* m_mapPane = nullptr;
     HelpView* m_help = nullptr;
     Panes* m_panes;
+    WindowPlacement m_placement;
     QTimer m_stateTimer, m_pointerTimer;
     int m_running = 0;           // Commands on the stack: a load lets others in.
     bool m_bCloseWanted = false; // As soon as the load has ended.
-    bool m_bPlaced = false;      // Shown for the first time.
     std::vector<Subscription> m_subscriptions;
 };
 

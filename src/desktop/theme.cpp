@@ -4,39 +4,35 @@
 #include <QPalette>
 #include <QStyleFactory>
 
+#include <array>
+#include <utility>
+
 namespace ruvenmark {
+
+namespace {
+
+constexpr QRgb kWindow = 0x2A2C30, kText = 0xE4E5E7, kFaint = 0x828489;
+
+constexpr std::array<std::pair<QPalette::ColorRole, QRgb>, 20> kColors{{
+    {QPalette::Window, kWindow},        {QPalette::WindowText, kText},     {QPalette::Base, 0x1E2023},
+    {QPalette::AlternateBase, kWindow}, {QPalette::Text, kText},           {QPalette::PlaceholderText, kFaint},
+    {QPalette::Button, 0x35383D},       {QPalette::ButtonText, kText},     {QPalette::Light, 0x46494F},
+    {QPalette::Midlight, 0x3E4146},     {QPalette::Mid, 0x24262A},         {QPalette::Dark, 0x181A1C},
+    {QPalette::Shadow, 0x000000},       {QPalette::BrightText, 0xFFFFFF},  {QPalette::ToolTipBase, 0x3C3F44},
+    {QPalette::ToolTipText, kText},     {QPalette::Highlight, 0x3D7EBA},   {QPalette::HighlightedText, 0xFFFFFF},
+    {QPalette::Link, 0x6EB2F0},         {QPalette::LinkVisited, 0xB296EB},
+}};
+
+} // namespace
 
 void UseDarkColors()
 {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-    const QColor window(42, 44, 48);
-    const QColor base(30, 32, 35);
-    const QColor text(228, 229, 231);
-    const QColor faint(130, 132, 137);
-    const QColor accent(61, 126, 186);
     QPalette palette;
-    palette.setColor(QPalette::Window, window);
-    palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::Base, base);
-    palette.setColor(QPalette::AlternateBase, window);
-    palette.setColor(QPalette::Text, text);
-    palette.setColor(QPalette::PlaceholderText, faint);
-    palette.setColor(QPalette::Button, QColor(53, 56, 61));
-    palette.setColor(QPalette::ButtonText, text);
-    palette.setColor(QPalette::Light, QColor(70, 73, 79));
-    palette.setColor(QPalette::Midlight, QColor(62, 65, 70));
-    palette.setColor(QPalette::Mid, QColor(36, 38, 42));
-    palette.setColor(QPalette::Dark, QColor(24, 26, 28));
-    palette.setColor(QPalette::Shadow, Qt::black);
-    palette.setColor(QPalette::BrightText, Qt::white);
-    palette.setColor(QPalette::ToolTipBase, QColor(60, 63, 68));
-    palette.setColor(QPalette::ToolTipText, text);
-    palette.setColor(QPalette::Highlight, accent);
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    palette.setColor(QPalette::Link, QColor(110, 178, 240));
-    palette.setColor(QPalette::LinkVisited, QColor(178, 150, 235));
+    for (const auto& [role, color] : kColors)
+        palette.setColor(role, QColor(color));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, faint);
+        palette.setColor(QPalette::Disabled, role, QColor(kFaint));
     QApplication::setPalette(palette);
 }
 

@@ -4,25 +4,15 @@
 
 namespace ruvenmark {
 
-namespace {
-
-template <typename Value>
-bool IsThere(const SlotPool<Value>& pool, SlotRef ref)
-{
-    return ref.slot < pool.SlotCount() && pool.RefAt(ref.slot) == ref;
-}
-
-} // namespace
-
 SelectionKind KindOfSelection(const MainWindow& main)
 {
     const Map* map = main.mpCtrl.ActiveMap();
     if (!map || main.window.rightView != RightView::Map)
         return SelectionKind::Nothing;
     if (const auto* pin = std::get_if<Pushpin>(&main.map.Selection))
-        return IsThere(map->Pins(), pin->Ref()) ? SelectionKind::Pushpin : SelectionKind::Nothing;
+        return map->Pins().Find(pin->Ref()) ? SelectionKind::Pushpin : SelectionKind::Nothing;
     if (const auto* shape = std::get_if<Shape>(&main.map.Selection))
-        return IsThere(map->Shapes(), shape->Ref()) ? SelectionKind::Shape : SelectionKind::Nothing;
+        return map->Shapes().Find(shape->Ref()) ? SelectionKind::Shape : SelectionKind::Nothing;
     return SelectionKind::Nothing;
 }
 

@@ -34,11 +34,8 @@ public:
         return {slot, m_lastId};
     }
 
-    Value* Find(SlotRef ref)
-    {
-        return ref.id != 0 && ref.slot < m_slots.size() && m_slots[ref.slot].id == ref.id ? &m_slots[ref.slot].value
-                                                                                          : nullptr;
-    }
+    Value* Find(SlotRef ref) { return Holds(ref) ? &m_slots[ref.slot].value : nullptr; }
+    const Value* Find(SlotRef ref) const { return Holds(ref) ? &m_slots[ref.slot].value : nullptr; }
 
     void Remove(SlotRef ref)
     {
@@ -68,6 +65,9 @@ private:
         Value value{};
         std::uint64_t id = 0;
     };
+
+    bool Holds(SlotRef ref) const { return ref.id != 0 && ref.slot < m_slots.size() && m_slots[ref.slot].id == ref.id; }
+
     std::deque<Slot> m_slots;
     std::vector<std::uint32_t> m_free;
     std::uint64_t m_lastId = 0;

@@ -92,6 +92,7 @@ QImage MapSheet(IconSet& icons, int size, qreal ratio)
     constexpr int kColumns = 15;
     constexpr int kCell = 44;
     const std::vector<int> numbers = icons.MapNumbers();
+    const ruvenmark::MapAtlas& atlas = icons.Atlas(size, ratio);
     const int rows = (static_cast<int>(numbers.size()) + kColumns - 1) / kColumns;
     std::vector<QImage> sheets;
     for (const QColor& background : {QColor(0xf2, 0xee, 0xe2), QColor(0xa8, 0xcc, 0xe0), QColor(0x3a, 0x40, 0x46)}) {
@@ -101,7 +102,8 @@ QImage MapSheet(IconSet& icons, int size, qreal ratio)
         for (std::size_t i = 0; i < numbers.size(); ++i) {
             const int x = static_cast<int>(i) % kColumns * kCell;
             const int y = static_cast<int>(i) / kColumns * kCell;
-            painter.drawPixmap(x + (kCell - size) / 2, y + 4, icons.MapPicture(numbers[i], size, ratio));
+            painter.drawPixmap(QRect(x + (kCell - size) / 2, y + 4, size, size), atlas.Sheet(),
+                               atlas.Source(numbers[i]));
             painter.drawText(QRect(x, y + 26, kCell, 14), Qt::AlignCenter, QString::number(numbers[i]));
         }
         sheets.push_back(image);

@@ -1,7 +1,7 @@
 #include "desktop/dialogs/frm_filter_dialog.h"
 
 #include "core/main_window.h"
-#include "desktop/bind.h"
+#include "desktop/dialogs/bind.h"
 #include "desktop/dialogs/dialog_parts.h"
 #include "desktop/dialogs/field_check.h"
 
@@ -143,9 +143,7 @@ QLineEdit* FrmFilterDialog::MakeEdit(const FilterTabTexts& texts, const char* na
 
 QCheckBox* FrmFilterDialog::MakeBox(const FilterTabTexts& texts, const char* name, const QString& text, bool& field)
 {
-    auto* box = new QCheckBox(text, this);
-    NameControl(*box, qPrintable(ControlName(texts, name)), text);
-    Bind(*box, field);
+    auto* box = MakeBoundBox(this, qPrintable(ControlName(texts, name)), text, field);
     m_flags.push_back({box, &field});
     return box;
 }

@@ -1,6 +1,6 @@
 #include "desktop/dialogs/frm_import_dialog.h"
 
-#include "desktop/bind.h"
+#include "desktop/dialogs/bind.h"
 #include "desktop/dialogs/dialog_parts.h"
 #include "desktop/dialogs/field_check.h"
 #include "links/import_form_rules.h"

@@ -1,7 +1,7 @@
 #include "desktop/dialogs/frm_track_list_dialog.h"
 
 #include "core/main_window.h"
-#include "desktop/bind.h"
+#include "desktop/dialogs/bind.h"
 #include "desktop/dialogs/dialog_parts.h"
 #include "tracking/track_list_form_rules.h"
 
@@ -27,14 +27,6 @@ QComboBox* MakeList(QWidget* parent, const char* name, const QString& label, std
         list->addItem(ForDisplay(entry));
     Bind(*list, field);
     return list;
-}
-
-QCheckBox* MakeBox(QWidget* parent, const char* name, const QString& text, bool& field)
-{
-    auto* box = new QCheckBox(text, parent);
-    NameControl(*box, name, text);
-    Bind(*box, field);
-    return box;
 }
 
 } // namespace
@@ -78,8 +70,8 @@ void FrmTrackListDialog::AddLists(QVBoxLayout& layout)
 void FrmTrackListDialog::AddLineFields(QVBoxLayout& layout)
 {
     TrackListForm& form = m_main.frmTrackList;
-    layout.addWidget(MakeBox(this, "chkTrackStation", QStringLiteral("&Shift map"), form.chkTrackStation));
-    layout.addWidget(MakeBox(this, "chkTrackLine", QStringLiteral("Show track &lines"), form.chkTrackLine));
+    layout.addWidget(MakeBoundBox(this, "chkTrackStation", QStringLiteral("&Shift map"), form.chkTrackStation));
+    layout.addWidget(MakeBoundBox(this, "chkTrackLine", QStringLiteral("Show track &lines"), form.chkTrackLine));
     auto* fields = new QFormLayout;
     const QString size = QStringLiteral("Track line si&ze");
     const QString style = QStringLiteral("Track line st&yle");
@@ -92,7 +84,7 @@ void FrmTrackListDialog::AddSoundFields(QVBoxLayout& layout)
 {
     TrackListForm& form = m_main.frmTrackList;
     const QString text = QStringLiteral("&Play wave file for incoming reports");
-    layout.addWidget(MakeBox(this, "chkPlayWave", text, form.chkPlayWave));
+    layout.addWidget(MakeBoundBox(this, "chkPlayWave", text, form.chkPlayWave));
     auto* file = new QLineEdit(this);
     NameControl(*file, "txtTrackWaveFile", QStringLiteral("Wave file"));
     Bind(*file, form.txtTrackWaveFile);

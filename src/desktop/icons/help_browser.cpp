@@ -15,8 +15,8 @@ QVariant HelpBrowser::loadResource(int type, const QUrl& name)
 {
     constexpr int kLargest = 512;
     const int size = name.query().toInt();
-    const bool isPicture = type == QTextDocument::ImageResource && name.scheme() == QLatin1String("qrc");
-    if (!isPicture || size <= 0 || size > kLargest)
+    const bool bPicture = type == QTextDocument::ImageResource && name.scheme() == QLatin1String("qrc");
+    if (!bPicture || size <= 0 || size > kLargest)
         return QTextBrowser::loadResource(type, name);
     QPixmap pixmap = SvgPicture(QLatin1Char(':') + name.path()).Draw(qRound(size * devicePixelRatioF()));
     pixmap.setDevicePixelRatio(devicePixelRatioF());

@@ -32,9 +32,9 @@ QString BaseName(const QString& file)
     return file.chopped(4);
 }
 
-QIcon Icon(const QString& path, const IconColours& colours)
+QIcon Icon(const QString& path, const IconColors& colors)
 {
-    return QIcon(new SvgIconEngine(path, colours));
+    return QIcon(new SvgIconEngine(path, colors));
 }
 
 } // namespace
@@ -43,12 +43,12 @@ IconSet::IconSet()
 {
     LoadResources();
     // On a selected row only the shape speaks: its own colour might be that of the row.
-    const IconColours tree{
+    const IconColors tree{
         .normal = {}, .disabled = {}, .selected = QGuiApplication::palette().color(QPalette::HighlightedText)};
     for (const QString& file : Files("tree"))
         m_tree.emplace(BaseName(file).toStdString(), Icon(Folder("tree/") + file, tree));
     for (const QString& file : Files("map"))
-        m_map.emplace(BaseName(file).toInt(), MapEntry{.path = Folder("map/") + file, .drawn = {}});
+        m_map.emplace(BaseName(file).toInt(), Folder("map/") + file);
 }
 
 QIcon IconSet::Tree(std::string_view key) const
@@ -72,16 +72,6 @@ QIcon IconSet::Program() const
     return Icon(Folder("ruvenmark.svg"), {});
 }
 
-QPixmap IconSet::MapPicture(int number, int size, qreal ratio)
-{
-    auto found = m_map.find(number);
-    if (found == m_map.end())
-        found = m_map.find(kDefaultMapPicture);
-    QPixmap picture = Drawn(found->second, qRound(size * ratio));
-    picture.setDevicePixelRatio(ratio);
-    return picture;
-}
-
 const MapAtlas& IconSet::Atlas(int size, qreal ratio)
 {
     const std::pair key(size, ratio);
@@ -89,16 +79,9 @@ const MapAtlas& IconSet::Atlas(int size, qreal ratio)
         return kept->second;
     const int cell = qRound(size * ratio);
     std::map<int, QPixmap> pictures;
-    for (auto& [number, entry] : m_map)
-        pictures.emplace(number, Drawn(entry, cell));
+    for (const auto& [number, path] : m_map)
+        pictures.emplace(number, SvgPicture(path).Draw(cell));
     return m_atlases.emplace(key, MapAtlas(pictures, cell, kDefaultMapPicture, ratio)).first->second;
-}
-
-const QPixmap& IconSet::Drawn(MapEntry& entry, int pixels)
-{
-    const auto kept = entry.drawn.find(pixels);
-    return kept != entry.drawn.end() ? kept->second
-                                     : entry.drawn.emplace(pixels, SvgPicture(entry.path).Draw(pixels)).first->second;
 }
 
 std::vector<std::string> IconSet::TreeKeys() const
@@ -112,7 +95,7 @@ std::vector<std::string> IconSet::TreeKeys() const
 std::vector<int> IconSet::MapNumbers() const
 {
     std::vector<int> numbers;
-    for (const auto& [number, entry] : m_map)
+    for (const auto& [number, path] : m_map)
         numbers.push_back(number);
     return numbers;
 }

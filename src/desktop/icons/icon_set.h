@@ -4,14 +4,13 @@
 
 #include <QIcon>
 #include <QPalette>
-#include <QPixmap>
 #include <QString>
 
 #include <functional>
 #include <map>
 #include <string>
 #include <string_view>
-#include <tuple>
+#include <utility>
 #include <vector>
 
 namespace ruvenmark {
@@ -24,30 +23,22 @@ public:
     IconSet();
 
     // The picture of a tree key; a word that has none gets that of "Default".
-    [[nodiscard]] QIcon Tree(std::string_view key) const;
+    QIcon Tree(std::string_view key) const;
     // Ask again after a change of palette. A name without a picture gives an icon that is null.
-    [[nodiscard]] QIcon Action(const QString& name, const QPalette& palette) const;
-    [[nodiscard]] QIcon Program() const;
+    QIcon Action(const QString& name, const QPalette& palette) const;
+    QIcon Program() const;
 
-    // `size` counts device-independent pixels a side; a number without a picture gets that of kDefaultMapPicture.
-    [[nodiscard]] QPixmap MapPicture(int number, int size, qreal ratio);
-    // The atlas lives as long as this object.
-    [[nodiscard]] const MapAtlas& Atlas(int size, qreal ratio);
+    // All pictures of the map; `size` counts device-independent pixels a side. A number without a picture gets that of
+    // kDefaultMapPicture. The atlas lives as long as this object.
+    const MapAtlas& Atlas(int size, qreal ratio);
 
-    [[nodiscard]] std::vector<std::string> TreeKeys() const;
-    [[nodiscard]] std::vector<int> MapNumbers() const;
-    [[nodiscard]] std::vector<QString> ActionNames() const;
+    std::vector<std::string> TreeKeys() const;
+    std::vector<int> MapNumbers() const;
+    std::vector<QString> ActionNames() const;
 
 private:
-    struct MapEntry {
-        QString path;
-        std::map<int, QPixmap> drawn; // by device pixels a side
-    };
-
-    const QPixmap& Drawn(MapEntry& entry, int pixels);
-
     std::map<std::string, QIcon, std::less<>> m_tree;
-    std::map<int, MapEntry> m_map;
+    std::map<int, QString> m_map; // Paths by number.
     std::map<std::pair<int, qreal>, MapAtlas> m_atlases;
 };
 

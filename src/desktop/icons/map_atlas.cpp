@@ -1,6 +1,5 @@
 #include "desktop/icons/map_atlas.h"
 
-#include <algorithm>
 #include <cassert>
 
 namespace ruvenmark {
@@ -35,8 +34,8 @@ MapAtlas::MapAtlas(const std::map<int, QPixmap>& pictures, int cell, int fallbac
 QRect MapAtlas::Source(int number) const
 {
     const auto index = static_cast<std::size_t>(number);
-    const bool known = number >= 0 && index < m_places.size();
-    return {known ? m_places[index] : m_fallback, QSize(m_cell, m_cell)};
+    const bool bKnown = number >= 0 && index < m_places.size();
+    return {bKnown ? m_places[index] : m_fallback, QSize(m_cell, m_cell)};
 }
 
 QPainter::PixmapFragment MapAtlas::Fragment(int number, QPointF centre) const

@@ -17,14 +17,13 @@ public:
     MapAtlas(const std::map<int, QPixmap>& pictures, int cell, int fallback, qreal ratio);
 
     // Its own pixel ratio is 1: rectangles on it count device pixels.
-    [[nodiscard]] const QPixmap& Sheet() const { return m_sheet; }
-    [[nodiscard]] int Cell() const { return m_cell; }
-    [[nodiscard]] QRect Source(int number) const;
+    const QPixmap& Sheet() const { return m_sheet; }
+    QRect Source(int number) const;
 
     // For QPainter::drawPixmapFragments: the picture with its middle at `centre`, a point in the painter's own
     // coordinates. The painter scales by the ratio; one that counts device pixels (ratio 1) draws Source() with
     // drawPixmap and is faster.
-    [[nodiscard]] QPainter::PixmapFragment Fragment(int number, QPointF centre) const;
+    QPainter::PixmapFragment Fragment(int number, QPointF centre) const;
 
 private:
     QPixmap m_sheet;

@@ -18,16 +18,16 @@ QPixmap Faded(const QPixmap& pixmap)
     return faded;
 }
 
-void Tint(QPixmap& pixmap, const QColor& colour)
+void Tint(QPixmap& pixmap, const QColor& color)
 {
     QPainter painter(&pixmap);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(pixmap.rect(), colour);
+    painter.fillRect(pixmap.rect(), color);
 }
 
 } // namespace
 
-SvgIconEngine::SvgIconEngine(QString path, const IconColours& colours) : m_path(std::move(path)), m_colours(colours) {}
+SvgIconEngine::SvgIconEngine(QString path, const IconColors& colors) : m_path(std::move(path)), m_colors(colors) {}
 
 void SvgIconEngine::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State /*state*/)
 {
@@ -71,13 +71,13 @@ QPixmap SvgIconEngine::Drawn(int pixels, QIcon::Mode mode)
     if (const auto kept = m_drawn.find({pixels, mode}); kept != m_drawn.end())
         return kept->second;
     if (!m_picture)
-        m_picture.emplace(m_path, m_colours.normal);
+        m_picture.emplace(m_path, m_colors.normal);
     QPixmap pixmap = m_picture->Draw(pixels);
-    if (mode == QIcon::Selected && m_colours.selected.isValid())
-        Tint(pixmap, m_colours.selected);
+    if (mode == QIcon::Selected && m_colors.selected.isValid())
+        Tint(pixmap, m_colors.selected);
     if (mode == QIcon::Disabled) {
-        if (m_colours.disabled.isValid())
-            Tint(pixmap, m_colours.disabled);
+        if (m_colors.disabled.isValid())
+            Tint(pixmap, m_colors.disabled);
         else
             pixmap = Faded(pixmap);
     }

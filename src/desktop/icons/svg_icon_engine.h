@@ -11,7 +11,7 @@
 namespace ruvenmark {
 
 // What an icon takes from the palette: an invalid colour leaves the picture as it is.
-struct IconColours {
+struct IconColors {
     QColor normal;
     QColor disabled;
     QColor selected;
@@ -21,12 +21,12 @@ struct IconColours {
 // again.
 class SvgIconEngine : public QIconEngine {
 public:
-    SvgIconEngine(QString path, const IconColours& colours);
+    SvgIconEngine(QString path, const IconColors& colors);
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
     QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override;
-    [[nodiscard]] QIconEngine* clone() const override;
+    QIconEngine* clone() const override;
     QString key() const override;
     bool isNull() override;
 
@@ -34,7 +34,7 @@ private:
     QPixmap Drawn(int pixels, QIcon::Mode mode);
 
     QString m_path;
-    IconColours m_colours;
+    IconColors m_colors;
     std::optional<SvgPicture> m_picture;
     std::map<std::pair<int, QIcon::Mode>, QPixmap> m_drawn;
 };

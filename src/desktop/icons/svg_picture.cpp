@@ -6,13 +6,13 @@
 
 namespace ruvenmark {
 
-SvgPicture::SvgPicture(const QString& path, const QColor& colour)
+SvgPicture::SvgPicture(const QString& path, const QColor& color)
 {
     QFile file(path);
     if (file.open(QIODevice::ReadOnly))
         m_svg = file.readAll();
-    if (colour.isValid())
-        m_svg.replace("currentColor", colour.name().toLatin1());
+    if (color.isValid())
+        m_svg.replace("currentColor", color.name().toLatin1());
 }
 
 QPixmap SvgPicture::Draw(int pixels) const

@@ -11,10 +11,10 @@ namespace ruvenmark {
 class SvgPicture {
 public:
     // A valid colour takes the place of every currentColor in the file.
-    explicit SvgPicture(const QString& path, const QColor& colour = {});
+    explicit SvgPicture(const QString& path, const QColor& color = {});
 
     // A transparent square of this many device pixels a side with the picture on it.
-    [[nodiscard]] QPixmap Draw(int pixels) const;
+    QPixmap Draw(int pixels) const;
 
 private:
     QByteArray m_svg;

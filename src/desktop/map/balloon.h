@@ -7,9 +7,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <string_view>
-#include <vector>
-
 class QPainter;
 
 namespace ruvenmark {
@@ -33,9 +30,6 @@ public:
     QRectF CloseRect() const;                     // Of the cross that closes a pinned balloon.
     void Paint(QPainter& painter) const;
 
-    const QString& Title() const { return m_title; }           // As painted.
-    const QStringList& PaintedLines() const { return m_rows; } // As painted, broken to fit.
-
 private:
     void Place(QSizeF size, const QRectF& area);
     void PaintPlate(QPainter& painter) const;
@@ -44,7 +38,7 @@ private:
     QPointF m_point;
     bool m_bPinned;
     QString m_title;
-    QStringList m_rows;
+    QStringList m_rows; // Broken to fit.
     QRectF m_rect;
 };
 

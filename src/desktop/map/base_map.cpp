@@ -21,24 +21,13 @@ constexpr std::size_t kHeaderBytes = 32, kEntryBytes = 40;
 constexpr double kWorld = 4294967296.0;
 constexpr std::uint16_t kNone = 0xffff;
 
-namespace section_kind {
-enum Kind : std::uint32_t {
-    FirstLayer = 1,
-    LastLayer = 5,
-    Heights = 6,
-    Countries = 10,
-    States = 11,
-    Waters = 12,
-    Places = 13,
-    Names = 14,
-    NameOrder = 15,
-    Cells = 16
-};
-} // namespace section_kind
+// The kinds of the file's sections.
+constexpr std::uint32_t kFirstLayer = 1, kLastLayer = 5, kHeights = 6, kCountries = 10, kStates = 11, kWaters = 12,
+                        kPlaces = 13, kNames = 14, kNameOrder = 15, kCells = 16;
 
-void Require(bool isGood, const char* what)
+void Require(bool bGood, const char* what)
 {
-    if (!isGood)
+    if (!bGood)
         throw Failure(std::string("The base map is damaged: ") + what);
 }
 
@@ -144,25 +133,25 @@ void BaseMap::ReadSection(const Section& section)
         return section.bytes;
     };
     auto rest = section.bytes;
-    if (section.kind >= section_kind::FirstLayer && section.kind <= section_kind::LastLayer) {
+    if (section.kind >= kFirstLayer && section.kind <= kLastLayer) {
         auto& levels = m_layers.at(section.kind);
         Require(section.level == levels.size(), "levels of detail are missing.");
         levels.emplace_back(section.bytes, section.count, section.bits, section.topZoom / 100.0);
-    } else if (section.kind == section_kind::Heights) {
+    } else if (section.kind == kHeights) {
         ReadHeights(section);
-    } else if (section.kind == section_kind::Countries) {
+    } else if (section.kind == kCountries) {
         m_countries = areas();
-    } else if (section.kind == section_kind::States) {
+    } else if (section.kind == kStates) {
         m_states = areas();
-    } else if (section.kind == section_kind::Waters) {
+    } else if (section.kind == kWaters) {
         m_waters = areas();
-    } else if (section.kind == section_kind::Places) {
+    } else if (section.kind == kPlaces) {
         ReadPlaces(section);
-    } else if (section.kind == section_kind::Names) {
+    } else if (section.kind == kNames) {
         m_names = section.bytes;
-    } else if (section.kind == section_kind::NameOrder) {
+    } else if (section.kind == kNameOrder) {
         m_nameOrder = Take<std::uint32_t>(rest, section.count);
-    } else if (section.kind == section_kind::Cells) {
+    } else if (section.kind == kCells) {
         ReadCells(section);
     }
 }
@@ -213,7 +202,7 @@ void BaseMap::CheckAreas(std::span<const std::byte> areas) const
 
 void BaseMap::CheckReferences() const
 {
-    for (std::size_t layer = section_kind::FirstLayer; layer <= section_kind::LastLayer; ++layer)
+    for (std::size_t layer = kFirstLayer; layer <= kLastLayer; ++layer)
         Require(!m_layers.at(layer).empty(), "a layer is missing.");
     for (const auto& areas : {m_countries, m_states, m_waters})
         CheckAreas(areas);
@@ -261,15 +250,14 @@ PlaceRecord BaseMap::Place(std::size_t index) const
             Index(m_places.state[index]),
             Index(m_places.country[index]),
             (flags & 1U) != 0,
-            (flags & 2U) != 0,
             (flags & 4U) != 0};
 }
 
 std::string_view BaseMap::FoldedName(std::size_t index) const
 {
-    const bool isOwn = m_places.foldedLength[index] != 0;
-    const auto name = isOwn ? m_names.subspan(m_places.folded[index], m_places.foldedLength[index])
-                            : m_names.subspan(m_places.name[index], m_places.nameLength[index]);
+    const bool bOwn = m_places.foldedLength[index] != 0;
+    const auto name = bOwn ? m_names.subspan(m_places.folded[index], m_places.foldedLength[index])
+                           : m_names.subspan(m_places.name[index], m_places.nameLength[index]);
     return {reinterpret_cast<const char*>(name.data()), name.size()};
 }
 

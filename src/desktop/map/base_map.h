@@ -19,10 +19,10 @@ enum class BaseMapLayer : std::uint32_t {
     Land = 1,     // Rings; attribute 1 land, 2 lake, 3 island in a lake, 4 pond. Fill by the odd-even rule.
     Rivers,       // Lines; attribute 0 river-lake, 1 to 4 by size, 5 seasonal, 8 canal.
     Borders,      // Lines; attribute 0 national, 1 state of a big country, 2 other province, 3 disputed.
-    CountryAreas, // Rings; attribute: the colour number, below kPoliticalColours.
+    CountryAreas, // Rings; attribute: the colour number, below kPoliticalColors.
     Inlets,       // Rings: water over the land.
 };
-inline constexpr int kPoliticalColours = 7;
+inline constexpr int kPoliticalColors = 7;
 
 // A country, a state or a piece of water: what is written over an area.
 struct AreaLabel {
@@ -39,15 +39,15 @@ struct PlaceRecord {
     std::uint32_t population = 0;
     std::string_view name;
     std::optional<std::size_t> state, country;
-    bool isCapital = false, isStateCapital = false, isPartOfCity = false;
+    bool bCapital = false, bPartOfCity = false;
 };
 
 // The built-in map: one prepared file, mapped into memory and read in place. Const and safe to read from many threads.
 class BaseMap {
 public:
-    // Throws Failure when the file is missing or damaged.
+    // Raises Failure when the file is missing or damaged.
     static BaseMap Open(const QString& path);
-    // Over bytes that outlive the map, eight-byte aligned. Throws Failure.
+    // Over bytes that outlive the map, eight-byte aligned. Raises Failure.
     explicit BaseMap(std::span<const std::byte> bytes);
 
     // The coarsest level that is fine enough at this zoom (the world is 256 * 2^zoom device pixels wide).

@@ -1,5 +1,6 @@
 #include "desktop/map/base_map_painter.h"
 
+#include "desktop/map/earth.h"
 #include "desktop/map/layer_paths.h"
 
 #include <QPaintEngine>
@@ -32,9 +33,9 @@ double Ramp(double zoom, double lowZoom, double low, double highZoom, double hig
     return low + t * (high - low);
 }
 
-QPen LinePen(const QColor& colour, double width)
+QPen LinePen(const QColor& color, double width)
 {
-    return {colour, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin};
+    return {color, width, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin};
 }
 
 } // namespace
@@ -45,7 +46,7 @@ struct BaseMapPainter::Canvas {
     double left, top, worldPixels, devicePixelRatio; // As in BaseMapArea.
     QRectF rect;                                     // In the painter's units, from the origin.
     BaseMapPalette palette;
-    bool dark;
+    bool bDark;
     double zoom;       // In units of the painter: how wide lines are.
     double detailZoom; // In device pixels: how much detail.
 };
@@ -97,11 +98,11 @@ void BaseMapPainter::Stroke(Canvas& canvas, BaseMapLayer layer, const std::vecto
         margin = std::max(margin, line.pen.widthF());
         builders.emplace_back(canvas.rect, line.pen, kStep / canvas.devicePixelRatio);
     }
-    const bool areRings = layer == BaseMapLayer::Land || layer == BaseMapLayer::CountryAreas;
+    const bool bRings = layer == BaseMapLayer::Land || layer == BaseMapLayer::CountryAreas;
     Each(canvas, layer, margin, [&](const LeafReader& reader, const UnitsToPixels& toPixel, std::uint32_t bit) {
         for (std::size_t i = 0; i < lines.size(); ++i)
             if ((lines[i].wanted & bit) != 0)
-                builders[i].Add(reader, toPixel, areRings);
+                builders[i].Add(reader, toPixel, bRings);
     });
     for (std::size_t i = 0; i < lines.size(); ++i) {
         QPen solid = lines[i].pen;
@@ -113,21 +114,21 @@ void BaseMapPainter::Stroke(Canvas& canvas, BaseMapLayer layer, const std::vecto
 // Country colours run out over the coast and the water goes on top: so the two sources' different coasts never show.
 void BaseMapPainter::PaintCountries(Canvas& canvas, const QPainterPath& land) const
 {
-    constexpr double kCoastGap = 9.0 / 40075.0; // 9 km at the equator, of the world.
+    constexpr double kCoastGap = 9000 / kEquatorMetres; // At the equator, of the world.
     canvas.painter.fillRect(canvas.rect, canvas.palette.land);
     const double gap = kCoastGap * canvas.worldPixels, overlap = std::clamp(gap, 2.0, 60.0);
     std::vector<Line> coasts;
-    std::vector<std::uint32_t> colours;
-    for (int colour = 0; colour < kPoliticalColours; ++colour) {
-        const QColor& shown = canvas.palette.political.at(static_cast<std::size_t>(colour));
-        coasts.push_back({Bit(colour), LinePen(shown, overlap)});
-        colours.push_back(Bit(colour));
+    std::vector<std::uint32_t> colors;
+    for (int color = 0; color < kPoliticalColors; ++color) {
+        const QColor& shown = canvas.palette.political.at(static_cast<std::size_t>(color));
+        coasts.push_back({Bit(color), LinePen(shown, overlap)});
+        colors.push_back(Bit(color));
     }
     Canvas coarse = canvas; // The exact line does not matter here.
     coarse.detailZoom -= 2.5;
     if (gap > 0.7)
         Stroke(coarse, BaseMapLayer::CountryAreas, coasts);
-    const std::vector<QPainterPath> areas = Fill(canvas, BaseMapLayer::CountryAreas, colours);
+    const std::vector<QPainterPath> areas = Fill(canvas, BaseMapLayer::CountryAreas, colors);
     for (std::size_t i = 0; i < areas.size(); ++i)
         canvas.painter.fillPath(areas[i], canvas.palette.political.at(i));
     QPainterPath water;
@@ -143,7 +144,7 @@ bool BaseMapPainter::PaintRelief(Canvas& canvas, const QPainterPath& land, const
     const auto pixels = [ratio](double length) { return static_cast<int>(std::lround(length * ratio)); };
     const Relief::Pictures pictures =
         m_relief.Paint(canvas.left, canvas.top, canvas.worldPixels * ratio, pixels(canvas.rect.width()),
-                       pixels(canvas.rect.height()), canvas.dark);
+                       pixels(canvas.rect.height()), canvas.bDark);
     if (pictures.land.isNull())
         return false;
     const auto brush = [ratio](const QImage& picture) {
@@ -220,13 +221,13 @@ void BaseMapPainter::PaintPart(Canvas& canvas, MapStyle style) const
     PaintBorders(canvas);
 }
 
-void BaseMapPainter::Paint(QPainter& painter, const BaseMapArea& area, MapStyle style, bool dark) const
+void BaseMapPainter::Paint(QPainter& painter, const BaseMapArea& area, MapStyle style, bool bDark) const
 {
     if (area.width <= 0 || area.height <= 0 || !(area.worldPixels > 0))
         return;
-    const bool isRaster = painter.paintEngine()->type() == QPaintEngine::Raster;
-    const double side = isRaster ? kPart / area.devicePixelRatio : std::max(area.width, area.height);
-    const double zoom = std::log2(area.worldPixels / 256), ratio = area.devicePixelRatio;
+    const bool bRaster = painter.paintEngine()->type() == QPaintEngine::Raster;
+    const double side = bRaster ? kPart / area.devicePixelRatio : std::max(area.width, area.height);
+    const double zoom = ZoomOf(area.worldPixels), ratio = area.devicePixelRatio;
     for (double y = 0; y < area.height; y += side) {
         for (double x = 0; x < area.width; x += side) {
             painter.save();
@@ -237,8 +238,8 @@ void BaseMapPainter::Paint(QPainter& painter, const BaseMapArea& area, MapStyle 
                           area.worldPixels,
                           ratio,
                           QRectF(0, 0, std::min(side, area.width - x), std::min(side, area.height - y)),
-                          PaletteFor(style, dark),
-                          dark,
+                          PaletteFor(style, bDark),
+                          bDark,
                           zoom,
                           zoom + std::log2(ratio)};
             PaintPart(canvas, style);

@@ -27,7 +27,7 @@ class BaseMapPainter {
 public:
     explicit BaseMapPainter(const BaseMap& map) : m_map(map), m_relief(map) {} // The map must outlive this.
 
-    void Paint(QPainter& painter, const BaseMapArea& area, MapStyle style, bool dark) const;
+    void Paint(QPainter& painter, const BaseMapArea& area, MapStyle style, bool bDark) const;
 
 private:
     struct Canvas;

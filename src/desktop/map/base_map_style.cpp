@@ -1,83 +1,50 @@
 #include "desktop/map/base_map_style.h"
 
+#include <algorithm>
+#include <span>
+
 namespace ruvenmark {
 
 namespace {
 
-BaseMapPalette LightRoad()
-{
-    return {QColor(0xB4, 0xD3, 0xE8),
-            QColor(0xF6, 0xF4, 0xEE),
-            QColor(0x8C, 0xB5, 0xD1),
-            QColor(0x9C, 0xC4, 0xDF),
-            QColor(0x9A, 0x86, 0xA6),
-            QColor(0xB3, 0xAA, 0xBA),
-            {QColor(0xF5, 0xE0, 0xC8), QColor(0xDC, 0xE9, 0xCC), QColor(0xF3, 0xD6, 0xD6), QColor(0xF8, 0xF1, 0xC6),
-             QColor(0xDD, 0xD6, 0xEC), QColor(0xCF, 0xE6, 0xE0), QColor(0xE9, 0xDA, 0xC2)},
-            QColor(0x4A, 0x41, 0x55),
-            QColor(0x8B, 0x80, 0x96),
-            QColor(0x26, 0x2A, 0x33),
-            QColor(0x4B, 0x51, 0x5C),
-            QColor(0x4A, 0x7F, 0xAB),
-            QColor(0xFF, 0xFF, 0xFF, 0xD0)};
-}
+struct Shade {
+    QColor BaseMapPalette::*color;
+    QRgb light, dark;
+};
 
-BaseMapPalette DarkRoad()
-{
-    return {QColor(0x1B, 0x27, 0x36),
-            QColor(0x2C, 0x30, 0x36),
-            QColor(0x3F, 0x55, 0x6B),
-            QColor(0x2C, 0x44, 0x5C),
-            QColor(0x87, 0x7A, 0x95),
-            QColor(0x56, 0x54, 0x60),
-            {QColor(0x4A, 0x40, 0x34), QColor(0x3A, 0x46, 0x33), QColor(0x4C, 0x38, 0x3A), QColor(0x48, 0x46, 0x30),
-             QColor(0x3E, 0x3A, 0x50), QColor(0x30, 0x48, 0x46), QColor(0x44, 0x3C, 0x42)},
-            QColor(0xD9, 0xD2, 0xE2),
-            QColor(0x97, 0x90, 0xA3),
-            QColor(0xE9, 0xEC, 0xF1),
-            QColor(0xB6, 0xBD, 0xC8),
-            QColor(0x6F, 0x9D, 0xC6),
-            QColor(0x16, 0x1A, 0x20, 0xD0)};
-}
+constexpr std::array kRoad{
+    Shade{&BaseMapPalette::water, 0xB4D3E8, 0x1B2736},     Shade{&BaseMapPalette::land, 0xF6F4EE, 0x2C3036},
+    Shade{&BaseMapPalette::coast, 0x8CB5D1, 0x3F556B},     Shade{&BaseMapPalette::river, 0x9CC4DF, 0x2C445C},
+    Shade{&BaseMapPalette::border, 0x9A86A6, 0x877A95},    Shade{&BaseMapPalette::stateBorder, 0xB3AABA, 0x565460},
+    Shade{&BaseMapPalette::country, 0x4A4155, 0xD9D2E2},   Shade{&BaseMapPalette::state, 0x8B8096, 0x9790A3},
+    Shade{&BaseMapPalette::city, 0x262A33, 0xE9ECF1},      Shade{&BaseMapPalette::town, 0x4B515C, 0xB6BDC8},
+    Shade{&BaseMapPalette::waterName, 0x4A7FAB, 0x6F9DC6}, Shade{&BaseMapPalette::halo, 0xFFFFFF, 0x161A20},
+};
+constexpr int kHaloAlpha = 0xD0;
+constexpr std::array<QRgb, kPoliticalColors> kLightPolitical{0xF5E0C8, 0xDCE9CC, 0xF3D6D6, 0xF8F1C6,
+                                                             0xDDD6EC, 0xCFE6E0, 0xE9DAC2};
+constexpr std::array<QRgb, kPoliticalColors> kDarkPolitical{0x4A4034, 0x3A4633, 0x4C383A, 0x484630,
+                                                            0x3E3A50, 0x304846, 0x443C42};
 
-// Grey and quiet, so that markers speak.
-BaseMapPalette Data(bool dark)
-{
-    BaseMapPalette palette = dark ? DarkRoad() : LightRoad();
-    if (dark) {
-        palette.water = QColor(0x1E, 0x20, 0x23);
-        palette.land = QColor(0x2B, 0x2D, 0x30);
-        palette.coast = QColor(0x45, 0x48, 0x4D);
-        palette.river = QColor(0x22, 0x24, 0x27);
-        palette.border = QColor(0x66, 0x69, 0x70);
-        palette.stateBorder = QColor(0x44, 0x47, 0x4C);
-        palette.country = QColor(0x9C, 0xA0, 0xA8);
-        palette.city = QColor(0xB4, 0xB8, 0xC0);
-        palette.state = palette.town = palette.waterName = QColor(0x7E, 0x83, 0x8B);
-    } else {
-        palette.water = QColor(0xDC, 0xE0, 0xE4);
-        palette.land = QColor(0xF5, 0xF5, 0xF4);
-        palette.coast = QColor(0xBC, 0xC2, 0xC8);
-        palette.river = QColor(0xD8, 0xDD, 0xE2);
-        palette.border = QColor(0xA2, 0xA6, 0xAD);
-        palette.stateBorder = QColor(0xCD, 0xD0, 0xD4);
-        palette.country = QColor(0x74, 0x79, 0x82);
-        palette.city = QColor(0x5A, 0x5F, 0x68);
-        palette.state = palette.town = palette.waterName = QColor(0x8E, 0x94, 0x9D);
-    }
-    return palette;
-}
+// Instead of those of the road map: grey and quiet, so that markers speak.
+constexpr std::array kData{
+    Shade{&BaseMapPalette::water, 0xDCE0E4, 0x1E2023},     Shade{&BaseMapPalette::land, 0xF5F5F4, 0x2B2D30},
+    Shade{&BaseMapPalette::coast, 0xBCC2C8, 0x45484D},     Shade{&BaseMapPalette::river, 0xD8DDE2, 0x222427},
+    Shade{&BaseMapPalette::border, 0xA2A6AD, 0x666970},    Shade{&BaseMapPalette::stateBorder, 0xCDD0D4, 0x44474C},
+    Shade{&BaseMapPalette::country, 0x747982, 0x9CA0A8},   Shade{&BaseMapPalette::state, 0x8E949D, 0x7E838B},
+    Shade{&BaseMapPalette::city, 0x5A5F68, 0xB4B8C0},      Shade{&BaseMapPalette::town, 0x8E949D, 0x7E838B},
+    Shade{&BaseMapPalette::waterName, 0x8E949D, 0x7E838B},
+};
+constexpr std::array kTerrain{
+    Shade{&BaseMapPalette::river, 0x86B4D6, 0x3A5A78},     Shade{&BaseMapPalette::coast, 0x6FA1C4, 0x4E6A84},
+    Shade{&BaseMapPalette::border, 0x836C80, 0xA696A0},    Shade{&BaseMapPalette::stateBorder, 0xA1959C, 0x77727C},
+    Shade{&BaseMapPalette::waterName, 0x2F6694, 0x8FB6D8}, Shade{&BaseMapPalette::state, 0x6E6474, 0xB2ABB8},
+};
 
-BaseMapPalette Terrain(bool dark)
+void Put(BaseMapPalette& palette, std::span<const Shade> shades, bool bDark)
 {
-    BaseMapPalette palette = dark ? DarkRoad() : LightRoad();
-    palette.river = dark ? QColor(0x3A, 0x5A, 0x78) : QColor(0x86, 0xB4, 0xD6);
-    palette.coast = dark ? QColor(0x4E, 0x6A, 0x84) : QColor(0x6F, 0xA1, 0xC4);
-    palette.border = dark ? QColor(0xA6, 0x96, 0xA0) : QColor(0x83, 0x6C, 0x80);
-    palette.stateBorder = dark ? QColor(0x77, 0x72, 0x7C) : QColor(0xA1, 0x95, 0x9C);
-    palette.waterName = dark ? QColor(0x8F, 0xB6, 0xD8) : QColor(0x2F, 0x66, 0x94);
-    palette.state = dark ? QColor(0xB2, 0xAB, 0xB8) : QColor(0x6E, 0x64, 0x74);
-    return palette;
+    for (const Shade& shade : shades)
+        palette.*shade.color = QColor(bDark ? shade.dark : shade.light);
 }
 
 } // namespace
@@ -87,13 +54,18 @@ MapStyle ToMapStyle(std::int32_t mapStyle)
     return mapStyle >= 0 && mapStyle <= 4 ? static_cast<MapStyle>(mapStyle) : MapStyle::Road;
 }
 
-BaseMapPalette PaletteFor(MapStyle style, bool dark)
+BaseMapPalette PaletteFor(MapStyle style, bool bDark)
 {
+    BaseMapPalette palette;
+    Put(palette, kRoad, bDark);
     if (style == MapStyle::Data)
-        return Data(dark);
+        Put(palette, kData, bDark);
     if (style == MapStyle::Terrain)
-        return Terrain(dark);
-    return dark ? DarkRoad() : LightRoad();
+        Put(palette, kTerrain, bDark);
+    palette.halo.setAlpha(kHaloAlpha);
+    const auto& political = bDark ? kDarkPolitical : kLightPolitical;
+    std::transform(political.begin(), political.end(), palette.political.begin(), [](QRgb rgb) { return QColor(rgb); });
+    return palette;
 }
 
 } // namespace ruvenmark

@@ -14,13 +14,13 @@ enum class MapStyle : std::int32_t { Road = 0, RoadAndData, Data, Terrain, Polit
 
 struct BaseMapPalette {
     QColor water, land, coast, river, border, stateBorder;
-    std::array<QColor, kPoliticalColours> political;
+    std::array<QColor, kPoliticalColors> political;
     // Names: each text colour stands on the same halo.
     QColor country, state, city, town, waterName, halo;
 };
 
 // Any number that is no style counts as Road.
 MapStyle ToMapStyle(std::int32_t mapStyle);
-BaseMapPalette PaletteFor(MapStyle style, bool dark);
+BaseMapPalette PaletteFor(MapStyle style, bool bDark);
 
 } // namespace ruvenmark

@@ -11,6 +11,15 @@ namespace {
 
 constexpr double kReach = 4; // Pixels that a pointer may miss by.
 
+double DistanceToSegment(QPointF point, const QLineF& segment)
+{
+    const QPointF along = segment.p2() - segment.p1(), towards = point - segment.p1();
+    const double square = QPointF::dotProduct(along, along);
+    const double t = square > 0 ? std::clamp(QPointF::dotProduct(towards, along) / square, 0.0, 1.0) : 0;
+    const QPointF away = towards - along * t;
+    return std::hypot(away.x(), away.y());
+}
+
 } // namespace
 
 const MarkerItem* MarkerUnder(const MarkerLayout& layout, QPointF at)
@@ -30,15 +39,6 @@ const MarkerItem* MarkerUnder(const MarkerLayout& layout, QPointF at)
         }
     }
     return nearest;
-}
-
-double DistanceToSegment(QPointF point, const QLineF& segment)
-{
-    const QPointF along = segment.p2() - segment.p1(), towards = point - segment.p1();
-    const double square = QPointF::dotProduct(along, along);
-    const double t = square > 0 ? std::clamp(QPointF::dotProduct(towards, along) / square, 0.0, 1.0) : 0;
-    const QPointF away = towards - along * t;
-    return std::hypot(away.x(), away.y());
 }
 
 std::optional<std::uint32_t> ShapeUnder(const ShapeLayout& layout, const SlotPool<ShapeData>& shapes, QPointF at)

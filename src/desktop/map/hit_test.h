@@ -16,6 +16,4 @@ const MarkerItem* MarkerUnder(const MarkerLayout& layout, QPointF at);
 // The slot of the line under a point, or else of the circle whose outline passes there.
 std::optional<std::uint32_t> ShapeUnder(const ShapeLayout& layout, const SlotPool<ShapeData>& shapes, QPointF at);
 
-double DistanceToSegment(QPointF point, const QLineF& segment);
-
 } // namespace ruvenmark

@@ -11,9 +11,6 @@ namespace ruvenmark {
 // nothing overprints. In pixels from the left top corner, rounded outward to small squares.
 class LabelGrid {
 public:
-    LabelGrid() = default;
-    LabelGrid(int width, int height) { Reset(width, height); }
-
     // Empty, for a window of this size.
     void Reset(int width, int height);
 

@@ -110,23 +110,23 @@ QImage LabelText::Render(const LabelFace& face, const QString& text, QSizeF size
         painter.fillRect(QRectF(QPointF(-margin, -margin), size + QSizeF(2 * margin, 2 * margin)), face.halo);
         painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     }
-    painter.setPen(face.colour);
+    painter.setPen(face.color);
     DrawLines(painter, lines, starts);
     return image;
 }
 
-void LabelText::Paint(QPainter& painter, const LabelFace& face, const QString& text, QPointF centre, bool asVector)
+void LabelText::Paint(QPainter& painter, const LabelFace& face, const QString& text, QPointF centre, bool bVector)
 {
     Entry& entry = EntryOf(face, text);
     const QPointF corner = centre - QPointF(entry.size.width(), entry.size.height()) / 2;
-    if (asVector) {
+    if (bVector) {
         painter.save();
         painter.translate(corner);
         const QStringList lines = text.split(u'\n');
         const std::vector<QPointF> starts = LineStarts(face, lines, entry.size);
         DrawHaloAsCurve(painter, face, lines, starts);
         painter.setFont(face.font);
-        painter.setPen(face.colour);
+        painter.setPen(face.color);
         DrawLines(painter, lines, starts);
         painter.restore();
         return;
@@ -144,22 +144,22 @@ void LabelText::PaintPicture(QPainter& painter, const QImage& picture, QPointF c
     painter.drawImage(QPointF(snap(corner.x()), snap(corner.y())), picture);
 }
 
-void LabelText::PaintDot(QPainter& painter, const LabelFace& face, bool isFull, QPointF centre, bool asVector)
+void LabelText::PaintDot(QPainter& painter, const LabelFace& face, bool bFull, QPointF centre, bool bVector)
 {
     constexpr double kSide = 8;
     const auto draw = [&](QPainter& onto, QPointF middle) {
         onto.setRenderHint(QPainter::Antialiasing);
-        onto.setPen(QPen(face.colour, isFull ? 1.6 : 1.1));
-        onto.setBrush(isFull ? face.colour : face.halo);
+        onto.setPen(QPen(face.color, bFull ? 1.6 : 1.1));
+        onto.setBrush(bFull ? face.color : face.halo);
         onto.drawEllipse(middle, kDotRadius, kDotRadius);
     };
-    if (asVector) {
+    if (bVector) {
         painter.save();
         draw(painter, centre);
         painter.restore();
         return;
     }
-    QImage& picture = m_dots[2 * face.number + (isFull ? 1 : 0)];
+    QImage& picture = m_dots[2 * face.number + (bFull ? 1 : 0)];
     if (picture.isNull()) {
         picture = QImage((QSizeF(kSide, kSide) * m_ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
         picture.setDevicePixelRatio(m_ratio);

@@ -15,7 +15,7 @@ namespace ruvenmark {
 // How one sort of name on the map is written. Lines in a text are parted by '\n' and centred.
 struct LabelFace {
     QFont font;
-    QColor colour, halo;
+    QColor color, halo;
     int number = 0; // Tells the faces of one LabelText apart.
 };
 
@@ -28,10 +28,10 @@ public:
 
     // Without the halo.
     QSizeF Size(const LabelFace& face, const QString& text);
-    // Centred; asVector: as letters, for printers.
-    void Paint(QPainter& painter, const LabelFace& face, const QString& text, QPointF centre, bool asVector);
+    // Centred; bVector: as letters, for printers.
+    void Paint(QPainter& painter, const LabelFace& face, const QString& text, QPointF centre, bool bVector);
     // The mark of a place in the face's colours: a ring, or a full disk.
-    void PaintDot(QPainter& painter, const LabelFace& face, bool isFull, QPointF centre, bool asVector);
+    void PaintDot(QPainter& painter, const LabelFace& face, bool bFull, QPointF centre, bool bVector);
     static constexpr double kDotRadius = 2.2; // Without the width of its line.
 
 private:

@@ -29,9 +29,9 @@ void AddRing(QPainterPath& path, const LeafReader& reader, const UnitsToPixels& 
         const QPointF next = toPixel(points[after(i)]);
         const unsigned nextSides = SidesBeyond(rect, next);
         // A corner of cutting stays, or the leaves would not meet.
-        const bool isNear = sides == 0 && (here - last).manhattanLength() < step &&
-                            !reader.IsCut(points[i - 1], points[i]) && !reader.IsCut(points[i], points[after(i)]);
-        if (!isNear && (lastSides & sides & nextSides) == 0) {
+        const bool bNear = sides == 0 && (here - last).manhattanLength() < step &&
+                           !reader.IsCut(points[i - 1], points[i]) && !reader.IsCut(points[i], points[after(i)]);
+        if (!bNear && (lastSides & sides & nextSides) == 0) {
             path.lineTo(here);
             last = here;
             lastSides = sides;
@@ -50,14 +50,14 @@ LinePath::LinePath(const QRectF& rect, const QPen& pen, double step) : m_step(st
         m_dashes.push_back(dash * std::max(1.0, pen.widthF()));
 }
 
-void LinePath::Add(const LeafReader& reader, const UnitsToPixels& toPixel, bool isRing)
+void LinePath::Add(const LeafReader& reader, const UnitsToPixels& toPixel, bool bRing)
 {
     const auto& points = reader.Points();
-    const std::size_t edges = isRing ? points.size() : points.size() - 1;
+    const std::size_t edges = bRing ? points.size() : points.size() - 1;
     Begin(toPixel(points.front()));
     for (std::size_t i = 0; i < edges; ++i) {
         const std::size_t to = i + 1 < points.size() ? i + 1 : 0;
-        if (isRing && reader.IsCut(points[i], points[to]))
+        if (bRing && reader.IsCut(points[i], points[to]))
             Begin(toPixel(points[to]));
         else
             LineTo(toPixel(points[to]));
@@ -69,7 +69,7 @@ void LinePath::Begin(QPointF point)
 {
     End();
     m_at = m_pending = point;
-    m_isOpen = false;
+    m_bOpen = false;
     m_dash = 0;
     m_left = m_dashes.empty() ? 0 : m_dashes.front();
 }
@@ -100,13 +100,13 @@ bool LinePath::IsBeyond(QPointF from, QPointF to) const
 void LinePath::AddPiece(QPointF from, QPointF to)
 {
     if (IsBeyond(from, to)) {
-        m_isOpen = false;
+        m_bOpen = false;
         return;
     }
-    if (!m_isOpen)
+    if (!m_bOpen)
         m_path.moveTo(from);
     m_path.lineTo(to);
-    m_isOpen = true;
+    m_bOpen = true;
 }
 
 void LinePath::Dash(QPointF from, QPointF to)
@@ -122,7 +122,7 @@ void LinePath::Dash(QPointF from, QPointF to)
         if (m_dash % 2 == 0)
             AddPiece(from + way * (done / length), from + way * ((done + piece) / length));
         else
-            m_isOpen = false;
+            m_bOpen = false;
         done += piece;
         Advance(piece);
     }
@@ -140,7 +140,7 @@ void LinePath::Advance(double length)
 // Along a way that cannot be seen.
 void LinePath::Skip(double length)
 {
-    m_isOpen = false;
+    m_bOpen = false;
     length = std::fmod(length, std::accumulate(m_dashes.begin(), m_dashes.end(), 0.0));
     while (length > 0) {
         const double piece = std::min(m_left, length);

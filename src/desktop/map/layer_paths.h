@@ -29,7 +29,7 @@ public:
     LinePath(const QRectF& rect, const QPen& pen, double step);
 
     // The feature that the reader stands on; of a ring not the edges that come from cutting.
-    void Add(const LeafReader& reader, const UnitsToPixels& toPixel, bool isRing);
+    void Add(const LeafReader& reader, const UnitsToPixels& toPixel, bool bRing);
     const QPainterPath& Path() const { return m_path; }
 
 private:
@@ -47,7 +47,7 @@ private:
     std::vector<double> m_dashes; // On and off by turns; empty: a solid line.
     QPainterPath m_path;
     QPointF m_at, m_pending;
-    bool m_isOpen = false;
+    bool m_bOpen = false;
     std::size_t m_dash = 0;
     double m_left = 0; // Of the dash or gap at hand.
 };

@@ -7,11 +7,11 @@
 #include "desktop/map/shape_painter.h"
 #include "desktop/shown_text.h"
 
-#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QPainter>
 
 #include <algorithm>
+#include <vector>
 
 namespace ruvenmark {
 
@@ -19,11 +19,6 @@ namespace {
 
 constexpr double kMargin = 8;
 constexpr std::size_t kMostListed = 10; // Names of a group in its balloon.
-
-QString Said(const char* text)
-{
-    return QCoreApplication::translate("MapScene", text);
-}
 
 const MarkerItem* ItemOf(const MarkerLayout& layout, std::uint32_t slot)
 {
@@ -56,26 +51,10 @@ void PaintCredits(QPainter& painter, const QString& credits, const MapView& view
 
 } // namespace
 
-std::optional<std::uint32_t> SelectedPin(const Map& map, const MapSelection& selection)
-{
-    const auto* pin = std::get_if<Pushpin>(&selection);
-    const bool bLives = pin && pin->Ref().slot < map.Pins().SlotCount() &&
-                        map.Pins().RefAt(pin->Ref().slot) == pin->Ref() && pin->Ref().id != 0;
-    return bLives ? std::optional(pin->Ref().slot) : std::nullopt;
-}
-
-std::optional<std::uint32_t> SelectedShape(const Map& map, const MapSelection& selection)
-{
-    const auto* shape = std::get_if<Shape>(&selection);
-    const bool bLives = shape && shape->Ref().slot < map.Shapes().SlotCount() &&
-                        map.Shapes().RefAt(shape->Ref().slot) == shape->Ref() && shape->Ref().id != 0;
-    return bLives ? std::optional(shape->Ref().slot) : std::nullopt;
-}
-
 void MapScene::Arrange(const Map& map, const MapView& view, const MapSelection& selection)
 {
     const ViewFrame frame(view);
-    m_markers.Update(map.PinPoints(), frame, SelectedPin(map, selection));
+    m_markers.Update(map.PinPoints(), frame, SelectedIn<Pushpin>(map.Pins(), selection));
     m_shapes.Update(map.Shapes(), frame);
 }
 
@@ -85,20 +64,24 @@ void MapScene::Paint(QPainter& painter, const Map& map, const MapView& view, con
     const ViewFrame frame(view);
     const bool bDark = IsDark(how.palette) && !m_ground.ShowsTiles(map.MapStyle());
     const MapLook look(how.palette, how.font, map.MapFont(), bDark);
-    const auto selectedPin = SelectedPin(map, how.selection);
+    const auto selectedPin = SelectedIn<Pushpin>(map.Pins(), how.selection);
     const MapGround::How ground{map.MapStyle(), map.MapFont(), bDark, how.ratio, how.bVector, how.bWait};
     const QString credits = m_ground.Credits(map.MapStyle());
 
     m_labels.SetLook(look, how.ratio);
-    m_labels.Place(m_markers.Items(), map.Pins(), frame, selectedPin);
+    std::vector<QRectF> taken{ScaleBarRect(view), CreditsRect(credits, view, look)};
+    if (!how.buttons.isEmpty())
+        taken.push_back(how.buttons);
+    m_labels.Place(m_markers.Items(), map.Pins(), frame, selectedPin, taken);
     m_grid.Reset(view.width, view.height);
-    m_grid.Block(ScaleBarRect(view));
-    m_grid.Block(CreditsRect(credits, view, look));
+    for (const QRectF& rect : taken)
+        m_grid.Block(rect);
     m_labels.BlockIn(m_grid, m_markers.Items());
 
     m_ground.Paint(painter, frame, ground);
     m_ground.PaintAbove(painter, frame, m_grid, ground);
-    PaintShapes(painter, m_shapes, map.Shapes(), frame, {SelectedShape(map, how.selection), look.accent, bDark});
+    PaintShapes(painter, m_shapes, map.Shapes(), frame,
+                {SelectedIn<Shape>(map.Shapes(), how.selection), look.accent, bDark});
     const qreal pictures = how.bVector ? 4 : how.ratio;
     PaintMarkers(painter, m_markers.Items(), m_icons.Atlas(kMarkerPixels, pictures), pictures, selectedPin,
                  look.accent);
@@ -123,22 +106,21 @@ BalloonText MapScene::TextOf(const Map& map, const MarkerItem& item, BalloonKind
         if (kind == BalloonKind::Still)
             return text;
         const auto at = std::find(members.begin(), members.end(), item.slot) - members.begin() + 1;
-        text.lines.append(Said("%1 of %2 here; click again for the next").arg(at).arg(members.size()));
+        text.lines.append(QStringLiteral("%1 of %2 here; click again for the next").arg(at).arg(members.size()));
         return text;
     }
-    BalloonText text{Said("%1 markers here").arg(members.size()), {}};
+    BalloonText text{QStringLiteral("%1 markers here").arg(members.size()), {}};
     for (std::size_t i = 0; i < std::min(members.size(), kMostListed); ++i)
         text.lines.append(BalloonOf(*map.Pins().At(members[i])).title);
     if (members.size() > kMostListed)
-        text.lines.append(Said("and %1 more").arg(members.size() - kMostListed));
+        text.lines.append(QStringLiteral("and %1 more").arg(members.size() - kMostListed));
     return text;
 }
 
 void MapScene::PaintBalloon(QPainter& painter, const Map& map, SlotRef ref, const MapView& view, const MapLook& look,
                             BalloonKind kind)
 {
-    const PinData* pin =
-        ref.slot < map.Pins().SlotCount() && map.Pins().RefAt(ref.slot) == ref ? map.Pins().At(ref.slot) : nullptr;
+    const PinData* pin = map.Pins().Find(ref);
     if (!pin)
         return;
     const ViewFrame frame(view);

@@ -26,6 +26,7 @@ struct ScenePaint {
     std::optional<SlotRef> hovered; // Whose balloon shows because the pointer rests there.
     QPalette palette;
     QFont font;
+    QRectF buttons;       // Lie over the map; empty: there are none.
     qreal ratio = 1;      // Device pixels for one of the view.
     bool bVector = false; // For a printer or a vector file: nothing as a picture that can be drawn.
     bool bWait = false;   // The ground has to be whole: the picture is not painted again.
@@ -65,8 +66,12 @@ private:
     QRectF m_pinnedRect, m_pinnedClose;
 };
 
-// The slot of the selected marker or shape; nothing where another kind, or what is gone, is selected.
-std::optional<std::uint32_t> SelectedPin(const Map& map, const MapSelection& selection);
-std::optional<std::uint32_t> SelectedShape(const Map& map, const MapSelection& selection);
+// The slot of the selected Pushpin or Shape; nothing where another kind, or what is gone, is selected.
+template <typename Handle, typename Value>
+std::optional<std::uint32_t> SelectedIn(const SlotPool<Value>& pool, const MapSelection& selection)
+{
+    const auto* handle = std::get_if<Handle>(&selection);
+    return handle && pool.Find(handle->Ref()) ? std::optional(handle->Ref().slot) : std::nullopt;
+}
 
 } // namespace ruvenmark

@@ -1,6 +1,7 @@
 #include "desktop/map/map_widget.h"
 
 #include "desktop/icons/icon_set.h"
+#include "desktop/map/earth.h"
 #include "desktop/map/view_moves.h"
 #include "desktop/map/zoom_buttons.h"
 
@@ -30,9 +31,9 @@ MapWidget::MapWidget(MapControl& control, IconSet& icons, const BaseMap* base, Q
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setMinimumSize(120, 90);
-    setAccessibleName(tr("Map"));
-    setAccessibleDescription(
-        tr("Arrow keys move the map, plus and minus zoom, Home shows the whole region, Escape closes the balloon."));
+    setAccessibleName(QStringLiteral("Map"));
+    setAccessibleDescription(QStringLiteral(
+        "Arrow keys move the map, plus and minus zoom, Home shows the whole region, Escape closes the balloon."));
     m_gather.setSingleShot(true);
     connect(&m_gather, &QTimer::timeout, this, &MapWidget::GatheredChange);
     connect(&m_ground, &MapGround::Changed, this, qOverload<>(&QWidget::update));
@@ -80,11 +81,10 @@ void MapWidget::DropTheGone()
 {
     const Map* map = m_control.ActiveMap();
     const bool bSelected = !std::holds_alternative<std::monostate>(m_selection);
-    if (bSelected && !(map && (SelectedPin(*map, m_selection) || SelectedShape(*map, m_selection))))
+    if (bSelected &&
+        !(map && (SelectedIn<Pushpin>(map->Pins(), m_selection) || SelectedIn<Shape>(map->Shapes(), m_selection))))
         Select({});
-    const auto isGone = [map](const std::optional<SlotRef>& pin) {
-        return pin && !(map && pin->slot < map->Pins().SlotCount() && map->Pins().RefAt(pin->slot) == *pin);
-    };
+    const auto isGone = [map](const std::optional<SlotRef>& pin) { return pin && !(map && map->Pins().Find(*pin)); };
     if (isGone(m_pinned))
         m_pinned.reset();
     if (isGone(m_hovered))
@@ -105,7 +105,7 @@ void MapWidget::UpdatePointer()
 void MapWidget::UpdateButtons()
 {
     const Map* map = m_control.ActiveMap();
-    m_buttons->SetEnabled(map && map->View().zoom < kLargestZoom, map && map->View().zoom > LeastZoom(height()));
+    m_buttons->SetEnabled(map && map->View().zoom < kMaxZoom, map && map->View().zoom > LeastZoom(height()));
 }
 
 // --- The view
@@ -153,7 +153,7 @@ void MapWidget::ShowRegion()
 
 void MapWidget::ShowWorld()
 {
-    MoveTo({{0.5, 0.45}, std::log2(width() / kTileSize)});
+    MoveTo({{0.5, 0.45}, ZoomOf(width())});
 }
 
 // --- Painting
@@ -181,6 +181,7 @@ void MapWidget::paintEvent(QPaintEvent*)
     ScenePaint how = HowToPaint();
     how.hovered = m_hovered;
     how.ratio = devicePixelRatioF();
+    how.buttons = m_buttons->geometry();
     m_scene.Paint(painter, *map, map->View(), how);
     if (m_bKeyboardFocus) {
         painter.setPen(QPen(palette().highlight(), 2));

@@ -81,11 +81,7 @@ void MarkerLayout::Update(const std::vector<PinPoint>& points, const ViewFrame& 
     m_selected = selected;
     SetWindow(frame);
     m_squares.assign(m_window.columns * m_window.rows, {});
-    m_seen = 0;
-    EachInWindow(points, [this](std::uint32_t slot, double x, double y) {
-        Count(slot, x, y);
-        ++m_seen;
-    });
+    EachInWindow(points, [this](std::uint32_t slot, double x, double y) { Count(slot, x, y); });
     m_items.clear();
     for (const Square& square : m_squares)
         if (square.count > kMostInSquare)

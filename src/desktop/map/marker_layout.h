@@ -37,7 +37,6 @@ public:
 
     // In the order of painting: what was added last lies on top, the selected one above all.
     const std::vector<MarkerItem>& Items() const { return m_items; }
-    std::size_t Seen() const { return m_seen; } // Markers within view and margin, hidden ones too.
 
     // The markers an item stands for, newest first.
     std::vector<std::uint32_t> Members(const std::vector<PinPoint>& points, const MarkerItem& item) const;
@@ -75,7 +74,6 @@ private:
     Window m_window;
     std::vector<Square> m_squares;
     std::vector<MarkerItem> m_items;
-    std::size_t m_seen = 0;
 };
 
 } // namespace ruvenmark

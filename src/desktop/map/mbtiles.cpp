@@ -16,7 +16,7 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr int kLargestZoom = 22;
+constexpr int kDeepestZoom = 22;
 
 QString Metadata(const QSqlDatabase& database, const QString& name)
 {
@@ -61,7 +61,7 @@ void MbTiles::ReadMetadata()
     m_attribution = ForDisplay(QTextDocumentFragment::fromHtml(markup).toPlainText().left(120).toStdString());
     QSqlQuery query(database);
     if (query.exec(QStringLiteral("SELECT MAX(zoom_level) FROM tiles")) && query.next())
-        m_maxZoom = std::clamp(query.value(0).toInt(), 0, kLargestZoom);
+        m_maxZoom = std::clamp(query.value(0).toInt(), 0, kDeepestZoom);
 }
 
 QByteArray MbTiles::Read(TileId tile) const

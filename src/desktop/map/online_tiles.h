@@ -44,7 +44,6 @@ public:
 
     // Raises Failure for what cannot be used; the former choice then stays.
     void Choose(const TileChoice& choice);
-    const TileChoice& Choice() const { return m_choice; }
     bool IsOn() const { return m_choice.kind != TileChoice::Kind::Off; }
     const QString& Attribution() const { return m_attribution; } // Plain text, to be shown with the tiles.
     int MaxZoom() const { return m_maxZoom; }

@@ -2,54 +2,44 @@
 
 #include "desktop/map/base_map.h"
 
-#include <QStringList>
+#include <QString>
 
 #include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
 
 namespace ruvenmark {
 
 namespace {
 
 // Letters that have no decomposition. The tool that builds the base map has the same list.
+constexpr std::array<std::pair<char16_t, std::u16string_view>, 13> kPlainLetters{{
+    {u'ø', u"o"},
+    {u'ł', u"l"},
+    {u'đ', u"d"},
+    {u'ð', u"d"},
+    {u'þ', u"th"},
+    {u'ß', u"ss"},
+    {u'æ', u"ae"},
+    {u'œ', u"oe"},
+    {u'ı', u"i"},
+    {u'\u2019', u"'"},
+    {u'\u2018', u"'"},
+    {u'\u02BB', u"'"},
+    {u'\u02BC', u"'"},
+}};
+
 QString WithoutSpecialLetters(const QString& text)
 {
     QString out;
     for (const QChar c : text) {
-        switch (c.unicode()) {
-        case u'ø':
-            out += u'o';
-            break;
-        case u'ł':
-            out += u'l';
-            break;
-        case u'đ':
-        case u'ð':
-            out += u'd';
-            break;
-        case u'þ':
-            out += QStringLiteral("th");
-            break;
-        case u'ß':
-            out += QStringLiteral("ss");
-            break;
-        case u'æ':
-            out += QStringLiteral("ae");
-            break;
-        case u'œ':
-            out += QStringLiteral("oe");
-            break;
-        case u'ı':
-            out += u'i';
-            break;
-        case u'\u2019':
-        case u'\u2018':
-        case u'\u02BB':
-        case u'\u02BC':
-            out += u'\'';
-            break;
-        default:
+        const auto* const plain = std::find_if(kPlainLetters.begin(), kPlainLetters.end(),
+                                               [c](const auto& letter) { return letter.first == c.unicode(); });
+        if (plain == kPlainLetters.end())
             out += c;
-        }
+        else
+            out += QStringView(plain->second);
     }
     return out;
 }
@@ -70,9 +60,20 @@ int CompareStart(std::string_view name, std::string_view prefix)
     return 0;
 }
 
-QString Text(std::string_view utf8)
+// Blanks, hyphens, apostrophes and the like part words; every byte beyond ASCII is of a letter.
+bool IsInWord(char c)
 {
-    return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    const auto byte = static_cast<unsigned char>(c);
+    return byte >= 0x80 || (byte >= '0' && byte <= '9') || (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z');
+}
+
+// Whether another word of the name than the first begins like this.
+bool HasLaterWord(std::string_view name, std::string_view prefix)
+{
+    for (std::size_t at = 1; at + prefix.size() <= name.size(); ++at)
+        if (!IsInWord(name[at - 1]) && CompareStart(name.substr(at), prefix) == 0)
+            return true;
+    return false;
 }
 
 } // namespace
@@ -101,20 +102,12 @@ std::vector<std::size_t> FindPlaces(const BaseMap& map, QStringView text, std::s
     const std::size_t count = std::min(most, found.size());
     std::partial_sort(found.begin(), found.begin() + static_cast<std::ptrdiff_t>(count), found.end());
     found.resize(count);
+    for (std::size_t place = 0; place < map.PlaceCount() && found.size() < most; ++place) {
+        const std::string_view name = map.FoldedName(place);
+        if (HasLaterWord(name, prefix) && CompareStart(name, prefix) != 0)
+            found.push_back(place);
+    }
     return found;
-}
-
-QString PlaceTitle(const BaseMap& map, std::size_t place)
-{
-    const PlaceRecord record = map.Place(place);
-    QStringList parts{Text(record.name)};
-    if (record.state)
-        parts.append(Text(map.State(*record.state).name));
-    if (record.country)
-        parts.append(Text(map.Country(*record.country).name));
-    parts.removeAll(QString());
-    parts.removeDuplicates();
-    return parts.join(QStringLiteral(", "));
 }
 
 } // namespace ruvenmark

@@ -69,7 +69,7 @@ PlaceLabels::PlaceLabels(const BaseMap& map)
       m_stateOrder(LargestFirst(map.StateCount(), [&](std::size_t i) { return map.State(i); }))
 {
     for (std::size_t i = 0; i < map.PlaceCount(); ++i)
-        if (map.Place(i).isCapital)
+        if (map.Place(i).bCapital)
             m_capitals.push_back(static_cast<std::uint32_t>(i));
 }
 
@@ -77,29 +77,29 @@ void PlaceLabels::SetFaces(const How& how)
 {
     constexpr std::array<double, 5> kScale{1.45, 1.2, 1.0, 0.9, 0.82};
     const double scale = kScale.at(static_cast<std::size_t>(std::clamp(how.mapFont, 0, 4)));
-    const BaseMapPalette palette = PaletteFor(how.style, how.dark);
+    const BaseMapPalette palette = PaletteFor(how.style, how.bDark);
     QColor waterHalo = palette.water;
     waterHalo.setAlpha(how.style == MapStyle::Terrain ? 0 : 160);
-    const auto set = [&](Face face, double pixels, double spacing, QFont::Weight weight, bool isItalic,
-                         const QColor& colour, const QColor& halo) {
+    const auto set = [&](Face face, double pixels, double spacing, QFont::Weight weight, bool bItalic,
+                         const QColor& color, const QColor& halo) {
         QFont font = QGuiApplication::font();
         font.setPixelSize(std::max(8, static_cast<int>(std::lround(pixels * scale))));
         // A printer would take the spacing for its own, much smaller, pixels and lay the letters far apart.
-        font.setLetterSpacing(QFont::AbsoluteSpacing, how.asVector ? 0 : spacing * scale);
+        font.setLetterSpacing(QFont::AbsoluteSpacing, how.bVector ? 0 : spacing * scale);
         font.setWeight(weight);
-        font.setItalic(isItalic);
-        m_faces.at(face) = {font, colour, halo, static_cast<int>(face)};
+        font.setItalic(bItalic);
+        m_faces[static_cast<std::size_t>(face)] = {font, color, halo, static_cast<int>(face)};
     };
-    set(Ocean, 15, 2.5, QFont::Normal, true, palette.waterName, waterHalo);
-    set(Sea, 12, 1, QFont::Normal, true, palette.waterName, waterHalo);
-    set(Lake, 11, 0.3, QFont::Normal, true, palette.waterName, waterHalo);
-    set(BigCountry, 14, 2.5, QFont::DemiBold, false, palette.country, palette.halo);
-    set(Country, 11.5, 1.2, QFont::DemiBold, false, palette.country, palette.halo);
-    set(State, 10.5, 1.6, QFont::Normal, false, palette.state, palette.halo);
-    set(BigCity, 14, 0, QFont::DemiBold, false, palette.city, palette.halo);
-    set(City, 12.5, 0, QFont::Normal, false, palette.city, palette.halo);
-    set(Town, 11, 0, QFont::Normal, false, palette.town, palette.halo);
-    m_text.SetLook(how.ratio, how.mapFont * 100 + static_cast<int>(how.style) * 10 + (how.dark ? 1 : 0));
+    set(Face::Ocean, 15, 2.5, QFont::Normal, true, palette.waterName, waterHalo);
+    set(Face::Sea, 12, 1, QFont::Normal, true, palette.waterName, waterHalo);
+    set(Face::Lake, 11, 0.3, QFont::Normal, true, palette.waterName, waterHalo);
+    set(Face::BigCountry, 14, 2.5, QFont::DemiBold, false, palette.country, palette.halo);
+    set(Face::Country, 11.5, 1.2, QFont::DemiBold, false, palette.country, palette.halo);
+    set(Face::State, 10.5, 1.6, QFont::Normal, false, palette.state, palette.halo);
+    set(Face::BigCity, 14, 0, QFont::DemiBold, false, palette.city, palette.halo);
+    set(Face::City, 12.5, 0, QFont::Normal, false, palette.city, palette.halo);
+    set(Face::Town, 11, 0, QFont::Normal, false, palette.town, palette.halo);
+    m_text.SetLook(how.ratio, how.mapFont * 100 + static_cast<int>(how.style) * 10 + (how.bDark ? 1 : 0));
 }
 
 void PlaceLabels::Paint(QPainter& painter, const ViewFrame& frame, LabelGrid& grid, const How& how)
@@ -108,7 +108,6 @@ void PlaceLabels::Paint(QPainter& painter, const ViewFrame& frame, LabelGrid& gr
     m_grid = &grid;
     m_frame = &frame;
     m_how = how;
-    m_placed.clear();
     painter.save();
     SetFaces(how);
     const double least = LeastWeight(frame.zoom, how.style), great = std::max(least * 8, 1e6);
@@ -135,12 +134,11 @@ bool PlaceLabels::IsInView(QPointF at) const
 void PlaceLabels::PlaceArea(Face face, const QString& text, const AreaLabel& area)
 {
     const QPointF at = m_frame->ToPixel({area.x, area.y});
-    const QSizeF size = m_text.Size(m_faces.at(face), text);
+    const QSizeF size = m_text.Size(Look(face), text);
     const QRectF rect(at.x() - size.width() / 2, at.y() - size.height() / 2, size.width(), size.height());
     if (!m_grid->TryPlace(rect.adjusted(-kGap, -kGap, kGap, kGap)))
         return;
-    m_text.Paint(*m_painter, m_faces.at(face), text, rect.center(), m_how.asVector);
-    m_placed.push_back({text, rect});
+    m_text.Paint(*m_painter, Look(face), text, rect.center(), m_how.bVector);
 }
 
 void PlaceLabels::PlaceWaters(int firstRank, int lastRank)
@@ -154,11 +152,9 @@ void PlaceLabels::PlaceWaters(int firstRank, int lastRank)
         if (water.rank < firstRank || water.rank > lastRank)
             continue;
         const Range& range = kZooms.at(static_cast<std::size_t>(std::clamp(water.rank, 0, 3)));
-        if (m_frame->zoom < range.from || m_frame->zoom > range.to)
+        if (m_frame->zoom < range.from || m_frame->zoom > range.to || !IsInView(water))
             continue;
-        if (!IsInView(water))
-            continue;
-        const Face face = water.rank == 0 ? Ocean : water.rank == 1 ? Sea : Lake;
+        const Face face = water.rank == 0 ? Face::Ocean : water.rank == 1 ? Face::Sea : Face::Lake;
         PlaceArea(face, Broken(Text(water.name), 12), water);
     }
 }
@@ -174,10 +170,10 @@ void PlaceLabels::PlaceCountries()
             break;
         if (!IsInView(country))
             continue;
-        const Face face = side > 260 ? BigCountry : Country;
+        const Face face = side > 260 ? Face::BigCountry : Face::Country;
         const QString text = Broken(Text(country.name).toUpper(), 13);
         const double room = std::max(country.width * m_frame->world, 1.6 * side);
-        if (!text.isEmpty() && m_text.Size(m_faces.at(face), text).width() < room * 1.15)
+        if (!text.isEmpty() && m_text.Size(Look(face), text).width() < room * 1.15)
             PlaceArea(face, text, country);
     }
 }
@@ -194,9 +190,44 @@ void PlaceLabels::PlaceStates()
         if (!IsInView(state))
             continue;
         const QString text = Broken(Text(state.name).toUpper(), 12);
-        if (!text.isEmpty() && m_text.Size(m_faces[State], text).width() < std::max(state.width * m_frame->world, side))
-            PlaceArea(State, text, state);
+        if (!text.isEmpty() &&
+            m_text.Size(Look(Face::State), text).width() < std::max(state.width * m_frame->world, side))
+            PlaceArea(Face::State, text, state);
     }
+}
+
+// Numbers of the places with so many people in the cells that the view touches.
+std::vector<std::size_t> PlaceLabels::PlacesInView(double leastPopulation) const
+{
+    std::vector<std::size_t> places;
+    const double cells = m_map.CellsPerSide(), world = m_frame->world;
+    const auto cell = [&](double v) { return static_cast<std::int64_t>(std::floor(v * cells)); };
+    const std::int64_t count = m_map.CellsPerSide();
+    const auto firstRow = std::max<std::int64_t>(cell(m_frame->top), 0);
+    const auto lastRow = std::min(cell(m_frame->top + m_frame->height / world), count - 1);
+    for (auto row = firstRow; row <= lastRow; ++row) {
+        for (auto column = cell(m_frame->left); column <= cell(m_frame->left + m_frame->width / world); ++column) {
+            const auto wrapped = static_cast<std::uint32_t>((column % count + count) % count);
+            for (const std::uint32_t index : m_map.PlacesInCell(wrapped, static_cast<std::uint32_t>(row))) {
+                if (m_map.Place(index).population < leastPopulation)
+                    break;
+                places.push_back(index);
+            }
+        }
+    }
+    return places;
+}
+
+// Numbers of the places with so many people; where they are many, of those in view.
+std::vector<std::size_t> PlaceLabels::LargePlaces(double leastPopulation) const
+{
+    std::vector<std::size_t> places;
+    while (places.size() < m_map.PlaceCount() && m_map.Place(places.size()).population >= leastPopulation) {
+        places.push_back(places.size());
+        if (places.size() > kPrefixScan)
+            return PlacesInView(leastPopulation);
+    }
+    return places;
 }
 
 std::vector<PlaceLabels::Spot> PlaceLabels::CitiesIn(double leastWeight) const
@@ -204,33 +235,13 @@ std::vector<PlaceLabels::Spot> PlaceLabels::CitiesIn(double leastWeight) const
     std::vector<Spot> spots;
     const auto add = [&](std::size_t index) {
         const PlaceRecord place = m_map.Place(index);
-        const double weight = place.population * (place.isCapital ? kCapitalBonus : 1.0);
+        const double weight = place.population * (place.bCapital ? kCapitalBonus : 1.0);
         const QPointF at = m_frame->ToPixel({place.x, place.y});
-        if (weight >= leastWeight && IsInView(at) && (!place.isPartOfCity || m_frame->zoom > 11))
+        if (weight >= leastWeight && IsInView(at) && (!place.bPartOfCity || m_frame->zoom > 11))
             spots.push_back({index, weight, at});
-        return place.population >= leastWeight;
     };
-    std::size_t prefix = 0;
-    while (prefix <= kPrefixScan && prefix < m_map.PlaceCount() && m_map.Place(prefix).population >= leastWeight)
-        ++prefix;
-    if (prefix <= kPrefixScan) {
-        for (std::size_t i = 0; i < prefix; ++i)
-            add(i);
-    } else {
-        const double cells = m_map.CellsPerSide(), world = m_frame->world;
-        const auto cell = [&](double v) { return static_cast<std::int64_t>(std::floor(v * cells)); };
-        const std::int64_t count = m_map.CellsPerSide();
-        for (auto row = cell(m_frame->top); row <= cell(m_frame->top + m_frame->height / world); ++row) {
-            for (auto column = cell(m_frame->left); column <= cell(m_frame->left + m_frame->width / world); ++column) {
-                const auto wrapped = static_cast<std::uint32_t>((column % count + count) % count);
-                if (row < 0 || row >= count)
-                    continue;
-                for (const std::uint32_t index : m_map.PlacesInCell(wrapped, static_cast<std::uint32_t>(row)))
-                    if (!add(index))
-                        break;
-            }
-        }
-    }
+    for (const std::size_t place : LargePlaces(leastWeight))
+        add(place);
     for (const std::uint32_t capital : m_capitals)
         if (m_map.Place(capital).population < leastWeight)
             add(capital);
@@ -244,7 +255,7 @@ void PlaceLabels::PlaceCities(double leastWeight, double belowWeight)
     std::sort(spots.begin(), spots.end(), [](const Spot& a, const Spot& b) {
         return a.weight != b.weight ? a.weight > b.weight : a.place < b.place;
     });
-    // A capital below the least may stand in its cell's list, too.
+    // A view that is nearly as wide as the world meets a cell at both its edges.
     spots.erase(
         std::unique(spots.begin(), spots.end(), [](const Spot& a, const Spot& b) { return a.place == b.place; }),
         spots.end());
@@ -259,8 +270,8 @@ PlaceLabels::Face PlaceLabels::FaceOf(const PlaceRecord& place, double weight) c
 {
     const double least = LeastWeight(m_frame->zoom, MapStyle::Road);
     if (weight >= std::clamp(20 * least, 3e5, 1.5e7))
-        return place.isPartOfCity ? City : BigCity;
-    return weight >= std::clamp(3.5 * least, 4e4, 5e6) || place.isCapital ? City : Town;
+        return place.bPartOfCity ? Face::City : Face::BigCity;
+    return weight >= std::clamp(3.5 * least, 4e4, 5e6) || place.bCapital ? Face::City : Face::Town;
 }
 
 // Right of its dot, else left, above or below.
@@ -269,7 +280,7 @@ void PlaceLabels::PlaceCity(const Spot& spot)
     const PlaceRecord place = m_map.Place(spot.place);
     const Face face = FaceOf(place, spot.weight);
     const QString text = Text(place.name);
-    const QSizeF size = m_text.Size(m_faces.at(face), text);
+    const QSizeF size = m_text.Size(Look(face), text);
     const double beside = kDot + 4 + size.width() / 2, over = kDot + 1 + size.height() / 2;
     const std::array<QPointF, 4> offsets{QPointF(beside, -0.5), QPointF(-beside, -0.5), QPointF(0, -over),
                                          QPointF(0, over)};
@@ -279,9 +290,8 @@ void PlaceLabels::PlaceCity(const Spot& spot)
             QRectF(-size.width() / 2, -size.height() / 2, size.width(), size.height()).translated(spot.at + offset);
         if (!m_grid->TryPlace(rect.united(dot).adjusted(-kGap, -1, kGap, 1)))
             continue;
-        m_text.PaintDot(*m_painter, m_faces.at(face), place.isCapital, spot.at, m_how.asVector);
-        m_text.Paint(*m_painter, m_faces.at(face), text, rect.center(), m_how.asVector);
-        m_placed.push_back({text, rect});
+        m_text.PaintDot(*m_painter, Look(face), place.bCapital, spot.at, m_how.bVector);
+        m_text.Paint(*m_painter, Look(face), text, rect.center(), m_how.bVector);
         return;
     }
 }

@@ -5,10 +5,10 @@
 #include "desktop/map/label_text.h"
 #include "desktop/map/view_frame.h"
 
-#include <QRectF>
 #include <QString>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -21,24 +21,19 @@ class PlaceLabels {
 public:
     struct How {
         MapStyle style = MapStyle::Road;
-        bool dark = false;
+        bool bDark = false;
         std::int32_t mapFont = 2; // 0 largest to 4 smallest.
         double ratio = 1;         // Device pixels for one of the view.
-        bool asVector = false;    // For printers: letters instead of kept pictures.
-    };
-    struct Placed {
-        QString text;
-        QRectF rect;
+        bool bVector = false;     // For printers: letters instead of kept pictures.
     };
 
     explicit PlaceLabels(const BaseMap& map); // The map must outlive this.
 
     // From the painter's origin on, where the grid is free; takes the places in the grid.
     void Paint(QPainter& painter, const ViewFrame& frame, LabelGrid& grid, const How& how);
-    const std::vector<Placed>& LastPlaced() const { return m_placed; }
 
 private:
-    enum Face { Ocean, Sea, Lake, Country, BigCountry, State, BigCity, City, Town, FaceCount };
+    enum class Face { Ocean, Sea, Lake, Country, BigCountry, State, BigCity, City, Town };
     struct Spot; // A place that would like its name shown.
 
     void SetFaces(const How& how);
@@ -46,8 +41,11 @@ private:
     void PlaceCountries();
     void PlaceStates();
     void PlaceCities(double leastWeight, double belowWeight);
+    std::vector<std::size_t> PlacesInView(double leastPopulation) const;
+    std::vector<std::size_t> LargePlaces(double leastPopulation) const;
     std::vector<Spot> CitiesIn(double leastWeight) const;
     void PlaceArea(Face face, const QString& text, const AreaLabel& area);
+    const LabelFace& Look(Face face) const { return m_faces[static_cast<std::size_t>(face)]; }
     Face FaceOf(const PlaceRecord& place, double weight) const;
     void PlaceCity(const Spot& spot);
     bool IsInView(QPointF at) const;
@@ -56,8 +54,7 @@ private:
     const BaseMap& m_map;
     std::vector<std::uint32_t> m_capitals, m_countryOrder, m_stateOrder; // Areas: the largest first.
     LabelText m_text;
-    std::array<LabelFace, FaceCount> m_faces;
-    std::vector<Placed> m_placed;
+    std::array<LabelFace, 9> m_faces; // By Face.
 
     // Of the frame at hand.
     QPainter* m_painter = nullptr;

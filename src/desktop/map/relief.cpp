@@ -1,5 +1,7 @@
 #include "desktop/map/relief.h"
 
+#include "desktop/map/earth.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -40,7 +42,7 @@ Ramp MakeRamp(const std::array<Stop, N>& stops)
     return ramp;
 }
 
-Ramp LandRamp(bool dark)
+Ramp LandRamp(bool bDark)
 {
     constexpr std::array<Stop, 6> kLight{{{87, 0xD3, 0xE3, 0xC6},
                                           {112, 0xE4, 0xEB, 0xCF},
@@ -54,16 +56,16 @@ Ramp LandRamp(bool dark)
                                          {160, 0x4A, 0x43, 0x38},
                                          {185, 0x57, 0x51, 0x4B},
                                          {207, 0x77, 0x78, 0x7B}}};
-    return MakeRamp(dark ? kDark : kLight);
+    return MakeRamp(bDark ? kDark : kLight);
 }
 
-Ramp SeaRamp(bool dark)
+Ramp SeaRamp(bool bDark)
 {
     constexpr std::array<Stop, 4> kLight{
         {{18, 0x86, 0xB2, 0xD6}, {40, 0x9A, 0xC2, 0xE1}, {66, 0xB6, 0xD7, 0xEC}, {84, 0xCE, 0xE6, 0xF3}}};
     constexpr std::array<Stop, 4> kDark{
         {{18, 0x10, 0x1B, 0x2B}, {40, 0x15, 0x24, 0x37}, {66, 0x1C, 0x30, 0x47}, {84, 0x24, 0x3D, 0x57}}};
-    return MakeRamp(dark ? kDark : kLight);
+    return MakeRamp(bDark ? kDark : kLight);
 }
 
 // The first pixel after `at` that lies on another tile, at most `end`.
@@ -73,11 +75,11 @@ int Next(int at, int end)
     return std::min(end, at - inTile + kTile);
 }
 
-QRgb Lit(QRgb colour, float shade)
+QRgb Lit(QRgb color, float shade)
 {
     const auto parts = static_cast<int>(shade * 256);
     const auto channel = [parts](int value) { return std::clamp(value * parts / 256, 0, 255); };
-    return qRgb(channel(qRed(colour)), channel(qGreen(colour)), channel(qBlue(colour)));
+    return qRgb(channel(qRed(color)), channel(qGreen(color)), channel(qBlue(color)));
 }
 
 } // namespace
@@ -169,7 +171,7 @@ bool Relief::Copy(Window& window, int left, int top, int right, int bottom) cons
 Relief::Window Relief::Load(double left, double top, double worldPixels, int width, int height) const
 {
     Window window;
-    const int wanted = static_cast<int>(std::ceil(std::log2(worldPixels / 256)));
+    const int wanted = static_cast<int>(std::ceil(ZoomOf(worldPixels)));
     window.level = std::clamp(wanted, 1, static_cast<int>(BaseMap::kHeightLevels));
     const int side = kTile << (window.level - 1);
     window.left = static_cast<int>(std::floor(left * side)) - kAround;
@@ -191,12 +193,12 @@ Relief::Window Relief::Load(double left, double top, double worldPixels, int wid
     return window;
 }
 
-Relief::Pictures Relief::Paint(double left, double top, double worldPixels, int width, int height, bool dark) const
+Relief::Pictures Relief::Paint(double left, double top, double worldPixels, int width, int height, bool bDark) const
 {
     const Window window = Load(left, top, worldPixels, width, height);
     if (window.height.empty())
         return {};
-    const Ramp landRamp = LandRamp(dark), seaRamp = SeaRamp(dark);
+    const Ramp landRamp = LandRamp(bDark), seaRamp = SeaRamp(bDark);
     Pictures pictures{QImage(width, height, QImage::Format_RGB32), QImage(width, height, QImage::Format_RGB32)};
     const double step = window.Side() / worldPixels;
     // Heights lie at the middle of their squares.

@@ -22,7 +22,7 @@ public:
     };
     // For an area with this left top corner in the world, at worldPixels for the world's width. Null pictures where the
     // heights cannot be read.
-    Pictures Paint(double left, double top, double worldPixels, int width, int height, bool dark) const;
+    Pictures Paint(double left, double top, double worldPixels, int width, int height, bool bDark) const;
 
 private:
     struct Window;

@@ -1,25 +1,19 @@
 #include "desktop/map/scale_bar.h"
 
+#include "desktop/map/earth.h"
+
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 namespace ruvenmark {
 
 namespace {
 
-constexpr double kEquatorKilometres = 40075.017;
-constexpr double kKilometresPerMile = 1.609344;
 constexpr double kMetresPerFoot = 0.3048;
 constexpr double kMostPixels = 120;
 constexpr double kMargin = 12;
-
-double KilometresPerPixel(const MapView& view)
-{
-    return kEquatorKilometres * std::cos(view.centre.lat * std::numbers::pi / 180) / view.WorldPixels();
-}
 
 // The largest of 1, 2, 5, 10, 20 ... that is not above a length.
 double RoundLength(double most)
@@ -40,19 +34,19 @@ ScaleMark Mark(double most, double perPixel, const char* unit)
 
 ScaleMark MilesMark(const MapView& view, double mostPixels)
 {
-    const double perPixel = KilometresPerPixel(view) / kKilometresPerMile;
+    const double perPixel = MetresPerPixel(view) / kMetresPerMile;
     if (perPixel * mostPixels >= 1)
         return Mark(perPixel * mostPixels, perPixel, "mi");
-    const double feet = KilometresPerPixel(view) * 1000 / kMetresPerFoot;
+    const double feet = MetresPerPixel(view) / kMetresPerFoot;
     return Mark(feet * mostPixels, feet, "ft");
 }
 
 ScaleMark KilometresMark(const MapView& view, double mostPixels)
 {
-    const double perPixel = KilometresPerPixel(view);
-    if (perPixel * mostPixels >= 1)
-        return Mark(perPixel * mostPixels, perPixel, "km");
-    return Mark(perPixel * 1000 * mostPixels, perPixel * 1000, "m");
+    const double metres = MetresPerPixel(view), kilometres = metres / 1000;
+    if (kilometres * mostPixels >= 1)
+        return Mark(kilometres * mostPixels, kilometres, "km");
+    return Mark(metres * mostPixels, metres, "m");
 }
 
 QRectF ScaleBarRect(const MapView& view)

@@ -1,5 +1,7 @@
 #include "desktop/map/shape_layout.h"
 
+#include "desktop/map/earth.h"
+
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -8,8 +10,6 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr double kDegree = std::numbers::pi / 180;
-constexpr double kEarthRadiusMiles = 3958.7613;
 constexpr double kSurroundings = 64; // Pixels; more than the widest pen and arrowhead.
 constexpr double kShort = 3;         // Pixels; of such lines one is enough for each square of that size.
 constexpr double kMostArcs = 4096;
@@ -40,18 +40,6 @@ int Corners(double radiusPixels)
 }
 
 } // namespace
-
-GeoPoint Destination(GeoPoint from, double bearing, double miles)
-{
-    const double angle = miles / kEarthRadiusMiles;
-    const double lat = from.lat * kDegree, direction = bearing * kDegree;
-    const double sine = std::sin(lat) * std::cos(angle) + std::cos(lat) * std::sin(angle) * std::cos(direction);
-    const double toLat = std::asin(std::clamp(sine, -1.0, 1.0));
-    const double dLon = std::atan2(std::sin(direction) * std::sin(angle) * std::cos(lat),
-                                   std::cos(angle) - std::sin(lat) * std::sin(toLat));
-    const double lon = from.lon + dLon / kDegree;
-    return {toLat / kDegree, lon - 360 * std::floor((lon + 180) / 360)};
-}
 
 // Liang and Barsky's way: the part of the line's parameter that each edge leaves.
 bool CutLine(QLineF& line, const QRectF& rect)

@@ -49,9 +49,6 @@ private:
     std::vector<CircleItem> m_circles;
 };
 
-// The point that lies `miles` from a point in the direction `bearing` (degrees from north, clockwise).
-GeoPoint Destination(GeoPoint from, double bearing, double miles);
-
 // The part of a line that lies in a rectangle; false where none does.
 bool CutLine(QLineF& line, const QRectF& rect);
 

@@ -1,5 +1,7 @@
 #include "desktop/map/shape_painter.h"
 
+#include "desktop/model_color.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -19,11 +21,9 @@ constexpr double kLargestPlain = 8000; // Coordinates beyond make the painter sl
 
 constexpr float kLeastLightness = 0.66F; // On a dark ground.
 
-// The model's colours have red in the low byte.
 QColor ShapeColor(std::uint32_t number, bool bDarkGround)
 {
-    const QColor color(static_cast<int>(number & 0xFFU), static_cast<int>(number >> 8U & 0xFFU),
-                       static_cast<int>(number >> 16U & 0xFFU));
+    const QColor color = ModelColor(number);
     if (!bDarkGround || color.lightnessF() >= kLeastLightness)
         return color;
     return QColor::fromHslF(std::max(color.hslHueF(), 0.0F), color.hslSaturationF(), kLeastLightness);

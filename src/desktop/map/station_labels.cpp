@@ -112,13 +112,15 @@ void StationLabels::SetGround(const ViewFrame& frame)
 }
 
 void StationLabels::Place(const std::vector<MarkerItem>& items, const SlotPool<PinData>& pins, const ViewFrame& frame,
-                          std::optional<std::uint32_t> selected)
+                          std::optional<std::uint32_t> selected, std::span<const QRectF> taken)
 {
     m_nameTodo.clear();
     m_badgeTodo.clear();
     m_namesPlaced.clear();
     m_badgesPlaced.clear();
     SetGround(frame);
+    for (const QRectF& rect : taken)
+        m_grid.Block(rect.translated(m_onGround));
     for (std::size_t i = items.size(); i-- > 0;)
         if (items[i].count > 1)
             PlaceBadge(items[i]);

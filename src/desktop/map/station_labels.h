@@ -11,6 +11,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -33,8 +34,9 @@ public:
 
     // Before names are placed: a change of letters or colours forgets what was drawn.
     void SetLook(const MapLook& look, qreal ratio);
+    // Nothing is written where the window shows something else.
     void Place(const std::vector<MarkerItem>& items, const SlotPool<PinData>& pins, const ViewFrame& frame,
-               std::optional<std::uint32_t> selected);
+               std::optional<std::uint32_t> selected, std::span<const QRectF> taken);
     // Keeps the places of markers, names and counts free of other names.
     void BlockIn(LabelGrid& grid, const std::vector<MarkerItem>& items) const;
     // Letters as curves instead of kept pictures, for printers and vector files.

@@ -1,6 +1,7 @@
 #include "desktop/map/tile_fetcher.h"
 
 #include "desktop/map/tile_cache.h"
+#include "platform/program_name.h"
 
 #include <QNetworkReply>
 #include <QNetworkRequest>
@@ -15,12 +16,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kAgent = "Ruvenmark/1.0.0 (+desktop APRS client)";
 constexpr std::chrono::milliseconds kLongestPause = 5min;
 constexpr std::chrono::milliseconds kTransferLimit = 20s;
 constexpr qint64 kRefusedSeconds = 300;
 constexpr qint64 kMostRefused = 10000;
 constexpr qint64 kMostTileBytes = qint64{2} * 1024 * 1024;
+
+QByteArray Agent()
+{
+    return QByteArrayLiteral("Ruvenmark/") +
+           QByteArray(ProgramVersion().data(), static_cast<qsizetype>(ProgramVersion().size())) +
+           " (+desktop APRS client)";
+}
 
 QUrl Address(const QString& pattern, TileId tile)
 {
@@ -110,7 +117,7 @@ void TileFetcher::Pump()
 void TileFetcher::Begin(TileId tile)
 {
     QNetworkRequest request(Address(m_address, tile));
-    request.setRawHeader("User-Agent", kAgent);
+    request.setRawHeader("User-Agent", Agent());
     request.setRawHeader("Accept", "image/*");
     QNetworkReply* reply = m_network.get(request);
     m_running.insert(tile, reply);

@@ -11,7 +11,6 @@
 #include <QTimer>
 
 #include <chrono>
-#include <optional>
 #include <vector>
 
 class QNetworkReply;
@@ -35,7 +34,6 @@ public:
     void SetAddress(const QString& address);
     // In order of urgency; replaces what was wanted before and has not begun.
     void SetWanted(std::vector<TileId> wanted);
-    bool IsBusyWith(TileId tile) const { return m_running.contains(tile); }
     bool IsRefused(TileId tile) const;
     // The answer was no picture after all: as bad as an error.
     void Refuse(TileId tile);

@@ -27,7 +27,7 @@ QImage Render(const BaseMapPainter& painter, const GroundTile& tile)
                            side,
                            side,
                            tile.ratio};
-    painter.Paint(onImage, area, tile.style, tile.dark);
+    painter.Paint(onImage, area, tile.style, tile.bDark);
     return image;
 }
 
@@ -37,7 +37,7 @@ QImage Render(const BaseMapPainter& painter, const GroundTile& tile)
 std::size_t qHash(const GroundTile& tile, std::size_t seed)
 {
     return qHashMulti(seed, tile.worldPixels, tile.column, tile.row, tile.ratio, static_cast<int>(tile.style),
-                      tile.dark);
+                      tile.bDark);
 }
 
 // The view at one scale: where it lies among the squares, in device pixels from the world's corner.
@@ -82,7 +82,7 @@ GroundTile TilePainter::TileAt(const Span& span, int column, int row, const How&
         const int count = static_cast<int>(columns);
         column = ((column % count) + count) % count;
     }
-    return {span.worldPixels, column, row, how.ratio, how.style, how.dark};
+    return {span.worldPixels, column, row, how.ratio, how.style, how.bDark};
 }
 
 QList<GroundTile> TilePainter::Tiles(const Span& span, const How& how, int margin) const
@@ -110,11 +110,11 @@ QList<GroundTile> TilePainter::Tiles(const Span& span, const How& how, int margi
 // scale: device pixels of the painter for one of the squares'.
 bool TilePainter::PaintReady(QPainter& painter, const Span& span, const How& how, double scale)
 {
-    bool isWhole = true;
+    bool bWhole = true;
     for (int row = span.firstRow; row <= span.lastRow; ++row) {
         for (int column = span.firstColumn; column <= span.lastColumn; ++column) {
             const QImage* image = m_ready.object(TileAt(span, column, row, how));
-            isWhole = isWhole && image;
+            bWhole = bWhole && image;
             if (!image)
                 continue;
             const auto x = static_cast<double>(std::int64_t{column} * kSide - span.left);
@@ -123,7 +123,7 @@ bool TilePainter::PaintReady(QPainter& painter, const Span& span, const How& how
                               QRectF(0, 0, kSide, kSide));
         }
     }
-    return isWhole;
+    return bWhole;
 }
 
 void TilePainter::PaintOlder(QPainter& painter, const ViewFrame& frame, const How& how)
@@ -142,7 +142,7 @@ bool TilePainter::Paint(QPainter& painter, const ViewFrame& frame, const How& ho
     const QList<GroundTile> visible = Tiles(span, how, 0);
     m_visible = QSet<GroundTile>(visible.begin(), visible.end());
     m_ready.setMaxCost(std::max<qsizetype>(kLeastKept, 5 * visible.size() * kSide * kSide * 4 / 1024));
-    if (how.wait)
+    if (how.bWait)
         Finish(visible);
 
     painter.save();
@@ -152,20 +152,20 @@ bool TilePainter::Paint(QPainter& painter, const ViewFrame& frame, const How& ho
     const auto isReady = [this](const GroundTile& tile) { return m_ready.contains(tile); };
     if (!std::all_of(visible.begin(), visible.end(), isReady)) {
         painter.fillRect(QRectF(0, 0, frame.width * how.ratio, frame.height * how.ratio),
-                         PaletteFor(how.style, how.dark).water);
+                         PaletteFor(how.style, how.bDark).water);
         PaintOlder(painter, frame, how);
     }
-    const bool isWhole = PaintReady(painter, span, how, 1);
+    const bool bWhole = PaintReady(painter, span, how, 1);
     painter.restore();
-    if (isWhole)
+    if (bWhole)
         Remember(span.worldPixels);
 
     m_wanted.clear();
-    for (const GroundTile& tile : Tiles(span, how, how.wait ? 0 : 1)) // Those just outside come last.
+    for (const GroundTile& tile : Tiles(span, how, how.bWait ? 0 : 1)) // Those just outside come last.
         if (!m_ready.contains(tile) && !m_started.contains(tile))
             m_wanted.append(tile);
     StartNext();
-    return isWhole;
+    return bWhole;
 }
 
 void TilePainter::Finish(const QList<GroundTile>& tiles)

@@ -23,7 +23,7 @@ struct GroundTile {
     std::int32_t column = 0, row = 0;
     double ratio = 1;
     MapStyle style = MapStyle::Road;
-    bool dark = false;
+    bool bDark = false;
     friend bool operator==(const GroundTile&, const GroundTile&) = default;
 };
 // NOLINTNEXTLINE(readability-identifier-naming): Qt's name.
@@ -39,9 +39,9 @@ public:
 
     struct How {
         MapStyle style = MapStyle::Road;
-        bool dark = false;
-        double ratio = 1;  // Device pixels for one of the view.
-        bool wait = false; // Paint everything before returning: the frame is the only one.
+        bool bDark = false;
+        double ratio = 1;   // Device pixels for one of the view.
+        bool bWait = false; // Paint everything before returning: the frame is the only one.
     };
 
     explicit TilePainter(const BaseMap& map, QObject* parent = nullptr); // The map must outlive this.

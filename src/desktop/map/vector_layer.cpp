@@ -39,9 +39,9 @@ VectorLayer::VectorLayer(std::span<const std::byte> section, std::uint32_t leafC
     m_index = section.first(leafCount * kIndexEntry);
     m_data = section.subspan(leafCount * kIndexEntry);
     for (std::size_t i = 0; i < leafCount; ++i) {
-        const bool isOrdered = i == 0 || Key(i - 1) < Key(i);
+        const bool bOrdered = i == 0 || Key(i - 1) < Key(i);
         const std::uint32_t depth = Key(i) & 15U;
-        if (!isOrdered || depth > kMaxDepth || depth > bits || ReadWord(m_index, kIndexEntry * i + 4) >= m_data.size())
+        if (!bOrdered || depth > kMaxDepth || depth > bits || ReadWord(m_index, kIndexEntry * i + 4) >= m_data.size())
             throw Failure("The base map is damaged: the index of a layer is out of order.");
     }
 }

@@ -27,7 +27,7 @@ public:
         std::uint32_t offset = 0;
     };
 
-    // bits: the world is 2^bits units wide. topZoom: up to which zoom this level is fine enough. Throws Failure when
+    // bits: the world is 2^bits units wide. topZoom: up to which zoom this level is fine enough. Raises Failure when
     // the index is not in order.
     VectorLayer(std::span<const std::byte> section, std::uint32_t leafCount, std::uint32_t bits, double topZoom);
 

@@ -1,5 +1,6 @@
 #include "desktop/map/view_moves.h"
 
+#include "desktop/map/earth.h"
 #include "platform/map_model.h"
 
 #include <algorithm>
@@ -9,12 +10,12 @@ namespace ruvenmark {
 
 double LeastZoom(int windowHeight)
 {
-    return std::clamp(std::log2(std::max(windowHeight, 1) / kTileSize), 1.0, kLargestZoom);
+    return std::clamp(ZoomOf(std::max(windowHeight, 1)), kMinZoom, kMaxZoom);
 }
 
 ViewTarget WithinWorld(ViewTarget target, QSize window)
 {
-    target.zoom = std::clamp(target.zoom, LeastZoom(window.height()), kLargestZoom);
+    target.zoom = std::clamp(target.zoom, LeastZoom(window.height()), kMaxZoom);
     const double half = std::min(0.5, window.height() / 2.0 / (kTileSize * std::exp2(target.zoom)));
     target.centre.y = std::clamp(target.centre.y, half, 1 - half);
     target.centre.x -= std::floor(target.centre.x);
@@ -30,7 +31,7 @@ ViewTarget Panned(const MapView& view, QPointF pixels)
 
 ViewTarget ZoomedAbout(const MapView& view, QPointF point, double levels)
 {
-    const double zoom = std::clamp(view.zoom + levels, LeastZoom(view.height), kLargestZoom);
+    const double zoom = std::clamp(view.zoom + levels, LeastZoom(view.height), kMaxZoom);
     const QPointF away = point - QPointF(view.width, view.height) / 2;
     const double share = 1 / view.WorldPixels() - 1 / (kTileSize * std::exp2(zoom));
     const MercatorPoint centre = ToMercator(view.centre);

@@ -9,8 +9,6 @@
 
 namespace ruvenmark {
 
-inline constexpr double kLargestZoom = 19;
-
 // Where a view is to go.
 struct ViewTarget {
     MercatorPoint centre;

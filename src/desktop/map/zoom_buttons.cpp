@@ -28,8 +28,8 @@ QToolButton* Button(QWidget* parent, const QString& name, const QString& tip)
 } // namespace
 
 ZoomButtons::ZoomButtons(const IconSet& icons, QWidget* parent)
-    : QWidget(parent), m_icons(icons), m_in(Button(this, tr("Zoom in"), tr("Zoom in (+)"))),
-      m_out(Button(this, tr("Zoom out"), tr("Zoom out (-)")))
+    : QWidget(parent), m_icons(icons), m_in(Button(this, QStringLiteral("Zoom in"), QStringLiteral("Zoom in (+)"))),
+      m_out(Button(this, QStringLiteral("Zoom out"), QStringLiteral("Zoom out (-)")))
 {
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(1, 1, 1, 1);

@@ -64,7 +64,7 @@ TEST(MapAtlas, HoldsEveryPictureApartFromTheOthers)
 {
     IconSet icons;
     const MapAtlas& atlas = icons.Atlas(18, 2);
-    EXPECT_EQ(atlas.Cell(), 36);
+    EXPECT_EQ(atlas.Source(82).size(), QSize(36, 36));
     EXPECT_EQ(icons.MapNumbers(), std::vector<int>(kNumbers.begin(), kNumbers.end()));
     EXPECT_EQ(atlas.Source(-1), atlas.Source(1));
     std::vector<QRect> taken;
@@ -75,10 +75,7 @@ TEST(MapAtlas, HoldsEveryPictureApartFromTheOthers)
         for (const QRect& other : taken)
             EXPECT_FALSE(other.adjusted(-1, -1, 1, 1).intersects(source)) << number;
         taken.push_back(source);
-        QPixmap alone = icons.MapPicture(number, 18, 2);
-        alone.setDevicePixelRatio(1);
         const QImage image = atlas.Sheet().copy(source).toImage();
-        EXPECT_EQ(image, alone.toImage()) << number;
         EXPECT_GT(Coverage(image), 0.55) << number << ": a badge must cover what lies under it";
         const QByteArray bytes(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes());
         EXPECT_TRUE(seen.emplace(bytes, number).second) << number << " looks like " << seen[bytes];

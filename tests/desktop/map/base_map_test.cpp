@@ -57,7 +57,8 @@ bool UseAll(std::span<const std::byte> bytes)
             const ViewFrame frame = FrameAt({40.7, -74.0}, zoom, 160, 120);
             for (const MapStyle style : {MapStyle::Terrain, MapStyle::Political})
                 PaintGround(map, frame, style);
-            LabelGrid grid(160, 120);
+            LabelGrid grid;
+            grid.Reset(160, 120);
             labels.Paint(painter, frame, grid, {});
         }
         for (const std::size_t place : FindPlaces(map, u"a", 5))

@@ -1,3 +1,4 @@
+#include "desktop/map/earth.h"
 #include "desktop/map/map_widget.h"
 #include "desktop/map_widget/map_fixture.h"
 

@@ -240,7 +240,7 @@ TEST_F(OnlineTilesTest, WhatCannotBeUsedIsAFailureAndLeavesTheFormerChoice)
              {Kind::Archive, folder.filePath("missing.mbtiles")},
          })
         EXPECT_THROW(tiles.Choose(choice), Failure) << choice.where.toStdString();
-    EXPECT_EQ(tiles.Choice().where, server.Template());
+    EXPECT_EQ(tiles.Attribution(), "Tiles: 127.0.0.1");
     EXPECT_FALSE(QFile::exists(folder.filePath("missing.mbtiles")));
 }
 

@@ -1,3 +1,5 @@
+#include "desktop/map/scale_bar.h"
+#include "desktop/map/zoom_buttons.h"
 #include "desktop/map_widget/map_fixture.h"
 
 #include <algorithm>
@@ -32,6 +34,21 @@ TEST_F(StationLabelsTest, NothingOverprints)
     for (const auto& name : widget.Scene().Labels().Names())
         for (const MarkerItem& item : widget.Scene().Markers().Items())
             ASSERT_FALSE(name.rect.contains(item.at)) << "a name lies on a marker";
+}
+
+TEST_F(StationLabelsTest, NoNameLiesUnderButtonsScaleBarAndCredits)
+{
+    const QRect buttons = widget.findChild<ZoomButtons*>()->geometry();
+    const QRect scaleBar = ScaleBarRect(TheMap().View()).toRect(), credits(700, 588, 100, 12);
+    AddPin(QPointF(buttons.left() - 30, buttons.center().y()), "K1ABC");
+    AddPin(scaleBar.topLeft() + QPointF(20, 4), "K2ABC");
+    AddPin(credits.topLeft() + QPointF(5, 2), "K3ABC");
+    Painted();
+    const auto& names = widget.Scene().Labels().Names();
+    EXPECT_EQ(names.size(), 3U) << "each has a free side";
+    for (const auto& name : names)
+        for (const QRect& taken : {buttons, scaleBar, credits})
+            EXPECT_FALSE(name.rect.intersects(taken)) << name.slot;
 }
 
 TEST_F(StationLabelsTest, TheNewestNameWinsAndHiddenNamesAreNotWritten)

@@ -113,7 +113,7 @@ TEST(ViewMoves, NothingBesideTheWorldIsShown)
     const ViewTarget north = WithinWorld({{1.25, -1}, 6}, window);
     EXPECT_NEAR(north.centre.y, 540 / (kTileSize * 64), 1e-9);
     EXPECT_NEAR(north.centre.x, 0.25, 1e-9) << "round the world";
-    EXPECT_EQ(WithinWorld({{0.5, 0.5}, 40}, window).zoom, kLargestZoom);
+    EXPECT_EQ(WithinWorld({{0.5, 0.5}, 40}, window).zoom, kMaxZoom);
 }
 
 TEST(ScaleBar, MarksAreRoundAndAsLongAsTheySay)

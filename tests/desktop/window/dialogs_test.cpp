@@ -1,6 +1,6 @@
 #include "desktop/map/map_widget.h"
-#include "desktop/qt_desktop.h"
-#include "desktop/qt_prompts.h"
+#include "desktop/services/qt_desktop.h"
+#include "desktop/services/qt_prompts.h"
 #include "links/station_files.h"
 #include "map/find.h"
 #include "platform/failure.h"

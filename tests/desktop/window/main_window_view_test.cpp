@@ -1,6 +1,6 @@
 #include "desktop/main_window_view.h"
 #include "desktop/map/map_widget.h"
-#include "desktop/tree_view.h"
+#include "desktop/tree/tree_view.h"
 #include "map/directions.h"
 #include "ui/layout.h"
 #include "window_program.h"
@@ -68,6 +68,30 @@ TEST(MainWindowViewTest, TheSplitterIsDraggedAndStopsAheadOfTheEdges)
 
     QTest::mousePress(&grip, Qt::LeftButton, {}, QPoint(1, 50));
     QTest::mouseRelease(&grip, Qt::LeftButton, {}, QPoint(5000, 50));
+    EXPECT_EQ(program.main.window.splitterLeft, TwipsOfPixels(program.window.width()) - kSplitterMargin);
+}
+
+TEST(MainWindowViewTest, TheSplitterIsMovedWithKeys)
+{
+    WindowProgram program;
+    auto& grip = program.Find<QWidget>("imgSplitter");
+    auto& tree = program.Find<QWidget>("tvStationList");
+    program.window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program.window));
+    tree.setFocus();
+    QTest::keyClick(&tree, Qt::Key_Tab);
+    EXPECT_TRUE(grip.hasFocus());
+    EXPECT_FALSE(grip.accessibleName().isEmpty());
+    EXPECT_EQ(grip.grab().toImage().pixelColor(1, 1), grip.palette().color(QPalette::Highlight));
+    const int before = grip.x();
+    QTest::keyClick(&grip, Qt::Key_Right);
+    QTest::keyClick(&grip, Qt::Key_Right);
+    QTest::keyClick(&grip, Qt::Key_Left);
+    EXPECT_EQ(grip.x(), before + 16);
+    EXPECT_EQ(tree.width(), before + 16);
+    QTest::keyClick(&grip, Qt::Key_Home);
+    EXPECT_EQ(program.main.window.splitterLeft, kSplitterMargin);
+    QTest::keyClick(&grip, Qt::Key_End);
     EXPECT_EQ(program.main.window.splitterLeft, TwipsOfPixels(program.window.width()) - kSplitterMargin);
 }
 

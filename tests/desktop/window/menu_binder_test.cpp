@@ -1,5 +1,5 @@
 #include "desktop/menu_binder.h"
-#include "desktop/tree_view.h"
+#include "desktop/tree/tree_view.h"
 #include "window_program.h"
 
 #include <QMenu>

@@ -1,7 +1,7 @@
 #include "desktop/icons/icon_set.h"
-#include "desktop/readable_color.h"
-#include "desktop/tree_model.h"
-#include "desktop/tree_view.h"
+#include "desktop/tree/readable_color.h"
+#include "desktop/tree/tree_model.h"
+#include "desktop/tree/tree_view.h"
 #include "platform/keyed_tree.h"
 
 #include <QAbstractItemModelTester>

@@ -1,5 +1,0 @@
-if(RUVENMARK_DESKTOP)
-  add_executable(base_map_bench base_map_bench.cpp)
-  target_compile_definitions(base_map_bench PRIVATE RUVENMARK_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-  target_link_libraries(base_map_bench PRIVATE ruvenmark_options ruvenmark_desktop_map benchmark::benchmark)
-endif()

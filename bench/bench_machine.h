@@ -1,0 +1,40 @@
+#pragma once
+
+#include "core/bare_surface.h"
+#include "core/main_window.h"
+#include "devices/report_sources.h"
+#include "platform/files.h"
+#include "platform/headless.h"
+#include "platform/settings_store.h"
+
+#include <ctime>
+#include <iostream>
+
+namespace ruvenmark {
+
+// Of this process: other work on a shared machine does not count.
+inline double CpuSeconds()
+{
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+// What the whole program needs of a machine, with nobody to answer and nothing to hear. The region is chosen.
+template <typename Yield>
+struct BenchMachine {
+    BenchMachine() { store.Set("Region", "1"); }
+
+    Services Lend() { return {store, files, clock, sound, sleep, yield, prompts, dialogs, desktop, sources, "/tmp"}; }
+
+    MemorySettingsStore store;
+    PosixFiles files;
+    SystemClock clock;
+    SilentSound sound;
+    SystemSleep sleep;
+    Yield yield;
+    HeadlessPrompts prompts{std::cerr};
+    BareDialogs dialogs;
+    BareDesktop desktop;
+    ReportSources sources;
+};
+
+} // namespace ruvenmark

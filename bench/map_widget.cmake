@@ -1,6 +1,0 @@
-if(RUVENMARK_DESKTOP)
-  find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
-  add_executable(map_widget_bench ${CMAKE_CURRENT_LIST_DIR}/map_widget_bench.cpp)
-  target_compile_definitions(map_widget_bench PRIVATE RUVENMARK_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
-  target_link_libraries(map_widget_bench PRIVATE ruvenmark_options ruvenmark_desktop_map)
-endif()

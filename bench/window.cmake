@@ -1,6 +1,0 @@
-if(RUVENMARK_DESKTOP)
-  find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
-  add_executable(window_bench ${CMAKE_CURRENT_LIST_DIR}/window_bench.cpp ${CMAKE_CURRENT_LIST_DIR}/packet_text.cpp)
-  target_include_directories(window_bench PRIVATE ${CMAKE_CURRENT_LIST_DIR})
-  target_link_libraries(window_bench PRIVATE ruvenmark_options ruvenmark_desktop ruvenmark_devices)
-endif()

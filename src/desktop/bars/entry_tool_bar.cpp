@@ -1,0 +1,73 @@
+#include "desktop/bars/entry_tool_bar.h"
+
+#include "desktop/action_icons.h"
+#include "desktop/icons/icon_set.h"
+#include "desktop/shown_text.h"
+
+#include <QAction>
+
+#include <utility>
+
+namespace ruvenmark {
+
+namespace {
+
+MenuEntryState StateOf(const MainWindow& main, MenuEntry entry)
+{
+    // This one stands only in a pop-up menu.
+    if (entry == MenuEntry::mnuHideAllRangeCircles) {
+        const auto items = MenuItems(main, Menu::mnuRootPopup);
+        if (const MenuEntryState* state = FindState(items, entry))
+            return *state;
+    }
+    return ToolButtonState(main, {{}, {}, entry});
+}
+
+} // namespace
+
+EntryToolBar::EntryToolBar(MainWindow& main, const IconSet& icons, Runner run, const QString& title, QWidget* parent)
+    : QToolBar(title, parent), m_main(main), m_icons(icons), m_run(std::move(run))
+{
+    setAccessibleName(title);
+    setIconSize({20, 20});
+    setContextMenuPolicy(Qt::PreventContextMenu);
+}
+
+QAction* EntryToolBar::AddEntry(MenuEntry entry, const QString& text)
+{
+    const MenuEntryInfo& info = Info(entry);
+    QAction* action = AddAction(ActionIconName(entry), text);
+    action->setObjectName(QStringLiteral("tb") + ForDisplay(info.name));
+    action->setCheckable(info.bCheckable);
+    if (!info.shortcut.empty())
+        action->setToolTip(text + QStringLiteral(" (") + ForDisplay(info.shortcut) + QStringLiteral(")"));
+    connect(action, &QAction::triggered, this, [this, entry] { m_run(entry); });
+    m_entries.emplace_back(entry, action);
+    return action;
+}
+
+QAction* EntryToolBar::AddAction(const QString& iconName, const QString& text)
+{
+    QAction* action = addAction(text);
+    action->setIcon(m_icons.Action(iconName, palette()));
+    m_pictures.emplace_back(iconName, action);
+    return action;
+}
+
+void EntryToolBar::RefreshStates()
+{
+    for (const auto& [entry, action] : m_entries) {
+        const MenuEntryState state = StateOf(m_main, entry);
+        action->setEnabled(state.bEnabled);
+        if (action->isCheckable())
+            action->setChecked(state.bChecked);
+    }
+}
+
+void EntryToolBar::RefreshIcons()
+{
+    for (const auto& [name, action] : m_pictures)
+        action->setIcon(m_icons.Action(name, palette()));
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,34 @@
+#include "desktop/bars/main_tool_bar.h"
+
+#include "desktop/dialogs/dialog_parts.h"
+#include "desktop/shown_text.h"
+
+#include <QLineEdit>
+
+namespace ruvenmark {
+
+MainToolBar::MainToolBar(MainWindow& main, const IconSet& icons, const Runner& run, QWidget* parent)
+    : EntryToolBar(main, icons, run, QStringLiteral("Main tool bar"), parent), m_coordinates(new QLineEdit(this))
+{
+    setObjectName(QStringLiteral("tbToolBar"));
+    for (const ToolButton& button : ToolBar())
+        if (button.key.empty())
+            addSeparator();
+        else
+            AddEntry(button.entry, ForDisplay(button.text));
+    addSeparator();
+    NameControl(*m_coordinates, "txtTbCoordinates", QStringLiteral("Position under the pointer"));
+    m_coordinates->setToolTip(QStringLiteral("Latitude and longitude under the pointer"));
+    m_coordinates->setReadOnly(true);
+    m_coordinates->setFocusPolicy(Qt::ClickFocus);
+    m_coordinates->setFixedWidth(CoordinatesWidth(*this));
+    addWidget(m_coordinates);
+}
+
+void MainToolBar::ShowCoordinates(const QString& text)
+{
+    if (text != m_coordinates->text())
+        m_coordinates->setText(text);
+}
+
+} // namespace ruvenmark

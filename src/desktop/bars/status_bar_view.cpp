@@ -1,0 +1,96 @@
+#include "desktop/bars/status_bar_view.h"
+
+#include "desktop/bars/elided_label.h"
+#include "desktop/shown_text.h"
+
+#include <QGuiApplication>
+#include <QProgressBar>
+#include <QStackedWidget>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr int kIntervalMs = 50;
+
+struct PanelName {
+    const char* objectName;
+    const char* accessibleName;
+};
+constexpr std::array<PanelName, 5> kPanelNames = {{{"panelTnc", "TNC"},
+                                                   {"panelServer", "APRS server"},
+                                                   {"panelGps", "GPS"},
+                                                   {"panelNewMessage", "New messages"},
+                                                   {"panelCall", "Call sign"}}};
+
+} // namespace
+
+StatusBarView::StatusBarView(StatusBar& model, QWidget* parent)
+    : QStatusBar(parent), m_model(model), m_place(new QStackedWidget(this)), m_packet(new ElidedLabel(this)),
+      m_progress(new QProgressBar(this))
+{
+    setSizeGripEnabled(false);
+    for (std::size_t i = 0; i < m_panels.size(); ++i) {
+        m_panels[i] = new ElidedLabel(this);
+        m_panels[i]->setObjectName(QString::fromLatin1(kPanelNames[i].objectName));
+        m_panels[i]->setAccessibleName(QString::fromLatin1(kPanelNames[i].accessibleName));
+        addWidget(m_panels[i]);
+    }
+    m_packet->setObjectName(QStringLiteral("txtPacket"));
+    m_packet->setAccessibleName(QStringLiteral("Last packet"));
+    m_packet->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    m_progress->setObjectName(QStringLiteral("pbProgress"));
+    m_progress->setAccessibleName(QStringLiteral("Progress"));
+    m_progress->setMaximumHeight(m_packet->sizeHint().height());
+    m_place->addWidget(m_packet);
+    m_place->addWidget(m_progress);
+    m_place->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    addWidget(m_place, 1);
+    m_refreshTimer.setSingleShot(true);
+    m_refreshTimer.setInterval(kIntervalMs);
+    connect(&m_refreshTimer, &QTimer::timeout, this, &StatusBarView::Refresh);
+    m_subscription = model.Changed.Observe([this] { OnChanged(); });
+    Refresh();
+}
+
+StatusBarView::~StatusBarView()
+{
+    ShowPointer(false);
+}
+
+void StatusBarView::OnChanged()
+{
+    ShowPointer(m_model.IsWaitPointer());
+    if (!m_refreshTimer.isActive())
+        m_refreshTimer.start();
+    // A walk under the wait pointer lets no events in: the bar must paint itself.
+    if (!m_model.IsWaitPointer() || !m_model.IsProgressVisible() || !isVisible())
+        return;
+    if (m_sinceRepaint.isValid() && m_sinceRepaint.elapsed() < kIntervalMs)
+        return;
+    Refresh();
+    m_progress->repaint();
+    m_sinceRepaint.start();
+}
+
+void StatusBarView::Refresh()
+{
+    for (std::size_t i = 0; i < m_panels.size(); ++i)
+        m_panels[i]->SetText(ForDisplay(m_model.PanelText(static_cast<Panel>(i))));
+    m_packet->SetText(ForDisplay(m_model.PacketLine()));
+    m_progress->setValue(m_model.Progress());
+    m_place->setCurrentWidget(m_model.IsProgressVisible() ? static_cast<QWidget*>(m_progress) : m_packet);
+}
+
+void StatusBarView::ShowPointer(bool bWait)
+{
+    if (bWait == m_bWaitShown)
+        return;
+    m_bWaitShown = bWait;
+    if (bWait)
+        QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QGuiApplication::restoreOverrideCursor();
+}
+
+} // namespace ruvenmark
