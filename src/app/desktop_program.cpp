@@ -15,6 +15,7 @@
 #include "desktop/services/qt_dialogs.h"
 #include "desktop/services/qt_prompts.h"
 #include "desktop/services/qt_yield.h"
+#include "desktop/services/termination.h"
 #include "desktop/services/wave_sound.h"
 #include "desktop/theme.h"
 #include "devices/report_sources.h"
@@ -133,6 +134,7 @@ int RunDesktop(int argc, char** argv, const ProgramOptions& options)
     }
     if (options.loadFile)
         QTimer::singleShot(0, &program.window, [&] { program.window.LoadFile(*options.loadFile); });
+    const Termination termination([&] { program.window.CloseUnasked(); });
     const int status = QApplication::exec();
     if (!program.settings.Flush())
         std::cerr << "ruvenmark: the settings could not be saved\n";

@@ -218,6 +218,12 @@ void MainWindowView::changeEvent(QEvent* event)
     }
 }
 
+void MainWindowView::CloseUnasked()
+{
+    m_bUnasked = true;
+    close();
+}
+
 // A load stands on the stack below: it is stopped, and the window closes when it is gone.
 void MainWindowView::closeEvent(QCloseEvent* event)
 {
@@ -228,6 +234,8 @@ void MainWindowView::closeEvent(QCloseEvent* event)
         return;
     }
     m_bCloseWanted = false;
+    if (auto* map = m_main.mpCtrl.ActiveMap(); map && m_bUnasked)
+        map->SetSaved(true);
     event->setAccepted(StopMainWindow(m_main));
     if (event->isAccepted())
         QCoreApplication::exit(0);

@@ -39,6 +39,9 @@ public:
     // Expanded, and all above it.
     void ShowInTree(const TreeNode& node);
 
+    // As the operator closes it, but with nobody there to answer: a map that was not saved is not saved.
+    void CloseUnasked();
+
     // Runs a command of the menus. A load runs inside it.
     void Run(MenuEntry entry);
     void LoadFile(const std::string& path);
@@ -78,6 +81,7 @@ private:
     WindowPlacement m_placement;
     QTimer m_stateTimer, m_pointerTimer;
     int m_running = 0;           // Commands on the stack: a load lets others in.
+    bool m_bUnasked = false;     // Nobody is there to answer a box.
     bool m_bCloseWanted = false; // As soon as the load has ended.
     std::vector<Subscription> m_subscriptions;
 };

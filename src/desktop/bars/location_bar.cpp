@@ -6,6 +6,7 @@
 #include "desktop/map/view_moves.h"
 #include "desktop/shown_text.h"
 #include "map/directions.h"
+#include "platform/map_model.h"
 #include "ui/menus.h"
 
 #include <QDoubleSpinBox>

@@ -4,6 +4,7 @@
 #include "desktop/map/earth.h"
 #include "desktop/map/view_moves.h"
 #include "desktop/map/zoom_buttons.h"
+#include "platform/map_model.h"
 
 #include <QElapsedTimer>
 #include <QEvent>

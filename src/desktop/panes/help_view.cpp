@@ -3,8 +3,8 @@
 #include "core/desktop.h"
 #include "desktop/data_path.h"
 #include "desktop/icons/help_browser.h"
-#include "ui/web_page.h"
 #include "desktop/panes/copy_keys.h"
+#include "ui/web_page.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,6 +1,7 @@
 #include "desktop/map/scale_bar.h"
 #include "desktop/map/shape_layout.h"
 #include "desktop/map/view_moves.h"
+#include "platform/map_model.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,6 @@
 #include "desktop/main_window_view.h"
 #include "desktop/map/map_widget.h"
+#include "desktop/services/termination.h"
 #include "desktop/tree/tree_view.h"
 #include "map/directions.h"
 #include "ui/layout.h"
@@ -14,6 +15,8 @@
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QUrl>
+
+#include <csignal>
 
 namespace ruvenmark {
 namespace {
@@ -165,6 +168,25 @@ TEST(MainWindowViewTest, ClosingAsksAndCancelKeepsRunning)
     EXPECT_TRUE(program.window.isVisible());
     EXPECT_TRUE(program.window.close());
     EXPECT_EQ(program.prompts.questions.size(), 2U);
+}
+
+// At the end of a session nobody answers the question for the map; what else is to be kept is kept.
+TEST(MainWindowViewTest, ASignalEndsItWithoutAsking)
+{
+    WindowProgram program;
+    program.Hear(Channel::RF, "N0CALL", 40, -90);
+    bool bTold = false;
+    {
+        const Termination termination([&] {
+            bTold = true;
+            program.window.CloseUnasked();
+        });
+        std::raise(SIGTERM);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return bTold; }));
+    }
+    EXPECT_FALSE(program.window.isVisible());
+    EXPECT_TRUE(program.prompts.questions.empty());
+    EXPECT_NE(program.store.Get("MainWidth", ""), "");
 }
 
 TEST(MainWindowViewTest, ALoadIsStoppedHalfWayByItsMenuEntry)
