@@ -1,2 +1,0 @@
-add_executable(decoder_fuzz decoder_fuzz.cpp)
-target_link_libraries(decoder_fuzz PRIVATE ruvenmark_options ruvenmark_devices -fsanitize=fuzzer)

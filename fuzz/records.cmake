@@ -1,6 +1,0 @@
-foreach(name records pattern)
-  add_executable(${name}_fuzz ${CMAKE_CURRENT_SOURCE_DIR}/${name}_fuzz.cpp)
-  target_include_directories(${name}_fuzz PRIVATE ${PROJECT_SOURCE_DIR}/tests)
-  target_link_libraries(${name}_fuzz PRIVATE ruvenmark_logic)
-  target_link_options(${name}_fuzz PRIVATE -fsanitize=fuzzer)
-endforeach()
