@@ -260,11 +260,16 @@ TEST_F(TilesOnMapTest, TilesCoverTheRoadStylesAndNoOthers)
     TheMap().SetView({40, -90}, 4.3); // Beyond the folder's zoom, and between two.
     widget.Tiles().Choose({Kind::Folder, folder.path()});
     const auto magenta = [&] { return Painted().pixelColor(400, 200) == QColor("magenta"); };
-    ASSERT_TRUE(QTest::qWaitFor(magenta));
-    const QImage covered = Painted();
-    for (int y = 0; y < 500; ++y)
-        for (int x = 0; x < 740; ++x)
-            ASSERT_EQ(covered.pixelColor(x, y), QColor("magenta")) << "a seam at " << x << ", " << y;
+    QPoint seam;
+    const auto covered = [&] {
+        const QImage image = Painted();
+        for (seam.ry() = 0; seam.y() < 500; ++seam.ry())
+            for (seam.rx() = 0; seam.x() < 740; ++seam.rx())
+                if (image.pixelColor(seam) != QColor("magenta"))
+                    return false;
+        return true;
+    };
+    ASSERT_TRUE(QTest::qWaitFor(covered, 20000)) << "a seam at " << seam.x() << ", " << seam.y();
     TheMap().SetMapStyle(2);
     EXPECT_FALSE(magenta());
     TheMap().SetMapStyle(1);
