@@ -71,7 +71,7 @@ double MiddleAngle(int degrees, int hundredths, int blanks)
 
 namespace {
 
-// Degrees and minutes of an angle with all its digits, as ten-thousands and hundredths of a minute; -1 for any other.
+// DDMM.hh or DDDMM.hh with all its digits, as degrees times 10,000 plus hundredths of a minute; -1 for any other.
 template <std::size_t degreeDigits>
 int ReadAngle(const char* text)
 {
