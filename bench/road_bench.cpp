@@ -2,7 +2,7 @@
 // 10,000 and at 1,000,000 stations in one run, their ratio, and the bytes a station takes.
 
 #include "bench_machine.h"
-#include "core/lifecycle.h"
+#include "lifecycle/lifecycle.h"
 #include "intake/station_store.h"
 
 #include <array>

@@ -3,7 +3,7 @@
 // otherwise.
 
 #include "bench_machine.h"
-#include "core/lifecycle.h"
+#include "lifecycle/lifecycle.h"
 #include "desktop/data_path.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/main_window_view.h"

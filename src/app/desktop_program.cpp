@@ -3,7 +3,6 @@
 #include "app/options.h"
 #include "app/program_settings.h"
 #include "core/bare_surface.h"
-#include "core/lifecycle.h"
 #include "core/main_window.h"
 #include "desktop/data_path.h"
 #include "desktop/icons/icon_set.h"
@@ -19,6 +18,7 @@
 #include "desktop/services/wave_sound.h"
 #include "desktop/theme.h"
 #include "devices/report_sources.h"
+#include "lifecycle/lifecycle.h"
 #include "platform/failure.h"
 #include "platform/headless.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "intake/report_source.h"
+#include "contracts/report_source.h"
 
 #include <nlohmann/json.hpp>
 

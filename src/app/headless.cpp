@@ -3,9 +3,9 @@
 #include "app/print_state.h"
 #include "app/program_settings.h"
 #include "core/bare_surface.h"
-#include "core/lifecycle.h"
 #include "core/main_window.h"
 #include "devices/report_sources.h"
+#include "lifecycle/lifecycle.h"
 #include "links/station_files.h"
 #include "platform/headless.h"
 

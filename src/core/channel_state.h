@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/channel.h"
-#include "intake/station_record.h"
+#include "core/station_record.h"
 #include "platform/dictionary.h"
 #include "platform/map_model.h"
 #include "tracking/report_filter.h"

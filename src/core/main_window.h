@@ -1,11 +1,11 @@
 #pragma once
 
+#include "contracts/report_source.h"
 #include "core/channel_state.h"
 #include "core/failure_counts.h"
 #include "core/services.h"
 #include "core/settings.h"
 #include "core/window_state.h"
-#include "intake/report_source.h"
 #include "links/link_forms.h"
 #include "map/map_session.h"
 #include "platform/keyed_tree.h"

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "contracts/report_source.h"
 #include "core/desktop.h"
 #include "core/dialogs.h"
-#include "intake/report_source.h"
 #include "platform/files.h"
 #include "platform/services.h"
 #include "platform/settings_store.h"

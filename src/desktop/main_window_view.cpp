@@ -1,6 +1,5 @@
 #include "desktop/main_window_view.h"
 
-#include "core/lifecycle.h"
 #include "core/main_window.h"
 #include "desktop/bars/main_tool_bar.h"
 #include "desktop/bars/status_bar_view.h"
@@ -13,6 +12,7 @@
 #include "desktop/tile_choice.h"
 #include "desktop/tree/tree_model.h"
 #include "desktop/tree/tree_view.h"
+#include "lifecycle/lifecycle.h"
 #include "links/station_files.h"
 #include "map/pointer_tools.h"
 #include "ui/layout.h"

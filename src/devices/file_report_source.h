@@ -1,7 +1,7 @@
 #pragma once
 
+#include "contracts/report_source.h"
 #include "devices/line_counts.h"
-#include "intake/report_source.h"
 
 namespace ruvenmark {
 

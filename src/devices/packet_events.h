@@ -1,7 +1,7 @@
 #pragma once
 
 #include "aprs/packet.h"
-#include "intake/report_source.h"
+#include "contracts/report_source.h"
 
 namespace ruvenmark {
 

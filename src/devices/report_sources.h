@@ -1,8 +1,8 @@
 #pragma once
 
+#include "contracts/report_source.h"
 #include "devices/file_report_source.h"
 #include "devices/line_counts.h"
-#include "intake/report_source.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "intake/fact_writer.h"
 
-#include "intake/report_source.h"
+#include "contracts/report_source.h"
 #include "intake/station_store.h"
 #include "platform/numbers.h"
 

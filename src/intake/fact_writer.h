@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/channel.h"
-#include "intake/station_record.h"
+#include "core/station_record.h"
 #include "platform/keyed_tree.h"
 
 #include <cstdint>

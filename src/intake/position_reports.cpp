@@ -1,7 +1,9 @@
 // ReportPos and ReportPosExt: a station moves across the map and is filed under "Positions".
 
 #include "core/main_window.h"
+#include "core/views.h"
 #include "intake/fact_writer.h"
+#include "intake/place_marker.h"
 #include "intake/report_handlers.h"
 #include "intake/station_store.h"
 #include "map/markers.h"
@@ -9,7 +11,6 @@
 #include "tracking/filters.h"
 #include "tracking/track_lines.h"
 #include "tracking/track_lists.h"
-#include "ui/views.h"
 
 #include <string>
 

@@ -1,16 +1,13 @@
 #pragma once
 
+#include "contracts/report_source.h"
 #include "core/channel.h"
-#include "intake/report_source.h"
 
-#include <memory>
+#include <string_view>
 
 namespace ruvenmark {
 
 struct MainWindow;
-
-// Hands the events of a channel's source to its handlers. The window outlives the sink.
-std::unique_ptr<IReportSink> MakeReportSink(MainWindow& main, Channel channel);
 
 // What each report does to the tree, the records and the map. A Failure abandons the rest of the report, as each tells.
 void aprs_ReportPos(MainWindow& main, Channel channel, const PosReport& report);

@@ -1,12 +1,12 @@
 #include "intake/station_store.h"
 
 #include "core/main_window.h"
+#include "core/progress.h"
 #include "map/marker_names.h"
 #include "map/markers.h"
 #include "map/range_circles.h"
 #include "platform/failure.h"
 #include "tracking/track_lines.h"
-#include "ui/progress.h"
 
 #include <array>
 #include <cstdint>
@@ -154,7 +154,7 @@ void DeleteChannelMarkers(MainWindow& main, Channel channel)
     const TreeNode* root = main.tvStationList.Find(word);
     const TreeNode* folder = root ? main.tvStationList.Find(*root, kPositions) : nullptr;
     if (folder) {
-        ProgressWalk walk(main, folder->Children().size());
+        ProgressWalk walk(main.sbStatusBar, folder->Children().size());
         for (const auto& station : folder->Children()) {
             DeleteMarker(main, word, MarkerName(word, station->Text()));
             walk.Step();

@@ -1,10 +1,10 @@
 #include "map/find.h"
 
 #include "core/main_window.h"
+#include "core/views.h"
 #include "map/marker_names.h"
 #include "map/selection.h"
 #include "platform/text.h"
-#include "ui/views.h"
 
 #include <algorithm>
 #include <array>
@@ -138,7 +138,7 @@ std::vector<FoundPlace> Find(const MainWindow& main, const IPlaceSearch& places,
 
 void GoToFound(MainWindow& main, const FoundPlace& found)
 {
-    ShowMapView(main);
+    ShowMapView(main.window);
     Attempt(main.abandoned, "GoToFound", [&] {
         Map& map = main.mpCtrl.RequireMap();
         map.SetView(found.point, std::max(map.View().zoom, kNearZoom));
@@ -153,13 +153,13 @@ void GoToFound(MainWindow& main, const FoundPlace& found)
 
 void mnuFind_Click(MainWindow& main)
 {
-    ShowMapView(main);
+    ShowMapView(main.window);
     main.services.dialogs.ShowFind(main);
 }
 
 void mnuDirections_Click(MainWindow& main)
 {
-    ShowMapView(main);
+    ShowMapView(main.window);
     main.mpCtrl.SetItineraryVisible(!main.mpCtrl.ItineraryVisible());
 }
 

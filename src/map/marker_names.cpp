@@ -1,7 +1,7 @@
 #include "map/marker_names.h"
 
 #include "core/channel.h"
-#include "intake/station_record.h"
+#include "core/station_record.h"
 #include "platform/text.h"
 
 #include <initializer_list>

@@ -1,14 +1,13 @@
 #include "map/markers.h"
 
 #include "core/main_window.h"
+#include "core/progress.h"
+#include "core/tree_selection.h"
+#include "core/views.h"
 #include "map/marker_names.h"
 #include "map/symbols.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
-#include "tracking/track_lines.h"
-#include "ui/progress.h"
-#include "ui/tree_selection.h"
-#include "ui/views.h"
 
 #include <optional>
 #include <string>
@@ -17,14 +16,6 @@
 namespace ruvenmark {
 
 namespace {
-
-void AddMarker(MainWindow& main, Channel channel, const Location& location, std::string_view name,
-               std::string_view symbolWord, bool bTracked)
-{
-    Pushpin pin = main.mpCtrl.RequireMap().AddPushpin(location, name);
-    pin.SetBalloonState(bTracked ? main.tracking.NewMarkerBalloon : NamesState(main, channel));
-    pin.SetSymbol(SymbolId(symbolWord));
-}
 
 // The marker of this name at the place, added where there is none. True when it was added.
 std::pair<Pushpin, bool> MarkerAt(Map& map, std::string_view name, const Location& location)
@@ -37,28 +28,6 @@ std::pair<Pushpin, bool> MarkerAt(Map& map, std::string_view name, const Locatio
 }
 
 } // namespace
-
-void PlaceMarker(MainWindow& main, Channel channel, std::string_view call, double lat, double lon,
-                 std::string_view symbolWord, bool bTracked)
-{
-    Map& map = main.mpCtrl.RequireMap();
-    const Location location = map.GetLocation(lat, lon);
-    const std::string_view word = Traits(channel).word;
-    const std::string name = MarkerName(word, call);
-    auto pin = map.FindPushpin(name);
-    if (!pin) {
-        AddMarker(main, channel, location, name, symbolWord, bTracked);
-    } else if (bTracked && pin->Note().starts_with(word)) {
-        AddTrackPoint(main, channel, call, *pin, location, symbolWord);
-    } else {
-        pin->SetLocation(location);
-        pin->SetSymbol(SymbolId(symbolWord));
-    }
-    if (bTracked && main.tracking.bTrackStationPosition) {
-        location.GoTo();
-        ShowMapView(main);
-    }
-}
 
 void RefreshMarkerNote(MainWindow& main, Channel channel, std::string_view call)
 {
@@ -81,7 +50,7 @@ void WalkMarkers(MainWindow& main, const std::function<void(Pushpin&)>& work)
     Map& map = main.mpCtrl.RequireMap();
     if (map.DataSetCount() < 1)
         return;
-    ProgressWalk walk(main, static_cast<std::size_t>(map.RecordCount()));
+    ProgressWalk walk(main.sbStatusBar, static_cast<std::size_t>(map.RecordCount()));
     for (Pushpin& pin : map.AllRecords()) {
         work(pin);
         walk.Step();
@@ -138,7 +107,7 @@ void ForEachMarkerOfRoot(MainWindow& main, const TreeNode& root, const std::func
         throw Failure("the folder does not stand");
     const auto matches = [&](const Pushpin& pin) { return pin.Note().starts_with(key); };
     if (folder->Children().size() < static_cast<std::size_t>(map.RecordCount())) {
-        ProgressWalk walk(main, folder->Children().size());
+        ProgressWalk walk(main.sbStatusBar, folder->Children().size());
         for (const auto& station : folder->Children()) {
             auto pin = map.FindPushpin(MarkerName(key, station->Text()));
             if (pin && matches(*pin))
@@ -179,7 +148,7 @@ void ViewStation(MainWindow& main, const StationNode& station, const Record& rec
     pin.SetSymbol(SymbolId(record.Get(Field::Symbol)));
     pin.Location().GoTo();
     main.tvStationList.SetBold(*station.node, false);
-    ShowMapView(main);
+    ShowMapView(main.window);
 }
 
 } // namespace
@@ -224,7 +193,7 @@ void mnuViewMyPosition_Click(MainWindow& main)
 {
     Attempt(main.abandoned, "mnuViewMyPosition", [&] {
         ShowMyMarker(main).Location().GoTo();
-        ShowMapView(main);
+        ShowMapView(main.window);
     });
 }
 

@@ -15,10 +15,6 @@ struct GeoPoint;
 struct MainWindow;
 struct StationNode;
 
-// Places the marker of a position report: adds it, moves it, or makes the track step. Raises Failure.
-void PlaceMarker(MainWindow& main, Channel channel, std::string_view call, double lat, double lon,
-                 std::string_view symbolWord, bool bTracked);
-
 // Writes the note of the station's marker anew, where it has one. Raises Failure.
 void RefreshMarkerNote(MainWindow& main, Channel channel, std::string_view call);
 

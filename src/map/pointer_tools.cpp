@@ -1,9 +1,9 @@
 #include "map/pointer_tools.h"
 
 #include "core/main_window.h"
+#include "core/views.h"
 #include "map/directions.h"
 #include "platform/numbers.h"
-#include "ui/views.h"
 
 #include <array>
 #include <cstddef>
@@ -61,7 +61,7 @@ LatLonText LocationToLatLon(const Location& location)
 void StartPinPoint(MainWindow& main, std::string_view source)
 {
     main.services.dialogs.StandAside();
-    ShowMapView(main);
+    ShowMapView(main.window);
     if (main.mpCtrl.MousePointer() != kPointerCross)
         main.map.mousePtr = main.mpCtrl.MousePointer();
     main.mpCtrl.SetMousePointer(kPointerCross);

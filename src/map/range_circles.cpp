@@ -1,10 +1,10 @@
 #include "map/range_circles.h"
 
 #include "core/main_window.h"
+#include "core/tree_selection.h"
+#include "core/views.h"
 #include "map/markers.h"
 #include "platform/numbers.h"
-#include "ui/tree_selection.h"
-#include "ui/views.h"
 
 #include <cmath>
 #include <optional>
@@ -33,7 +33,7 @@ void ShowRange(MainWindow& main, const StationNode& station, ChannelState& state
         return;
     const Location centre = ShowStationMarker(main, station, *record, *point).Location();
     const Shape circle = DrawCircle(main.mpCtrl.RequireMap(), centre, *range);
-    ShowMapView(main);
+    ShowMapView(main.window);
     main.tvStationList.SetBold(*station.node, false);
     Attempt(main.abandoned, "mnuShowRange", [&] { DeleteCircle(state, call); });
     state.RangeCircles.Add(call, circle);
@@ -137,7 +137,7 @@ void mnuShowMyRange_Click(MainWindow& main)
         return;
     Attempt(main.abandoned, "mnuShowMyRange", [&] {
         DrawMyRange(main);
-        ShowMapView(main);
+        ShowMapView(main.window);
     });
 }
 

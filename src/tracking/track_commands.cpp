@@ -1,12 +1,12 @@
 // The commands of track_lines.h: what the operator does with the selected station's trail, or with all.
 
 #include "core/main_window.h"
+#include "core/tree_selection.h"
 #include "map/marker_names.h"
 #include "map/markers.h"
 #include "platform/text.h"
 #include "tracking/track_lines.h"
 #include "tracking/track_lists.h"
-#include "ui/tree_selection.h"
 
 #include <optional>
 

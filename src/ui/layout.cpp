@@ -1,7 +1,7 @@
 #include "ui/layout.h"
 
 #include "core/main_window.h"
-#include "ui/views.h"
+#include "core/views.h"
 
 #include <algorithm>
 #include <cmath>
@@ -112,7 +112,7 @@ void mnuViewFullScreen_Click(MainWindow& main)
 
 void mnuViewMap_Click(MainWindow& main)
 {
-    ShowMapView(main);
+    ShowMapView(main.window);
 }
 
 } // namespace ruvenmark

@@ -1,12 +1,12 @@
 #include "ui/station_tree_commands.h"
 
 #include "core/main_window.h"
+#include "core/tree_selection.h"
 #include "intake/station_store.h"
 #include "map/markers.h"
 #include "map/range_circles.h"
 #include "tracking/filter_form_rules.h"
 #include "ui/call_sign_page.h"
-#include "ui/tree_selection.h"
 #include "ui/web_page.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 #include "platform/map_document.h"
 #include "support/program.h"
 #include "ui/menus.h"
-#include "ui/views.h"
+#include "core/views.h"
 #include "ui/web_page.h"
 
 #include <gtest/gtest.h>
@@ -86,7 +86,7 @@ TEST_F(EditCommands, WhatIsGoneIsNotSelected)
     mnuRuvenmarkHelp_Click(program.main);
     Run(MenuEntry::mnuEditDelete);
     EXPECT_EQ(program.MarkerNames().size(), 1U) << "what nobody sees is not deleted";
-    ShowMapView(program.main);
+    ShowMapView(program.main.window);
     program.prompts.answers = {Answer::No};
     Run(MenuEntry::mnuFileNew);
     EXPECT_EQ(KindOfSelection(program.main), SelectionKind::Nothing);

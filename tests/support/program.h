@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/lifecycle.h"
+#include "lifecycle/lifecycle.h"
 #include "core/main_window.h"
 #include "devices/report_sources.h"
 #include "intake/station_store.h"

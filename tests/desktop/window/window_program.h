@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/lifecycle.h"
+#include "lifecycle/lifecycle.h"
 #include "core/main_window.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/main_window_view.h"

@@ -1,4 +1,4 @@
-#include "intake/station_record.h"
+#include "core/station_record.h"
 
 #include "platform/numbers.h"
 

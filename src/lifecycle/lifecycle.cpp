@@ -1,9 +1,9 @@
-#include "core/lifecycle.h"
+#include "lifecycle/lifecycle.h"
 
 #include "core/main_window.h"
-#include "intake/report_handlers.h"
 #include "intake/station_store.h"
 #include "links/import_form_rules.h"
+#include "links/report_sinks.h"
 #include "links/server_lists.h"
 #include "map/documents.h"
 #include "map/map_start.h"

@@ -1,12 +1,11 @@
-#include "ui/views.h"
+#include "core/views.h"
 
-#include "core/main_window.h"
+#include "core/window_state.h"
 
 namespace ruvenmark {
 
-void ShowMapView(MainWindow& main)
+void ShowMapView(WindowState& window)
 {
-    WindowState& window = main.window;
     if (window.rightView == RightView::Map && window.leftTree == LeftTree::Stations && window.bMapTicked)
         return;
     window.rightView = RightView::Map;

@@ -1,6 +1,7 @@
-#include "intake/report_handlers.h"
+#include "links/report_sinks.h"
 
 #include "core/main_window.h"
+#include "intake/report_handlers.h"
 
 namespace ruvenmark {
 

@@ -2,9 +2,9 @@
 
 namespace ruvenmark {
 
-struct MainWindow;
+struct WindowState;
 
 // The map in the right pane and the station tree in the left one.
-void ShowMapView(MainWindow& main);
+void ShowMapView(WindowState& window);
 
 } // namespace ruvenmark

@@ -1,4 +1,4 @@
-#include "ui/tree_selection.h"
+#include "core/tree_selection.h"
 
 #include "platform/keyed_tree.h"
 

@@ -1,4 +1,4 @@
-#include "core/lifecycle.h"
+#include "lifecycle/lifecycle.h"
 #include "links/station_files.h"
 #include "platform/text.h"
 #include "support/program.h"

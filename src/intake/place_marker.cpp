@@ -1,0 +1,48 @@
+#include "intake/place_marker.h"
+
+#include "core/main_window.h"
+#include "core/views.h"
+#include "map/marker_names.h"
+#include "map/markers.h"
+#include "map/symbols.h"
+#include "tracking/track_lines.h"
+
+#include <string>
+
+namespace ruvenmark {
+
+namespace {
+
+void AddMarker(MainWindow& main, Channel channel, const Location& location, std::string_view name,
+               std::string_view symbolWord, bool bTracked)
+{
+    Pushpin pin = main.mpCtrl.RequireMap().AddPushpin(location, name);
+    pin.SetBalloonState(bTracked ? main.tracking.NewMarkerBalloon : NamesState(main, channel));
+    pin.SetSymbol(SymbolId(symbolWord));
+}
+
+} // namespace
+
+void PlaceMarker(MainWindow& main, Channel channel, std::string_view call, double lat, double lon,
+                 std::string_view symbolWord, bool bTracked)
+{
+    Map& map = main.mpCtrl.RequireMap();
+    const Location location = map.GetLocation(lat, lon);
+    const std::string_view word = Traits(channel).word;
+    const std::string name = MarkerName(word, call);
+    auto pin = map.FindPushpin(name);
+    if (!pin) {
+        AddMarker(main, channel, location, name, symbolWord, bTracked);
+    } else if (bTracked && pin->Note().starts_with(word)) {
+        AddTrackPoint(main, channel, call, *pin, location, symbolWord);
+    } else {
+        pin->SetLocation(location);
+        pin->SetSymbol(SymbolId(symbolWord));
+    }
+    if (bTracked && main.tracking.bTrackStationPosition) {
+        location.GoTo();
+        ShowMapView(main.window);
+    }
+}
+
+} // namespace ruvenmark
