@@ -23,7 +23,21 @@ template <typename Yield>
 struct BenchMachine {
     BenchMachine() { store.Set("Region", "1"); }
 
-    Services Lend() { return {store, files, clock, sound, sleep, yield, prompts, dialogs, desktop, sources, "/tmp"}; }
+    Services Lend()
+    {
+        return {.store = store,
+                .files = files,
+                .clock = clock,
+                .sound = sound,
+                .sleep = sleep,
+                .yield = yield,
+                .prompts = prompts,
+                .notices = notices,
+                .dialogs = dialogs,
+                .desktop = desktop,
+                .sources = sources,
+                .programFolder = "/tmp"};
+    }
 
     MemorySettingsStore store;
     PosixFiles files;
@@ -32,6 +46,7 @@ struct BenchMachine {
     SystemSleep sleep;
     Yield yield;
     HeadlessPrompts prompts{std::cerr};
+    PrintedNotices notices{std::cerr};
     BareDialogs dialogs;
     BareDesktop desktop;
     ReportSources sources;

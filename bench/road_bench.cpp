@@ -2,8 +2,9 @@
 // 10,000 and at 1,000,000 stations in one run, their ratio, and the bytes a station takes.
 
 #include "bench_machine.h"
-#include "lifecycle/lifecycle.h"
 #include "intake/station_store.h"
+#include "lifecycle/start.h"
+#include "lifecycle/stop.h"
 
 #include <array>
 #include <cstdio>
@@ -53,7 +54,7 @@ struct Program {
     {
         StartMainWindow(main);
         AddChannelTree(main.tvStationList, Channel::FL);
-        source = machine.sources.CreateFileSource(*main.sinks[Index(Channel::FL)]);
+        source = machine.sources.CreateFile(*main.sinks[Index(Channel::FL)]);
     }
 };
 

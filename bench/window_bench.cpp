@@ -3,15 +3,16 @@
 // otherwise.
 
 #include "bench_machine.h"
-#include "lifecycle/lifecycle.h"
+#include "desktop/adapters/qt_yield.h"
 #include "desktop/data_path.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/main_window_view.h"
 #include "desktop/map/base_map.h"
 #include "desktop/map/map_widget.h"
-#include "desktop/services/qt_yield.h"
 #include "desktop/tree/call_search.h"
 #include "desktop/tree/tree_view.h"
+#include "lifecycle/start.h"
+#include "lifecycle/stop.h"
 #include "packet_text.h"
 
 #include <QApplication>

@@ -4,21 +4,21 @@
 #include "app/program_settings.h"
 #include "core/bare_surface.h"
 #include "core/main_window.h"
+#include "desktop/adapters/base_places.h"
+#include "desktop/adapters/qt_desktop.h"
+#include "desktop/adapters/qt_dialogs.h"
+#include "desktop/adapters/qt_prompts.h"
+#include "desktop/adapters/qt_yield.h"
+#include "desktop/adapters/wave_sound.h"
 #include "desktop/data_path.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/main_window_view.h"
 #include "desktop/map/base_map.h"
 #include "desktop/screenshot.h"
-#include "desktop/services/base_places.h"
-#include "desktop/services/qt_desktop.h"
-#include "desktop/services/qt_dialogs.h"
-#include "desktop/services/qt_prompts.h"
-#include "desktop/services/qt_yield.h"
-#include "desktop/services/termination.h"
-#include "desktop/services/wave_sound.h"
+#include "desktop/termination.h"
 #include "desktop/theme.h"
 #include "devices/report_sources.h"
-#include "lifecycle/lifecycle.h"
+#include "lifecycle/start.h"
 #include "platform/failure.h"
 #include "platform/headless.h"
 
@@ -54,11 +54,21 @@ std::optional<BaseMap> OpenBaseMap()
 }
 
 // Everything that lives from start to stop, in the order in which it is made.
-struct Program {
-    explicit Program(const ProgramOptions& options)
+struct DesktopRun {
+    explicit DesktopRun(const ProgramOptions& options)
         : settings(files, options), baseMap(OpenBaseMap()), places(Base()), dialogs(icons, places),
-          main({settings.Store(), files, clock, sound, sleep, yield, Prompts(options), Dialogs(options), desktop,
-                sources, settings.Folder()}),
+          main({.store = settings.Store(),
+                .files = files,
+                .clock = clock,
+                .sound = sound,
+                .sleep = sleep,
+                .yield = yield,
+                .prompts = Prompts(options),
+                .notices = notices,
+                .dialogs = Dialogs(options),
+                .desktop = desktop,
+                .sources = sources,
+                .programFolder = settings.Folder()}),
           window(main, icons, Base())
     {
         prompts.SetWindow(&window);
@@ -89,6 +99,7 @@ struct Program {
     BasePlaces places;
     QtPrompts prompts;
     HeadlessPrompts printedPrompts{std::cerr};
+    PrintedNotices notices{std::cerr};
     QtDialogs dialogs;
     BareDialogs bareDialogs;
     QtDesktop desktop;
@@ -97,19 +108,19 @@ struct Program {
     MainWindowView window;
 };
 
-void TakeScreenshot(Program& program, const ProgramOptions& options)
+void TakeScreenshot(DesktopRun& run, const ProgramOptions& options)
 {
     const SizeOption size = options.size.value_or(SizeOption{});
-    program.window.resize(size.width, size.height);
+    run.window.resize(size.width, size.height);
     if (options.loadFile)
-        program.window.LoadFile(*options.loadFile);
+        run.window.LoadFile(*options.loadFile);
     for (const char* key : {"FL", "FLPositions"})
-        if (const TreeNode* node = program.main.tvStationList.Find(key))
-            program.window.ShowInTree(*node);
-    Map* map = program.main.mpCtrl.ActiveMap();
+        if (const TreeNode* node = run.main.tvStationList.Find(key))
+            run.window.ShowInTree(*node);
+    Map* map = run.main.mpCtrl.ActiveMap();
     if (map && options.view)
         map->SetView({options.view->lat, options.view->lon}, options.view->zoom);
-    SaveScreenshot(program.window, {size.width, size.height}, QFile::decodeName(options.screenshot->c_str()));
+    SaveScreenshot(run.window, {size.width, size.height}, QFile::decodeName(options.screenshot->c_str()));
 }
 
 } // namespace
@@ -126,19 +137,16 @@ int RunDesktop(int argc, char** argv, const ProgramOptions& options)
     if (options.bDark)
         UseDarkColors();
 
-    Program program(options);
-    StartMainWindow(program.main);
+    DesktopRun run(options);
+    StartMainWindow(run.main);
     if (options.screenshot) {
-        TakeScreenshot(program, options);
+        TakeScreenshot(run, options);
         return 0;
     }
     if (options.loadFile)
-        QTimer::singleShot(0, &program.window, [&] { program.window.LoadFile(*options.loadFile); });
-    const Termination termination([&] { program.window.CloseUnasked(); });
-    const int status = QApplication::exec();
-    if (!program.settings.Flush())
-        std::cerr << "ruvenmark: the settings could not be saved\n";
-    return status;
+        QTimer::singleShot(0, &run.window, [&] { run.window.LoadFile(*options.loadFile); });
+    const Termination termination([&] { run.window.CloseUnasked(); });
+    return QApplication::exec();
 }
 
 } // namespace ruvenmark

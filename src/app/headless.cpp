@@ -5,7 +5,8 @@
 #include "core/bare_surface.h"
 #include "core/main_window.h"
 #include "devices/report_sources.h"
-#include "lifecycle/lifecycle.h"
+#include "lifecycle/start.h"
+#include "lifecycle/stop.h"
 #include "links/station_files.h"
 #include "platform/headless.h"
 
@@ -23,11 +24,22 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
     SystemSleep sleep;
     NoYield yield;
     HeadlessPrompts prompts(err);
+    PrintedNotices notices(err);
     BareDialogs dialogs;
     BareDesktop desktop;
     ReportSources sources;
-    MainWindow main(
-        {settings.Store(), files, clock, sound, sleep, yield, prompts, dialogs, desktop, sources, settings.Folder()});
+    MainWindow main({.store = settings.Store(),
+                     .files = files,
+                     .clock = clock,
+                     .sound = sound,
+                     .sleep = sleep,
+                     .yield = yield,
+                     .prompts = prompts,
+                     .notices = notices,
+                     .dialogs = dialogs,
+                     .desktop = desktop,
+                     .sources = sources,
+                     .programFolder = settings.Folder()});
 
     StartMainWindow(main);
     if (options.loadFile)
@@ -38,12 +50,13 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
     else
         PrintText(out, state, options.print);
     out.flush();
-    if (Map* map = main.mpCtrl.ActiveMap())
-        map->SetSaved(true); // Nobody is there to be asked, and the map was only wanted for the print.
-    StopMainWindow(main);
-    if (!settings.Flush())
-        err << "ruvenmark: the settings could not be saved\n";
-    return out ? 0 : 2;
+    // Nobody is there to be asked, and the map was only wanted for the print.
+    const StopResult result = StopMainWindow(main, MayAsk::No);
+    if (!out) {
+        notices.Say("the output could not be written");
+        return 1;
+    }
+    return result == StopResult::Stopped ? 0 : 1;
 }
 
 } // namespace ruvenmark

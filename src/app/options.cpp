@@ -1,5 +1,6 @@
 #include "app/options.h"
 
+#include "core/settings.h"
 #include "platform/map_model.h"
 #include "platform/numbers.h"
 #include "platform/program_name.h"
@@ -68,14 +69,20 @@ void ReadSetting(ProgramOptions& options, const std::string& option, std::string
     const auto sign = value.find('=');
     if (sign == std::string_view::npos || sign == 0)
         Refuse(option, value, "KEY=VALUE");
-    options.settings.emplace_back(value.substr(0, sign), value.substr(sign + 1));
+    const std::string_view key = value.substr(0, sign), text = value.substr(sign + 1);
+    const auto setting = SettingOfKey(key);
+    if (!setting)
+        throw UsageError(option + ": there is no setting '" + std::string(key) + "'");
+    if (!IsReadable(Info(*setting).kind, text))
+        Refuse(option, text, "a value of " + std::string(key));
+    options.settings.emplace_back(key, text);
 }
 
 void ReadRegion(ProgramOptions& options, const std::string& option, std::string_view value)
 {
     if (value != "1" && value != "2")
         Refuse(option, value, "1 (North America) or 2 (Europe)");
-    options.settings.emplace_back("Region", value);
+    options.settings.emplace_back(Info(Setting::Region).key, value);
 }
 
 void ReadSize(ProgramOptions& options, const std::string& option, std::string_view value)

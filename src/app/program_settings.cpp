@@ -36,11 +36,13 @@ ProgramSettings::ProgramSettings(IFiles& files, const ProgramOptions& options)
         MakeFolder(FolderOf(DefaultSettingsFile()));
     for (const auto& [key, value] : options.settings)
         m_overlay.SetForThisRun(key, value);
+    const std::string_view regionKey = Info(Setting::Region).key;
     const bool bUnattended = options.bHeadless || options.screenshot;
-    if (bUnattended && m_overlay.Get("Region", "").empty())
-        m_overlay.SetForThisRun("Region", ShortText(std::int64_t{kRegionNorthAmerica})); // The operator is asked later.
+    if (bUnattended && m_overlay.Get(regionKey, "").empty())
+        m_overlay.SetForThisRun(regionKey,
+                                ShortText(std::int64_t{kRegionNorthAmerica})); // The operator is asked later.
     if (!options.track.empty()) {
-        const std::string_view key = Traits(Channel::FL).trackedSetting;
+        const std::string_view key = Info(Traits(Channel::FL).trackedSetting).key;
         ChannelState spelled(Channel::FL); // As the list is written at stop, so that it stays out of the file.
         SetTrackList(spelled, m_overlay.Get(key, "") + " " + options.track);
         m_overlay.SetForThisRun(key, TrackListText(spelled));

@@ -19,8 +19,6 @@ public:
 
     ISettingsStore& Store() { return m_overlay; }
     const std::string& Folder() const { return m_folder; }
-    // False when the file cannot be written.
-    bool Flush() { return m_file.Flush(); }
 
 private:
     FileSettingsStore m_file;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/failure.h"
+
 #include <cstdint>
 #include <memory>
 #include <string_view>
@@ -117,34 +119,62 @@ public:
     virtual void ReportRawData(std::string_view packet) = 0; // Every line as received, before decoding.
 };
 
-// One link's end of the world: decodes what arrives and raises it on its sink. Made anew for every connection or
-// file load and never reused. Once it is dropped no event comes any more, also when it is dropped inside its own event.
-// Methods raise Failure where the outside world fails, and where the source serves another channel.
+// One link's end of the world: decodes what arrives and raises it on its sink. Made anew for every connection or file
+// load and never reused. Once it is dropped no event comes any more, also when it is dropped inside its own event.
+// A source overrides what its channel serves; the bodies here refuse the rest. Methods raise Failure.
 class IReportSource {
 public:
     virtual ~IReportSource() = default;
 
-    virtual void OpenPort(std::string_view port, std::int32_t baud, std::string_view token) = 0;
-    virtual void ClosePort() = 0;
-    virtual void EnterCommandMode() = 0;
-    virtual void SendCommand(std::string_view line) = 0;
-    virtual std::int32_t GetUtcOffset() = 0; // Minutes to add to local time to get UTC.
-    virtual void ConnectSocket(std::string_view host, std::int32_t port, std::string_view token) = 0;
-    virtual void CloseSocket() = 0;
-    virtual void SendFrame(std::string_view source, std::string_view dest, std::string_view via,
-                           std::string_view info) = 0;
-    virtual void ConnectServer(std::string_view host, std::int32_t port, std::string_view token) = 0;
-    virtual void CloseServer() = 0;
-    virtual void SendServerLine(std::string_view line) = 0;
-    // One saved line, trimmed of blanks by the caller; its events are raised before this returns.
-    virtual void ParseLine(std::string_view line) = 0;
+    // A TNC on a serial port.
+    virtual void OpenPort(std::string_view /*port*/, std::int32_t /*baud*/, std::string_view /*token*/) { Refuse(); }
+    virtual void ClosePort() { Refuse(); }
+    virtual void EnterCommandMode() { Refuse(); }
+    virtual void SendCommand(std::string_view /*line*/) { Refuse(); }
+
+    // The AGW Packet Engine.
+    virtual void ConnectSocket(std::string_view /*host*/, std::int32_t /*port*/, std::string_view /*token*/)
+    {
+        Refuse();
+    }
+    virtual void CloseSocket() { Refuse(); }
+    virtual void SendFrame(std::string_view /*source*/, std::string_view /*dest*/, std::string_view /*via*/,
+                           std::string_view /*info*/)
+    {
+        Refuse();
+    }
+
+    // An APRS server.
+    virtual void ConnectServer(std::string_view /*host*/, std::int32_t /*port*/, std::string_view /*token*/)
+    {
+        Refuse();
+    }
+    virtual void CloseServer() { Refuse(); }
+    virtual void SendServerLine(std::string_view /*line*/) { Refuse(); }
+
+    // Of any live link: minutes to add to local time to get UTC.
+    virtual std::int32_t GetUtcOffset() { Refuse(); }
+
+    // A saved line, trimmed of blanks by the caller; its events are raised before this returns.
+    virtual void ParseLine(std::string_view /*line*/) { Refuse(); }
+
+protected:
+    [[noreturn]] static void Refuse() { throw Failure("this report source serves another channel"); }
 };
 
-// Makes the sources of the three channels. The sink outlives the source.
-class IReportSourceFactory {
+// Makes the sources of the channels: RF has two. The sink outlives the source. Raise Failure where the program knows no
+// such link.
+class IReportSources {
 public:
-    virtual ~IReportSourceFactory() = default;
-    virtual std::unique_ptr<IReportSource> CreateFileSource(IReportSink& sink) = 0;
+    virtual ~IReportSources() = default;
+
+    virtual std::unique_ptr<IReportSource> CreateTnc(IReportSink& /*sink*/) { Refuse(); }
+    virtual std::unique_ptr<IReportSource> CreateAgw(IReportSink& /*sink*/) { Refuse(); }
+    virtual std::unique_ptr<IReportSource> CreateServer(IReportSink& /*sink*/) { Refuse(); }
+    virtual std::unique_ptr<IReportSource> CreateFile(IReportSink& /*sink*/) { Refuse(); }
+
+private:
+    [[noreturn]] static void Refuse() { throw Failure("this program has no such link"); }
 };
 
 } // namespace ruvenmark

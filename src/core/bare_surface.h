@@ -1,24 +1,21 @@
 #pragma once
 
 #include "core/desktop.h"
-#include "core/dialogs.h"
-#include "platform/map_model.h"
+#include "core/forms.h"
 
 // What stands behind the window's interfaces where nobody watches.
 namespace ruvenmark {
 
-// Every dialog is closed at once, with nothing chosen.
+// Every dialog is closed at once: cancelled.
 class BareDialogs final : public IDialogs {
 public:
-    std::int32_t RunRegion() override { return kRegionNorthAmerica; }
-    void RunImport(MainWindow& /*main*/) override {}
-    void RunTrackList(MainWindow& /*main*/) override {}
-    void RunAbout(MainWindow& /*main*/) override {}
-    void ShowFilter(MainWindow& /*main*/) override {}
-    bool IsFilterVisible() const override { return false; }
-    void ShowFind(MainWindow& /*main*/) override {}
-    void StandAside() override {}
-    void ComeBack() override {}
+    void Run(Form /*form*/, MainWindow& /*main*/) override {}
+    void Show(Form /*form*/, MainWindow& /*main*/) override {}
+    void Hide(Form /*form*/) override {}
+    bool IsVisible(Form /*form*/) const override { return false; }
+    void Refresh(Form /*form*/) override {}
+    void StandAside(Form /*form*/) override {}
+    void ComeBack(Form /*form*/) override {}
 };
 
 // A clipboard of its own, and nothing else.

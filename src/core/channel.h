@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/settings.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -24,18 +26,21 @@ struct ChannelTraits {
     Channel channel;
     std::string_view word; // First part of every tree key, first letters of every note.
     std::string_view rootText;
-    std::string_view filterPrefix;   // Of the filter's setting keys.
-    std::string_view namesSetting;   // Balloon state of new markers; FL has it in frmImport instead.
-    std::string_view unknownSetting; // Whether packets that could not be decoded are kept.
-    std::string_view trackedSetting;
+    Setting firstFilterSetting;          // Six texts, then three flags.
+    std::optional<Setting> namesSetting; // Balloon state of new markers; FL has it in frmImport instead.
+    Setting unknownSetting;              // Whether packets that could not be decoded are kept.
+    Setting trackedSetting;
     bool bFoldersSorted; // At all times.
     bool bRootAtStart;   // The tree of FL comes with the first file.
 };
 
 inline constexpr std::array<ChannelTraits, 3> kChannelTraits = {{
-    {Channel::RF, "RF", "RF reports", "rf", "ShowRFNames", "ShowRFUnknown", "TrackedRFStations", true, true},
-    {Channel::TCP, "TCP", "TCP reports", "tcp", "ShowTCPNames", "ShowTCPUnknown", "TrackedTCPStations", false, true},
-    {Channel::FL, "FL", "FL reports", "fl", "", "ShowFLUnknown", "TrackedFLStations", false, false},
+    {Channel::RF, "RF", "RF reports", Setting::rfFilterDest, Setting::ShowRFNames, Setting::ShowRFUnknown,
+     Setting::TrackedRFStations, true, true},
+    {Channel::TCP, "TCP", "TCP reports", Setting::tcpFilterDest, Setting::ShowTCPNames, Setting::ShowTCPUnknown,
+     Setting::TrackedTCPStations, false, true},
+    {Channel::FL, "FL", "FL reports", Setting::flFilterDest, std::nullopt, Setting::ShowFLUnknown,
+     Setting::TrackedFLStations, false, false},
 }};
 
 constexpr const ChannelTraits& Traits(Channel channel)

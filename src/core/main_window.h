@@ -3,11 +3,15 @@
 #include "contracts/report_source.h"
 #include "core/channel_state.h"
 #include "core/failure_counts.h"
+#include "core/loaded_parts.h"
 #include "core/services.h"
 #include "core/settings.h"
+#include "core/stored_settings.h"
 #include "core/window_state.h"
 #include "links/link_forms.h"
+#include "map/find_form.h"
 #include "map/map_session.h"
+#include "map/region_form.h"
 #include "platform/keyed_tree.h"
 #include "platform/map_control.h"
 #include "platform/status_bar.h"
@@ -28,6 +32,8 @@ struct MainWindow {
     MainWindow& operator=(const MainWindow&) = delete;
 
     Services services;
+    StoredSettings stored{services.store, services.notices};
+    LoadedParts loaded;
     SettingsState Settings;
     WindowState window;
     StatusBar sbStatusBar;
@@ -40,9 +46,11 @@ struct MainWindow {
     TncForm commDialog;
     ServerForm frmTcp;
     ServerLists serverLists;
+    RegionForm frmRegion;
     ImportForm frmImport;
     FilterForm frmFilter;
     TrackListForm frmTrackList;
+    FindForm frmFind;
     bool FileLoading = false;
     FailureCounts abandoned;
 

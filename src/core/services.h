@@ -2,7 +2,7 @@
 
 #include "contracts/report_source.h"
 #include "core/desktop.h"
-#include "core/dialogs.h"
+#include "core/forms.h"
 #include "platform/files.h"
 #include "platform/services.h"
 #include "platform/settings_store.h"
@@ -20,9 +20,10 @@ struct Services {
     ISleep& sleep;
     IYield& yield;
     IPrompts& prompts;
+    INotices& notices;
     IDialogs& dialogs;
     IDesktop& desktop;
-    IReportSourceFactory& sources;
+    IReportSources& sources;
     std::string programFolder;
 };
 

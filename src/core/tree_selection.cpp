@@ -4,6 +4,14 @@
 
 namespace ruvenmark {
 
+std::optional<Channel> ChannelOf(const TreeNode& node)
+{
+    const TreeNode* root = &node;
+    while (root->Parent())
+        root = root->Parent();
+    return ChannelOfWord(root->Word());
+}
+
 std::optional<StationNode> SelectedStation(const KeyedTree& tree)
 {
     TreeNode* node = tree.Selected();
@@ -11,7 +19,7 @@ std::optional<StationNode> SelectedStation(const KeyedTree& tree)
     TreeNode* root = folder ? folder->Parent() : nullptr;
     if (!root || root->Parent())
         return std::nullopt;
-    return StationNode{node, folder, root, root->Key()};
+    return StationNode{node, folder, root->Key(), ChannelOf(*root)};
 }
 
 TreeNode* SelectedRoot(const KeyedTree& tree)

@@ -10,12 +10,15 @@ namespace ruvenmark {
 class KeyedTree;
 class TreeNode;
 
+// The channel in whose part of the tree the node stands; nothing under "My station" and roots of other names.
+std::optional<Channel> ChannelOf(const TreeNode& node);
+
 // A station node: it stands under a folder, which stands under a root.
 struct StationNode {
     TreeNode* node;
     TreeNode* folder;
-    TreeNode* root;
-    std::string rootKey; // The channel word.
+    std::string rootKey; // The channel word where it is a channel's.
+    std::optional<Channel> channel;
 };
 
 // The selected station; nothing when no node, or one of another kind, is selected.

@@ -18,8 +18,7 @@ inline constexpr std::int32_t kFirstSplitterLeft = 2000;
 struct WindowState {
     std::int32_t left = kFirstLeft, top = kFirstTop, width = kFirstWidth, height = kFirstHeight;
     std::int32_t splitterLeft = kFirstSplitterLeft;
-    bool bShown = false;          // From the first moment of the start on.
-    bool bGeometryLoaded = false; // Else it is not saved either.
+    bool bShown = false; // From the first moment of the start on.
     bool bMinimised = false;
     bool bLeftPane = true;
     bool bToolBar = true;

@@ -12,16 +12,16 @@
 #include "desktop/tile_choice.h"
 #include "desktop/tree/tree_model.h"
 #include "desktop/tree/tree_view.h"
-#include "lifecycle/lifecycle.h"
+#include "lifecycle/stop.h"
 #include "links/station_files.h"
 #include "map/pointer_tools.h"
 #include "ui/layout.h"
 #include "ui/station_tree_commands.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QFile>
-#include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -133,7 +133,7 @@ void MainWindowView::Observe()
             refreshLater();
         }),
     };
-    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, refreshLater);
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, refreshLater);
 }
 
 void MainWindowView::ShowState()
@@ -218,27 +218,37 @@ void MainWindowView::changeEvent(QEvent* event)
     }
 }
 
+// Whatever box or dialog is open is cancelled first, so that the commands below it come to their end.
 void MainWindowView::CloseUnasked()
 {
     m_bUnasked = true;
-    close();
+    QWidget* box = QApplication::activePopupWidget();
+    if (!box)
+        box = QApplication::activeModalWidget();
+    if (!box) {
+        close();
+        return;
+    }
+    box->close();
+    QTimer::singleShot(0, this, &MainWindowView::CloseUnasked);
 }
 
-// A load stands on the stack below: it is stopped, and the window closes when it is gone.
+// A command that stands on the stack below, such as a load, is ended first, and the window closes when it is gone.
 void MainWindowView::closeEvent(QCloseEvent* event)
 {
-    if (m_main.FileLoading) {
+    if (m_running > 0) {
         m_main.FileLoading = false;
         m_bCloseWanted = true;
         event->ignore();
         return;
     }
     m_bCloseWanted = false;
-    if (auto* map = m_main.mpCtrl.ActiveMap(); map && m_bUnasked)
-        map->SetSaved(true);
-    event->setAccepted(StopMainWindow(m_main));
+    const StopResult result = StopMainWindow(m_main, m_bUnasked ? MayAsk::No : MayAsk::Yes);
+    event->setAccepted(result != StopResult::GoesOn);
     if (event->isAccepted())
-        QCoreApplication::exit(0);
+        QCoreApplication::exit(result == StopResult::Stopped ? 0 : 1);
+    else if (m_bUnasked) // The end was ordered while the question stood.
+        QTimer::singleShot(0, this, &QWidget::close);
 }
 
 void MainWindowView::dragEnterEvent(QDragEnterEvent* event)

@@ -9,9 +9,9 @@
 namespace ruvenmark {
 
 // The sources of the real program, with what became of their lines.
-class ReportSources final : public IReportSourceFactory {
+class ReportSources final : public IReportSources {
 public:
-    std::unique_ptr<IReportSource> CreateFileSource(IReportSink& sink) override
+    std::unique_ptr<IReportSource> CreateFile(IReportSink& sink) override
     {
         return std::make_unique<FileReportSource>(sink, m_counts);
     }

@@ -4,6 +4,7 @@
 #include "core/views.h"
 #include "map/marker_names.h"
 #include "map/markers.h"
+#include "map/names_state.h"
 #include "map/symbols.h"
 #include "tracking/track_lines.h"
 

@@ -36,9 +36,9 @@ bool AddsMarkers(const MainWindow& main, Channel channel)
 
 void PlayTrackSound(MainWindow& main)
 {
-    if (!SettingBool(main.Settings, "PlayTrack"))
+    if (!SettingBool(main.Settings, Setting::PlayTrack))
         return;
-    const std::string_view path = SettingText(main.Settings, "TrackWaveFile");
+    const std::string_view path = SettingText(main.Settings, Setting::TrackWaveFile);
     if (!path.empty() && main.services.files.Exists(path))
         main.services.sound.PlayAndWait(path);
 }

@@ -10,10 +10,10 @@ namespace ruvenmark {
 
 void frmImport_Load(ImportForm& form)
 {
-    form.iFLDelay = std::max<std::int16_t>(form.iFLDelay, 0);
-    form.txtDelay = ShortText(std::int64_t{form.iFLDelay});
+    form.txtDelay = ShortText(std::max(std::int64_t{form.iFLDelay}, std::int64_t{0}));
     form.chkAdd = form.bFLAdd;
     form.chkShow = form.bFLShow;
+    form.iFLDelay = kLoadCancelled;
 }
 
 std::string frmImport_txtDelay_LostFocus(const ImportForm& form)
@@ -35,28 +35,20 @@ void frmImport_Accept(ImportForm& form)
     form.bFLShow = form.chkShow;
 }
 
-void frmImport_Cancel(ImportForm& form)
-{
-    form.iFLDelay = -1;
-}
-
 void LoadImportSettings(MainWindow& main)
 {
-    const ISettingsStore& store = main.services.store;
-    main.frmImport.iFLDelay = ToInt16(store.Get("FLDelay", "0"));
-    main.frmImport.bFLAdd = ToBool(store.Get("FLAdd", "True"));
-    main.frmImport.bFLShow = ToBool(store.Get("FLShow", "True"));
-    main.frmImport.bLoaded = true;
+    ImportForm& form = main.frmImport;
+    form.iFLDelay = main.stored.Int16(Setting::FLDelay);
+    form.bFLAdd = main.stored.Flag(Setting::FLAdd);
+    form.bFLShow = main.stored.Flag(Setting::FLShow);
 }
 
 void SaveImportSettings(MainWindow& main)
 {
-    if (!main.frmImport.bLoaded)
-        return;
-    ISettingsStore& store = main.services.store;
-    store.Set("FLDelay", ShortText(std::int64_t{main.frmImport.iFLDelay}));
-    store.Set("FLAdd", BoolText(main.frmImport.bFLAdd));
-    store.Set("FLShow", BoolText(main.frmImport.bFLShow));
+    const ImportForm& form = main.frmImport;
+    main.stored.SetWhole(Setting::FLDelay, form.iFLDelay);
+    main.stored.SetFlag(Setting::FLAdd, form.bFLAdd);
+    main.stored.SetFlag(Setting::FLShow, form.bFLShow);
 }
 
 } // namespace ruvenmark

@@ -35,15 +35,14 @@ struct ServerLists {
     Dictionary<std::string> ServerList;
     Dictionary<std::string> PortList;
     Dictionary<std::string> ServerFilterList;
-    bool bLoaded = false;
 };
 
 // frmImport
+inline constexpr std::int16_t kLoadCancelled = -1;
 struct ImportForm {
-    std::int16_t iFLDelay = 0; // Milliseconds after each line; -1 after a cancel.
+    std::int16_t iFLDelay = 0; // Milliseconds after each line, or kLoadCancelled.
     bool bFLAdd = true;        // A marker for each report.
     bool bFLShow = true;       // New markers show their names.
-    bool bLoaded = false;      // From the settings store.
     // What the dialog shows while it is open.
     std::string txtDelay;
     bool chkAdd = true;

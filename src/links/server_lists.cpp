@@ -2,7 +2,6 @@
 
 #include "core/main_window.h"
 #include "links/text_files.h"
-#include "platform/numbers.h"
 
 #include <array>
 #include <string>
@@ -21,36 +20,36 @@ constexpr std::array<ListFile, 3> kListFiles = {{{"servers.txt", &ServerLists::S
                                                  {"ports.txt", &ServerLists::PortList},
                                                  {"filters.txt", &ServerLists::ServerFilterList}}};
 
-void LoadServerForm(const ISettingsStore& store, ServerForm& form)
+void LoadServerForm(StoredSettings& stored, ServerForm& form)
 {
-    form.sPrimaryServer = store.Get("PrimaryServer", "");
-    form.iPrimaryPort = ToInt16(store.Get("PrimaryPort", "-1"));
-    form.sPrimaryFilter = store.Get("PrimaryFilter", "");
-    form.bServerBeacon = ToBool(store.Get("ServerBeacon", "True"));
-    form.bAddTCPSymbol = ToBool(store.Get("AddTCPSymbol", "True"));
-    form.bReconnectServer = ToBool(store.Get("ReconnectServer", "False"));
-    form.iReconnectAttempt = ToInt16(store.Get("ReconnectAttempt", "0"));
-    form.sBackupServer = store.Get("BackupServer", "");
-    form.iBackupPort = ToInt16(store.Get("BackupPort", "-1"));
-    form.sBackupFilter = store.Get("BackupFilter", "");
-    form.bBackupBeacon = ToBool(store.Get("BackupBeacon", "False"));
-    form.bAutoTCP = ToBool(store.Get("AutoTCP", "False"));
+    form.sPrimaryServer = stored.Text(Setting::PrimaryServer);
+    form.iPrimaryPort = stored.Int16(Setting::PrimaryPort);
+    form.sPrimaryFilter = stored.Text(Setting::PrimaryFilter);
+    form.bServerBeacon = stored.Flag(Setting::ServerBeacon);
+    form.bAddTCPSymbol = stored.Flag(Setting::AddTCPSymbol);
+    form.bReconnectServer = stored.Flag(Setting::ReconnectServer);
+    form.iReconnectAttempt = stored.Int16(Setting::ReconnectAttempt);
+    form.sBackupServer = stored.Text(Setting::BackupServer);
+    form.iBackupPort = stored.Int16(Setting::BackupPort);
+    form.sBackupFilter = stored.Text(Setting::BackupFilter);
+    form.bBackupBeacon = stored.Flag(Setting::BackupBeacon);
+    form.bAutoTCP = stored.Flag(Setting::AutoTCP);
 }
 
-void SaveServerForm(ISettingsStore& store, const ServerForm& form)
+void SaveServerForm(StoredSettings& stored, const ServerForm& form)
 {
-    store.Set("PrimaryServer", form.sPrimaryServer);
-    store.Set("PrimaryPort", ShortText(std::int64_t{form.iPrimaryPort}));
-    store.Set("PrimaryFilter", form.sPrimaryFilter);
-    store.Set("ServerBeacon", BoolText(form.bServerBeacon));
-    store.Set("AddTCPSymbol", BoolText(form.bAddTCPSymbol));
-    store.Set("ReconnectServer", BoolText(form.bReconnectServer));
-    store.Set("ReconnectAttempt", ShortText(std::int64_t{form.iReconnectAttempt}));
-    store.Set("BackupServer", form.sBackupServer);
-    store.Set("BackupPort", ShortText(std::int64_t{form.iBackupPort}));
-    store.Set("BackupFilter", form.sBackupFilter);
-    store.Set("BackupBeacon", BoolText(form.bBackupBeacon));
-    store.Set("AutoTCP", BoolText(form.bAutoTCP));
+    stored.Set(Setting::PrimaryServer, form.sPrimaryServer);
+    stored.SetWhole(Setting::PrimaryPort, form.iPrimaryPort);
+    stored.Set(Setting::PrimaryFilter, form.sPrimaryFilter);
+    stored.SetFlag(Setting::ServerBeacon, form.bServerBeacon);
+    stored.SetFlag(Setting::AddTCPSymbol, form.bAddTCPSymbol);
+    stored.SetFlag(Setting::ReconnectServer, form.bReconnectServer);
+    stored.SetWhole(Setting::ReconnectAttempt, form.iReconnectAttempt);
+    stored.Set(Setting::BackupServer, form.sBackupServer);
+    stored.SetWhole(Setting::BackupPort, form.iBackupPort);
+    stored.Set(Setting::BackupFilter, form.sBackupFilter);
+    stored.SetFlag(Setting::BackupBeacon, form.bBackupBeacon);
+    stored.SetFlag(Setting::AutoTCP, form.bAutoTCP);
 }
 
 } // namespace
@@ -63,24 +62,28 @@ void LoadServerLists(MainWindow& main)
              ReadRecords(main.services.files, JoinPath(main.services.programFolder, name), kListDelimiter))
             entries.Set(record.front(), record.front());
     }
-    LoadServerForm(main.services.store, main.frmTcp);
-    main.serverLists.bLoaded = true;
+    LoadServerForm(main.stored, main.frmTcp);
 }
 
 void SaveServerLists(MainWindow& main)
 {
-    if (!main.serverLists.bLoaded)
-        return;
+    SaveServerForm(main.stored, main.frmTcp);
+    std::string unsaved;
     for (const auto& [name, list] : kListFiles) {
         TextTable table;
         for (const auto& [key, value] : main.serverLists.*list)
             table.push_back({key});
-        if (!table.empty())
-            Attempt(main.abandoned, "Stop, " + std::string(name), [&, file = name] {
-                WriteRecords(main.services.files, table, JoinPath(main.services.programFolder, file), kListDelimiter);
-            });
+        if (table.empty())
+            continue;
+        try {
+            WriteRecords(main.services.files, table, JoinPath(main.services.programFolder, name), kListDelimiter);
+        } catch (const Failure& failure) { // The next list can be saved all the same.
+            unsaved += unsaved.empty() ? "" : "; ";
+            unsaved += failure.what();
+        }
     }
-    SaveServerForm(main.services.store, main.frmTcp);
+    if (!unsaved.empty())
+        throw Failure(unsaved);
 }
 
 } // namespace ruvenmark

@@ -5,7 +5,7 @@ namespace ruvenmark {
 struct MainWindow;
 
 // The three lists of the server dialog and its fields. An entry is cut at its first colon; an empty list leaves its
-// file as it is. A file that cannot be written is counted and keeps nothing else from being saved.
+// file as it is. Saving raises Failure in the end where a file could not be written; the rest is saved all the same.
 void LoadServerLists(MainWindow& main);
 void SaveServerLists(MainWindow& main);
 

@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "intake/station_store.h"
+#include "links/import_form_rules.h"
 #include "links/text_files.h"
 #include "platform/failure.h"
 #include "platform/text.h"
@@ -19,7 +20,7 @@ void ReplayLines(MainWindow& main, std::string_view text, std::ptrdiff_t& last)
 {
     const auto lines = UsedLines(text);
     last = static_cast<std::ptrdiff_t>(lines.size()) - 1;
-    main.aprsfl = main.services.sources.CreateFileSource(*main.sinks[Index(Channel::FL)]);
+    main.aprsfl = main.services.sources.CreateFile(*main.sinks[Index(Channel::FL)]);
     main.FileLoading = true;
     main.sbStatusBar.ShowProgress();
     main.sbStatusBar.SetProgress(0);
@@ -63,7 +64,8 @@ void mnuImportStations_Click(MainWindow& main)
     const auto path = main.services.prompts.OpenFile("Open", {"Station Files (*.*)", "*.*"});
     if (!path || path->empty())
         return;
-    main.services.dialogs.RunImport(main);
+    frmImport_Load(main.frmImport);
+    main.services.dialogs.Run(Form::frmImport, main);
     if (main.frmImport.iFLDelay >= 0)
         LoadStationFile(main, *path);
 }

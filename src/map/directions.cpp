@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "map/marker_names.h"
+#include "map/pointer_tools.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 
@@ -51,6 +52,17 @@ std::string BearingText(double bearing)
     return ShortText(std::int64_t{degrees}) + "° (" + std::string(CompassPoint(bearing)) + ")";
 }
 
+bool AreDirectionsVisible(const MainWindow& main)
+{
+    return main.mpCtrl.ItineraryVisible();
+}
+
+template <std::size_t kEnd>
+void TakeEnd(MainWindow& main, GeoPoint point)
+{
+    SetDirectionsEnd(main, kEnd, {"", point});
+}
+
 } // namespace
 
 Directions WorkOutDirections(GeoPoint from, GeoPoint to)
@@ -87,8 +99,8 @@ std::string DirectionsEndText(const DirectionsEnd& end)
 {
     if (!end.name.empty())
         return end.name;
-    const GeoPoint shown = ShownPoint(end.point);
-    return ShortText(shown.lat) + ", " + ShortText(shown.lon);
+    const LatLonText text = TextOfPoint(end.point);
+    return text.lat + ", " + text.lon;
 }
 
 bool SetDirectionsEnd(MainWindow& main, std::size_t end, std::string_view text)
@@ -105,6 +117,11 @@ void SetDirectionsEnd(MainWindow& main, std::size_t end, const DirectionsEnd& va
 {
     main.map.directions.at(end) = value;
     main.map.DirectionsChanged.Raise();
+}
+
+void PinPointDirectionsEnd(MainWindow& main, std::size_t end)
+{
+    StartPinPoint(main, {AreDirectionsVisible, end == 0 ? TakeEnd<0> : TakeEnd<1>, std::nullopt});
 }
 
 std::string DirectionsText(const MainWindow& main)

@@ -37,6 +37,9 @@ std::string DirectionsEndText(const DirectionsEnd& end);
 bool SetDirectionsEnd(MainWindow& main, std::size_t end, std::string_view text);
 void SetDirectionsEnd(MainWindow& main, std::size_t end, const DirectionsEnd& value);
 
+// The next click on the map sets the end, while the directions show.
+void PinPointDirectionsEnd(MainWindow& main, std::size_t end);
+
 // Both ends, distance and bearings, a line each with CR LF between; empty while an end is missing.
 std::string DirectionsText(const MainWindow& main);
 

@@ -1,6 +1,7 @@
 #include "map/documents.h"
 
 #include "core/main_window.h"
+#include "core/notices.h"
 #include "platform/numbers.h"
 #include "platform/program_name.h"
 
@@ -12,6 +13,8 @@ namespace ruvenmark {
 namespace {
 
 constexpr FileFilter kMapFiles = {"Mappoint Files (*.ptm)", "*.ptm"};
+
+constexpr std::string_view kNotSaved = "The map could not be saved";
 
 // An empty path stands for a new map.
 void SetMapFile(MainWindow& main, std::string_view path)
@@ -79,28 +82,28 @@ bool AskToSaveMap(MainWindow& main)
 
 void mnuFileNew_Click(MainWindow& main)
 {
-    const std::int32_t region = main.map.bRegionKnown ? main.map.Region : main.mpCtrl.MapRegion();
-    Attempt(main.abandoned, "mnuFileNew", [&] { NewMap(main, region); });
+    const std::int32_t region = IsMapRegion(main.map.Region) ? main.map.Region : main.mpCtrl.MapRegion();
+    AttemptAloud(main, "No new map was made", [&] { NewMap(main, region); });
 }
 
 void mnuFileOpen_Click(MainWindow& main)
 {
-    Attempt(main.abandoned, "mnuFileOpen", [&] { Open(main); });
+    AttemptAloud(main, "No map was opened", [&] { Open(main); });
 }
 
 void mnuFileSave_Click(MainWindow& main)
 {
-    Attempt(main.abandoned, "mnuFileSave", [&] { Save(main); });
+    AttemptAloud(main, kNotSaved, [&] { Save(main); });
 }
 
 void mnuFileSaveAs_Click(MainWindow& main)
 {
-    Attempt(main.abandoned, "mnuFileSaveAs", [&] { SaveAs(main); });
+    AttemptAloud(main, kNotSaved, [&] { SaveAs(main); });
 }
 
 void mnuFilePrint_Click(MainWindow& main)
 {
-    Attempt(main.abandoned, "mnuFilePrint", [&] {
+    AttemptAloud(main, "The map was not printed", [&] {
         if (const auto choice = main.services.desktop.AskPrint("Print"))
             main.services.desktop.PrintMap(*choice);
     });
@@ -113,14 +116,14 @@ void mnuFileClose_Click(MainWindow& main)
 
 void ChangeRegion(MainWindow& main, std::int32_t region)
 {
-    main.services.store.Set("Region", ShortText(std::int64_t{region}));
-    main.services.store.Flush();
-    Attempt(main.abandoned, "ChangeRegion", [&] {
+    main.stored.SetWhole(Setting::Region, region);
+    if (!main.stored.Flush())
+        Tell(main, "The settings could not be saved");
+    AttemptAloud(main, "The region was not changed", [&] {
         if (main.mpCtrl.MapRegion() != region)
             NewMap(main, region);
     });
     main.map.Region = main.mpCtrl.MapRegion();
-    main.map.bRegionKnown = IsMapRegion(main.map.Region);
 }
 
 void SetMapFont(MainWindow& main, std::int32_t font)

@@ -9,7 +9,7 @@ struct MainWindow;
 // False when the operator cancels. Yes saves, No forgets the changes. Raises Failure when the map cannot be saved.
 bool AskToSaveMap(MainWindow& main);
 
-// Commands of the File menu. A Failure ends them without a word, with map, file name and caption as they were.
+// Commands of the File menu. A Failure ends them with a notice, and map, file name and caption are as they were.
 void mnuFileNew_Click(MainWindow& main);
 void mnuFileOpen_Click(MainWindow& main);
 void mnuFileSave_Click(MainWindow& main);

@@ -154,7 +154,7 @@ void GoToFound(MainWindow& main, const FoundPlace& found)
 void mnuFind_Click(MainWindow& main)
 {
     ShowMapView(main.window);
-    main.services.dialogs.ShowFind(main);
+    main.services.dialogs.Show(Form::frmFind, main);
 }
 
 void mnuDirections_Click(MainWindow& main)

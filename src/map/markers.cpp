@@ -5,6 +5,7 @@
 #include "core/tree_selection.h"
 #include "core/views.h"
 #include "map/marker_names.h"
+#include "map/names_state.h"
 #include "map/symbols.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
@@ -57,23 +58,6 @@ void WalkMarkers(MainWindow& main, const std::function<void(Pushpin&)>& work)
     }
 }
 
-std::int32_t NamesState(const MainWindow& main, Channel channel)
-{
-    const std::string_view setting = Traits(channel).namesSetting;
-    if (setting.empty())
-        return main.frmImport.bFLShow ? 1 : 0;
-    return SettingInt32(main.Settings, setting);
-}
-
-void SetNamesState(MainWindow& main, Channel channel, bool bShow)
-{
-    const std::string_view setting = Traits(channel).namesSetting;
-    if (setting.empty())
-        main.frmImport.bFLShow = bShow;
-    else
-        SetSetting(main.Settings, setting, bShow ? "1" : "0");
-}
-
 Pushpin ShowStationMarker(MainWindow& main, const StationNode& station, const Record& record, GeoPoint point)
 {
     Map& map = main.mpCtrl.RequireMap();
@@ -88,9 +72,9 @@ Pushpin ShowStationMarker(MainWindow& main, const StationNode& station, const Re
 Pushpin ShowMyMarker(MainWindow& main)
 {
     Map& map = main.mpCtrl.RequireMap();
-    const Location location =
-        map.GetLocation(ToDouble(SettingText(main.Settings, "Lat")), ToDouble(SettingText(main.Settings, "Lon")));
-    Pushpin pin = MarkerAt(map, SettingText(main.Settings, "Call"), location).first;
+    const Location location = map.GetLocation(ToDouble(SettingText(main.Settings, Setting::Lat)),
+                                              ToDouble(SettingText(main.Settings, Setting::Lon)));
+    Pushpin pin = MarkerAt(map, SettingText(main.Settings, Setting::Call), location).first;
     pin.SetSymbol(kMyStationSymbol);
     pin.SetBalloonState(1);
     return pin;
@@ -137,7 +121,7 @@ void ShowFolderNames(MainWindow& main, bool bShow)
     const TreeNode* root = SelectedRoot(main.tvStationList);
     if (!root)
         return;
-    if (const auto channel = ChannelOfWord(root->Key()))
+    if (const auto channel = ChannelOf(*root))
         SetNamesState(main, *channel, bShow);
     ForEachMarkerOfRoot(main, *root, [&](Pushpin& pin) { pin.SetBalloonState(bShow ? 1 : 0); });
 }
@@ -178,9 +162,8 @@ void mnuViewPosition_Click(MainWindow& main)
     const auto station = SelectedStation(main.tvStationList);
     if (!station)
         return;
-    const auto channel = ChannelOfWord(station->rootKey);
     const std::string& call = station->node->Text();
-    const Record* record = channel ? main.Of(*channel).Stations.Find(call) : nullptr;
+    const Record* record = station->channel ? main.Of(*station->channel).Stations.Find(call) : nullptr;
     const auto point = record ? PositionOf(*record) : std::nullopt;
     if (!point) {
         main.services.prompts.Message("No position report available for station " + call);

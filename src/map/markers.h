@@ -25,10 +25,6 @@ void DeleteMarker(MainWindow& main, std::string_view channelWord, std::string_vi
 // added. A Failure of the work ends the walk, and the bar goes all the same. Lets no events in.
 void WalkMarkers(MainWindow& main, const std::function<void(Pushpin&)>& work);
 
-// Balloon state of new markers of the channel, and of all that show.
-std::int32_t NamesState(const MainWindow& main, Channel channel); // Raises Failure for a setting that is no number.
-void SetNamesState(MainWindow& main, Channel channel, bool bShow);
-
 // Put the marker of a station of the tree, and that of the own station, where it is known to be: made, with its name
 // shown, or moved. Raise Failure.
 Pushpin ShowStationMarker(MainWindow& main, const StationNode& station, const Record& record, GeoPoint point);

@@ -1,26 +1,23 @@
 #pragma once
 
+#include "map/pinpoint_target.h"
+
 #include <string>
-#include <string_view>
 
 namespace ruvenmark {
 
-class Location;
 struct MainWindow;
-
-// Words of the dialogs and boxes that take a position from a click on the map.
-inline constexpr std::string_view kPinPointFilter = "Filter";
-inline constexpr std::string_view kPinPointFrom = "DirectionsFrom";
-inline constexpr std::string_view kPinPointTo = "DirectionsTo";
 
 // Degrees with at most 5 decimals.
 struct LatLonText {
     std::string lat, lon;
 };
-LatLonText LocationToLatLon(const Location& location);
+LatLonText TextOfPoint(GeoPoint point);
 
-// A button "PinPoint": modeless dialogs stand aside and the next click on the map is for the one of this word.
-void StartPinPoint(MainWindow& main, std::string_view source);
+// A button "PinPoint": its dialog stands aside, and the next click on the map is for whoever asked.
+void StartPinPoint(MainWindow& main, const PinPointTarget& target);
+bool IsPinPointing(const MainWindow& main);
+void EndPinPoint(MainWindow& main); // Gives up: pointer and dialog are as before. Nothing where no click is waited for.
 
 // x and y are pixels of the map window.
 void mpCtrl_MouseMove(MainWindow& main, double x, double y); // txtTbCoordinates

@@ -39,13 +39,6 @@ void ShowRange(MainWindow& main, const StationNode& station, ChannelState& state
     state.RangeCircles.Add(call, circle);
 }
 
-// The state of the selected station's channel, or null.
-ChannelState* SelectedChannel(MainWindow& main, const std::optional<StationNode>& station)
-{
-    const auto channel = station ? ChannelOfWord(station->rootKey) : std::nullopt;
-    return channel ? &main.Of(*channel) : nullptr;
-}
-
 bool HasGrandparent(const TreeNode* node)
 {
     return node && node->Parent() && node->Parent()->Parent();
@@ -71,9 +64,9 @@ double StationRange(double power, double height, double gain)
 
 void UpdateMyRange(MainWindow& main)
 {
-    const std::string_view power = SettingText(main.Settings, "Power");
-    const std::string_view height = SettingText(main.Settings, "Height");
-    const std::string_view gain = SettingText(main.Settings, "Gain");
+    const std::string_view power = SettingText(main.Settings, Setting::Power);
+    const std::string_view height = SettingText(main.Settings, Setting::Height);
+    const std::string_view gain = SettingText(main.Settings, Setting::Gain);
     const bool bKnown = !power.empty() && !height.empty() && !gain.empty();
     main.map.MyRange = bKnown ? StationRange(ToDouble(power), ToDouble(height), ToDouble(gain)) : 0;
     if (main.map.MyRangeCircle)
@@ -82,9 +75,10 @@ void UpdateMyRange(MainWindow& main)
 
 void DrawMyRange(MainWindow& main)
 {
-    DeleteMyCircle(main.map);
-    const std::string_view lat = SettingText(main.Settings, "Lat");
-    const std::string_view lon = SettingText(main.Settings, "Lon");
+    // One that the map has lost is no reason to draw none.
+    Attempt(main.abandoned, "DrawMyRange", [&] { DeleteMyCircle(main.map); });
+    const std::string_view lat = SettingText(main.Settings, Setting::Lat);
+    const std::string_view lon = SettingText(main.Settings, Setting::Lon);
     if (lat.empty() || lon.empty()) {
         main.map.MyRange = 0;
         return;
@@ -112,17 +106,16 @@ void DeleteAllCircles(MainWindow& main, ChannelState& state, std::string_view pl
 void mnuShowRange_Click(MainWindow& main)
 {
     const auto station = SelectedStation(main.tvStationList);
-    ChannelState* state = SelectedChannel(main, station);
-    if (state)
-        Attempt(main.abandoned, "mnuShowRange", [&] { ShowRange(main, *station, *state); });
+    if (station && station->channel)
+        Attempt(main.abandoned, "mnuShowRange", [&] { ShowRange(main, *station, main.Of(*station->channel)); });
 }
 
 void mnuHideRange_Click(MainWindow& main)
 {
     const auto station = SelectedStation(main.tvStationList);
-    ChannelState* state = SelectedChannel(main, station);
-    if (state)
-        Attempt(main.abandoned, "mnuHideRange", [&] { DeleteCircle(*state, station->node->Text()); });
+    if (station && station->channel)
+        Attempt(main.abandoned, "mnuHideRange",
+                [&] { DeleteCircle(main.Of(*station->channel), station->node->Text()); });
 }
 
 void mnuHideAllRangeCircles_Click(MainWindow& main)

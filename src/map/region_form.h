@@ -29,16 +29,17 @@ inline constexpr std::array<RegionButton, 12> kRegionButtons = {{
     {"Switzerland", "S&witzerland", kRegionEurope},
 }};
 
-inline constexpr std::int32_t kFirstSelectedRegion =
-    kRegionNorthAmerica; // Closed without a button, the dialog leaves this.
+// frmRegion: closed without a button, the dialog leaves the region as it was.
+struct RegionForm {
+    std::int32_t selectedRegion = kRegionNorthAmerica;
+};
 
-// The region after the button of this key; any other key leaves it as it was.
-constexpr std::int32_t RegionOfButton(std::string_view key, std::int32_t selectedRegion)
+// A button was pressed; any other key changes nothing.
+constexpr void frmRegion_Click(RegionForm& form, std::string_view key)
 {
     for (const auto& button : kRegionButtons)
         if (button.key == key)
-            return button.region;
-    return selectedRegion;
+            form.selectedRegion = button.region;
 }
 
 } // namespace ruvenmark

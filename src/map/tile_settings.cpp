@@ -1,7 +1,6 @@
 #include "map/tile_settings.h"
 
 #include "core/main_window.h"
-#include "platform/numbers.h"
 #include "platform/text.h"
 
 #include <algorithm>
@@ -11,9 +10,6 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr std::string_view kOnlineKey = "OnlineTiles";
-constexpr std::string_view kUrlKey = "TileURL";
-constexpr std::string_view kSourceKey = "TileSource";
 constexpr FileFilter kTileFiles = {"Map Tiles (*.mbtiles *.png *.jpg *.jpeg)", "*.mbtiles *.png *.jpg *.jpeg"};
 
 bool IsTileUrl(std::string_view url)
@@ -34,24 +30,19 @@ bool IsNumber(std::string_view text)
 void LoadTileSettings(MainWindow& main)
 {
     TileSettings& tiles = main.map.tiles;
-    const ISettingsStore& store = main.services.store;
-    const std::string url = store.Get(kUrlKey, kDefaultTileUrl);
-    tiles.urlTemplate = IsTileUrl(url) ? url : std::string(kDefaultTileUrl);
-    tiles.source = store.Get(kSourceKey, "");
-    tiles.bOnline = false;
-    Attempt(main.abandoned, "LoadTileSettings", [&] { tiles.bOnline = ToBool(store.Get(kOnlineKey, "False")); });
-    tiles.bLoaded = true;
+    const std::string url = main.stored.Text(Setting::TileURL);
+    tiles.urlTemplate = IsTileUrl(url) ? url : DefaultOf(Setting::TileURL);
+    tiles.source = main.stored.Text(Setting::TileSource);
+    tiles.bOnline = main.stored.Flag(Setting::OnlineTiles);
     main.map.TilesChanged.Raise();
 }
 
 void SaveTileSettings(MainWindow& main)
 {
     const TileSettings& tiles = main.map.tiles;
-    if (!tiles.bLoaded)
-        return;
-    main.services.store.Set(kOnlineKey, BoolText(tiles.bOnline));
-    main.services.store.Set(kUrlKey, tiles.urlTemplate);
-    main.services.store.Set(kSourceKey, tiles.source);
+    main.stored.SetFlag(Setting::OnlineTiles, tiles.bOnline);
+    main.stored.Set(Setting::TileURL, tiles.urlTemplate);
+    main.stored.Set(Setting::TileSource, tiles.source);
 }
 
 std::string TileSourceOfFile(std::string_view chosenFile)

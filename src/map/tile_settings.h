@@ -14,7 +14,6 @@ struct TileSettings {
     bool bOnline = false;
     std::string urlTemplate{kDefaultTileUrl}; // With {z}, {x} and {y}.
     std::string source; // A folder of z/x/y tiles or an MBTiles file, used without the network; empty for none.
-    bool bLoaded = false;
 };
 
 void LoadTileSettings(MainWindow& main);

@@ -36,6 +36,11 @@ std::optional<std::string> HeadlessPrompts::SaveFile(std::string_view title, Fil
     return OpenFile(title, filter);
 }
 
+void PrintedNotices::Say(std::string_view line)
+{
+    m_out << kProgramName << ": " << TerminalText(line) << std::endl; // At once: what comes next may be the end.
+}
+
 void HeadlessPrompts::Print(std::string_view text, std::string_view answer)
 {
     m_out << kProgramName << ": " << TerminalText(text) << answer << '\n';

@@ -32,6 +32,17 @@ private:
     std::vector<std::string> m_messages;
 };
 
+// One line on a stream each, the program's name in front.
+class PrintedNotices final : public INotices {
+public:
+    // The stream outlives this.
+    explicit PrintedNotices(std::ostream& out) : m_out(out) {}
+    void Say(std::string_view line) override;
+
+private:
+    std::ostream& m_out;
+};
+
 class SilentSound final : public ISound {
 public:
     void PlayAndWait(std::string_view /*path*/) override {}

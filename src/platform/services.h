@@ -47,6 +47,13 @@ public:
     virtual void ProcessPending() = 0;
 };
 
+// One line each for whoever can do something about it, without the program's name and without a line end.
+class INotices {
+public:
+    virtual ~INotices() = default;
+    virtual void Say(std::string_view line) = 0;
+};
+
 enum class Answer : std::uint8_t { Yes, No, Cancel };
 
 struct FileFilter {

@@ -26,7 +26,14 @@ void StatusBar::SetPanel(Panel panel, std::string_view text)
 
 void StatusBar::SetPacketLine(std::string_view text)
 {
-    if (Renew(m_packetLine, text))
+    const bool bNoticeEnds = Renew(m_notice, std::string_view());
+    if (Renew(m_packetLine, text) || bNoticeEnds)
+        Changed.Raise();
+}
+
+void StatusBar::SetNotice(std::string_view text)
+{
+    if (Renew(m_notice, text))
         Changed.Raise();
 }
 

@@ -21,6 +21,10 @@ public:
     void SetPacketLine(std::string_view text);
     const std::string& PacketLine() const { return m_packetLine; }
 
+    // What went wrong last, in the packet line's place; the next packet line or command ends it.
+    void SetNotice(std::string_view text);
+    const std::string& Notice() const { return m_notice; }
+
     // The packet line is hidden while the progress bar shows.
     void ShowProgress();
     void SetProgress(int percent);
@@ -39,6 +43,7 @@ public:
 private:
     std::array<std::string, 5> m_panels;
     std::string m_packetLine;
+    std::string m_notice;
     std::string m_coordinates;
     int m_progress = 0;
     bool m_bProgress = false;

@@ -26,6 +26,20 @@ constexpr std::array kRules = {
     FieldRule{FilterField::Range, &ReportFilter::Range, 0, kEndless, "Enter a positive number for range!"},
 };
 
+bool IsFilterVisible(const MainWindow& main)
+{
+    return main.services.dialogs.IsVisible(Form::frmFilter);
+}
+
+// By the tab in front, as it stands now.
+void TakePoint(MainWindow& main, GeoPoint point)
+{
+    const LatLonText text = TextOfPoint(point);
+    ReportFilter& fields = main.frmFilter.fields.at(static_cast<std::size_t>(main.frmFilter.SSTab1));
+    fields.Lat = text.lat;
+    fields.Lon = text.lon;
+}
+
 } // namespace
 
 void frmFilter_Load(MainWindow& main)
@@ -58,7 +72,7 @@ void frmFilter_Save(MainWindow& main)
 
 void frmFilter_PinPoint(MainWindow& main)
 {
-    StartPinPoint(main, kPinPointFilter);
+    StartPinPoint(main, {IsFilterVisible, TakePoint, Form::frmFilter});
 }
 
 void mnuToolsFilter_Click(MainWindow& main)
@@ -66,9 +80,9 @@ void mnuToolsFilter_Click(MainWindow& main)
     const std::string_view unit = main.mpCtrl.Units() == kUnitsMiles ? "miles" : "kilometers";
     for (const Channel channel : {Channel::RF, Channel::TCP}) // The label of FL stays as designed.
         main.frmFilter.unitLabels[Index(channel)] = unit;
-    if (!main.services.dialogs.IsFilterVisible())
+    if (!main.services.dialogs.IsVisible(Form::frmFilter))
         frmFilter_Load(main);
-    main.services.dialogs.ShowFilter(main);
+    main.services.dialogs.Show(Form::frmFilter, main);
 }
 
 void ShowFilterOf(MainWindow& main, Channel channel)

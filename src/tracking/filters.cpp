@@ -53,28 +53,19 @@ bool DropsByRange(MainWindow& main, const ReportFilter& filter, double lat, doub
     return bDrop;
 }
 
-struct FilterText {
-    std::string_view name;
-    std::string ReportFilter::*text;
-};
-struct FilterFlag {
-    std::string_view name;
-    bool ReportFilter::*flag;
-    std::string_view defaultValue;
-};
-constexpr std::array<FilterText, 6> kTexts = {{{"FilterDest", &ReportFilter::Dest},
-                                               {"FilterReject", &ReportFilter::Reject},
-                                               {"FilterCall", &ReportFilter::Call},
-                                               {"FilterRange", &ReportFilter::Range},
-                                               {"FilterLat", &ReportFilter::Lat},
-                                               {"FilterLon", &ReportFilter::Lon}}};
-constexpr std::array<FilterFlag, 3> kFlags = {{{"FilterOn", &ReportFilter::bOn, "False"},
-                                               {"Tracked", &ReportFilter::bTracked, "True"},
-                                               {"FilterApply", &ReportFilter::bApply, "False"}}};
+// In the order of a channel's settings: the texts, then the flags.
+constexpr std::array kTexts = {&ReportFilter::Dest,  &ReportFilter::Reject, &ReportFilter::Call,
+                               &ReportFilter::Range, &ReportFilter::Lat,    &ReportFilter::Lon};
+constexpr std::array kFlags = {&ReportFilter::bOn, &ReportFilter::bTracked, &ReportFilter::bApply};
 
-std::string FilterKey(Channel channel, std::string_view name)
+Setting TextSetting(Channel channel, std::size_t i)
 {
-    return std::string(Traits(channel).filterPrefix) += name;
+    return Behind(Traits(channel).firstFilterSetting, i);
+}
+
+Setting FlagSetting(Channel channel, std::size_t i)
+{
+    return TextSetting(channel, kTexts.size() + i);
 }
 
 } // namespace
@@ -118,27 +109,22 @@ bool IsFiltered(MainWindow& main, Channel channel, std::string_view call, std::s
 
 void LoadFilters(MainWindow& main)
 {
-    const ISettingsStore& store = main.services.store;
     for (ChannelState& state : main.channels)
-        for (const auto& [name, text] : kTexts)
-            state.Filter.*text = store.Get(FilterKey(state.channel, name), "");
+        for (std::size_t i = 0; i < kTexts.size(); ++i)
+            state.Filter.*kTexts[i] = main.stored.Text(TextSetting(state.channel, i));
     for (ChannelState& state : main.channels)
-        for (const auto& [name, flag, defaultValue] : kFlags)
-            state.Filter.*flag = ToBool(store.Get(FilterKey(state.channel, name), defaultValue));
-    main.tracking.bFiltersLoaded = true;
+        for (std::size_t i = 0; i < kFlags.size(); ++i)
+            state.Filter.*kFlags[i] = main.stored.Flag(FlagSetting(state.channel, i));
 }
 
 void SaveFilters(MainWindow& main)
 {
-    if (!main.tracking.bFiltersLoaded)
-        return;
-    ISettingsStore& store = main.services.store;
     for (const ChannelState& state : main.channels)
-        for (const auto& [name, text] : kTexts)
-            store.Set(FilterKey(state.channel, name), state.Filter.*text);
+        for (std::size_t i = 0; i < kTexts.size(); ++i)
+            main.stored.Set(TextSetting(state.channel, i), state.Filter.*kTexts[i]);
     for (const ChannelState& state : main.channels)
-        for (const auto& [name, flag, defaultValue] : kFlags)
-            store.Set(FilterKey(state.channel, name), BoolText(state.Filter.*flag));
+        for (std::size_t i = 0; i < kFlags.size(); ++i)
+            main.stored.SetFlag(FlagSetting(state.channel, i), state.Filter.*kFlags[i]);
 }
 
 } // namespace ruvenmark

@@ -4,6 +4,7 @@
 #include "core/tree_selection.h"
 #include "map/marker_names.h"
 #include "map/markers.h"
+#include "map/names_state.h"
 #include "platform/text.h"
 #include "tracking/track_lines.h"
 #include "tracking/track_lists.h"
@@ -22,10 +23,9 @@ struct TrackedSelection {
 std::optional<TrackedSelection> Selection(MainWindow& main)
 {
     const auto station = SelectedStation(main.tvStationList);
-    const auto channel = station ? ChannelOfWord(station->rootKey) : std::nullopt;
-    if (!channel)
+    if (!station || !station->channel)
         return std::nullopt;
-    return TrackedSelection{station->node->Text(), main.Of(*channel)};
+    return TrackedSelection{station->node->Text(), main.Of(*station->channel)};
 }
 
 // Also the station's markers on other channels, its track points, and those of any longer call.
@@ -37,21 +37,24 @@ void SetNamesContaining(MainWindow& main, std::string_view call, std::int32_t ba
     });
 }
 
+void ShowTrailLine(const SettingsState& settings, Shape& line, bool bShow)
+{
+    line.SetVisible(bShow);
+    line.SetBeginArrowhead(bShow && TrackBeginArrow(settings));
+    line.SetEndArrowhead(bShow && TrackEndArrow(settings));
+    line.SetWeight(bShow ? TrackLineWeight(settings) : 0);
+}
+
+// What the map has lost is counted and passed over.
 void ShowTrail(MainWindow& main, ChannelState& state, std::string_view call, bool bShow)
 {
     state.TrackVisible.Set(TrackKey(call), bShow);
     if (auto* points = state.TrackMarkers.Find(call))
         for (Pushpin& point : *points)
-            point.SetBalloonState(bShow ? 1 : 0);
-    auto* lines = state.TrackLines.Find(call);
-    if (!lines)
-        return;
-    for (Shape& line : *lines) {
-        line.SetVisible(bShow);
-        line.SetBeginArrowhead(bShow && TrackBeginArrow(main.Settings));
-        line.SetEndArrowhead(bShow && TrackEndArrow(main.Settings));
-        line.SetWeight(bShow ? TrackLineWeight(main.Settings) : 0);
-    }
+            Attempt(main.abandoned, "ShowTrail", [&] { point.SetBalloonState(bShow ? 1 : 0); });
+    if (auto* lines = state.TrackLines.Find(call))
+        for (Shape& line : *lines)
+            Attempt(main.abandoned, "ShowTrail", [&] { ShowTrailLine(main.Settings, line, bShow); });
 }
 
 bool IsTrackedAnywhere(const MainWindow& main, std::string_view key)

@@ -20,9 +20,9 @@ constexpr std::array<std::uint32_t, 8> kMobileColors = {0, 255, 65280, 65535, 16
 
 // The value an index setting names; a default one for an index outside the table.
 template <typename Table>
-auto Choice(const SettingsState& settings, std::string_view key, const Table& table)
+auto Choice(const SettingsState& settings, Setting setting, const Table& table)
 {
-    const std::int32_t index = SettingInt32(settings, key);
+    const std::int32_t index = SettingInt32(settings, setting);
     const bool bInside = index >= 0 && static_cast<std::size_t>(index) < table.size();
     return bInside ? table[static_cast<std::size_t>(index)] : typename Table::value_type{};
 }
@@ -84,22 +84,22 @@ void RemoveEntries(MainWindow& main, Dictionary<std::vector<Object>>& entries)
 
 std::int32_t TrackLineWeight(const SettingsState& settings)
 {
-    return Choice(settings, "TrackLineSize", kWeights);
+    return Choice(settings, Setting::TrackLineSize, kWeights);
 }
 
 bool TrackBeginArrow(const SettingsState& settings)
 {
-    return Choice(settings, "TrackLineStyle", kStyles).bBegin;
+    return Choice(settings, Setting::TrackLineStyle, kStyles).bBegin;
 }
 
 bool TrackEndArrow(const SettingsState& settings)
 {
-    return Choice(settings, "TrackLineStyle", kStyles).bEnd;
+    return Choice(settings, Setting::TrackLineStyle, kStyles).bEnd;
 }
 
 std::uint32_t MobileColor(const SettingsState& settings)
 {
-    return Choice(settings, "MobileColor", kMobileColors);
+    return Choice(settings, Setting::MobileColor, kMobileColors);
 }
 
 void AddTrackPoint(MainWindow& main, Channel channel, std::string_view call, Pushpin pin, const Location& location,

@@ -8,6 +8,7 @@ namespace ruvenmark {
 
 // frmTrackList: what the dialog shows while it is open.
 struct TrackListForm {
+    bool bCancelled = true;
     std::array<std::string, 3> txtTrackList; // By channel: calls, blanks between.
     bool chkTrackStation = true;
     bool chkTrackLine = true;

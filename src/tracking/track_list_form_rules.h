@@ -6,6 +6,7 @@
 namespace ruvenmark {
 
 struct MainWindow;
+struct TrackListForm;
 
 inline constexpr std::array<std::string_view, 3> kTrackListLabels = {
     "List of stations to be tracked over RF link, separated by space",
@@ -19,8 +20,8 @@ inline constexpr int kNoChoice = -1; // Of a list whose setting names none of it
 
 // The fields as lists and settings stand.
 void frmTrackList_Load(MainWindow& main);
-// Takes the fields over. What is on the map stays as it is.
-void frmTrackList_Track(MainWindow& main);
+// The button that accepts: the fields are taken over when the dialog is closed.
+void frmTrackList_Track(TrackListForm& form);
 void frmTrackList_Browse(MainWindow& main); // The wave file.
 
 // Shows the dialog until it is closed.

@@ -1,7 +1,6 @@
 #include "tracking/track_lists.h"
 
 #include "core/main_window.h"
-#include "platform/numbers.h"
 #include "platform/text.h"
 
 namespace ruvenmark {
@@ -38,24 +37,18 @@ std::string TrackListText(const ChannelState& state)
 
 void LoadTrackLists(MainWindow& main)
 {
-    const ISettingsStore& store = main.services.store;
     for (ChannelState& state : main.channels)
-        SetTrackList(state, store.Get(Traits(state.channel).trackedSetting, ""));
-    main.tracking.bShowTrackLine = ToBool(store.Get("ShowTrackLine", "True"));
-    main.tracking.bListsLoaded = true;
+        SetTrackList(state, main.stored.Text(Traits(state.channel).trackedSetting));
+    main.tracking.bShowTrackLine = main.stored.Flag(Setting::ShowTrackLine);
 }
 
 void SaveTrackLists(MainWindow& main)
 {
-    if (!main.tracking.bListsLoaded)
-        return;
-    ISettingsStore& store = main.services.store;
     for (ChannelState& state : main.channels) {
-        store.Set(Traits(state.channel).trackedSetting, TrackListText(state));
+        main.stored.Set(Traits(state.channel).trackedSetting, TrackListText(state));
         state.Tracked.Clear();
     }
-    store.Set("ShowTrackLine", BoolText(main.tracking.bShowTrackLine));
-    main.tracking.bListsLoaded = false;
+    main.stored.SetFlag(Setting::ShowTrackLine, main.tracking.bShowTrackLine);
 }
 
 double TravelDistance(MainWindow& main, double lat1, double lon1, double lat2, double lon2)

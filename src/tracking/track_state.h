@@ -9,10 +9,6 @@ struct TrackState {
     bool bShowTrackLine = true;        // A track step draws a line.
     bool bTrackStationPosition = true; // The map follows a tracked station.
     std::int32_t NewMarkerBalloon = 1; // Balloon state of a tracked station's new marker.
-    bool bListsLoaded = false;
-    bool bFollowLoaded = false; // TrackStationPosition was read.
-    bool bFiltersLoaded = false;
-    bool bUnknownLoaded = false; // The flags of the folders of packets that could not be decoded.
 };
 
 } // namespace ruvenmark

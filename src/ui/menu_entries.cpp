@@ -1,4 +1,3 @@
-#include "core/main_window.h"
 #include "links/station_files.h"
 #include "map/documents.h"
 #include "map/edit_commands.h"
@@ -10,7 +9,7 @@
 #include "tracking/track_lines.h"
 #include "tracking/track_list_form_rules.h"
 #include "ui/layout.h"
-#include "ui/menus.h"
+#include "ui/menu_rules.h"
 #include "ui/station_tree_commands.h"
 #include "ui/web_page.h"
 
@@ -47,10 +46,11 @@ void RunRegion(MainWindow& main)
 
 void mnuHelpAbout_Click(MainWindow& main)
 {
-    main.services.dialogs.RunAbout(main);
+    main.services.dialogs.Run(Form::frmAbout, main);
 }
 
 using E = MenuEntry;
+namespace rules = menu_rules;
 
 // In the order of MenuEntry.
 constexpr std::array kEntries = {
@@ -60,96 +60,122 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuFileSave, "mnuFileSave", "&Save Map", "Ctrl+S", false, mnuFileSave_Click},
     MenuEntryInfo{E::mnuFileSaveAs, "mnuFileSaveAs", "Save Map &As...", "", false, mnuFileSaveAs_Click},
     MenuEntryInfo{E::mnuImportStations, "mnuImportStations", "Loa&d Stations...", "Ctrl+L", false,
-                  mnuImportStations_Click},
-    MenuEntryInfo{E::mnuFilePrint, "mnuFilePrint", "&Print...", "Ctrl+P", false, mnuFilePrint_Click},
+                  mnuImportStations_Click, rules::OnLoading},
+    MenuEntryInfo{E::mnuFilePrint, "mnuFilePrint", "&Print...", "Ctrl+P", false, mnuFilePrint_Click, rules::OnMap},
     MenuEntryInfo{E::mnuFileClose, "mnuFileClose", "&Close", "Ctrl+Q", false, mnuFileClose_Click},
 
-    MenuEntryInfo{E::mnuEditCut, "mnuEditCut", "Cu&t", "Ctrl+X", false, mnuEditCut_Click},
-    MenuEntryInfo{E::mnuEditCopy, "mnuEditCopy", "&Copy", "Ctrl+C", false, mnuEditCopy_Click},
-    MenuEntryInfo{E::mnuEditPaste, "mnuEditPaste", "&Paste", "Ctrl+V", false, mnuEditPaste_Click},
-    MenuEntryInfo{E::mnuEditDelete, "mnuEditDelete", "&Delete", "Del", false, mnuEditDelete_Click},
-    MenuEntryInfo{E::mnuCopyMap, "mnuCopyMap", "Copy &Map", "", false, mnuCopyMap_Click},
-    MenuEntryInfo{E::mnuCopyDirections, "mnuCopyDirections", "Copy D&irections", "", false, mnuCopyDirections_Click},
-    MenuEntryInfo{E::mnuFind, "mnuFind", "&Find...", "Ctrl+F", false, mnuFind_Click},
+    MenuEntryInfo{E::mnuEditCut, "mnuEditCut", "Cu&t", "Ctrl+X", false, mnuEditCut_Click, rules::OnSelection},
+    MenuEntryInfo{E::mnuEditCopy, "mnuEditCopy", "&Copy", "Ctrl+C", false, mnuEditCopy_Click, rules::OnSelection},
+    MenuEntryInfo{E::mnuEditPaste, "mnuEditPaste", "&Paste", "Ctrl+V", false, mnuEditPaste_Click, rules::OnPaste},
+    MenuEntryInfo{E::mnuEditDelete, "mnuEditDelete", "&Delete", "Del", false, mnuEditDelete_Click, rules::OnSelection},
+    MenuEntryInfo{E::mnuCopyMap, "mnuCopyMap", "Copy &Map", "", false, mnuCopyMap_Click, rules::OnMap},
+    MenuEntryInfo{E::mnuCopyDirections, "mnuCopyDirections", "Copy D&irections", "", false, mnuCopyDirections_Click,
+                  rules::OnDirectionsText},
+    MenuEntryInfo{E::mnuFind, "mnuFind", "&Find...", "Ctrl+F", false, mnuFind_Click, rules::OnMap},
 
-    MenuEntryInfo{E::mnuViewToolbar, "mnuViewToolbar", "&Toolbar", "", true, mnuViewToolbar_Click},
-    MenuEntryInfo{E::mnuViewStatusBar, "mnuViewStatusBar", "Status &Bar", "", true, mnuViewStatusBar_Click},
-    MenuEntryInfo{E::mnuTreeView, "mnuTreeView", "&Left Pane", "", true, mnuTreeView_Click},
-    MenuEntryInfo{E::mnuViewMap, "mnuViewMap", "&Map", "", true, mnuViewMap_Click},
-    MenuEntryInfo{E::mnuOnlineTiles, "mnuOnlineTiles", "&Online Tiles", "", true, mnuOnlineTiles_Click},
-    MenuEntryInfo{E::mnuTileFile, "mnuTileFile", "T&ile File...", "", true, mnuTileFile_Click},
-    MenuEntryInfo{E::mnuViewFullScreen, "mnuViewFullScreen", "F&ull Screen", "F11", true, mnuViewFullScreen_Click},
+    MenuEntryInfo{E::mnuViewToolbar, "mnuViewToolbar", "&Toolbar", "", true, mnuViewToolbar_Click,
+                  rules::TickWindow<&WindowState::bToolBar>},
+    MenuEntryInfo{E::mnuViewStatusBar, "mnuViewStatusBar", "Status &Bar", "", true, mnuViewStatusBar_Click,
+                  rules::TickWindow<&WindowState::bStatusBar>},
+    MenuEntryInfo{E::mnuTreeView, "mnuTreeView", "&Left Pane", "", true, mnuTreeView_Click,
+                  rules::TickWindow<&WindowState::bLeftPane>},
+    MenuEntryInfo{E::mnuViewMap, "mnuViewMap", "&Map", "", true, mnuViewMap_Click,
+                  rules::TickWindow<&WindowState::bMapTicked>},
+    MenuEntryInfo{E::mnuOnlineTiles, "mnuOnlineTiles", "&Online Tiles", "", true, mnuOnlineTiles_Click,
+                  rules::TickTiles},
+    MenuEntryInfo{E::mnuTileFile, "mnuTileFile", "T&ile File...", "", true, mnuTileFile_Click, rules::TickTileFile},
+    MenuEntryInfo{E::mnuViewFullScreen, "mnuViewFullScreen", "F&ull Screen", "F11", true, mnuViewFullScreen_Click,
+                  rules::TickWindow<&WindowState::bFullScreen>},
 
-    MenuEntryInfo{E::mnuFontLargest, "mnuFontLargest", "&Largest", "", true, RunFont<0>},
-    MenuEntryInfo{E::mnuFontLarger, "mnuFontLarger", "L&arger", "", true, RunFont<1>},
-    MenuEntryInfo{E::mnuFontMedium, "mnuFontMedium", "&Medium", "", true, RunFont<2>},
-    MenuEntryInfo{E::mnuFontSmaller, "mnuFontSmaller", "&Smaller", "", true, RunFont<3>},
-    MenuEntryInfo{E::mnuFontSmallest, "mnuFontSmallest", "Smalles&t", "", true, RunFont<4>},
+    MenuEntryInfo{E::mnuFontLargest, "mnuFontLargest", "&Largest", "", true, RunFont<0>, rules::TickFont<0>},
+    MenuEntryInfo{E::mnuFontLarger, "mnuFontLarger", "L&arger", "", true, RunFont<1>, rules::TickFont<1>},
+    MenuEntryInfo{E::mnuFontMedium, "mnuFontMedium", "&Medium", "", true, RunFont<2>, rules::TickFont<2>},
+    MenuEntryInfo{E::mnuFontSmaller, "mnuFontSmaller", "&Smaller", "", true, RunFont<3>, rules::TickFont<3>},
+    MenuEntryInfo{E::mnuFontSmallest, "mnuFontSmallest", "Smalles&t", "", true, RunFont<4>, rules::TickFont<4>},
 
-    MenuEntryInfo{E::mnuRoadMap, "mnuRoadMap", "&Road Map", "", true, RunStyle<0>},
-    MenuEntryInfo{E::mnuRoadDataMap, "mnuRoadDataMap", "Road &and Data Map", "", true, RunStyle<1>},
-    MenuEntryInfo{E::mnuDataMap, "mnuDataMap", "&Data Map", "", true, RunStyle<2>},
-    MenuEntryInfo{E::mnuTerrainMap, "mnuTerrainMap", "&Terrain Map", "", true, RunStyle<3>},
-    MenuEntryInfo{E::mnuPoliticalMap, "mnuPoliticalMap", "&Political Map", "", true, RunStyle<4>},
+    MenuEntryInfo{E::mnuRoadMap, "mnuRoadMap", "&Road Map", "", true, RunStyle<0>, rules::TickStyle<0>},
+    MenuEntryInfo{E::mnuRoadDataMap, "mnuRoadDataMap", "Road &and Data Map", "", true, RunStyle<1>,
+                  rules::TickStyle<1>},
+    MenuEntryInfo{E::mnuDataMap, "mnuDataMap", "&Data Map", "", true, RunStyle<2>, rules::TickStyle<2>},
+    MenuEntryInfo{E::mnuTerrainMap, "mnuTerrainMap", "&Terrain Map", "", true, RunStyle<3>, rules::TickStyle<3>},
+    MenuEntryInfo{E::mnuPoliticalMap, "mnuPoliticalMap", "&Political Map", "", true, RunStyle<4>, rules::TickStyle<4>},
 
-    MenuEntryInfo{E::mnuStandardToolbar, "mnuStandardToolbar", "&Standard", "", true, RunMapToolbar<1>},
-    MenuEntryInfo{E::mnuNavigationToolbar, "mnuNavigationToolbar", "&Navigation", "", true, RunMapToolbar<2>},
-    MenuEntryInfo{E::mnuDrawingToolbar, "mnuDrawingToolbar", "&Drawing", "", true, RunMapToolbar<3>},
+    MenuEntryInfo{E::mnuStandardToolbar, "mnuStandardToolbar", "&Standard", "", true, RunMapToolbar<1>,
+                  rules::TickToolbar<1>},
+    MenuEntryInfo{E::mnuNavigationToolbar, "mnuNavigationToolbar", "&Navigation", "", true, RunMapToolbar<2>,
+                  rules::TickToolbar<2>},
+    MenuEntryInfo{E::mnuDrawingToolbar, "mnuDrawingToolbar", "&Drawing", "", true, RunMapToolbar<3>,
+                  rules::TickToolbar<3>},
     MenuEntryInfo{E::mnuLocationScaleToolbar, "mnuLocationScaleToolbar", "&Location and Scale", "", true,
-                  RunMapToolbar<4>},
+                  RunMapToolbar<4>, rules::TickToolbar<4>},
 
     MenuEntryInfo{E::mnuRegionNorthAmerica, "mnuRegionNorthAmerica", "&North America", "", true,
-                  RunRegion<kRegionNorthAmerica>},
-    MenuEntryInfo{E::mnuRegionEurope, "mnuRegionEurope", "&Europe", "", true, RunRegion<kRegionEurope>},
+                  RunRegion<kRegionNorthAmerica>, rules::TickRegion<kRegionNorthAmerica>},
+    MenuEntryInfo{E::mnuRegionEurope, "mnuRegionEurope", "&Europe", "", true, RunRegion<kRegionEurope>,
+                  rules::TickRegion<kRegionEurope>},
 
     MenuEntryInfo{E::mnuToolsFilter, "mnuToolsFilter", "&Filters...", "", false, mnuToolsFilter_Click},
     MenuEntryInfo{E::mnuTrackedStations, "mnuTrackedStations", "&Track List...", "", false, mnuTrackedStations_Click},
     MenuEntryInfo{E::mnuToolsStationTracking, "mnuToolsStationTracking", "&Shift Map to Tracked Stations", "", true,
-                  mnuToolsStationTracking_Click},
+                  mnuToolsStationTracking_Click, rules::TickFollow},
     MenuEntryInfo{E::mnuToolsShowTrackLine, "mnuToolsShowTrackLine", "Show Track &Lines", "", true,
-                  mnuToolsShowTrackLine_Click},
+                  mnuToolsShowTrackLine_Click, rules::TickTrackLine},
     MenuEntryInfo{E::mnuRemoveAllTracks, "mnuRemoveAllTracks", "&Remove All Tracks", "", false,
-                  mnuRemoveAllTracks_Click},
-    MenuEntryInfo{E::mnuDirections, "mnuDirections", "&Directions", "", true, mnuDirections_Click},
+                  mnuRemoveAllTracks_Click, rules::OnTracks},
+    MenuEntryInfo{E::mnuDirections, "mnuDirections", "&Directions", "", true, mnuDirections_Click,
+                  rules::TickDirections},
     MenuEntryInfo{E::mnuRuvenmarkHelp, "mnuRuvenmarkHelp", "&Ruvenmark Help", "F1", false, mnuRuvenmarkHelp_Click},
     MenuEntryInfo{E::mnuHelpAbout, "mnuHelpAbout", "&About Ruvenmark", "", false, mnuHelpAbout_Click},
 
     MenuEntryInfo{E::mnuViewPosition, "mnuViewPosition", "View Position", "", false, mnuViewPosition_Click},
     MenuEntryInfo{E::mnuInfo, "mnuInfo", "Operator Info", "", false, mnuInfo_Click},
-    MenuEntryInfo{E::mnuStartTrack, "mnuStartTrack", "Start Tracking", "", false, mnuStartTrack_Click},
-    MenuEntryInfo{E::mnuStopTrack, "mnuStopTrack", "Stop Tracking", "", false, mnuStopTrack_Click},
-    MenuEntryInfo{E::mnuShowStationTrack, "mnuShowStationTrack", "Show Track", "", true, mnuShowStationTrack_Click},
-    MenuEntryInfo{E::mnuHideStationTrack, "mnuHideStationTrack", "Hide Track", "", true, mnuHideStationTrack_Click},
-    MenuEntryInfo{E::mnuRemoveTrack, "mnuRemoveTrack", "Remove Track", "", false, mnuRemoveTrack_Click},
-    MenuEntryInfo{E::mnuShowRange, "mnuShowRange", "Show Signal Range", "", false, mnuShowRange_Click},
-    MenuEntryInfo{E::mnuHideRange, "mnuHideRange", "Hide Signal Range", "", false, mnuHideRange_Click},
+    MenuEntryInfo{E::mnuStartTrack, "mnuStartTrack", "Start Tracking", "", false, mnuStartTrack_Click,
+                  rules::OnUntracked},
+    MenuEntryInfo{E::mnuStopTrack, "mnuStopTrack", "Stop Tracking", "", false, mnuStopTrack_Click, rules::OnTracked},
+    MenuEntryInfo{E::mnuShowStationTrack, "mnuShowStationTrack", "Show Track", "", true, mnuShowStationTrack_Click,
+                  rules::TickTrackShown},
+    MenuEntryInfo{E::mnuHideStationTrack, "mnuHideStationTrack", "Hide Track", "", true, mnuHideStationTrack_Click,
+                  rules::TickTrackHidden},
+    MenuEntryInfo{E::mnuRemoveTrack, "mnuRemoveTrack", "Remove Track", "", false, mnuRemoveTrack_Click, rules::OnTrail},
+    MenuEntryInfo{E::mnuShowRange, "mnuShowRange", "Show Signal Range", "", false, mnuShowRange_Click, rules::OnRange},
+    MenuEntryInfo{E::mnuHideRange, "mnuHideRange", "Hide Signal Range", "", false, mnuHideRange_Click, rules::OnCircle},
     MenuEntryInfo{E::mnuRemoveStation, "mnuRemoveStation", "Delete Report", "", false, mnuRemoveStation_Click},
 
     MenuEntryInfo{E::mnuPopupToggleFilter, "mnuPopupToggleFilter", "Filter Reports", "", true,
-                  mnuPopupToggleFilter_Click},
-    MenuEntryInfo{E::mnuPopupEditFilter, "mnuPopupEditFilter", "Edit Filter", "", false, mnuPopupEditFilter_Click},
-    MenuEntryInfo{E::mnuClearReports, "mnuClearReports", "Delete Reports", "", false, mnuClearReports_Click},
+                  mnuPopupToggleFilter_Click, rules::OnChannelFilter},
+    MenuEntryInfo{E::mnuPopupEditFilter, "mnuPopupEditFilter", "Edit Filter", "", false, mnuPopupEditFilter_Click,
+                  rules::NameFilterEditor},
+    MenuEntryInfo{E::mnuClearReports, "mnuClearReports", "Delete Reports", "", false, mnuClearReports_Click,
+                  rules::NameChannelReports},
     MenuEntryInfo{E::mnuClearAllReports, "mnuClearAllReports", "Delete all Reports", "", false,
                   mnuClearAllReports_Click},
     MenuEntryInfo{E::mnupop2bar0, "mnupop2bar0", "", "", false, nullptr},
-    MenuEntryInfo{E::mnuShowAll, "mnuShowAll", "Show All Station Names", "", true, mnuShowAll_Click},
-    MenuEntryInfo{E::mnuHideAll, "mnuHideAll", "Hide All Station Names", "", true, mnuHideAll_Click},
+    MenuEntryInfo{E::mnuShowAll, "mnuShowAll", "Show All Station Names", "", true, mnuShowAll_Click,
+                  rules::TickAllNames},
+    MenuEntryInfo{E::mnuHideAll, "mnuHideAll", "Hide All Station Names", "", true, mnuHideAll_Click,
+                  rules::TickNoNames},
     MenuEntryInfo{E::mnuHideAllRangeCircles, "mnuHideAllRangeCircles", "Hide All Range Circles", "", false,
-                  mnuHideAllRangeCircles_Click},
+                  mnuHideAllRangeCircles_Click, rules::OnAnyCircle},
     MenuEntryInfo{E::mnuShowTrack, "mnuShowTrack", "Show Tracked Stations Only", "", false, mnuShowTrack_Click},
     MenuEntryInfo{E::mnuShowFolderStations, "mnuShowFolderStations", "Show Current Stations", "", true,
-                  mnuShowFolderStations_Click},
+                  mnuShowFolderStations_Click, rules::TickRootNames},
     MenuEntryInfo{E::mnuHideFolderStations, "mnuHideFolderStations", "Hide Current Stations", "", true,
-                  mnuHideFolderStations_Click},
-    MenuEntryInfo{E::mnuLoadStations, "mnuLoadStations", "Load Stations...", "", false, mnuLoadStations_Click},
-    MenuEntryInfo{E::mnuUnloadFolder, "mnuUnloadFolder", "Unload", "", false, mnuUnloadFolder_Click},
+                  mnuHideFolderStations_Click, rules::TickNoRootNames},
+    MenuEntryInfo{E::mnuLoadStations, "mnuLoadStations", "Load Stations...", "", false, mnuLoadStations_Click,
+                  rules::OnTreeLoading},
+    MenuEntryInfo{E::mnuUnloadFolder, "mnuUnloadFolder", "Unload", "", false, mnuUnloadFolder_Click, rules::NameUnload},
 
-    MenuEntryInfo{E::mnuViewMyPosition, "mnuViewMyPosition", "View Position", "", false, mnuViewMyPosition_Click},
-    MenuEntryInfo{E::mnuShowMyRange, "mnuShowMyRange", "Show Signal Range", "", false, mnuShowMyRange_Click},
-    MenuEntryInfo{E::mnuHideMyRange, "mnuHideMyRange", "Hide Signal Range", "", false, mnuHideMyRange_Click},
+    MenuEntryInfo{E::mnuViewMyPosition, "mnuViewMyPosition", "View Position", "", false, mnuViewMyPosition_Click,
+                  rules::OnMyPosition},
+    MenuEntryInfo{E::mnuShowMyRange, "mnuShowMyRange", "Show Signal Range", "", false, mnuShowMyRange_Click,
+                  rules::OnMyRange},
+    MenuEntryInfo{E::mnuHideMyRange, "mnuHideMyRange", "Hide Signal Range", "", false, mnuHideMyRange_Click,
+                  rules::OnMyCircle},
 
-    MenuEntryInfo{E::mnuTcpSort, "mnuTcpSort", "Sort in Alphabetic Order", "", false, mnuTcpSort_Click},
-    MenuEntryInfo{E::mnuShowUnknown, "mnuShowUnknown", "Catch Rejected Packets", "", true, mnuShowUnknown_Click},
+    MenuEntryInfo{E::mnuTcpSort, "mnuTcpSort", "Sort in Alphabetic Order", "", false, mnuTcpSort_Click,
+                  rules::OnSortable},
+    MenuEntryInfo{E::mnuShowUnknown, "mnuShowUnknown", "Catch Rejected Packets", "", true, mnuShowUnknown_Click,
+                  rules::TickUnknown},
 };
 
 constexpr bool StandInOrder()
@@ -171,6 +197,7 @@ const MenuEntryInfo& Info(MenuEntry entry)
 
 void RunMenuEntry(MainWindow& main, MenuEntry entry)
 {
+    main.sbStatusBar.SetNotice({}); // What the former one left to tell.
     if (const auto run = Info(entry).run)
         run(main);
 }

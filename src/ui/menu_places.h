@@ -2,17 +2,10 @@
 
 #include "ui/menus.h"
 
-#include <cstdint>
 #include <span>
+#include <string_view>
 
 namespace ruvenmark {
-
-// What the state of an entry depends on: the program and, in a pop-up menu, the node under it.
-struct MenuContext {
-    const MainWindow& main;
-    const TreeNode* node;
-};
-using StateRule = void (*)(const MenuContext&, MenuEntryState&);
 
 // The forms of a pop-up menu on a root; any other menu has one form.
 inline constexpr unsigned kNoNode = 1, kRfRoot = 2, kTcpRoot = 4, kFlRoot = 8, kLoadedRoot = 16, kOther = 32;
@@ -20,15 +13,18 @@ inline constexpr unsigned kChannelRoots = kRfRoot | kTcpRoot | kFlRoot;
 inline constexpr unsigned kAnyRoot = kChannelRoots | kLoadedRoot;
 inline constexpr unsigned kAlways = ~0U;
 
-// A row of a menu: what stands there, in which forms it shows, and how it stands now.
+// A row of a menu: what stands there, and in which forms it shows.
 struct MenuPlace {
     MenuEntry entry = MenuEntry::None;
     Menu submenu = Menu::None;
-    StateRule rule = nullptr; // None: as designed.
     unsigned forms = kAlways;
 };
-inline constexpr MenuPlace kLine{};
 
-std::span<const MenuPlace> PopupPlaces(Menu menu); // Empty for a menu that is no pop-up menu.
+struct MenuInfo {
+    Menu menu;
+    std::string_view title; // Empty for a pop-up menu.
+    std::span<const MenuPlace> places;
+};
+const MenuInfo* FindMenu(Menu menu); // Null for Menu::None.
 
 } // namespace ruvenmark

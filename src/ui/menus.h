@@ -111,23 +111,33 @@ enum class Menu : std::uint8_t {
 // In order; one without entries is left out.
 std::span<const Menu> MenuBar();
 
-// What an entry is, whatever the state of the program.
-struct MenuEntryInfo {
-    MenuEntry entry;
-    std::string_view name;     // "mnuFileNew"
-    std::string_view caption;  // As designed; "&" stands before the mnemonic.
-    std::string_view shortcut; // "Ctrl+N"; empty for none.
-    bool bCheckable;
-    void (*run)(MainWindow&); // Null for lines.
-};
-const MenuEntryInfo& Info(MenuEntry entry);
-
 struct MenuEntryState {
     std::string caption;
     bool bVisible = true;
     bool bEnabled = true;
     bool bChecked = false;
 };
+
+// What the state of an entry depends on: the program and, in a pop-up menu of the tree, the node under it.
+struct MenuContext {
+    const MainWindow& main;
+    const TreeNode* node; // Null for nothing, and everywhere else.
+};
+
+// What an entry is, wherever it stands.
+struct MenuEntryInfo {
+    MenuEntry entry;
+    std::string_view name;     // "mnuFileNew"
+    std::string_view caption;  // As designed; "&" stands before the mnemonic.
+    std::string_view shortcut; // "Ctrl+N"; empty for none.
+    bool bCheckable;
+    void (*run)(MainWindow&);                                    // Null for lines.
+    void (*rule)(const MenuContext&, MenuEntryState&) = nullptr; // None: always as designed.
+};
+const MenuEntryInfo& Info(MenuEntry entry);
+
+// How the entry stands now: the one answer for menus, pop-up menus and tool bars.
+MenuEntryState StateOf(MenuEntry entry, const MenuContext& at);
 
 // One place in a menu: an entry, a menu that opens inside, or a line (neither of them).
 struct MenuItem {
@@ -150,16 +160,5 @@ const MenuEntryState* FindState(std::span<const MenuItem> items, MenuEntry entry
 
 // Runs the entry's command, on the tree's selected node where it needs one.
 void RunMenuEntry(MainWindow& main, MenuEntry entry);
-
-// The main tool bar; txtTbCoordinates stands behind the last button.
-struct ToolButton {
-    std::string_view key;              // "New"; empty for a line.
-    std::string_view text;             // The tip and the accessible name.
-    MenuEntry entry = MenuEntry::None; // The command, and whose tick a checkable button shows.
-};
-std::span<const ToolButton> ToolBar();
-void tbToolBar_ButtonClick(MainWindow& main, std::string_view key);
-// The state of the button's entry, without a caption.
-MenuEntryState ToolButtonState(const MainWindow& main, const ToolButton& button);
 
 } // namespace ruvenmark

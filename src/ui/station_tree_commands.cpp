@@ -44,7 +44,7 @@ constexpr std::array kKindMenus = {
 std::optional<Channel> SelectedChannel(const MainWindow& main)
 {
     const TreeNode* root = SelectedRoot(main.tvStationList);
-    return root ? ChannelOfWord(root->Word()) : std::nullopt;
+    return root ? ChannelOf(*root) : std::nullopt;
 }
 
 void UnloadChannel(MainWindow& main, Channel channel)
@@ -124,20 +124,20 @@ void mnuShowUnknown_Click(MainWindow& main)
     const TreeNode* node = main.tvStationList.Selected();
     if (KindOf(node) != NodeKind::Folder || node->Word() != kUnknown)
         return;
-    if (const auto channel = ChannelOfWord(node->Parent()->Word()))
+    if (const auto channel = ChannelOf(*node))
         main.Of(*channel).bShowUnknown = !main.Of(*channel).bShowUnknown;
 }
 
 void mnuRemoveStation_Click(MainWindow& main)
 {
     const auto station = SelectedStation(main.tvStationList);
-    const auto channel = station ? ChannelOfWord(station->rootKey) : std::nullopt;
-    if (!channel)
+    if (!station || !station->channel)
         return;
+    const Channel channel = *station->channel;
     const std::string call = station->node->Text();
     const std::string folderWord = station->folder->Word();
     if (main.services.prompts.AskYesNo("Are you sure you want to delete report for " + call + "?"))
-        RemoveStation(main, *channel, call, folderWord);
+        RemoveStation(main, channel, call, folderWord);
 }
 
 void mnuClearReports_Click(MainWindow& main)
@@ -164,7 +164,7 @@ void mnuUnloadFolder_Click(MainWindow& main)
     if (!root || IsMyRoot(*root))
         return;
     const std::string key = root->Key();
-    const auto channel = ChannelOfWord(key);
+    const auto channel = ChannelOf(*root);
     if (channel && Traits(*channel).bRootAtStart)
         return;
     if (!main.services.prompts.AskYesNo("Are you sure you want to unload all " + root->Text() + " reports?"))

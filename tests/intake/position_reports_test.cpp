@@ -45,7 +45,7 @@ TEST(ReportPos, IsFiledInTreeRecordMarkerAndNote)
 TEST(ReportPos, EachChannelHasItsOwnSwitchesAndStores)
 {
     Program p;
-    SetSetting(p.main.Settings, "ShowTCPNames", "0");
+    SetSetting(p.main.Settings, Setting::ShowTCPNames, "0");
     p.main.frmImport.bFLShow = false;
     AddChannelTree(p.Tree(), Channel::FL);
     for (const Channel channel : kChannels)
@@ -101,7 +101,7 @@ TEST(ReportPos, AMapFailureLeavesTreeAndRecord)
 {
     Program p;
     SetTrackList(p.main.Of(Channel::RF), "N0CALL");
-    SetSetting(p.main.Settings, "TrackWaveFile", "/ding.wav");
+    SetSetting(p.main.Settings, Setting::TrackWaveFile, "/ding.wav");
     p.files.texts["/ding.wav"] = "RIFF";
 
     p.Position(Channel::RF, "N0CALL", 95, 11); // No such place.
@@ -111,12 +111,12 @@ TEST(ReportPos, AMapFailureLeavesTreeAndRecord)
     EXPECT_EQ(p.RecordText(Channel::RF, "N0CALL", Field::Lat), "95");
     EXPECT_EQ(p.Text("RF"), "RF reports (1)");
 
-    SetSetting(p.main.Settings, "ShowRFNames", "never"); // Fails between the marker and its symbol.
+    SetSetting(p.main.Settings, Setting::ShowRFNames, "never"); // Fails between the marker and its symbol.
     p.Position(Channel::RF, "UNTRACKED", 1, 2);
     EXPECT_EQ(p.Marker("UNTRACKED(r)")->Symbol(), kDefaultSymbol);
     EXPECT_THAT(p.Note("UNTRACKED(r)"), testing::StartsWith("RF, "));
 
-    SetSetting(p.main.Settings, "PlayTrack", "sometimes");
+    SetSetting(p.main.Settings, Setting::PlayTrack, "sometimes");
     p.Position(Channel::RF, "N0CALL", 1, 2);
     EXPECT_EQ(p.RecordText(Channel::RF, "N0CALL", Field::Lat), "1");
 }
@@ -125,7 +125,7 @@ TEST(ReportPos, SoundsForEachReportOfATrackedStation)
 {
     Program p;
     SetTrackList(p.main.Of(Channel::RF), "N0CALL");
-    SetSetting(p.main.Settings, "TrackWaveFile", "/ding.wav");
+    SetSetting(p.main.Settings, Setting::TrackWaveFile, "/ding.wav");
     p.Position(Channel::RF, "N0CALL", 1, 2);
     EXPECT_THAT(p.sound.played, IsEmpty()); // The file is not there.
     p.files.texts["/ding.wav"] = "RIFF";
@@ -134,7 +134,7 @@ TEST(ReportPos, SoundsForEachReportOfATrackedStation)
     p.Position(Channel::RF, "N1CALL", 2, 2);  // Not tracked.
     p.Position(Channel::TCP, "N0CALL", 2, 2); // Not tracked there.
     EXPECT_THAT(p.sound.played, ElementsAre("/ding.wav", "/ding.wav"));
-    SetSetting(p.main.Settings, "PlayTrack", "False");
+    SetSetting(p.main.Settings, Setting::PlayTrack, "False");
     p.Position(Channel::RF, "N0CALL", 2, 2);
     EXPECT_EQ(p.sound.played.size(), 2U);
 }
@@ -244,12 +244,12 @@ TEST_F(Movement, OnlyAMovingStationIsColoured)
     EXPECT_EQ(Color(), 255U);
     Ext({.speed = 0.005});
     EXPECT_EQ(Color(), 0U);
-    SetSetting(p.main.Settings, "MobileColor", "4");
+    SetSetting(p.main.Settings, Setting::MobileColor, "4");
     Ext({.speed = 5});
     EXPECT_EQ(Color(), 16711680U);
     Ext({.altitude = 5});
     EXPECT_EQ(Color(), 0U);
-    SetSetting(p.main.Settings, "MobileColor", "8"); // Outside the table.
+    SetSetting(p.main.Settings, Setting::MobileColor, "8"); // Outside the table.
     Ext({.speed = 5});
     EXPECT_EQ(Color(), 0U);
 }

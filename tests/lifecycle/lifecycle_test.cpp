@@ -1,4 +1,5 @@
-#include "lifecycle/lifecycle.h"
+#include "lifecycle/start.h"
+#include "lifecycle/stop.h"
 #include "links/station_files.h"
 #include "platform/text.h"
 #include "support/program.h"
@@ -23,7 +24,7 @@ struct Stored : Program {
             store.Set(key, value);
     }
     void Start() { StartMainWindow(main); }
-    bool Stop() { return StopMainWindow(main); }
+    bool Stop() { return StopMainWindow(main) != StopResult::GoesOn; }
     std::string Value(const char* key) { return store.Get(key, "(not stored)"); }
     void ChangeMap() { TheMap().AddPushpin(TheMap().GetLocation(1, 2), "pin"); }
 };
@@ -32,9 +33,9 @@ TEST(Start, TheFirstOneAsksForTheRegionAndComesUpWithDefaults)
 {
     for (const char* region : {"", "100", "0", "3", "1.5", "north"}) {
         Stored p{{"Region", region}};
-        p.dialogs.region = kRegionEurope;
+        p.dialogs.onRun[Form::frmRegion] = [](MainWindow& main) { frmRegion_Click(main.frmRegion, "Italy"); };
         p.Start();
-        EXPECT_THAT(p.dialogs.calls, ElementsAre("RunRegion")) << region;
+        EXPECT_THAT(p.dialogs.calls, ElementsAre("Run frmRegion")) << region;
         EXPECT_EQ(p.main.mpCtrl.MapRegion(), kRegionEurope);
         EXPECT_EQ(p.main.sbStatusBar.PanelText(Panel::Call), "No Call Sign");
         EXPECT_EQ(p.main.sbStatusBar.PanelText(Panel::Tnc), "TNC not connected");
@@ -42,8 +43,6 @@ TEST(Start, TheFirstOneAsksForTheRegionAndComesUpWithDefaults)
         EXPECT_EQ(p.main.window.width, 6500);
         EXPECT_TRUE(p.main.window.bLeftPane);
         EXPECT_TRUE(p.main.mpCtrl.ToolbarVisible(2) && p.main.mpCtrl.ToolbarVisible(3));
-        EXPECT_NEAR(p.main.map.HalfCircumference, 12437, 20);
-        EXPECT_EQ(p.main.map.QuarterCircumference * 2, p.main.map.HalfCircumference);
         EXPECT_TRUE(p.main.abandoned.IsEmpty());
         EXPECT_THAT(p.prompts.messages, IsEmpty());
         ASSERT_TRUE(p.Stop());
@@ -68,7 +67,7 @@ TEST(Start, TakesWhatIsStored)
              {"TrackedRFStations", " n0call  B n0call"}};
     p.Start();
     EXPECT_THAT(p.dialogs.calls, IsEmpty());
-    EXPECT_EQ(SettingText(p.main.Settings, "Dest"), ""); // Stored, so no default.
+    EXPECT_EQ(SettingText(p.main.Settings, Setting::Dest), ""); // Stored, so no default.
     EXPECT_EQ(TrackListText(p.main.Of(Channel::RF)), "N0CALL B");
     EXPECT_EQ(p.main.Of(Channel::TCP).Filter.Call, "N1*");
     EXPECT_FALSE(p.main.Of(Channel::FL).Filter.bTracked);
@@ -84,53 +83,37 @@ TEST(Start, TakesWhatIsStored)
     EXPECT_FALSE(p.main.frmTcp.bAddTCPSymbol);
 }
 
-// An early step that fails is skipped alone, and what it did not load is not saved over.
-TEST(Start, UnusableGeometryIsSkippedAndKept)
+// A value that cannot be read must cost neither the others nor itself: the operator may want to mend it.
+TEST(Start, AnUnreadableValueCountsAsItsDefaultAndStaysUntilItIsChanged)
 {
-    Stored p{{"MainLeft", "left"}, {"MainWidth", "4000"}, {"DefaultMap", "/gone.ptm"}, {"Call", "N0CALL"}};
+    Stored p{{"MainLeft", "left"},     {"MainWidth", "4000"}, {"PrimaryPort", "40000"},
+             {"rfFilterOn", "maybe"},  {"TrackLineSize", ""}, {"TrackedRFStations", "N0CALL"},
+             {"ShowTreeView", "tall"}, {"FLDelay", "1e9"},    {"tcpFilterCall", "N1CALL"}};
     p.Start();
-    EXPECT_TRUE(p.main.window.bShown) << "a program that runs without a window";
-    EXPECT_EQ(p.main.sbStatusBar.PanelText(Panel::Call), "N0CALL");
-    EXPECT_EQ(p.Text("RF"), "RF reports");
-    EXPECT_EQ(p.main.abandoned.Count(), 2U);
-    EXPECT_THAT(p.prompts.messages, IsEmpty()); // The map stands.
-    ASSERT_TRUE(p.Stop());
-    EXPECT_EQ(p.Value("MainLeft"), "left");
-    EXPECT_EQ(p.Value("MainWidth"), "4000");
-    EXPECT_EQ(p.Value("WindowSplit"), "(not stored)");
-    EXPECT_EQ(p.Value("Path"), "WIDE2-2");
-}
+    EXPECT_EQ(p.main.window.left, 1000);
+    EXPECT_EQ(p.main.window.width, 4000);
+    EXPECT_TRUE(p.main.window.bLeftPane);
+    EXPECT_EQ(p.main.frmTcp.iPrimaryPort, -1);
+    EXPECT_EQ(SettingText(p.main.Settings, Setting::TrackLineSize), "1");
+    EXPECT_EQ(p.main.Of(Channel::TCP).Filter.Call, "N1CALL");
+    EXPECT_TRUE(IsTracked(p.main.Of(Channel::RF), "N0CALL"));
+    EXPECT_EQ(p.main.window.caption, "Ruvenmark");
+    EXPECT_TRUE(p.main.abandoned.IsEmpty());
+    EXPECT_EQ(p.notices.lines.size(), 6U); // One each, though one is read twice.
+    EXPECT_THAT(p.notices.lines, testing::Contains("setting PrimaryPort: '40000' cannot be used, '-1' is taken"));
 
-// A later failure loses all steps behind it; those parts of the store stay as they were.
-TEST(Start, AnUnusableFilterFlagEndsItAndNothingUnreadIsSavedOver)
-{
-    Stored p{
-        {"rfFilterOn", "maybe"},   {"tcpFilterCall", "N1CALL"},      {"TrackedRFStations", "N0CALL"},  {"FLDelay", "7"},
-        {"ShowRFUnknown", "True"}, {"PrimaryServer", "example.net"}, {"TrackStationPosition", "False"}};
-    p.Start();
-    EXPECT_EQ(p.main.window.caption, "");
-    EXPECT_EQ(p.main.sbStatusBar.PanelText(Panel::Call), "");
-    EXPECT_TRUE(p.main.window.bStationTreeVisible);
-    EXPECT_FALSE(IsTracked(p.main.Of(Channel::RF), "N0CALL"));
-    p.Position(Channel::RF, "N0CALL", 1, 2); // Reports are taken all the same.
-    EXPECT_EQ(p.Text("RF"), "RF reports (1)");
-    p.prompts.answers = {Answer::No};
+    p.main.frmImport.iFLDelay = 20;
     ASSERT_TRUE(p.Stop());
-    EXPECT_EQ(p.Value("rfFilterOn"), "maybe");
-    EXPECT_EQ(p.Value("tcpFilterCall"), "N1CALL");
-    EXPECT_EQ(p.Value("TrackedRFStations"), "N0CALL");
-    EXPECT_EQ(p.Value("FLDelay"), "7");
-    EXPECT_EQ(p.Value("ShowRFUnknown"), "True");
-    EXPECT_EQ(p.Value("ShowTrackLine"), "(not stored)");
-    EXPECT_EQ(p.Value("PrimaryServer"), "example.net");
-    EXPECT_EQ(p.Value("TrackStationPosition"), "False");
-    EXPECT_EQ(p.Value("MobileColor"), "1"); // The settings were loaded.
+    for (const auto& [key, text] :
+         {std::pair("MainLeft", "left"), std::pair("PrimaryPort", "40000"), std::pair("rfFilterOn", "maybe"),
+          std::pair("TrackLineSize", ""), std::pair("ShowTreeView", "tall"), std::pair("FLDelay", "20")})
+        EXPECT_EQ(p.Value(key), text);
 }
 
 TEST(Start, WithoutAMapSaysSoAndReportsAreFiled)
 {
     Stored p{{"Region", "100"}, {"DefaultMap", "/gone.ptm"}};
-    p.dialogs.region = 7;
+    p.dialogs.onRun[Form::frmRegion] = [](MainWindow& main) { main.frmRegion.selectedRegion = 7; };
     p.Start();
     EXPECT_EQ(p.main.mpCtrl.ActiveMap(), nullptr);
     EXPECT_THAT(p.prompts.messages, ElementsAre("Failed to initialize MapPoint North America."));
@@ -188,7 +171,7 @@ TEST(Stop, SavesEverythingInItsOrder)
                                     std::pair("TrackLineSize", "1"), std::pair("rfTracked", "True")})
         EXPECT_EQ(p.Value(key), text) << key; // The defaults.
     EXPECT_EQ(p.files.texts["/program/ports.txt"], "14580");
-    EXPECT_TRUE(p.main.Settings.values.IsEmpty());
+    EXPECT_EQ(SettingText(p.main.Settings, Setting::Path), "");
     EXPECT_TRUE(p.main.serverLists.PortList.IsEmpty());
 
     // What is emptied at the end is not taken for the operator's choice if the stop runs once more.
@@ -220,18 +203,35 @@ TEST(Stop, ACancelLeavesEverythingRunning)
     EXPECT_EQ(p.Value("TrackedRFStations"), "N0CALL");
 }
 
-// The first failure ends the stop; the program closes all the same.
-TEST(Stop, AMapThatCannotBeSavedLosesTheSavesBehindIt)
+// The map is what the operator would miss most: without it nothing ends, as after a cancel.
+TEST(Stop, AMapThatCannotBeSavedSaysSoAndEverythingGoesOn)
 {
     Stored p{};
     p.Start();
     p.ChangeMap();
+    p.Position(Channel::RF, "N0CALL", 1, 2);
     p.main.map.sMainMapFile = "/full.ptm";
     p.files.FailWrite(1);
     p.prompts.answers = {Answer::Yes};
-    EXPECT_TRUE(p.Stop());
+    EXPECT_EQ(StopMainWindow(p.main), StopResult::GoesOn);
+    EXPECT_THAT(p.prompts.messages, ElementsAre("The map could not be saved: cannot write /full.ptm"));
     EXPECT_EQ(p.Value("Path"), "(not stored)");
-    EXPECT_EQ(p.main.abandoned.Count(), 1U);
+    EXPECT_FALSE(p.TheMap().Saved());
+    p.Position(Channel::RF, "N1CALL", 1, 2);
+    EXPECT_EQ(p.Text("RF"), "RF reports (2)");
+}
+
+// On a signal nobody is there to be asked: the map's changes are lost, the rest is kept.
+TEST(Stop, UnaskedItKeepsAllButTheMap)
+{
+    Stored p{};
+    p.Start();
+    p.ChangeMap();
+    p.dialogs.Show(Form::frmFilter, p.main);
+    EXPECT_EQ(StopMainWindow(p.main, MayAsk::No), StopResult::Stopped);
+    EXPECT_THAT(p.prompts.questions, IsEmpty());
+    EXPECT_EQ(p.Value("Path"), "WIDE2-2");
+    EXPECT_FALSE(p.dialogs.IsVisible(Form::frmFilter));
 }
 
 } // namespace

@@ -126,15 +126,13 @@ TEST_F(StationFiles, TheMenuAsksForFileAndOptions)
     EXPECT_THAT(p.prompts.fileTitles, ElementsAre("Open"));
 
     p.prompts.files = {"/day.txt", "/day.txt"};
-    p.dialogs.onImport = [](MainWindow& main) { frmImport_Cancel(main.frmImport); };
-    mnuImportStations_Click(p.main);
+    mnuImportStations_Click(p.main); // Whatever closes the dialog cancels.
     EXPECT_EQ(p.main.frmImport.iFLDelay, -1);
     EXPECT_EQ(p.Text("FL"), "(no node)");
     SaveImportSettings(p.main);
     EXPECT_EQ(p.store.Get("FLDelay", ""), "-1");
 
-    p.dialogs.onImport = [](MainWindow& main) {
-        frmImport_Load(main.frmImport);
+    p.dialogs.onRun[Form::frmImport] = [](MainWindow& main) {
         EXPECT_EQ(main.frmImport.txtDelay, "0"); // A former cancel shows as none.
         frmImport_Accept(main.frmImport);
     };

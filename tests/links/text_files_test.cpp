@@ -58,7 +58,7 @@ TEST(ServerLists, EntriesAreCutAtTheirColonAndKeepTheirPlace)
     p.main.serverLists.ServerList.Set("c:d", "c:d"); // Lives with its colon until the next start.
     p.files.texts["/program/ports.txt"] = "10152";   // An empty list leaves its file as it is.
     p.main.serverLists.ServerFilterList.Clear();
-    ASSERT_TRUE(StopMainWindow(p.main));
+    ASSERT_EQ(StopMainWindow(p.main), StopResult::Stopped);
     EXPECT_EQ(p.files.texts["/program/servers.txt"], "b.example\r\na.example\r\nc:d");
     EXPECT_EQ(p.files.texts["/program/ports.txt"], "10152");
     EXPECT_EQ(p.files.texts["/program/filters.txt"], "r/48/11/50 t/m\n");
@@ -72,7 +72,9 @@ TEST(ServerLists, AFileThatCannotBeWrittenCostsNothingElse)
     p.main.frmTcp.sPrimaryServer = "a";
     p.main.frmImport.iFLDelay = 3;
     p.files.FailWrite(1);
-    ASSERT_TRUE(StopMainWindow(p.main));
+    ASSERT_EQ(StopMainWindow(p.main), StopResult::StoppedWithLoss);
+    EXPECT_THAT(p.notices.lines,
+                ElementsAre("The lists of servers could not be saved: cannot write /program/servers.txt"));
     EXPECT_EQ(p.files.texts["/program/ports.txt"], "10152");
     EXPECT_EQ(p.store.Get("PrimaryServer", ""), "a");
     EXPECT_EQ(p.store.Get("FLDelay", ""), "3");

@@ -100,7 +100,7 @@ protected:
             balloons[pin.Name()] = pin.BalloonState();
         return balloons;
     }
-    std::string Setting(const char* key) const { return std::string(SettingText(p.main.Settings, key)); }
+    const std::string& Text(Setting setting) const { return SettingText(p.main.Settings, setting); }
 
     Program p;
 };
@@ -110,8 +110,8 @@ TEST_F(MarkerCommands, HideAllAndShowAll)
     p.main.frmImport.bFLShow = true;
     mnuHideAll_Click(p.main);
     EXPECT_THAT(Balloons(), UnorderedElementsAre(Pair("A(r)", 0), Pair("B(r)", 0), Pair("A(t)", 0), Pair("B(t)", 0)));
-    EXPECT_EQ(Setting("ShowRFNames"), "0");
-    EXPECT_EQ(Setting("ShowTCPNames"), "0");
+    EXPECT_EQ(Text(Setting::ShowRFNames), "0");
+    EXPECT_EQ(Text(Setting::ShowTCPNames), "0");
     EXPECT_EQ(p.main.tracking.NewMarkerBalloon, 0);
     EXPECT_TRUE(p.main.frmImport.bFLShow); // Left alone.
 
@@ -133,8 +133,8 @@ TEST_F(MarkerCommands, AFolderHidesItsOwnOnly)
     p.Select("RF");
     mnuHideFolderStations_Click(p.main); // 2 nodes, 4 markers.
     EXPECT_THAT(Balloons(), UnorderedElementsAre(Pair("A(r)", 0), Pair("B(r)", 0), Pair("A(t)", 1), Pair("B(t)", 1)));
-    EXPECT_EQ(Setting("ShowRFNames"), "0");
-    EXPECT_EQ(Setting("ShowTCPNames"), "1");
+    EXPECT_EQ(Text(Setting::ShowRFNames), "0");
+    EXPECT_EQ(Text(Setting::ShowTCPNames), "1");
     EXPECT_EQ(p.main.tracking.NewMarkerBalloon, 1);
 
     p.main.frmTcp.bAddTCPSymbol = false;
@@ -145,7 +145,7 @@ TEST_F(MarkerCommands, AFolderHidesItsOwnOnly)
     mnuHideFolderStations_Click(p.main); // 5 nodes, 4 markers.
     EXPECT_THAT(Balloons(), UnorderedElementsAre(Pair("A(r)", 0), Pair("B(r)", 0), Pair("A(t)", 1), Pair("B(t)", 0)));
     mnuShowFolderStations_Click(p.main);
-    EXPECT_EQ(Setting("ShowTCPNames"), "1");
+    EXPECT_EQ(Text(Setting::ShowTCPNames), "1");
     EXPECT_EQ(p.Marker("B(t)")->BalloonState(), 1);
 
     AddChannelTree(p.Tree(), Channel::FL);
@@ -154,7 +154,7 @@ TEST_F(MarkerCommands, AFolderHidesItsOwnOnly)
     EXPECT_FALSE(p.main.frmImport.bFLShow);
     p.Select("RFPositions"); // No root: nothing.
     mnuShowFolderStations_Click(p.main);
-    EXPECT_EQ(Setting("ShowRFNames"), "0");
+    EXPECT_EQ(Text(Setting::ShowRFNames), "0");
 }
 
 TEST_F(MarkerCommands, ViewPositionMakesOrMovesTheMarkerAndCentresTheMap)
@@ -203,11 +203,11 @@ TEST_F(MarkerCommands, ViewMyPositionShowsTheOwnMarker)
 {
     mnuViewMyPosition_Click(p.main); // Without a position: nothing.
     EXPECT_EQ(p.MarkerNames().size(), 4U);
-    SetSetting(p.main.Settings, "Call", "N9CALL");
-    SetSetting(p.main.Settings, "Lat", "48.5");
-    SetSetting(p.main.Settings, "Lon", "11");
+    SetSetting(p.main.Settings, Setting::Call, "N9CALL");
+    SetSetting(p.main.Settings, Setting::Lat, "48.5");
+    SetSetting(p.main.Settings, Setting::Lon, "11");
     mnuViewMyPosition_Click(p.main);
-    SetSetting(p.main.Settings, "Lat", "49");
+    SetSetting(p.main.Settings, Setting::Lat, "49");
     mnuViewMyPosition_Click(p.main);
     EXPECT_EQ(p.MarkerNames().size(), 5U);
     EXPECT_EQ(p.Marker("N9CALL")->Symbol(), kMyStationSymbol);

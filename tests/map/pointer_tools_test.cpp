@@ -54,17 +54,18 @@ TEST_F(PointerTools, ADialogClosedInTheMeantimeGetsNothing)
 {
     mnuToolsFilter_Click(program.main);
     frmFilter_PinPoint(program.main);
-    program.dialogs.bFilterVisible = false;
+    program.dialogs.Hide(Form::frmFilter);
     EXPECT_TRUE(ClickMiddle());
     EXPECT_EQ(Fields(Channel::RF).Lat, "");
     EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerDefault);
-    EXPECT_EQ(program.dialogs.calls.back(), "ComeBack") << "whatever stood aside for the click must not stay hidden";
+    EXPECT_EQ(program.dialogs.calls.back(), "ComeBack frmFilter")
+        << "whatever stood aside for the click must not stay hidden";
 }
 
 TEST_F(PointerTools, DirectionsTakeBothEnds)
 {
     RunMenuEntry(program.main, MenuEntry::mnuDirections);
-    StartPinPoint(program.main, kPinPointTo);
+    PinPointDirectionsEnd(program.main, 1);
     ClickMiddle();
     EXPECT_FALSE(program.main.map.directions[0]);
     ASSERT_TRUE(program.main.map.directions[1]);

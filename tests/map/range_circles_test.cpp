@@ -30,12 +30,12 @@ protected:
     }
     void Own(const char* lat, const char* power)
     {
-        SetSetting(p.main.Settings, "Call", "N9CALL");
-        SetSetting(p.main.Settings, "Lat", lat);
-        SetSetting(p.main.Settings, "Lon", "11");
-        SetSetting(p.main.Settings, "Power", power);
-        SetSetting(p.main.Settings, "Height", "20");
-        SetSetting(p.main.Settings, "Gain", "3");
+        SetSetting(p.main.Settings, Setting::Call, "N9CALL");
+        SetSetting(p.main.Settings, Setting::Lat, lat);
+        SetSetting(p.main.Settings, Setting::Lon, "11");
+        SetSetting(p.main.Settings, Setting::Power, power);
+        SetSetting(p.main.Settings, Setting::Height, "20");
+        SetSetting(p.main.Settings, Setting::Gain, "3");
     }
 
     Program p;

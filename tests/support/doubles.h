@@ -77,6 +77,12 @@ private:
     }
 };
 
+class RecordingNotices final : public INotices {
+public:
+    std::vector<std::string> lines;
+    void Say(std::string_view line) override { lines.emplace_back(line); }
+};
+
 // Files in memory that fail on demand.
 class MemoryFiles final : public IFiles {
 public:

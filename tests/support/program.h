@@ -1,9 +1,10 @@
 #pragma once
 
-#include "lifecycle/lifecycle.h"
 #include "core/main_window.h"
 #include "devices/report_sources.h"
 #include "intake/station_store.h"
+#include "lifecycle/start.h"
+#include "lifecycle/stop.h"
 #include "platform/settings_store.h"
 #include "support/doubles.h"
 #include "support/recording_desktop.h"
@@ -26,10 +27,22 @@ public:
     RecordingSleep sleep;
     ScriptedYield yield;
     RecordingPrompts prompts;
+    RecordingNotices notices;
     RecordingDialogs dialogs;
     RecordingDesktop desktop;
     ReportSources sources;
-    MainWindow main{Services{store, files, clock, sound, sleep, yield, prompts, dialogs, desktop, sources, "/program"}};
+    MainWindow main{Services{.store = store,
+                             .files = files,
+                             .clock = clock,
+                             .sound = sound,
+                             .sleep = sleep,
+                             .yield = yield,
+                             .prompts = prompts,
+                             .notices = notices,
+                             .dialogs = dialogs,
+                             .desktop = desktop,
+                             .sources = sources,
+                             .programFolder = "/program"}};
 
     explicit Program(bool bStart = true)
     {
@@ -43,7 +56,7 @@ public:
     {
         if (channel == Channel::FL && !main.tvStationList.Find("FL"))
             AddChannelTree(main.tvStationList, Channel::FL);
-        sources.CreateFileSource(Sink(channel))->ParseLine(line);
+        sources.CreateFile(Sink(channel))->ParseLine(line);
     }
     void Hear(std::string_view line) { Hear(Channel::FL, line); }
     IReportSink& Sink(Channel channel) { return *main.sinks[static_cast<std::size_t>(channel)]; }

@@ -1,13 +1,15 @@
 #pragma once
 
 #include "core/desktop.h"
-#include "core/dialogs.h"
+#include "core/forms.h"
 #include "map/find.h"
-#include "platform/map_model.h"
 #include "platform/text.h"
 
+#include <array>
 #include <functional>
+#include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,35 +19,33 @@ namespace ruvenmark {
 // Dialogs that note what was asked of them; the modal ones do what the test sets and close.
 class RecordingDialogs final : public IDialogs {
 public:
-    std::int32_t region = kRegionNorthAmerica;
-    std::function<void(MainWindow&)> onImport, onTrackList;
-    bool bFilterVisible = false;
-    std::vector<std::string> calls;
+    std::map<Form, std::function<void(MainWindow&)>> onRun; // Cancelled where there is nothing.
+    std::set<Form> visible;
+    std::vector<std::string> calls; // "Run frmImport"
 
-    std::int32_t RunRegion() override
+    void Run(Form form, MainWindow& main) override
     {
-        calls.emplace_back("RunRegion");
-        return region;
+        Note("Run", form);
+        if (const auto& work = onRun[form])
+            work(main);
     }
-    void RunImport(MainWindow& main) override { Run("RunImport", onImport, main); }
-    void RunTrackList(MainWindow& main) override { Run("RunTrackList", onTrackList, main); }
-    void RunAbout(MainWindow& /*main*/) override { calls.emplace_back("RunAbout"); }
-    void ShowFilter(MainWindow& /*main*/) override
+    void Show(Form form, MainWindow& /*main*/) override
     {
-        calls.emplace_back("ShowFilter");
-        bFilterVisible = true;
+        Note("Show", form);
+        visible.insert(form);
     }
-    bool IsFilterVisible() const override { return bFilterVisible; }
-    void ShowFind(MainWindow& /*main*/) override { calls.emplace_back("ShowFind"); }
-    void StandAside() override { calls.emplace_back("StandAside"); }
-    void ComeBack() override { calls.emplace_back("ComeBack"); }
+    void Hide(Form form) override { visible.erase(form); }
+    bool IsVisible(Form form) const override { return visible.contains(form); }
+    void Refresh(Form form) override { Note("Refresh", form); }
+    void StandAside(Form form) override { Note("StandAside", form); }
+    void ComeBack(Form form) override { Note("ComeBack", form); }
 
 private:
-    void Run(std::string_view name, const std::function<void(MainWindow&)>& work, MainWindow& main)
+    void Note(std::string_view what, Form form)
     {
-        calls.emplace_back(name);
-        if (work)
-            work(main);
+        constexpr std::array<std::string_view, kForms.size()> kNames = {"frmRegion", "frmImport", "frmTrackList",
+                                                                        "frmAbout",  "frmFilter", "frmFind"};
+        calls.push_back(std::string(what) + " " + std::string(kNames[Index(form)]));
     }
 };
 

@@ -89,27 +89,30 @@ TEST(FilterForm, OpensWithTheFiltersAsTheyStandButNeverOverWhatIsTyped)
 TEST(TrackListForm, TakesListsAndChoices)
 {
     Program program;
-    program.dialogs.onTrackList = [](MainWindow& main) {
+    program.dialogs.onRun[Form::frmTrackList] = [](MainWindow& main) {
         TrackListForm& form = main.frmTrackList;
         form.txtTrackList = {"n1call  N0CALL n1call N2CALL", "", " "};
         form.chkTrackLine = form.chkTrackStation = form.chkPlayWave = false;
         form.cboTLSize = 8;
         form.cboTLStyle = 3;
         form.txtTrackWaveFile = "/ding.wav";
-        frmTrackList_Track(main);
+        frmTrackList_Track(form);
     };
     mnuTrackedStations_Click(program.main);
     EXPECT_EQ(TrackListText(program.main.Of(Channel::RF)), "N1CALL N0CALL N2CALL");
     EXPECT_TRUE(program.main.Of(Channel::TCP).Tracked.IsEmpty());
     EXPECT_FALSE(program.main.tracking.bShowTrackLine);
     EXPECT_FALSE(program.main.tracking.bTrackStationPosition);
-    EXPECT_EQ(SettingText(program.main.Settings, "TrackLineSize"), "8");
-    EXPECT_EQ(SettingText(program.main.Settings, "TrackLineStyle"), "3");
-    EXPECT_EQ(SettingText(program.main.Settings, "PlayTrack"), "False");
+    EXPECT_EQ(SettingText(program.main.Settings, Setting::TrackLineSize), "8");
+    EXPECT_EQ(SettingText(program.main.Settings, Setting::TrackLineStyle), "3");
+    EXPECT_EQ(SettingText(program.main.Settings, Setting::PlayTrack), "False");
 
-    program.dialogs.onTrackList = nullptr; // Closed with nothing done: the fields show what was taken.
+    program.dialogs.onRun[Form::frmTrackList] = [](MainWindow& main) { // Cancelled: nothing typed is taken.
+        EXPECT_EQ(main.frmTrackList.txtTrackList[0], "N1CALL N0CALL N2CALL");
+        main.frmTrackList.txtTrackList[0] = "N3CALL";
+    };
     mnuTrackedStations_Click(program.main);
-    EXPECT_EQ(program.main.frmTrackList.txtTrackList[0], "N1CALL N0CALL N2CALL");
+    EXPECT_EQ(TrackListText(program.main.Of(Channel::RF)), "N1CALL N0CALL N2CALL");
     EXPECT_EQ(program.main.frmTrackList.cboTLSize, 8);
     EXPECT_FALSE(program.main.frmTrackList.chkPlayWave);
     EXPECT_EQ(program.main.frmTrackList.txtTrackWaveFile, "/ding.wav");
@@ -118,12 +121,12 @@ TEST(TrackListForm, TakesListsAndChoices)
 TEST(TrackListForm, AnUnusableSettingIsNoChoiceAndStays)
 {
     Program program;
+    program.dialogs.onRun[Form::frmTrackList] = [](MainWindow& main) { frmTrackList_Track(main.frmTrackList); };
     for (const char* value : {"9", "-3", "thick"}) {
-        SetSetting(program.main.Settings, "TrackLineSize", value);
-        frmTrackList_Load(program.main);
+        SetSetting(program.main.Settings, Setting::TrackLineSize, value);
+        mnuTrackedStations_Click(program.main);
         EXPECT_EQ(program.main.frmTrackList.cboTLSize, kNoChoice);
-        frmTrackList_Track(program.main);
-        EXPECT_EQ(SettingText(program.main.Settings, "TrackLineSize"), value);
+        EXPECT_EQ(SettingText(program.main.Settings, Setting::TrackLineSize), value);
     }
 }
 

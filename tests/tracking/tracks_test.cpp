@@ -37,7 +37,7 @@ protected:
                 lines.push_back(*shapes.At(slot));
         return lines;
     }
-    void Set(const char* key, const char* value) { SetSetting(p.main.Settings, key, value); }
+    void Set(Setting setting, const char* value) { SetSetting(p.main.Settings, setting, value); }
 
     Program p;
 };
@@ -124,8 +124,8 @@ TEST_F(Tracks, AHiddenTrailGrowsUnseenUntilItIsShown)
     }
     EXPECT_EQ(Tcp().TrackLines.Find("N0CALL")->size(), 2U);
 
-    Set("TrackLineSize", "7");
-    Set("TrackLineStyle", "3");
+    Set(Setting::TrackLineSize, "7");
+    Set(Setting::TrackLineStyle, "3");
     mnuShowStationTrack_Click(p.main);
     EXPECT_THAT(Markers(), ElementsAre("N0CALL(t)*=1", "N0CALL(t)*=1", "N0CALL(t)=1"));
     for (const ShapeData& line : Lines()) {
@@ -173,7 +173,7 @@ TEST_F(Tracks, TheMapFollowsOnlyWhereWanted)
 TEST_F(Tracks, AnUnusableLineSizeLeavesThePointAndTheReport)
 {
     At(48);
-    Set("TrackLineSize", "thick");
+    Set(Setting::TrackLineSize, "thick");
     At(49);
     EXPECT_THAT(p.MarkerNames(), ElementsAre("N0CALL(t)*", "N0CALL(t)"));
     EXPECT_EQ(p.RecordText(Channel::TCP, "N0CALL", Field::Lat), "49");
@@ -183,8 +183,8 @@ TEST_F(Tracks, AnUnusableLineSizeLeavesThePointAndTheReport)
 
 TEST_F(Tracks, StartAndStopTouchEveryNameThatHoldsTheCall)
 {
-    Set("ShowRFNames", "0");
-    Set("ShowTCPNames", "0");
+    Set(Setting::ShowRFNames, "0");
+    Set(Setting::ShowTCPNames, "0");
     for (const char* call : {"N5", "n5-7", "N6", "XN5X"})
         p.Position(Channel::RF, call, 1, 2);
     p.Position(Channel::TCP, "N5", 1, 2);
@@ -196,7 +196,7 @@ TEST_F(Tracks, StartAndStopTouchEveryNameThatHoldsTheCall)
     EXPECT_EQ(p.main.Of(Channel::RF).Tracked.Count(), 1U);
 
     // The last step wins: names of RF and TCP are hidden whatever their settings say.
-    Set("ShowRFNames", "1");
+    Set(Setting::ShowRFNames, "1");
     mnuStopTrack_Click(p.main);
     EXPECT_FALSE(p.main.Of(Channel::RF).Tracked.Contains("N5"));
     EXPECT_THAT(Markers(), ElementsAre("N5(r)=0", "n5-7(r)=0", "N6(r)=0", "XN5X(r)=0", "N5(t)=0"));
@@ -220,8 +220,8 @@ TEST_F(Tracks, ShowTrackedStationsOnly)
     p.TheMap().AddPushpin(p.TheMap().GetLocation(1, 2), " N0CALL ");
     mnuShowTrack_Click(p.main);
     EXPECT_THAT(Markers(), ElementsAre("N0CALL(t)*=1", "N0CALL(t)=1", "n0call(r)=1", "N1CALL(r)=0", " N0CALL =1"));
-    EXPECT_EQ(SettingText(p.main.Settings, "ShowRFNames"), "0");
-    EXPECT_EQ(SettingText(p.main.Settings, "ShowTCPNames"), "0");
+    EXPECT_EQ(SettingText(p.main.Settings, Setting::ShowRFNames), "0");
+    EXPECT_EQ(SettingText(p.main.Settings, Setting::ShowTCPNames), "0");
     EXPECT_FALSE(p.main.frmImport.bFLShow);
     EXPECT_EQ(p.main.tracking.NewMarkerBalloon, 1);
 }

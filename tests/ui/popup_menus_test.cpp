@@ -50,7 +50,7 @@ TEST(PopupMenus, RootsShowTheirOwnForm)
                      "Show Tracked Stations Only", "Show RF Station Names*", "Hide RF Station Names"}));
 
     program.main.Of(Channel::TCP).Filter.bOn = true;
-    SetSetting(program.main.Settings, "ShowTCPNames", "0");
+    SetSetting(program.main.Settings, Setting::ShowTCPNames, "0");
     EXPECT_EQ(Shown(RightClick(program, "TCP")),
               (Names{"Filter TCP Reports*", "Edit TCP Filter...", "Delete TCP Reports", "-Hide All Range Circles",
                      "Show Tracked Stations Only", "Show TCP Station Names", "Hide TCP Station Names*"}));
@@ -76,8 +76,8 @@ TEST(PopupMenus, NothingUnderThePointerOffersWhatIsForAll)
     EXPECT_EQ(Shown(RightClick(program, "")),
               (Names{"Delete all Reports", "Show All Station Names*", "Hide All Station Names",
                      "-Hide All Range Circles", "Show Tracked Stations Only", "Load Stations..."}));
-    SetSetting(program.main.Settings, "ShowRFNames", "0");
-    SetSetting(program.main.Settings, "ShowTCPNames", "no number");
+    SetSetting(program.main.Settings, Setting::ShowRFNames, "0");
+    SetSetting(program.main.Settings, Setting::ShowTCPNames, "no number");
     const auto captions = Shown(RightClick(program, ""));
     EXPECT_EQ(captions[1], "Show All Station Names");
     EXPECT_EQ(captions[2], "Hide All Station Names");
@@ -133,8 +133,8 @@ TEST(PopupMenus, FactsHaveNoneAndTheOwnStationsFactsHaveTheirs)
     program.Tree().Add(*program.Node("MyPosition"), "Lat", "Lat: 40");
     EXPECT_EQ(Shown(RightClick(program, "MyPositionLat")),
               (Names{"-View Position", "-Show Signal Range", "-Hide Signal Range"}));
-    SetSetting(program.main.Settings, "Lat", "40");
-    SetSetting(program.main.Settings, "Lon", "-80");
+    SetSetting(program.main.Settings, Setting::Lat, "40");
+    SetSetting(program.main.Settings, Setting::Lon, "-80");
     program.main.map.MyRange = 9.5;
     EXPECT_EQ(Shown(RightClick(program, "MyPositionLat")),
               (Names{"View Position", "Show Signal Range", "-Hide Signal Range"}));

@@ -1,3 +1,4 @@
+#include "links/import_form_rules.h"
 #include "support/program.h"
 #include "ui/call_sign_page.h"
 #include "ui/station_tree_commands.h"
@@ -115,6 +116,7 @@ TEST(StationTree, UnloadingWhileAFileLoadsEndsTheLoad)
                                       "N2CALL>APRS:!4000.00N/08000.00W>\n";
     program.prompts.files = {"/day.txt"};
     program.prompts.answers = {Answer::Yes};
+    program.dialogs.onRun[Form::frmImport] = [](MainWindow& main) { frmImport_Accept(main.frmImport); };
     program.yield.At(2, [&] {
         program.Select("FL");
         RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
@@ -146,7 +148,7 @@ TEST(StationTree, FiltersAreSwitchedAndEditedByTheirRoot)
     EXPECT_TRUE(program.main.Of(Channel::TCP).Filter.bOn);
     EXPECT_FALSE(program.main.Of(Channel::RF).Filter.bOn);
     RunMenuEntry(program.main, MenuEntry::mnuPopupEditFilter);
-    EXPECT_EQ(program.dialogs.calls, Texts{"ShowFilter"});
+    EXPECT_EQ(program.dialogs.calls, Texts{"Show frmFilter"});
     EXPECT_EQ(program.main.frmFilter.SSTab1, 1);
     program.Select("RFPositions");
     RunMenuEntry(program.main, MenuEntry::mnuPopupEditFilter);

@@ -10,21 +10,6 @@
 
 namespace ruvenmark {
 
-namespace {
-
-MenuEntryState StateOf(const MainWindow& main, MenuEntry entry)
-{
-    // This one stands only in a pop-up menu.
-    if (entry == MenuEntry::mnuHideAllRangeCircles) {
-        const auto items = MenuItems(main, Menu::mnuRootPopup);
-        if (const MenuEntryState* state = FindState(items, entry))
-            return *state;
-    }
-    return ToolButtonState(main, {{}, {}, entry});
-}
-
-} // namespace
-
 EntryToolBar::EntryToolBar(MainWindow& main, const IconSet& icons, Runner run, const QString& title, QWidget* parent)
     : QToolBar(title, parent), m_main(main), m_icons(icons), m_run(std::move(run))
 {
@@ -57,7 +42,7 @@ QAction* EntryToolBar::AddAction(const QString& iconName, const QString& text)
 void EntryToolBar::RefreshStates()
 {
     for (const auto& [entry, action] : m_entries) {
-        const MenuEntryState state = StateOf(m_main, entry);
+        const MenuEntryState state = StateOf(entry, {m_main, nullptr});
         action->setEnabled(state.bEnabled);
         if (action->isCheckable())
             action->setChecked(state.bChecked);

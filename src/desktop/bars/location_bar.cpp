@@ -1,9 +1,9 @@
 #include "desktop/bars/location_bar.h"
 
 #include "core/main_window.h"
-#include "desktop/dialogs/dialog_parts.h"
 #include "desktop/map/earth.h"
 #include "desktop/map/view_moves.h"
+#include "desktop/named_control.h"
 #include "desktop/shown_text.h"
 #include "map/directions.h"
 #include "platform/map_model.h"

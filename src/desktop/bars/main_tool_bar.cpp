@@ -1,7 +1,8 @@
 #include "desktop/bars/main_tool_bar.h"
 
-#include "desktop/dialogs/dialog_parts.h"
+#include "desktop/named_control.h"
 #include "desktop/shown_text.h"
+#include "ui/tool_bar.h"
 
 #include <QLineEdit>
 

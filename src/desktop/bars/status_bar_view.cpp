@@ -77,7 +77,8 @@ void StatusBarView::Refresh()
 {
     for (std::size_t i = 0; i < m_panels.size(); ++i)
         m_panels[i]->SetText(ForDisplay(m_model.PanelText(static_cast<Panel>(i))));
-    m_packet->SetText(ForDisplay(m_model.PacketLine()));
+    const std::string& notice = m_model.Notice();
+    m_packet->SetText(ForDisplay(notice.empty() ? m_model.PacketLine() : notice));
     m_progress->setValue(m_model.Progress());
     m_place->setCurrentWidget(m_model.IsProgressVisible() ? static_cast<QWidget*>(m_progress) : m_packet);
 }

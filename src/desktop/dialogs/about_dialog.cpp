@@ -1,7 +1,7 @@
 #include "desktop/dialogs/about_dialog.h"
 
-#include "desktop/dialogs/dialog_parts.h"
 #include "desktop/icons/icon_set.h"
+#include "desktop/named_control.h"
 #include "platform/program_name.h"
 
 #include <QHBoxLayout>
@@ -24,7 +24,7 @@ constexpr const char* kCredits = "<p>A station client for the Automatic Packet R
 
 } // namespace
 
-AboutDialog::AboutDialog(const IconSet& icons, QWidget* parent) : QDialog(parent)
+AboutDialog::AboutDialog(const IconSet& icons, QWidget* parent) : FormDialog(parent)
 {
     constexpr int kPictureSize = 64;
     setWindowTitle(QStringLiteral("About Ruvenmark"));

@@ -1,6 +1,8 @@
 #include "desktop/dialogs/find_dialog.h"
 
-#include "desktop/dialogs/dialog_parts.h"
+#include "core/main_window.h"
+#include "desktop/dialogs/dialog_buttons.h"
+#include "desktop/named_control.h"
 #include "desktop/shown_text.h"
 
 #include <QCoreApplication>
@@ -28,7 +30,7 @@ QString RowText(const FoundPlace& found)
 } // namespace
 
 FindDialog::FindDialog(MainWindow& main, const IPlaceSearch& places, QWidget* parent)
-    : QDialog(parent), m_main(main), m_places(places), m_text(new QLineEdit(this)), m_list(new QListWidget(this))
+    : FormDialog(parent), m_main(main), m_places(places), m_text(new QLineEdit(this)), m_list(new QListWidget(this))
 {
     setWindowTitle(QStringLiteral("Find"));
     auto* label = new QLabel(QStringLiteral("&Place or station"), this);
@@ -47,13 +49,15 @@ FindDialog::FindDialog(MainWindow& main, const IPlaceSearch& places, QWidget* pa
     layout->addWidget(m_list);
     layout->addLayout(buttons.row);
     resize(360, 420);
+    Bound().Bind(*m_text, main.frmFind.txtFind);
     m_text->installEventFilter(this);
     connect(m_text, &QLineEdit::textChanged, this, &FindDialog::Search);
     connect(m_list, &QListWidget::itemDoubleClicked, this, &FindDialog::accept);
 }
 
-void FindDialog::Prepare()
+void FindDialog::Refresh()
 {
+    FormDialog::Refresh();
     m_text->setFocus();
     m_text->selectAll();
     Search(); // Stations may have come and gone.
@@ -77,7 +81,7 @@ bool FindDialog::eventFilter(QObject* watched, QEvent* event)
         if (key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown)
             return QCoreApplication::sendEvent(m_list, event);
     }
-    return QDialog::eventFilter(watched, event);
+    return FormDialog::eventFilter(watched, event);
 }
 
 void FindDialog::Search()

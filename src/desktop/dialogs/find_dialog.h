@@ -1,8 +1,7 @@
 #pragma once
 
+#include "desktop/dialogs/form_dialog.h"
 #include "map/find.h"
-
-#include <QDialog>
 
 #include <vector>
 
@@ -14,12 +13,12 @@ namespace ruvenmark {
 struct MainWindow;
 
 // Finds stations, markers and places while the operator types; Enter goes to the one that is chosen.
-class FindDialog final : public QDialog {
+class FindDialog final : public FormDialog {
 public:
     FindDialog(MainWindow& main, const IPlaceSearch& places, QWidget* parent);
 
     // Ready for another text; the former one stays until it is typed over.
-    void Prepare();
+    void Refresh() override;
     void accept() override;
 
 protected:

@@ -1,9 +1,9 @@
 #include "desktop/dialogs/frm_filter_dialog.h"
 
 #include "core/main_window.h"
-#include "desktop/dialogs/bind.h"
-#include "desktop/dialogs/dialog_parts.h"
+#include "desktop/dialogs/dialog_buttons.h"
 #include "desktop/dialogs/field_check.h"
+#include "desktop/named_control.h"
 
 #include <QFormLayout>
 #include <QGroupBox>
@@ -29,7 +29,7 @@ QString ControlName(const FilterTabTexts& texts, const char* name)
 } // namespace
 
 FrmFilterDialog::FrmFilterDialog(MainWindow& main, QWidget* parent)
-    : QDialog(parent), m_main(main), m_tabs(new QTabWidget(this))
+    : FormDialog(parent), m_main(main), m_tabs(new QTabWidget(this))
 {
     setWindowTitle(QStringLiteral("Filter Settings"));
     const DialogButtons buttons = MakeDialogButtons(*this, QStringLiteral("&Save"));
@@ -42,7 +42,7 @@ FrmFilterDialog::FrmFilterDialog(MainWindow& main, QWidget* parent)
     NameControl(*m_tabs, "SSTab1", QStringLiteral("Channel"));
     for (const FilterTabTexts& texts : kFilterTabs)
         m_tabs->addTab(MakeTab(texts, *buttons.cancel), ForDisplay(texts.caption));
-    connect(m_tabs, &QTabWidget::currentChanged, this, [this](int tab) { m_main.frmFilter.SSTab1 = tab; });
+    Bound().Bind(*m_tabs, m_main.frmFilter.SSTab1);
 
     auto* foot = new QHBoxLayout;
     foot->addWidget(pinPoint);
@@ -50,22 +50,10 @@ FrmFilterDialog::FrmFilterDialog(MainWindow& main, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_tabs);
     layout->addLayout(foot);
-    setTabOrder(m_flags.back().box, pinPoint);
+    setTabOrder(m_lastField, pinPoint);
     setTabOrder(pinPoint, buttons.accept);
     setTabOrder(buttons.accept, buttons.cancel);
-    Refresh();
     resize(kWidth, sizeHint().height());
-}
-
-void FrmFilterDialog::Refresh()
-{
-    for (const BoundText& bound : m_texts)
-        bound.edit->setText(ForDisplay(*bound.field));
-    for (const BoundFlag& bound : m_flags)
-        bound.box->setChecked(*bound.field);
-    for (std::size_t i = 0; i < m_units.size(); ++i)
-        m_units[i]->setText(ForDisplay(m_main.frmFilter.unitLabels[i]));
-    m_tabs->setCurrentIndex(m_main.frmFilter.SSTab1);
 }
 
 void FrmFilterDialog::accept()
@@ -109,7 +97,7 @@ QWidget* FrmFilterDialog::MakeRangeFrame(const FilterTabTexts& texts, ReportFilt
 {
     auto* frame = new QGroupBox(ForDisplay(texts.frame), this);
     auto* unit = new QLabel(this);
-    m_units[static_cast<std::size_t>(texts.channel)] = unit;
+    Bound().Bind(*unit, m_main.frmFilter.unitLabels[static_cast<std::size_t>(texts.channel)]);
     QLineEdit* range =
         MakeNumber(texts, "txt%1Range", QStringLiteral("Distance"), {}, filter.Range, FilterField::Range, cancel);
     QLineEdit* lat = MakeNumber(texts, "txt%1Lat", QStringLiteral("Latitude"), QStringLiteral("+/-dd.dddd"), filter.Lat,
@@ -136,15 +124,16 @@ QLineEdit* FrmFilterDialog::MakeEdit(const FilterTabTexts& texts, const char* na
     NameControl(*edit, qPrintable(ControlName(texts, name)), label);
     edit->setToolTip(hint);
     edit->setAccessibleDescription(hint);
-    Bind(*edit, field);
-    m_texts.push_back({edit, &field});
+    Bound().Bind(*edit, field);
     return edit;
 }
 
 QCheckBox* FrmFilterDialog::MakeBox(const FilterTabTexts& texts, const char* name, const QString& text, bool& field)
 {
-    auto* box = MakeBoundBox(this, qPrintable(ControlName(texts, name)), text, field);
-    m_flags.push_back({box, &field});
+    auto* box = new QCheckBox(text, this);
+    NameControl(*box, qPrintable(ControlName(texts, name)), text);
+    Bound().Bind(*box, field);
+    m_lastField = box;
     return box;
 }
 

@@ -1,18 +1,12 @@
 #pragma once
 
 #include "core/channel.h"
+#include "desktop/dialogs/form_dialog.h"
 #include "tracking/filter_form_rules.h"
 
-#include <QDialog>
-
-#include <array>
 #include <vector>
 
 class QAbstractButton;
-class QCheckBox;
-class QLabel;
-class QLineEdit;
-class QTabWidget;
 
 namespace ruvenmark {
 
@@ -20,23 +14,13 @@ struct MainWindow;
 struct ReportFilter;
 
 // frmFilter: the three channels' filters, a tab each. Not modal: reports go on arriving.
-class FrmFilterDialog final : public QDialog {
+class FrmFilterDialog final : public FormDialog {
 public:
     FrmFilterDialog(MainWindow& main, QWidget* parent);
 
-    // The fields as the form has them now, with its tab in front.
-    void Refresh();
     void accept() override;
 
 private:
-    struct BoundText {
-        QLineEdit* edit;
-        std::string* field;
-    };
-    struct BoundFlag {
-        QCheckBox* box;
-        bool* field;
-    };
     struct Checked {
         Channel channel;
         FilterField field;
@@ -53,9 +37,7 @@ private:
 
     MainWindow& m_main;
     QTabWidget* m_tabs;
-    std::array<QLabel*, 3> m_units{};
-    std::vector<BoundText> m_texts;
-    std::vector<BoundFlag> m_flags;
+    QWidget* m_lastField = nullptr; // In the order of the Tab key.
     std::vector<Checked> m_checked;
 };
 

@@ -1,8 +1,8 @@
 #include "desktop/dialogs/frm_import_dialog.h"
 
-#include "desktop/dialogs/bind.h"
-#include "desktop/dialogs/dialog_parts.h"
+#include "desktop/dialogs/dialog_buttons.h"
 #include "desktop/dialogs/field_check.h"
+#include "desktop/named_control.h"
 #include "links/import_form_rules.h"
 #include "links/link_forms.h"
 #include "platform/services.h"
@@ -14,9 +14,8 @@
 namespace ruvenmark {
 
 FrmImportDialog::FrmImportDialog(ImportForm& form, IPrompts& prompts, QWidget* parent)
-    : QDialog(parent), m_form(form), m_prompts(prompts), m_delay(new QLineEdit(this))
+    : FormDialog(parent), m_form(form), m_prompts(prompts), m_delay(new QLineEdit(this))
 {
-    frmImport_Load(form);
     setWindowTitle(QStringLiteral("Load"));
     auto* add = new QCheckBox(QStringLiteral("Create &map symbol for each report"), this);
     auto* show = new QCheckBox(QStringLiteral("&Show map symbol names"), this);
@@ -35,9 +34,9 @@ FrmImportDialog::FrmImportDialog(ImportForm& form, IPrompts& prompts, QWidget* p
     layout->addLayout(buttons.row);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
-    Bind(*m_delay, form.txtDelay);
-    Bind(*add, form.chkAdd);
-    Bind(*show, form.chkShow);
+    Bound().Bind(*m_delay, form.txtDelay);
+    Bound().Bind(*add, form.chkAdd);
+    Bound().Bind(*show, form.chkShow);
     m_delay->selectAll();
     new FieldCheck(*m_delay, *buttons.cancel, [this] { return MayLeaveDelay(); });
 }
@@ -51,12 +50,6 @@ void FrmImportDialog::accept()
     }
     frmImport_Accept(m_form);
     QDialog::accept();
-}
-
-void FrmImportDialog::reject()
-{
-    frmImport_Cancel(m_form);
-    QDialog::reject();
 }
 
 bool FrmImportDialog::MayLeaveDelay()

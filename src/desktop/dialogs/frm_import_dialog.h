@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDialog>
+#include "desktop/dialogs/form_dialog.h"
 
 class QLineEdit;
 
@@ -10,12 +10,11 @@ class IPrompts;
 struct ImportForm;
 
 // frmImport: how a station file is loaded.
-class FrmImportDialog final : public QDialog {
+class FrmImportDialog final : public FormDialog {
 public:
     FrmImportDialog(ImportForm& form, IPrompts& prompts, QWidget* parent);
 
     void accept() override;
-    void reject() override;
 
 private:
     bool MayLeaveDelay();

@@ -1,7 +1,8 @@
 #include "desktop/dialogs/frm_region_dialog.h"
 
-#include "desktop/dialogs/dialog_parts.h"
+#include "desktop/named_control.h"
 #include "desktop/shown_text.h"
+#include "map/region_form.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -9,7 +10,7 @@
 
 namespace ruvenmark {
 
-FrmRegionDialog::FrmRegionDialog(QWidget* parent) : QDialog(parent)
+FrmRegionDialog::FrmRegionDialog(RegionForm& form, QWidget* parent) : FormDialog(parent)
 {
     constexpr int kColumns = 3;
     setWindowTitle(QStringLiteral("Region"));
@@ -20,8 +21,8 @@ FrmRegionDialog::FrmRegionDialog(QWidget* parent) : QDialog(parent)
     for (const RegionButton& country : kRegionButtons) {
         auto* button = new QPushButton(ForDisplay(country.caption), this);
         NameControl(*button, std::string(country.key).c_str(), button->text());
-        connect(button, &QPushButton::clicked, this, [this, key = country.key] {
-            m_selectedRegion = RegionOfButton(key, m_selectedRegion);
+        connect(button, &QPushButton::clicked, this, [this, &form, key = country.key] {
+            frmRegion_Click(form, key);
             accept();
         });
         layout->addWidget(button, 1 + place / kColumns, place % kColumns);

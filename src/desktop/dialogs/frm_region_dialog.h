@@ -1,22 +1,15 @@
 #pragma once
 
-#include "map/region_form.h"
-
-#include <QDialog>
-
-#include <cstdint>
+#include "desktop/dialogs/form_dialog.h"
 
 namespace ruvenmark {
 
+struct RegionForm;
+
 // frmRegion: the operator's country decides which region the map shows.
-class FrmRegionDialog final : public QDialog {
+class FrmRegionDialog final : public FormDialog {
 public:
-    explicit FrmRegionDialog(QWidget* parent);
-
-    std::int32_t SelectedRegion() const { return m_selectedRegion; }
-
-private:
-    std::int32_t m_selectedRegion = kFirstSelectedRegion;
+    FrmRegionDialog(RegionForm& form, QWidget* parent);
 };
 
 } // namespace ruvenmark

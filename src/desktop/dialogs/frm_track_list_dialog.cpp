@@ -1,8 +1,8 @@
 #include "desktop/dialogs/frm_track_list_dialog.h"
 
 #include "core/main_window.h"
-#include "desktop/dialogs/bind.h"
-#include "desktop/dialogs/dialog_parts.h"
+#include "desktop/dialogs/dialog_buttons.h"
+#include "desktop/named_control.h"
 #include "tracking/track_list_form_rules.h"
 
 #include <QFormLayout>
@@ -12,26 +12,10 @@
 #include <QVBoxLayout>
 
 #include <array>
-#include <span>
 
 namespace ruvenmark {
 
-namespace {
-
-QComboBox* MakeList(QWidget* parent, const char* name, const QString& label, std::span<const std::string_view> entries,
-                    std::int32_t& field)
-{
-    auto* list = new QComboBox(parent);
-    NameControl(*list, name, label);
-    for (const std::string_view entry : entries)
-        list->addItem(ForDisplay(entry));
-    Bind(*list, field);
-    return list;
-}
-
-} // namespace
-
-FrmTrackListDialog::FrmTrackListDialog(MainWindow& main, QWidget* parent) : QDialog(parent), m_main(main)
+FrmTrackListDialog::FrmTrackListDialog(MainWindow& main, QWidget* parent) : FormDialog(parent), m_main(main)
 {
     setWindowTitle(QStringLiteral("Track List"));
     auto* layout = new QVBoxLayout(this);
@@ -45,7 +29,7 @@ FrmTrackListDialog::FrmTrackListDialog(MainWindow& main, QWidget* parent) : QDia
 
 void FrmTrackListDialog::accept()
 {
-    frmTrackList_Track(m_main);
+    frmTrackList_Track(m_main.frmTrackList);
     QDialog::accept();
 }
 
@@ -59,7 +43,7 @@ void FrmTrackListDialog::AddLists(QVBoxLayout& layout)
         text.insert(text.indexOf(letter), QLatin1Char('&'));
         auto* edit = new QLineEdit(this);
         NameControl(*edit, kNames[i], text);
-        Bind(*edit, m_main.frmTrackList.txtTrackList[i]);
+        Bound().Bind(*edit, m_main.frmTrackList.txtTrackList[i]);
         auto* label = new QLabel(text, this);
         label->setBuddy(edit);
         layout.addWidget(label);
@@ -70,30 +54,49 @@ void FrmTrackListDialog::AddLists(QVBoxLayout& layout)
 void FrmTrackListDialog::AddLineFields(QVBoxLayout& layout)
 {
     TrackListForm& form = m_main.frmTrackList;
-    layout.addWidget(MakeBoundBox(this, "chkTrackStation", QStringLiteral("&Shift map"), form.chkTrackStation));
-    layout.addWidget(MakeBoundBox(this, "chkTrackLine", QStringLiteral("Show track &lines"), form.chkTrackLine));
+    layout.addWidget(MakeBox("chkTrackStation", QStringLiteral("&Shift map"), form.chkTrackStation));
+    layout.addWidget(MakeBox("chkTrackLine", QStringLiteral("Show track &lines"), form.chkTrackLine));
     auto* fields = new QFormLayout;
     const QString size = QStringLiteral("Track line si&ze");
     const QString style = QStringLiteral("Track line st&yle");
-    fields->addRow(size, MakeList(this, "cboTLSize", size, kTrackLineSizes, form.cboTLSize));
-    fields->addRow(style, MakeList(this, "cboTLStyle", style, kTrackLineStyles, form.cboTLStyle));
+    fields->addRow(size, MakeList("cboTLSize", size, kTrackLineSizes, form.cboTLSize));
+    fields->addRow(style, MakeList("cboTLStyle", style, kTrackLineStyles, form.cboTLStyle));
     layout.addLayout(fields);
+}
+
+QCheckBox* FrmTrackListDialog::MakeBox(const char* name, const QString& text, bool& field)
+{
+    auto* box = new QCheckBox(text, this);
+    NameControl(*box, name, text);
+    Bound().Bind(*box, field);
+    return box;
+}
+
+QComboBox* FrmTrackListDialog::MakeList(const char* name, const QString& label,
+                                        std::span<const std::string_view> entries, std::int32_t& field)
+{
+    auto* list = new QComboBox(this);
+    NameControl(*list, name, label);
+    for (const std::string_view entry : entries)
+        list->addItem(ForDisplay(entry));
+    Bound().Bind(*list, field);
+    return list;
 }
 
 void FrmTrackListDialog::AddSoundFields(QVBoxLayout& layout)
 {
     TrackListForm& form = m_main.frmTrackList;
     const QString text = QStringLiteral("&Play wave file for incoming reports");
-    layout.addWidget(MakeBoundBox(this, "chkPlayWave", text, form.chkPlayWave));
+    layout.addWidget(MakeBox("chkPlayWave", text, form.chkPlayWave));
     auto* file = new QLineEdit(this);
     NameControl(*file, "txtTrackWaveFile", QStringLiteral("Wave file"));
-    Bind(*file, form.txtTrackWaveFile);
+    Bound().Bind(*file, form.txtTrackWaveFile);
     auto* browse = new QPushButton(QStringLiteral("&Browse"), this);
     NameControl(*browse, "cmdBrowse", QStringLiteral("Browse for a wave file"));
     browse->setAutoDefault(false);
-    connect(browse, &QPushButton::clicked, this, [this, file] {
+    connect(browse, &QPushButton::clicked, this, [this] {
         frmTrackList_Browse(m_main);
-        file->setText(ForDisplay(m_main.frmTrackList.txtTrackWaveFile));
+        Refresh();
     });
     auto* row = new QHBoxLayout;
     row->addWidget(file);

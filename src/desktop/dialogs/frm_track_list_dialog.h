@@ -1,6 +1,10 @@
 #pragma once
 
-#include <QDialog>
+#include "desktop/dialogs/form_dialog.h"
+
+#include <cstdint>
+#include <span>
+#include <string_view>
 
 class QVBoxLayout;
 
@@ -9,7 +13,7 @@ namespace ruvenmark {
 struct MainWindow;
 
 // frmTrackList: the stations to be tracked, a list each channel, and how tracking shows and sounds.
-class FrmTrackListDialog final : public QDialog {
+class FrmTrackListDialog final : public FormDialog {
 public:
     FrmTrackListDialog(MainWindow& main, QWidget* parent);
 
@@ -19,6 +23,10 @@ private:
     void AddLists(QVBoxLayout& layout);
     void AddLineFields(QVBoxLayout& layout);
     void AddSoundFields(QVBoxLayout& layout);
+
+    QCheckBox* MakeBox(const char* name, const QString& text, bool& field);
+    QComboBox* MakeList(const char* name, const QString& label, std::span<const std::string_view> entries,
+                        std::int32_t& field);
 
     MainWindow& m_main;
 };

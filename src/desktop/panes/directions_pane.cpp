@@ -1,11 +1,11 @@
 #include "desktop/panes/directions_pane.h"
 
 #include "core/main_window.h"
-#include "desktop/dialogs/dialog_parts.h"
 #include "desktop/icons/icon_set.h"
+#include "desktop/named_control.h"
 #include "desktop/panes/copy_keys.h"
 #include "desktop/shown_text.h"
-#include "map/pointer_tools.h"
+#include "map/directions.h"
 #include "platform/text.h"
 #include "ui/menus.h"
 
@@ -23,11 +23,10 @@ struct EndTexts {
     const char* pickName;
     const char* label;
     const char* pickTip;
-    std::string_view pinPoint;
 };
 constexpr std::array<EndTexts, 2> kEndTexts = {
-    {{"txtDirectionsFrom", "PickFrom", "Fro&m", "Take the start from a click on the map", kPinPointFrom},
-     {"txtDirectionsTo", "PickTo", "T&o", "Take the end from a click on the map", kPinPointTo}}};
+    {{"txtDirectionsFrom", "PickFrom", "Fro&m", "Take the start from a click on the map"},
+     {"txtDirectionsTo", "PickTo", "T&o", "Take the end from a click on the map"}}};
 
 constexpr const char* kHint = "Call, marker, or lat, lon";
 constexpr const char* kMissing = "Name a start and an end, or pick them on the map.";
@@ -84,7 +83,7 @@ void DirectionsPane::AddEnd(QGridLayout& layout, std::size_t end)
     auto* pick = new QPushButton(this);
     NameControl(*pick, texts.pickName, QString::fromLatin1(texts.pickTip));
     pick->setToolTip(QString::fromLatin1(texts.pickTip));
-    connect(pick, &QPushButton::clicked, this, [this, &texts] { StartPinPoint(m_main, texts.pinPoint); });
+    connect(pick, &QPushButton::clicked, this, [this, end] { PinPointDirectionsEnd(m_main, end); });
     layout.addWidget(label, row, 0);
     layout.addWidget(edit, row, 1);
     layout.addWidget(pick, row, 2);

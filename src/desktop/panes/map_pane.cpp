@@ -4,6 +4,7 @@
 #include "desktop/bars/location_bar.h"
 #include "desktop/map/map_widget.h"
 #include "desktop/panes/directions_pane.h"
+#include "map/pointer_tools.h"
 
 #include <QAction>
 #include <QHBoxLayout>
@@ -127,7 +128,7 @@ void MapPane::ShowBars()
     m_drawing->setVisible(control.ToolbarVisible(3));
     m_location->setVisible(control.ToolbarVisible(4));
     m_directions->setVisible(control.ItineraryVisible());
-    m_pointer->setChecked(control.MousePointer() != kPointerCross);
+    m_pointer->setChecked(!IsPinPointing(m_main));
 }
 
 void MapPane::ObserveMap()
@@ -149,10 +150,7 @@ void MapPane::ObserveMap()
 // A click on the map is waited for no longer.
 void MapPane::TakePointerBack()
 {
-    if (m_main.mpCtrl.MousePointer() == kPointerCross) {
-        m_main.mpCtrl.SetMousePointer(m_main.map.mousePtr);
-        m_main.services.dialogs.ComeBack();
-    }
+    EndPinPoint(m_main);
     ShowBars();
 }
 

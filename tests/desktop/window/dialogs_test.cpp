@@ -1,6 +1,7 @@
+#include "desktop/adapters/qt_desktop.h"
+#include "desktop/adapters/qt_prompts.h"
 #include "desktop/map/map_widget.h"
-#include "desktop/services/qt_desktop.h"
-#include "desktop/services/qt_prompts.h"
+#include "links/import_form_rules.h"
 #include "links/station_files.h"
 #include "map/find.h"
 #include "platform/failure.h"
@@ -88,7 +89,8 @@ TEST_F(DialogsTest, ImportRefusesWhatIsNoDelayAndKeepsIt)
         program.Find<QCheckBox>("chkAdd", &dialog).click();
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
-    program.dialogs.RunImport(program.main);
+    frmImport_Load(program.main.frmImport);
+    program.dialogs.Run(Form::frmImport, program.main);
     EXPECT_EQ(program.prompts.messages, (std::vector<std::string>(3, "Enter a non negative number for delay!")));
     EXPECT_EQ(program.main.frmImport.iFLDelay, 25);
     EXPECT_FALSE(program.main.frmImport.bFLAdd);
@@ -110,7 +112,8 @@ TEST_F(DialogsTest, ImportTellsOnLeavingTheFieldButNotOnTheWayToCancel)
         EXPECT_EQ(program.prompts.messages.size(), 1U);
         QTest::keyClick(&dialog, Qt::Key_Escape);
     });
-    program.dialogs.RunImport(program.main);
+    frmImport_Load(program.main.frmImport);
+    program.dialogs.Run(Form::frmImport, program.main);
     EXPECT_EQ(program.main.frmImport.iFLDelay, -1);
 }
 
@@ -120,9 +123,12 @@ TEST_F(DialogsTest, RegionIsThatOfTheCountryAndOneWithoutAChoice)
         ExpectAccessible(dialog);
         Button(dialog, "Germany").click();
     });
-    EXPECT_EQ(program.dialogs.RunRegion(), kRegionEurope);
+    program.dialogs.Run(Form::frmRegion, program.main);
+    EXPECT_EQ(program.main.frmRegion.selectedRegion, kRegionEurope);
+    program.main.frmRegion = {};
     WhenModal([&](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    EXPECT_EQ(program.dialogs.RunRegion(), kRegionNorthAmerica);
+    program.dialogs.Run(Form::frmRegion, program.main);
+    EXPECT_EQ(program.main.frmRegion.selectedRegion, kRegionNorthAmerica);
 }
 
 TEST_F(DialogsTest, TrackListTakesTheListsOver)
@@ -143,8 +149,8 @@ TEST_F(DialogsTest, TrackListTakesTheListsOver)
     });
     mnuTrackedStations_Click(program.main);
     EXPECT_EQ(TrackListText(program.main.Of(Channel::TCP)), "DL1ABC DL2XYZ");
-    EXPECT_EQ(SettingText(program.main.Settings, "TrackLineStyle"), "3");
-    EXPECT_EQ(SettingText(program.main.Settings, "TrackWaveFile"), "/sounds/ping.wav");
+    EXPECT_EQ(SettingText(program.main.Settings, Setting::TrackLineStyle), "3");
+    EXPECT_EQ(SettingText(program.main.Settings, Setting::TrackWaveFile), "/sounds/ping.wav");
 }
 
 TEST_F(DialogsTest, FilterIsSavedInUpperCaseAndOnlyBySave)
@@ -190,7 +196,7 @@ TEST_F(DialogsTest, FilterStandsAsideForAClickOnTheMapAndComesBack)
     Type(dialog, "txtTcpName", "n0call");
     Button(dialog, "PinPoint").click();
     EXPECT_FALSE(dialog.isVisible());
-    EXPECT_TRUE(program.dialogs.IsFilterVisible());
+    EXPECT_TRUE(program.dialogs.IsVisible(Form::frmFilter));
     EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerCross);
     program.main.mpCtrl.RequireMap().SetView({40, -90}, 8);
     QTest::mouseClick(&program.window.Map(), Qt::LeftButton, {}, program.window.Map().rect().center());

@@ -1,6 +1,6 @@
 #include "desktop/main_window_view.h"
 #include "desktop/map/map_widget.h"
-#include "desktop/services/termination.h"
+#include "desktop/termination.h"
 #include "desktop/tree/tree_view.h"
 #include "map/directions.h"
 #include "ui/layout.h"

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "lifecycle/lifecycle.h"
 #include "core/main_window.h"
+#include "desktop/adapters/qt_dialogs.h"
+#include "desktop/adapters/qt_yield.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/main_window_view.h"
-#include "desktop/services/qt_dialogs.h"
-#include "desktop/services/qt_yield.h"
 #include "devices/report_sources.h"
 #include "intake/station_store.h"
+#include "lifecycle/start.h"
+#include "lifecycle/stop.h"
 #include "platform/settings_store.h"
 #include "support/doubles.h"
 #include "support/recording_desktop.h"
@@ -34,12 +35,24 @@ struct WindowProgram {
     RecordingSleep sleep;
     QtYield yield;
     RecordingPrompts prompts;
+    RecordingNotices notices;
     IconSet icons;
     FakePlaces places;
     QtDialogs dialogs{icons, places};
     RecordingDesktop desktop;
     ReportSources sources;
-    MainWindow main{Services{store, files, clock, sound, sleep, yield, prompts, dialogs, desktop, sources, "/program"}};
+    MainWindow main{Services{.store = store,
+                             .files = files,
+                             .clock = clock,
+                             .sound = sound,
+                             .sleep = sleep,
+                             .yield = yield,
+                             .prompts = prompts,
+                             .notices = notices,
+                             .dialogs = dialogs,
+                             .desktop = desktop,
+                             .sources = sources,
+                             .programFolder = "/program"}};
     MainWindowView window{main, icons, nullptr};
 
     explicit WindowProgram(bool bStart = true)

@@ -1,6 +1,4 @@
-#include "desktop/dialogs/dialog_parts.h"
-
-#include "desktop/dialogs/bind.h"
+#include "desktop/dialogs/dialog_buttons.h"
 
 #include <QDialog>
 #include <QHBoxLayout>
@@ -23,25 +21,6 @@ DialogButtons MakeDialogButtons(QDialog& dialog, const QString& acceptText)
     row->addWidget(accept);
     row->addWidget(cancel);
     return {accept, cancel, row};
-}
-
-void NameControl(QWidget& control, const char* objectName, const QString& label)
-{
-    control.setObjectName(QString::fromLatin1(objectName));
-    control.setAccessibleName(QString(label).remove(QLatin1Char('&')));
-}
-
-QCheckBox* MakeBoundBox(QWidget* parent, const char* name, const QString& text, bool& field)
-{
-    auto* box = new QCheckBox(text, parent);
-    NameControl(*box, name, text);
-    Bind(*box, field);
-    return box;
-}
-
-int CoordinatesWidth(const QWidget& field)
-{
-    return field.fontMetrics().horizontalAdvance(QStringLiteral("-88.88888, -188.88888")) + 24;
 }
 
 } // namespace ruvenmark

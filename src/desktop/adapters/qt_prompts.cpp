@@ -1,4 +1,4 @@
-#include "desktop/services/qt_prompts.h"
+#include "desktop/adapters/qt_prompts.h"
 
 #include "desktop/shown_text.h"
 

@@ -1,4 +1,4 @@
-#include "desktop/services/wave_sound.h"
+#include "desktop/adapters/wave_sound.h"
 
 #include <alsa/asoundlib.h>
 #include <memory>

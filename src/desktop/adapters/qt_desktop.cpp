@@ -1,4 +1,4 @@
-#include "desktop/services/qt_desktop.h"
+#include "desktop/adapters/qt_desktop.h"
 
 #include "desktop/map/map_widget.h"
 #include "desktop/shown_text.h"

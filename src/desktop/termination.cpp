@@ -1,4 +1,4 @@
-#include "desktop/services/termination.h"
+#include "desktop/termination.h"
 
 #include <QSocketNotifier>
 

@@ -1,4 +1,4 @@
-#include "desktop/services/qt_yield.h"
+#include "desktop/adapters/qt_yield.h"
 
 #include <QCoreApplication>
 

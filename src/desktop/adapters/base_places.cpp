@@ -1,4 +1,4 @@
-#include "desktop/services/base_places.h"
+#include "desktop/adapters/base_places.h"
 
 #include "desktop/map/base_map.h"
 #include "desktop/map/place_index.h"

@@ -1,0 +1,67 @@
+#include "core/stored_settings.h"
+
+#include "platform/numbers.h"
+#include "platform/services.h"
+#include "platform/settings_store.h"
+
+namespace ruvenmark {
+
+std::string StoredSettings::Text(Setting setting)
+{
+    const SettingInfo& info = Info(setting);
+    std::string text = m_store.Get(info.key, DefaultOf(setting));
+    if (IsReadable(info.kind, text))
+        return text;
+    const auto place = static_cast<std::size_t>(setting);
+    if (!m_unreadable[place])
+        m_notices.Say("setting " + std::string(info.key) + ": '" + text + "' cannot be used, '" + DefaultOf(setting) +
+                      "' is taken");
+    m_unreadable.set(place);
+    return DefaultOf(setting);
+}
+
+bool StoredSettings::Flag(Setting setting)
+{
+    return ToBool(Text(setting));
+}
+
+std::int16_t StoredSettings::Int16(Setting setting)
+{
+    return ToInt16(Text(setting));
+}
+
+std::int32_t StoredSettings::Int32(Setting setting)
+{
+    return ToInt32(Text(setting));
+}
+
+double StoredSettings::Number(Setting setting)
+{
+    return ToDouble(Text(setting));
+}
+
+void StoredSettings::Set(Setting setting, std::string_view text)
+{
+    const auto place = static_cast<std::size_t>(setting);
+    if (m_unreadable[place] && text == DefaultOf(setting))
+        return; // Nobody changed it: what the operator once wrote there stays for him to mend.
+    m_unreadable.reset(place);
+    m_store.Set(Info(setting).key, text);
+}
+
+void StoredSettings::SetFlag(Setting setting, bool value)
+{
+    Set(setting, BoolText(value));
+}
+
+void StoredSettings::SetWhole(Setting setting, std::int64_t value)
+{
+    Set(setting, ShortText(value));
+}
+
+bool StoredSettings::Flush()
+{
+    return m_store.Flush();
+}
+
+} // namespace ruvenmark

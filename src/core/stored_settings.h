@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/settings.h"
+
+#include <bitset>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ruvenmark {
+
+class INotices;
+class ISettingsStore;
+
+// The store as the program reads and writes it, by Setting. A stored text that its reader cannot read counts as the
+// default, is named in one notice, and stays in the store until another value is set.
+class StoredSettings {
+public:
+    // Both outlive this.
+    StoredSettings(ISettingsStore& store, INotices& notices) : m_store(store), m_notices(notices) {}
+
+    // The stored text, or the default's.
+    std::string Text(Setting setting);
+    // The setting's kind promises that these can be read.
+    bool Flag(Setting setting);
+    std::int16_t Int16(Setting setting);
+    std::int32_t Int32(Setting setting);
+    double Number(Setting setting);
+
+    void Set(Setting setting, std::string_view text);
+    void SetFlag(Setting setting, bool value);
+    void SetWhole(Setting setting, std::int64_t value);
+
+    // False where what was set cannot be kept.
+    bool Flush();
+
+private:
+    ISettingsStore& m_store;
+    INotices& m_notices;
+    std::bitset<kSettingCount> m_unreadable;
+};
+
+} // namespace ruvenmark

@@ -1,0 +1,78 @@
+#include "lifecycle/start.h"
+
+#include "core/main_window.h"
+#include "core/notices.h"
+#include "intake/station_store.h"
+#include "lifecycle/parts.h"
+#include "links/report_sinks.h"
+#include "map/map_start.h"
+#include "platform/program_name.h"
+
+#include <string>
+
+namespace ruvenmark {
+
+namespace {
+
+// Ahead of all that can fail: a file can be loaded even where the start ended early.
+void MakeSinks(MainWindow& main)
+{
+    for (const Channel channel : kChannels)
+        main.sinks[Index(channel)] = MakeReportSink(main, channel);
+}
+
+void BuildStationTree(MainWindow& main)
+{
+    AddMyStationTree(main.tvStationList);
+    for (const Channel channel : kChannels)
+        if (Traits(channel).bRootAtStart)
+            AddChannelTree(main.tvStationList, channel);
+    main.window.bStationTreeVisible = true;
+}
+
+void ShowOwnCall(MainWindow& main)
+{
+    const std::string& call = SettingText(main.Settings, Setting::Call);
+    main.sbStatusBar.SetPanel(Panel::Call, call.empty() ? "No Call Sign" : call);
+}
+
+// What the first Failure skips the rest of.
+void StartSubsystems(MainWindow& main)
+{
+    SetUpMap(main);
+    main.window.bLeftPane = main.stored.Flag(Setting::ShowTreeView);
+    BuildStationTree(main);
+    LoadPart(main, Part::Follow);
+    main.tracking.NewMarkerBalloon = 1;
+    main.sbStatusBar.SetPanel(Panel::Tnc, "TNC not connected");
+    for (const Part part :
+         {Part::ServerLists, Part::Filters, Part::UnknownFolders, Part::TrackLists, Part::FileLoad, Part::Tiles})
+        LoadPart(main, part);
+    ShowOwnCall(main);
+    main.window.caption = kProgramName;
+    main.window.Changed.Raise();
+}
+
+} // namespace
+
+void StartMainWindow(MainWindow& main)
+{
+    MakeSinks(main);
+    bool bWell = Attempt(main.abandoned, "Start, geometry", [&] { LoadPart(main, Part::Geometry); });
+    main.window.bShown = true;
+    main.window.Changed.Raise();
+    bWell &= Attempt(main.abandoned, "Start, map", [&] {
+        LoadPart(main, Part::Region);
+        main.mpCtrl.NewMap(main.map.Region);
+    });
+    bWell &= Attempt(main.abandoned, "Start, settings", [&] { LoadPart(main, Part::Settings); });
+    bWell &= AttemptAloud(main, "The map for the start could not be opened", [&] { OpenDefaultMap(main); });
+    bWell &= AttemptAloud(main, "The start ended early", [&] { StartSubsystems(main); });
+    if (!bWell && !main.mpCtrl.ActiveMap()) {
+        const bool bEurope = main.map.Region == kRegionEurope;
+        main.services.prompts.Message(bEurope ? "Failed to initialize MapPoint Europe."
+                                              : "Failed to initialize MapPoint North America.");
+    }
+}
+
+} // namespace ruvenmark

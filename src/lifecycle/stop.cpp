@@ -1,0 +1,71 @@
+#include "lifecycle/stop.h"
+
+#include "core/main_window.h"
+#include "core/notices.h"
+#include "lifecycle/parts.h"
+#include "map/documents.h"
+#include "platform/failure.h"
+
+#include <string>
+
+namespace ruvenmark {
+
+namespace {
+
+// False where the exit has to stop.
+bool SettleMap(MainWindow& main)
+{
+    try {
+        return AskToSaveMap(main);
+    } catch (const Failure& failure) {
+        main.services.prompts.Message(std::string("The map could not be saved: ") + failure.what());
+        return false;
+    }
+}
+
+void EndLinks(MainWindow& main)
+{
+    main.FileLoading = false;
+    main.aprsfl.reset();
+}
+
+void ReleaseTracks(MainWindow& main)
+{
+    for (ChannelState& state : main.channels) {
+        state.TrackMarkers.Clear();
+        state.TrackLines.Clear();
+        state.TrackVisible.Clear();
+    }
+}
+
+// True where all could be saved.
+bool SaveParts(MainWindow& main)
+{
+    bool bAll = SavePart(main, Part::Geometry);
+    ReleaseTracks(main);
+    for (const Part part : {Part::Region, Part::Follow, Part::TrackLists, Part::Filters, Part::Settings,
+                            Part::ServerLists, Part::UnknownFolders, Part::FileLoad, Part::Tiles})
+        bAll &= SavePart(main, part);
+    if (main.stored.Flush())
+        return bAll;
+    Tell(main, "The settings could not be saved");
+    return false;
+}
+
+} // namespace
+
+StopResult StopMainWindow(MainWindow& main, MayAsk mayAsk)
+{
+    if (mayAsk == MayAsk::Yes && !SettleMap(main))
+        return StopResult::GoesOn;
+    EndLinks(main);
+    for (const Form form : kForms)
+        main.services.dialogs.Hide(form);
+    const bool bAll = SaveParts(main);
+    main.Settings = {};
+    main.serverLists = {};
+    main.loaded = {}; // What was let go of cannot be saved once more.
+    return bAll ? StopResult::Stopped : StopResult::StoppedWithLoss;
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,78 @@
+#include "ui/menu_rules.h"
+
+#include "map/edit_commands.h"
+#include "map/selection.h"
+
+#include <algorithm>
+
+namespace ruvenmark::menu_rules {
+
+namespace {
+
+bool HasTracks(const ChannelState& channel)
+{
+    return !channel.TrackMarkers.IsEmpty() || !channel.TrackLines.IsEmpty();
+}
+
+} // namespace
+
+void OnMap(const MenuContext& at, MenuEntryState& state)
+{
+    state.bEnabled = at.main.mpCtrl.ActiveMap() != nullptr;
+}
+
+void OnSelection(const MenuContext& at, MenuEntryState& state)
+{
+    state.bEnabled = KindOfSelection(at.main) != SelectionKind::Nothing;
+}
+
+void OnPaste(const MenuContext& at, MenuEntryState& state)
+{
+    state.bEnabled = CanPaste(at.main);
+}
+
+void OnDirectionsText(const MenuContext& at, MenuEntryState& state)
+{
+    const auto& ends = at.main.map.directions;
+    state.bEnabled = ends[0].has_value() && ends[1].has_value();
+}
+
+void OnLoading(const MenuContext& at, MenuEntryState& state)
+{
+    if (at.main.FileLoading)
+        state.caption = "Stop File Loa&ding";
+}
+
+void OnTracks(const MenuContext& at, MenuEntryState& state)
+{
+    const auto& channels = at.main.channels;
+    state.bEnabled = std::any_of(channels.begin(), channels.end(), HasTracks);
+}
+
+void TickTiles(const MenuContext& at, MenuEntryState& state)
+{
+    state.bChecked = at.main.map.tiles.bOnline;
+}
+
+void TickTileFile(const MenuContext& at, MenuEntryState& state)
+{
+    state.bChecked = !at.main.map.tiles.source.empty();
+}
+
+void TickFollow(const MenuContext& at, MenuEntryState& state)
+{
+    state.bChecked = at.main.tracking.bTrackStationPosition;
+}
+
+void TickTrackLine(const MenuContext& at, MenuEntryState& state)
+{
+    state.bChecked = at.main.tracking.bShowTrackLine;
+}
+
+void TickDirections(const MenuContext& at, MenuEntryState& state)
+{
+    OnMap(at, state);
+    state.bChecked = at.main.mpCtrl.ItineraryVisible();
+}
+
+} // namespace ruvenmark::menu_rules
