@@ -3,9 +3,12 @@
 #include "contracts/report_source.h"
 #include "core/desktop.h"
 #include "core/forms.h"
+#include "platform/clock.h"
 #include "platform/files.h"
-#include "platform/services.h"
+#include "platform/prompts.h"
 #include "platform/settings_store.h"
+#include "platform/sound.h"
+#include "platform/waiting.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "core/stored_settings.h"
 
 #include "platform/numbers.h"
-#include "platform/services.h"
+#include "platform/prompts.h"
 #include "platform/settings_store.h"
 
 namespace ruvenmark {

@@ -14,8 +14,11 @@ constexpr std::size_t kPathCharacters = 22;
 constexpr std::size_t kCommentCharacters = 25;
 constexpr std::string_view kLineEnd = "\r\n";
 
-void AppendShortened(std::string& note, std::string_view text, std::size_t characters)
+// Text from the air is made valid before it stands beside our own.
+void AppendShortened(std::string& note, std::string_view heard, std::size_t characters)
 {
+    const std::string valid = IsUtf8(heard) ? std::string() : ShownText(heard);
+    const std::string_view text = valid.empty() ? heard : valid;
     const std::string_view shown = FirstCharacters(text, characters);
     note += shown;
     if (shown.size() < text.size())

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "platform/services.h"
+#include "platform/prompts.h"
+#include "platform/sound.h"
+#include "platform/waiting.h"
 
 #include <iosfwd>
 #include <optional>

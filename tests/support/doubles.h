@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/clock.h"
 #include "platform/failure.h"
 #include "platform/files.h"
-#include "platform/services.h"
+#include "platform/prompts.h"
+#include "platform/sound.h"
+#include "platform/waiting.h"
 
 #include <chrono>
 #include <ctime>
@@ -42,6 +45,7 @@ public:
     std::vector<std::string> messages, questions;
     std::vector<std::string> fileTitles; // Of file choices.
     std::deque<Answer> answers;
+    std::function<void()> whileAsked; // What happens while a question stands.
     std::deque<std::string> files;
 
     void Message(std::string_view text) override { messages.emplace_back(text); }
@@ -60,6 +64,8 @@ private:
     Answer Ask(std::string_view text, Answer fallback)
     {
         questions.emplace_back(text);
+        if (whileAsked)
+            whileAsked();
         if (answers.empty())
             return fallback;
         const Answer answer = answers.front();

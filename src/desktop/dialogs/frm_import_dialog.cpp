@@ -5,7 +5,7 @@
 #include "desktop/named_control.h"
 #include "links/import_form_rules.h"
 #include "links/link_forms.h"
-#include "platform/services.h"
+#include "platform/prompts.h"
 
 #include <QFormLayout>
 #include <QPushButton>

@@ -189,6 +189,33 @@ TEST(MainWindowViewTest, ASignalEndsItWithoutAsking)
     EXPECT_NE(program.store.Get("MainWidth", ""), "");
 }
 
+// Ended from outside, an open dialog is cancelled: what it would have done must not be done to a program that has
+// saved.
+TEST(MainWindowViewTest, ASignalCancelsTheDialogThatIsOpen)
+{
+    WindowProgram program;
+    program.files.texts["/log"] = ManyLines(3);
+    program.prompts.files = {"/log"};
+    program.main.frmImport.iFLDelay = 4;
+    WhenModal([&](QDialog& /*dialog*/) { program.window.CloseUnasked(); });
+    program.Action("mnuImportStations").trigger();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !program.window.isVisible(); }));
+    EXPECT_EQ(program.main.frmImport.iFLDelay, kLoadCancelled);
+    EXPECT_EQ(program.main.tvStationList.Find("FL"), nullptr);
+    EXPECT_NE(program.store.Get("MainWidth", ""), "");
+}
+
+TEST(MainWindowViewTest, ASignalEndsItWhileItAsksForTheMap)
+{
+    WindowProgram program;
+    program.Hear(Channel::RF, "N0CALL", 40, -90);
+    program.prompts.whileAsked = [&] { program.window.CloseUnasked(); };
+    EXPECT_FALSE(program.window.close());                                      // The question counts as cancelled ...
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !program.window.isVisible(); })); // ... and is not asked again.
+    EXPECT_EQ(program.prompts.questions.size(), 1U);
+    EXPECT_NE(program.store.Get("MainWidth", ""), "");
+}
+
 TEST(MainWindowViewTest, ALoadIsStoppedHalfWayByItsMenuEntry)
 {
     WindowProgram program;

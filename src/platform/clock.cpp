@@ -1,10 +1,7 @@
-#include "platform/services.h"
+#include "platform/clock.h"
 
-#include <algorithm>
 #include <array>
-#include <chrono>
 #include <ctime>
-#include <thread>
 
 namespace ruvenmark {
 
@@ -19,11 +16,6 @@ std::string_view SystemClock::LocalNowText()
         m_text.assign(text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M:%S", &local));
     }
     return m_text;
-}
-
-void SystemSleep::SleepMs(std::int32_t milliseconds)
-{
-    std::this_thread::sleep_for(std::chrono::milliseconds(std::max(milliseconds, 0)));
 }
 
 } // namespace ruvenmark

@@ -1,5 +1,5 @@
+#include "platform/clock.h"
 #include "platform/headless.h"
-#include "platform/services.h"
 #include "support/doubles.h"
 
 #include <gtest/gtest.h>

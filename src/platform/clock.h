@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ruvenmark {
+
+class IClock {
+public:
+    virtual ~IClock() = default;
+    // Local date and time as shown and stored: "2026-11-22 20:15:03".
+    virtual std::string_view LocalNowText() = 0; // Lives until the next call.
+};
+
+class SystemClock final : public IClock {
+public:
+    std::string_view LocalNowText() override;
+
+private:
+    std::int64_t m_second = -1; // What m_text was made for.
+    std::string m_text;
+};
+
+} // namespace ruvenmark
