@@ -1,5 +1,11 @@
 #include "app/packet_json.h"
 
+#include "aprs/area.h"
+#include "aprs/bearing.h"
+#include "aprs/comment_telemetry.h"
+#include "aprs/destination_device.h"
+#include "aprs/frequency.h"
+#include "aprs/messaging.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
 
@@ -11,6 +17,7 @@ using Json = nlohmann::ordered_json;
 
 constexpr int kDegreeDecimals = 6; // A tenth of a metre.
 constexpr int kValueDecimals = 2;
+constexpr int kFrequencyDecimals = 6; // A hertz.
 
 void PutText(Json& json, const char* key, std::string_view text)
 {
@@ -53,6 +60,60 @@ void PutReach(Json& json, const aprs::Reach& reach)
     PutText(json, "directivity", reach.directivity);
 }
 
+void PutFrequency(Json& json, std::string_view comment)
+{
+    const auto frequency = aprs::FindFrequency(comment);
+    if (!frequency)
+        return;
+    PutNumber(json, "frequency_mhz", frequency->megahertz, kFrequencyDecimals);
+    PutNumber(json, "tone_hz", frequency->tone);
+    PutText(json, "dcs", frequency->digitalCode);
+    PutNumber(json, "offset_mhz", frequency->offset, kFrequencyDecimals);
+}
+
+void PutBearing(Json& json, const aprs::PositionReport& report)
+{
+    if (const auto bearing = aprs::FindBearing(report)) {
+        json["bearing"] = bearing->degrees;
+        json["bearing_hits"] = bearing->hits;
+        json["bearing_range_miles"] = bearing->rangeMiles;
+        json["bearing_accuracy"] = bearing->accuracy;
+    }
+}
+
+void PutArea(Json& json, const aprs::PositionReport& report)
+{
+    if (const auto area = aprs::FindArea(report)) {
+        json["area"] = area->shape;
+        json["area_colour"] = area->colour;
+        PutNumber(json, "area_lat", area->latitude, kDegreeDecimals);
+        PutNumber(json, "area_lon", area->longitude, kDegreeDecimals);
+        if (area->width)
+            json["area_width_miles"] = *area->width;
+    }
+}
+
+template <class Values>
+Json NumberList(const Values& values)
+{
+    Json list = Json::array();
+    for (const auto& value : values)
+        list.push_back(value ? Json(*value) : Json(nullptr));
+    return list;
+}
+
+void PutCommentTelemetry(Json& json, std::string_view digits)
+{
+    if (digits.empty())
+        return;
+    const aprs::CommentTelemetry telemetry = aprs::ReadCommentTelemetry(digits);
+    PutText(json, "telemetry", digits);
+    json["telemetry_sequence"] = telemetry.sequence;
+    json["telemetry_values"] = NumberList(telemetry.values);
+    if (telemetry.bits)
+        json["telemetry_bits"] = *telemetry.bits;
+}
+
 void PutWeather(Json& json, const aprs::Weather& weather)
 {
     PutNumber(json, "wind_direction", weather.windDirection);
@@ -88,9 +149,12 @@ public:
         PutNumber(m_json, "range_miles", report.range);
         PutTime(m_json, report.time);
         PutText(m_json, "mic_e_status", report.micEStatus);
-        PutText(m_json, "device", report.device);
-        PutText(m_json, "telemetry", report.telemetry);
-        PutText(m_json, "comment", report.comment.ToString());
+        PutBearing(m_json, report);
+        PutArea(m_json, report);
+        PutCommentTelemetry(m_json, report.telemetry);
+        const std::string comment = report.comment.ToString();
+        PutFrequency(m_json, comment);
+        PutText(m_json, "comment", comment);
         if (report.weather)
             PutWeather(m_json, *report.weather);
     }
@@ -132,10 +196,7 @@ public:
     void operator()(const aprs::Telemetry& telemetry)
     {
         PutText(m_json, "sequence", telemetry.sequence);
-        Json values = Json::array();
-        for (const auto& value : telemetry.values)
-            values.push_back(value ? Json(*value) : Json(nullptr));
-        m_json["values"] = std::move(values);
+        m_json["values"] = NumberList(telemetry.values);
         PutText(m_json, "bits", telemetry.bits);
         PutText(m_json, "comment", telemetry.comment);
     }
@@ -195,6 +256,15 @@ void PutHeader(Json& json, const aprs::Header& header)
         json["path"] = ShownText(header.path);
 }
 
+// By the text of Mic-E, whose destination is part of its position, else by the destination.
+std::string_view DeviceOf(const aprs::Packet& packet)
+{
+    const auto* const report = std::get_if<aprs::PositionReport>(&packet.body);
+    if (report != nullptr && report->position.form == aprs::PositionForm::MicE)
+        return report->device;
+    return packet.IsDecoded() ? aprs::DestinationDeviceName(packet.header.dest) : std::string_view();
+}
+
 } // namespace
 
 std::string_view PacketTypeName(const aprs::Packet& packet)
@@ -202,9 +272,10 @@ std::string_view PacketTypeName(const aprs::Packet& packet)
     return std::visit(TypeName(), packet.body);
 }
 
-nlohmann::ordered_json PacketJson(const aprs::Packet& packet)
+nlohmann::ordered_json PacketJson(const aprs::Packet& packet, std::string_view stamp)
 {
     Json json;
+    PutText(json, "log", stamp);
     json["line"] = ShownText(packet.line);
     json["ok"] = packet.IsDecoded();
     if (packet.IsDecoded())
@@ -212,6 +283,9 @@ nlohmann::ordered_json PacketJson(const aprs::Packet& packet)
     PutHeader(json, packet.header);
     if (packet.relay)
         PutHeader(json["third_party"], *packet.relay);
+    PutText(json, "device", DeviceOf(packet));
+    if (aprs::TakesMessages(packet))
+        json["messaging"] = true;
     std::visit(BodyWriter(json), packet.body);
     if (!packet.IsDecoded())
         json["error"] = RefusalText(packet.refusal);

@@ -1,5 +1,7 @@
 #include "aprs/comment_extras.h"
 
+#include "aprs/comment_marks.h"
+#include "aprs/reach.h"
 #include "aprs/text.h"
 
 #include <algorithm>
@@ -122,17 +124,14 @@ void TakeMicEAltitude(Comment& comment, PositionReport& report)
     }
 }
 
-bool Holds(std::string_view text, char c)
+void TakeCommon(const CommentMarks& marks, PositionReport& report)
 {
-    return text.find(c) != std::string_view::npos;
-}
-
-void TakeCommon(std::string_view text, PositionReport& report)
-{
-    if (Holds(text, '|'))
+    if (marks.bBar)
         TakeTelemetry(report.comment, report);
-    if (Holds(text, '!'))
+    if (marks.bBang)
         TakeDao(report.comment, report);
+    if (marks.bReach && !report.reach)
+        TakeReach(report);
     report.comment.Tidy();
 }
 
@@ -142,22 +141,24 @@ void ParseComment(std::string_view text, PositionReport& report)
 {
     if (text.empty())
         return;
+    const CommentMarks marks = FindMarks(text);
     report.comment = Comment(text);
-    if (Holds(text, '='))
+    if (marks.bEquals)
         TakeAltitude(report.comment, report);
-    TakeCommon(text, report);
+    TakeCommon(marks, report);
 }
 
 void ParseMicEComment(std::string_view text, PositionReport& report)
 {
     if (text.empty())
         return;
+    const CommentMarks marks = FindMarks(text);
     report.comment = Comment(text);
-    if (Holds(text, '}'))
+    if (marks.bBrace)
         TakeMicEAltitude(report.comment, report);
-    if (Holds(text, '=') && !report.altitude)
+    if (marks.bEquals && !report.altitude)
         TakeAltitude(report.comment, report);
-    TakeCommon(text, report);
+    TakeCommon(marks, report);
 }
 
 } // namespace ruvenmark::aprs

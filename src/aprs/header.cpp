@@ -16,7 +16,6 @@ namespace ruvenmark::aprs {
 namespace {
 
 constexpr std::size_t kMaxCall = 9;
-constexpr std::size_t kMaxDestCall = 6;
 constexpr int kMaxSsid = 15;
 constexpr std::size_t kHexAddress = 32; // IPv6 of a server, an element behind the q-construct.
 
@@ -44,18 +43,18 @@ std::size_t CallLength(std::string_view text)
     return n;
 }
 
+// What servers pass: an address of up to nine in any case ("UI-VIEW"), or "TCPIP*" of senders that begin with the path.
 bool IsDestination(std::string_view dest)
 {
-    std::size_t n = 0;
-    while (n < dest.size() && (IsUpper(dest[n]) || IsDigit(dest[n])))
-        ++n;
-    if (n == 0 || n > kMaxDestCall)
-        return false;
-    if (n == dest.size())
+    if (dest == "TCPIP*" || dest == "TCPXX*")
         return true;
-    const std::string_view ssid = dest.substr(n + 1);
-    const auto number = ParseDigits(ssid);
-    return dest[n] == '-' && ssid.size() <= 2 && number && *number <= kMaxSsid;
+    if (dest.empty() || dest.size() > kMaxCall || CallLength(dest) != dest.size())
+        return false;
+    const std::size_t dash = dest.find('-');
+    if (dash == std::string_view::npos)
+        return true;
+    const std::string_view ssid = dest.substr(dash + 1);
+    return dash > 0 && !ssid.empty() && (!AllDigits(ssid) || ParseDigits(ssid).value_or(kMaxSsid + 1) <= kMaxSsid);
 }
 
 bool IsHexAddress(std::string_view element)
@@ -201,7 +200,7 @@ bool ParseQuickly(std::string_view line, Header& header, std::string_view& info)
     const auto comma = angle + 1 + static_cast<std::size_t>(std::countr_one(dest >> (angle + 1)));
     const std::string_view destText = line.substr(angle + 1, comma - angle - 1);
     const auto destPlain = static_cast<std::size_t>(std::countr_one(bits.plain >> (angle + 1)));
-    const bool bPlainDest = destPlain > 0 && destPlain == destText.size() && destPlain <= kMaxDestCall;
+    const bool bPlainDest = destPlain > 0 && destPlain == destText.size();
     if (angle == 0 || (text[comma] != ',' && text[comma] != ':') || HasTooLong(bits.call & Below(colon)) ||
         (!bPlainDest && !IsDestination(destText)) || !IsPlainPath(bits, comma, colon))
         return false;

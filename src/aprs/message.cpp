@@ -3,19 +3,30 @@
 #include "aprs/text.h"
 
 #include <algorithm>
+#include <array>
 
 namespace ruvenmark::aprs {
 
 namespace {
 
 constexpr std::size_t kAddresseeSize = 9;
+constexpr std::size_t kMinCall = 3;
 constexpr std::size_t kMaxNumber = 5;
 constexpr std::size_t kAckWord = 3;
 constexpr std::array<std::string_view, 4> kDefinitions = {"PARM.", "UNIT.", "EQNS.", "BITS."};
 
+constexpr auto kAddresseeBytes = [] {
+    std::array<bool, 256> table{};
+    for (std::size_t c = 0; c < table.size(); ++c) {
+        const char byte = static_cast<char>(c);
+        table[c] = IsAlnum(byte) || byte == ' ' || byte == '-' || byte == '_';
+    }
+    return table;
+}();
+
 bool IsAddresseeByte(char c)
 {
-    return IsAlnum(c) || c == ' ' || c == '-' || c == '_';
+    return kAddresseeBytes[static_cast<unsigned char>(c)];
 }
 
 bool AllAlnum(std::string_view text)
@@ -70,27 +81,49 @@ MessageKind KindOf(const Message& message)
     return bDefinition ? MessageKind::TelemetryDefinition : MessageKind::Text;
 }
 
+// Where the colon behind the addressee stands: behind nine bytes, or right behind a call that nobody padded.
+std::size_t AddresseeSize(std::string_view text)
+{
+    if (text.size() > kAddresseeSize && text[kAddresseeSize] == ':')
+        return kAddresseeSize;
+    const std::size_t colon = text.substr(0, kAddresseeSize).find(':');
+    const bool bCall = colon != std::string_view::npos && colon >= kMinCall &&
+                       TrimRight(text.substr(0, colon)).find(' ') == std::string_view::npos;
+    return bCall ? colon : 0;
+}
+
+// "ack" or "rej" and the number it is about; some put a number of their own behind it.
+bool TakeReply(Message& message)
+{
+    const bool bAck = message.text.starts_with("ack");
+    if (!bAck && !message.text.starts_with("rej"))
+        return false;
+    const std::string_view reply = message.text.substr(0, message.text.find('{'));
+    const std::string_view number = NumberBehindWord(reply);
+    const std::string_view tail = TrimRight(message.text.substr(reply.size()));
+    if (number.empty() || (!tail.empty() && !IsNumber(tail.substr(1))))
+        return false;
+    message.kind = bAck ? MessageKind::Acknowledgement : MessageKind::Rejection;
+    (bAck ? message.ack : message.rejected) = number;
+    message.id = tail.substr(tail.empty() ? 0 : 1);
+    message.text = {};
+    return true;
+}
+
 } // namespace
 
 Refusal ParseMessage(std::string_view text, Message& message)
 {
-    if (text.size() < kAddresseeSize + 2 || text[kAddresseeSize] != ':')
+    const std::size_t size = AddresseeSize(text);
+    if (size == 0 || text.size() < size + 2)
         return Refusal::BadMessage;
-    const std::string_view addressee = text.substr(0, kAddresseeSize);
+    const std::string_view addressee = text.substr(0, size);
     if (!std::all_of(addressee.begin(), addressee.end(), IsAddresseeByte))
         return Refusal::BadMessage;
     message.addressee = TrimRight(addressee);
-    message.text = text.substr(kAddresseeSize + 1);
-    if (message.text.starts_with("ack") || message.text.starts_with("rej")) {
-        const std::string_view number = NumberBehindWord(message.text);
-        if (!number.empty()) {
-            const bool bAck = message.text[0] == 'a';
-            message.kind = bAck ? MessageKind::Acknowledgement : MessageKind::Rejection;
-            (bAck ? message.ack : message.rejected) = number;
-            message.text = {};
-            return Refusal::None;
-        }
-    }
+    message.text = text.substr(size + 1);
+    if (TakeReply(message))
+        return Refusal::None;
     message.kind = KindOf(message);
     TakeNumber(message);
     return Refusal::None;

@@ -68,7 +68,7 @@ Refusal ParseLatitude(std::string_view dest, Latitude& latitude)
         return Refusal::BlanksMisplaced;
     latitude.degrees = digits[0] * 10 + digits[1];
     latitude.hundredths = ((digits[2] * 10 + digits[3]) * 10 + digits[4]) * 10 + digits[5];
-    return latitude.degrees < 90 && latitude.hundredths < 6000 ? Refusal::None : Refusal::PositionOutOfRange;
+    return Refusal::None;
 }
 
 std::string_view MessageText(std::string_view dest)
@@ -137,7 +137,7 @@ void ParseSpeedCourse(std::string_view body, PositionReport& report)
 
 Refusal ParseMicE(std::string_view dest, std::string_view body, PositionReport& report)
 {
-    dest = dest.substr(0, dest.find('-'));
+    dest = dest.substr(0, dest.find_first_of("-*"));
     if (dest.size() != kDestSize)
         return Refusal::BadMicEDestination;
     if (body.size() < kBodySize)
@@ -149,11 +149,11 @@ Refusal ParseMicE(std::string_view dest, std::string_view body, PositionReport& 
     Latitude latitude;
     if (const Refusal refusal = ParseLatitude(dest, latitude); refusal != Refusal::None)
         return refusal;
-    const double degrees = MiddleAngle(latitude.degrees, latitude.hundredths, latitude.blanks);
+    const auto degrees = AngleWithin(90, latitude.degrees, latitude.hundredths, latitude.blanks);
     const double longitude = ParseLongitude(body, IsHigh(dest[4]), latitude.blanks);
-    if (longitude > 180.0)
+    if (!degrees || longitude > 180.0)
         return Refusal::PositionOutOfRange;
-    report.position = {IsHigh(dest[3]) ? degrees : -degrees,
+    report.position = {IsHigh(dest[3]) ? *degrees : -*degrees,
                        IsHigh(dest[5]) ? -longitude : longitude,
                        {body[7], body[6]},
                        PositionForm::MicE,

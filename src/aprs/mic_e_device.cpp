@@ -1,5 +1,6 @@
 #include "aprs/mic_e_device.h"
 
+#include "aprs/device_table.h"
 #include "aprs/text.h"
 
 #include <array>
@@ -8,54 +9,62 @@ namespace ruvenmark::aprs {
 
 namespace {
 
-struct Device {
+struct Kenwood {
     std::string_view suffix;
     std::string_view name;
 };
 
 // Radios with one byte in front and at most one behind. The empty suffix stands last: it fits all.
-constexpr std::array<Device, 4> kHandhelds = {
+constexpr std::array<Kenwood, 4> kHandhelds = {
     {{"=", "Kenwood TH-D72"}, {"^", "Kenwood TH-D74"}, {"&", "Kenwood TH-D75"}, {"", "Kenwood TH-D7A"}}};
-constexpr std::array<Device, 2> kMobiles = {{{"=", "Kenwood TM-D710"}, {"", "Kenwood TM-D700"}}};
+constexpr std::array<Kenwood, 2> kMobiles = {{{"=", "Kenwood TM-D710"}, {"", "Kenwood TM-D700"}}};
 
-// Two bytes at the end, behind a grave accent or an apostrophe in front.
-constexpr std::array<Device, 25> kOthers = {{{"_ ", "Yaesu VX-8"},
-                                             {"_\"", "Yaesu FTM-350"},
-                                             {"_#", "Yaesu VX-8G"},
-                                             {"_$", "Yaesu FT1D"},
-                                             {"_%", "Yaesu FTM-400DR"},
-                                             {"_)", "Yaesu FTM-100D"},
-                                             {"_(", "Yaesu FT2D"},
-                                             {"_0", "Yaesu FT3D"},
-                                             {"_1", "Yaesu FTM-300D"},
-                                             {"_2", "Yaesu FTM-200D"},
-                                             {"_3", "Yaesu FT5D"},
-                                             {"_4", "Yaesu FTM-500D"},
-                                             {"_5", "Yaesu FTM-510D"},
-                                             {" X", "SainSonic AP510"},
-                                             {"(5", "Anytone D578UV"},
-                                             {"(8", "Anytone D878UV"},
-                                             {"|3", "Byonics TinyTrak3"},
-                                             {"|4", "Byonics TinyTrak4"},
-                                             {"^v", "HinzTec anyfrog"},
-                                             {"*v", "KissOZ Tracker"},
-                                             {":4", "SCS P4dragon DR-7400"},
-                                             {":8", "SCS P4dragon DR-7800"},
-                                             {":2", "SQ8L VP-Tracker"},
-                                             {"\\v", "Hamhud"},
-                                             {"/9", "Argent"}}};
+constexpr std::size_t kSuffixSize = 2;
+constexpr std::string_view kBlankSuffix = "_ "; // Its blank is lost where lines are trimmed.
+
+// Unused memory of the radio behind its text.
+std::string_view WithoutPadding(std::string_view text)
+{
+    while (!text.empty() && (text.back() == '\xff' || IsBlank(text.back())))
+        text.remove_suffix(1);
+    return text;
+}
 
 template <std::size_t size>
-std::string_view TakeSuffix(std::string_view text, const std::array<Device, size>& devices, std::string_view& name)
+std::string_view TakeKenwood(std::string_view text, const std::array<Kenwood, size>& devices, std::string_view& name)
 {
-    for (const Device& device : devices) {
+    text = WithoutPadding(text);
+    for (const Kenwood& device : devices) {
         if (text.ends_with(device.suffix)) {
             name = device.name;
             text.remove_suffix(device.suffix.size());
             break;
         }
     }
-    return text;
+    return WithoutPadding(text);
+}
+
+std::string_view SuffixName(std::string_view suffix)
+{
+    for (const MicEDevice& device : MicEDevices())
+        if (device.first == suffix[0] && device.last == suffix[1])
+            return device.name;
+    return {};
+}
+
+// Two bytes at the end, behind a grave accent or an apostrophe in front.
+std::string_view TakeOther(std::string_view text, std::string_view& name)
+{
+    const std::string_view trimmed = TrimRight(text);
+    if (trimmed.size() >= kSuffixSize) {
+        name = SuffixName(trimmed.substr(trimmed.size() - kSuffixSize));
+        if (!name.empty())
+            return trimmed.substr(0, trimmed.size() - kSuffixSize);
+    }
+    if (!trimmed.ends_with(kBlankSuffix.front()))
+        return text;
+    name = SuffixName(kBlankSuffix);
+    return trimmed.substr(0, trimmed.size() - 1);
 }
 
 } // namespace
@@ -67,12 +76,12 @@ std::string_view TakeDevice(std::string_view text, std::string_view& device)
     const std::string_view body = text.substr(1);
     switch (text.front()) {
     case '>':
-        return TakeSuffix(body, kHandhelds, device);
+        return TakeKenwood(body, kHandhelds, device);
     case ']':
-        return TakeSuffix(body, kMobiles, device);
+        return TakeKenwood(body, kMobiles, device);
     case '`':
     case '\'':
-        return TakeSuffix(body, kOthers, device);
+        return TakeOther(body, device);
     default:
         return text;
     }

@@ -63,7 +63,7 @@ std::optional<double> ParseAngle(std::string_view text, std::string_view side, c
     const auto degrees = ParseDigits(text.substr(0, point - 2));
     const auto minutes = ParseNumber(text.substr(point - 2));
     const char sign = ToUpper(side[0]);
-    if (!degrees || !minutes || !IsDigit(text[point - 2]) || *minutes >= 60.0 || (sign != positive && sign != negative))
+    if (!degrees || !minutes || !IsDigit(text[point - 2]) || *minutes > 60.0 || (sign != positive && sign != negative))
         return std::nullopt;
     const double angle = *degrees + *minutes / 60.0;
     if (angle > limit)

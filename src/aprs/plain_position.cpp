@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kMaxBlanks = 4;
 constexpr int kHundredthsPerDegree = 6000;
+constexpr std::array<int, 5> kHalfBox = {0, 5, 50, 500, 3000}; // By the number of blanks.
 
 // The four digits of "MM.hh" with `blanks` of them (from the right) taken as 0; -1 where others are no digits.
 int Hundredths(const char* minutes, int blanks)
@@ -64,9 +65,15 @@ bool IsSymbolCode(char c)
 
 double MiddleAngle(int degrees, int hundredths, int blanks)
 {
-    constexpr std::array<int, 5> kHalfBox = {0, 5, 50, 500, 3000};
     const int total = degrees * kHundredthsPerDegree + hundredths + kHalfBox[static_cast<std::size_t>(blanks)];
     return total / static_cast<double>(kHundredthsPerDegree);
+}
+
+std::optional<double> AngleWithin(int limit, int degrees, int hundredths, int blanks)
+{
+    const double angle = MiddleAngle(degrees, hundredths, blanks);
+    const bool bMinutes = hundredths + kHalfBox[static_cast<std::size_t>(blanks)] <= kHundredthsPerDegree;
+    return bMinutes && angle <= limit ? std::optional(angle) : std::nullopt;
 }
 
 namespace {
@@ -123,13 +130,14 @@ Refusal ParsePlainPosition(std::string_view text, Position& position)
         return HasBlank(text.substr(2, 5)) || HasBlank(text.substr(12, 5)) ? Refusal::BlanksMisplaced
                                                                            : Refusal::BadPosition;
     }
-    if (*latDegrees > 89 || *lonDegrees > 179 || latHundredths >= kHundredthsPerDegree ||
-        lonHundredths >= kHundredthsPerDegree)
+    const auto latitude = AngleWithin(90, *latDegrees, latHundredths, blanks);
+    const auto longitude = AngleWithin(180, *lonDegrees, lonHundredths, blanks);
+    if (!latitude || !longitude)
         return Refusal::PositionOutOfRange;
     if (!IsSymbolTable(text[8]))
         return Refusal::BadSymbolTable;
-    position.latitude = north * MiddleAngle(*latDegrees, latHundredths, blanks);
-    position.longitude = east * MiddleAngle(*lonDegrees, lonHundredths, blanks);
+    position.latitude = north * *latitude;
+    position.longitude = east * *longitude;
     position.symbol = {text[8], text[18]};
     position.ambiguity = static_cast<std::uint8_t>(blanks);
     return Refusal::None;

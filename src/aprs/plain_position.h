@@ -19,4 +19,8 @@ Refusal ParsePlainPosition(std::string_view text, Position& position);
 // what is left open.
 double MiddleAngle(int degrees, int hundredths, int blanks);
 
+// The same where it lies within the limit (90 or 180 degrees, itself included) and has up to 60.00 minutes: trackers
+// that round write 60.00 for the next degree.
+std::optional<double> AngleWithin(int limit, int degrees, int hundredths, int blanks);
+
 } // namespace ruvenmark::aprs

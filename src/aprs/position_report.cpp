@@ -13,6 +13,13 @@ namespace ruvenmark::aprs {
 namespace {
 
 constexpr char kWeatherStation = '_';
+constexpr std::string_view kNoWind = ".../...g";
+
+// Whether weather may follow: the symbol says so, or, of gateways and trackers with sensors, a wind that is not known.
+bool MayTellWeather(char code, std::string_view text)
+{
+    return code == kWeatherStation || text.starts_with(kNoWind);
+}
 
 // Whether a weather station's text is weather; the values, and its comment, are then taken from it.
 bool TakeWeather(std::string_view text, PositionReport& report)
@@ -29,6 +36,13 @@ bool TakeWeather(std::string_view text, PositionReport& report)
     }
     ParseComment(rest, report);
     return true;
+}
+
+// Whether a plain position stands where its time should. A compressed one might be any text.
+bool LeavesTimeOut(std::string_view text)
+{
+    Position position;
+    return ParsePlainPosition(text, position) == Refusal::None;
 }
 
 // Six figures, known or not, and the letter that tells their kind, right or wrong.
@@ -58,7 +72,7 @@ Refusal ParsePositionReport(std::string_view text, PositionReport& report)
     } else {
         return Refusal::BadPosition;
     }
-    if (report.position.symbol.code == kWeatherStation && TakeWeather(rest, report))
+    if (MayTellWeather(report.position.symbol.code, rest) && TakeWeather(rest, report))
         return Refusal::None;
     ParseComment(ParseExtension(rest, report), report);
     return Refusal::None;
@@ -69,6 +83,10 @@ Refusal ParseTimedPosition(std::string_view text, PositionReport& report)
     if (text.size() <= kTimeSize)
         return Refusal::PositionTooShort;
     report.time = ParseTime(text.substr(0, kTimeSize));
+    if (report.time.IsBad() && LeavesTimeOut(text)) {
+        report.time = {};
+        return ParsePositionReport(text, report);
+    }
     if (report.time.IsBad() && !IsDigit(text[kTimeSize]) && !LooksLikeTime(report.time.text))
         return Refusal::BadPosition; // No time at all: what stands there only by chance reads as compressed.
     return ParsePositionReport(text.substr(kTimeSize), report);

@@ -10,7 +10,8 @@ namespace ruvenmark::aprs {
 // extension, weather, comment.
 Refusal ParsePositionReport(std::string_view text, PositionReport& report);
 
-// The same with a time in front; a time that makes no sense costs nothing but itself.
+// The same with a time in front; a time that makes no sense costs nothing but itself, and one that is missing in front
+// of a plain position nothing at all.
 Refusal ParseTimedPosition(std::string_view text, PositionReport& report);
 
 } // namespace ruvenmark::aprs

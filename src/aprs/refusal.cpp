@@ -30,6 +30,7 @@ constexpr std::array<std::string_view, kRefusalCount> kTexts = {
     "bad telemetry",
     "telemetry value out of range",
     "bad weather report",
+    "weather value that no station can measure",
     "raw weather data without units",
     "bad grid locator",
     "bad NMEA sentence",

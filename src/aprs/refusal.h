@@ -31,6 +31,7 @@ enum class Refusal : std::uint8_t {
     BadTelemetry,
     TelemetryOutOfRange,
     BadWeather,
+    WeatherOutOfRange,
     RawWeather,
     BadGrid,
     BadNmea,

@@ -9,13 +9,18 @@ namespace ruvenmark::aprs {
 
 namespace {
 
-// Size of a locator in front that a symbol and then a blank or the end follow; words that begin like one have neither.
+constexpr std::size_t kSubsquareSize = 6;
+
+// Size of a locator in front that a symbol follows; words that begin like one have none. Text may stand right behind
+// the symbol of a full locator, where no capital could be a word's; else a blank or the end must.
 std::size_t StatusLocatorSize(std::string_view text)
 {
     const std::size_t size = LocatorSize(text);
     if (size == 0 || text.size() < size + 2 || !IsSymbolTable(text[size]) || !IsSymbolCode(text[size + 1]))
         return 0;
-    return text.size() == size + 2 || text[size + 2] == ' ' ? size : 0;
+    const bool bSlash = text[size] == '/' || text[size] == '\\';
+    const bool bPlain = size == kSubsquareSize && (bSlash || IsLower(text[size - 1]));
+    return bPlain || text.size() == size + 2 || text[size + 2] == ' ' ? size : 0;
 }
 
 } // namespace

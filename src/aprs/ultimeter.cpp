@@ -72,6 +72,28 @@ std::optional<double> Humidity(std::optional<int> value)
 constexpr double kTenth = 0.1;
 constexpr double kHundredth = 0.01;
 
+// No station on earth measures more; figures beyond are other text that reads as hex.
+constexpr double kMaxWind = 310;             // Miles an hour: the strongest wind in any tornado was about 300.
+constexpr double kMinTemperature = -150;     // Degrees Fahrenheit: the coldest day ever had -128.6.
+constexpr double kMaxTemperature = 200;      // The hottest had 134; a sensor in the sun on a roof may show 180.
+constexpr double kMinStationPressure = 300;  // Millibar: the highest mountain has 337.
+constexpr double kMaxStationPressure = 1150; // The highest ever was 1084, on a mine's ground some more.
+constexpr double kMaxRain = 100;             // Inches: the wettest day ever had 72.
+
+bool IsWithin(const std::optional<double>& value, double low, double high)
+{
+    return !value || (*value >= low && *value <= high);
+}
+
+Refusal CheckValues(const Weather& weather, const std::optional<double>& rainToday)
+{
+    const bool bMeasurable = IsWithin(rainToday, 0, kMaxRain) && IsWithin(weather.windSpeed, 0, kMaxWind) &&
+                             IsWithin(weather.gust, 0, kMaxWind) &&
+                             IsWithin(weather.temperature, kMinTemperature, kMaxTemperature) &&
+                             IsWithin(weather.pressure, kMinStationPressure, kMaxStationPressure);
+    return bMeasurable ? Refusal::None : Refusal::WeatherOutOfRange;
+}
+
 } // namespace
 
 Refusal ParseUltimeterPacket(std::string_view packet, WeatherReport& report)
@@ -89,7 +111,7 @@ Refusal ParseUltimeterPacket(std::string_view packet, WeatherReport& report)
     weather.rainMidnight = Scaled(values[11] ? values[11] : values[3], kHundredth);
     weather.windSpeed = Scaled(values[12], kTenth * kMphPerKmh);
     report.comment = Trim(groups.rest);
-    return Refusal::None;
+    return CheckValues(weather, Scaled(values[11], kHundredth));
 }
 
 Refusal ParseUltimeterLogging(std::string_view logging, WeatherReport& report)
@@ -106,7 +128,7 @@ Refusal ParseUltimeterLogging(std::string_view logging, WeatherReport& report)
     weather.rainMidnight = Scaled(values[10] ? values[10] : values[3], kHundredth);
     weather.windSpeed = Scaled(values[11] ? values[11] : values[0], kTenth * kMphPerKmh);
     report.comment = Trim(groups.rest);
-    return Refusal::None;
+    return CheckValues(weather, Scaled(values[10], kHundredth));
 }
 
 } // namespace ruvenmark::aprs

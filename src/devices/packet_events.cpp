@@ -99,8 +99,6 @@ private:
 
 std::string_view EventRaiser::WordOf(const aprs::PositionReport& report) const
 {
-    if (report.weather)
-        return kWeather;
     if (report.position.form == aprs::PositionForm::Nmea && !aprs::DestinationSymbol(m_header.dest)) {
         const auto symbol = aprs::SsidSymbol(m_header.source);
         return symbol ? SymbolWord(*symbol) : SymbolWord({'/', ')'});

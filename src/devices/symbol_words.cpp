@@ -40,27 +40,40 @@ constexpr auto kPrimary = MakeTable(std::to_array<Entry>({
     {'@', "Hurricane"},  {'A', "FirstAid"},   {'C', "Ship"},       {'F', "Truck"},      {'P', "Car"},
     {'Q', "Earthquake"}, {'X', "Plane"},      {'^', "Plane"},      {'g', "Plane"},      {']', "PostOffice"},
     {'`', "Antenna"},    {'a', "FirstAid"},   {'c', "Races"},      {'f', "Truck"},      {'h', "FirstAid"},
-    {'m', "Antenna"},    {'n', "Digi"},       {'o', "Races"},      {'t', "GasStation"},
+    {'m', "Antenna"},    {'n', "Digi"},       {'o', "Races"},      {'t', "GasStation"}, {'%', "TCP"},
+    {'(', "Antenna"},    {':', "Explosion"},  {'=', "Bus"},        {'B', "TCP"},        {'G', "Circle"},
+    {'K', "House"},      {'L', "TCP"},        {'M', "TCP"},        {'T', "Eye"},        {'V', "Antenna"},
+    {'Z', "TCP"},        {'d', "FirstAid"},   {'e', "Jogger"},     {'i', "Circle"},     {'l', "TCP"},
+    {'p', "Car"},        {'q', "Circle"},     {'w', "FirstAid"},   {'x', "TCP"},        {'z', "House"},
 }));
 
 constexpr auto kAlternate = MakeTable(std::to_array<Entry>({
-    {'^', "Plane"},     {'S', "Shuttle"},    {'`', "Rain"},       {'*', "Snow"},       {'J', "Lightning"},
-    {'@', "Hurricane"}, {'t', "Tornado"},    {'Q', "Earthquake"}, {'\'', "CrashSite"}, {'%', "Radiation"},
-    {'Z', "Explosion"}, {'=', "RoadClosed"}, {']', "Detour"},     {'9', "GasStation"}, {'M', "FirstAid"},
-    {'c', "Races"},     {'C', "CoastGuard"}, {'x', "PhoneBooth"}, {'y', "PostOffice"}, {'r', "Restroom"},
-    {'1', "Num1"},      {'2', "Num2"},       {'3', "Num3"},       {'4', "Num4"},       {'5', "Num5"},
-    {'6', "Num6"},      {'7', "Num7"},       {'8', "Num8"},       {'#', "Digi"},       {'&', "HFGateway"},
-    {'+', "Church"},    {'-', "House"},      {'0', "Circle"},     {';', "Park"},       {'>', "Car"},
-    {'A', "Circle"},    {'B', "Snow"},       {'D', "Rain"},       {'F', "Rain"},       {'G', "Snow"},
-    {'I', "Rain"},      {'O', "Balloon"},    {'T', "Lightning"},  {'W', "NWS"},        {'[', "Jogger"},
-    {'_', "Weather"},   {'e', "Snow"},       {'f', "Tornado"},    {'j', "Jeep"},       {'k', "Truck"},
-    {'n', "Triangle"},  {'o', "Circle"},     {'s', "Ship"},       {'u', "Wheeler18"},  {'v', "Van"},
+    {'^', "Plane"},      {'S', "Shuttle"},    {'`', "Rain"},       {'*', "Snow"},       {'J', "Lightning"},
+    {'@', "Hurricane"},  {'t', "Tornado"},    {'Q', "Earthquake"}, {'\'', "CrashSite"}, {'%', "Radiation"},
+    {'Z', "Explosion"},  {'=', "RoadClosed"}, {']', "Detour"},     {'9', "GasStation"}, {'M', "FirstAid"},
+    {'c', "Races"},      {'C', "CoastGuard"}, {'x', "PhoneBooth"}, {'y', "PostOffice"}, {'r', "Restroom"},
+    {'1', "Num1"},       {'2', "Num2"},       {'3', "Num3"},       {'4', "Num4"},       {'5', "Num5"},
+    {'6', "Num6"},       {'7', "Num7"},       {'8', "Num8"},       {'#', "Digi"},       {'&', "HFGateway"},
+    {'+', "Church"},     {'-', "House"},      {'0', "Circle"},     {';', "Park"},       {'>', "Car"},
+    {'A', "Circle"},     {'B', "Snow"},       {'D', "Rain"},       {'F', "Rain"},       {'G', "Snow"},
+    {'I', "Rain"},       {'O', "Balloon"},    {'T', "Lightning"},  {'W', "NWS"},        {'[', "Jogger"},
+    {'_', "Weather"},    {'e', "Snow"},       {'f', "Tornado"},    {'j', "Jeep"},       {'k', "Truck"},
+    {'n', "Triangle"},   {'o', "Circle"},     {'s', "Ship"},       {'u', "Wheeler18"},  {'v', "Van"},
+    {'/', "Circle"},     {':', "Snow"},       {'<', "NWS"},        {'?', "House"},      {'K', "Jogger"},
+    {'L', "CoastGuard"}, {'N', "CoastGuard"}, {'P', "Car"},        {'R', "House"},      {'V', "Antenna"},
+    {'X', "FirstAid"},   {'Y', "Antenna"},    {'a', "FirstAid"},   {'d', "TCP"},        {'g', "NWS"},
+    {'h', "House"},      {'i', "Circle"},     {'w', "Rain"},       {'z', "House"},      {'{', "Rain"},
 }));
+
+// With a letter on it the sign of first aid is that of a club's or a network's own station.
+constexpr char kClubStation = 'a';
 
 } // namespace
 
 std::string_view SymbolWord(aprs::Symbol symbol)
 {
+    if (symbol.code == kClubStation && symbol.table != '/' && symbol.table != '\\')
+        return "Antenna";
     const auto place = static_cast<unsigned char>(symbol.code - kFirstCode);
     if (place >= kCodes)
         return kDefault;

@@ -1,0 +1,74 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
+// Which of the bytes that something in a comment hangs on stand in it: one look at the text for all of them, since most
+// comments hold nothing to be found.
+namespace ruvenmark::aprs {
+
+struct CommentMarks {
+    bool bEquals = false; // Altitude: /A=
+    bool bBar = false;    // Telemetry: |...|
+    bool bBang = false;   // Further digits: !Dxy!
+    bool bBrace = false;  // Altitude of Mic-E: xyz}
+    bool bReach = false;  // PHG: its G.
+};
+
+#ifdef __SSE2__
+
+// The first and the last bytes of a text that has at least as many.
+template <class Word>
+__m128i Ends(std::string_view text)
+{
+    Word first;
+    Word last;
+    std::memcpy(&first, text.data(), sizeof(Word));
+    std::memcpy(&last, text.data() + text.size() - sizeof(Word), sizeof(Word));
+    return _mm_set_epi64x(static_cast<std::int64_t>(first), static_cast<std::int64_t>(last));
+}
+
+inline CommentMarks FindMarks(std::string_view text)
+{
+    constexpr std::size_t kBlock = sizeof(__m128i);
+    constexpr std::array<char, 5> kMarks = {'=', '|', '!', '}', 'G'};
+    __m128i found[kMarks.size()] = {}; // No array: the type's alignment is lost as its argument.
+    const auto look = [&](__m128i bytes) {
+        for (std::size_t i = 0; i < kMarks.size(); ++i)
+            found[i] = _mm_or_si128(found[i], _mm_cmpeq_epi8(bytes, _mm_set1_epi8(kMarks[i])));
+    };
+    const std::size_t size = text.size();
+    const char* const data = text.data();
+    for (std::size_t at = 0; at + kBlock <= size; at += kBlock)
+        look(_mm_loadu_si128(reinterpret_cast<const __m128i*>(data + at)));
+    // The end is looked at once more with bytes in front of it, so that nothing behind it is.
+    if (size >= kBlock)
+        look(_mm_loadu_si128(reinterpret_cast<const __m128i*>(data + size - kBlock)));
+    else if (size >= sizeof(std::uint64_t))
+        look(Ends<std::uint64_t>(text));
+    else if (size >= sizeof(std::uint32_t))
+        look(Ends<std::uint32_t>(text));
+    else
+        for (const char c : text)
+            look(_mm_set1_epi8(c));
+    const auto has = [&](std::size_t i) { return _mm_movemask_epi8(found[i]) != 0; };
+    return {has(0), has(1), has(2), has(3), has(4)};
+}
+
+#else
+
+inline CommentMarks FindMarks(std::string_view text)
+{
+    const auto has = [&](char c) { return text.find(c) != std::string_view::npos; };
+    return {has('='), has('|'), has('!'), has('}'), has('G')};
+}
+
+#endif
+
+} // namespace ruvenmark::aprs

@@ -1,0 +1,268 @@
+#include "aprs/weather_fields.h"
+
+#include "aprs/digit_block.h"
+#include "aprs/text.h"
+
+namespace ruvenmark::aprs {
+
+namespace {
+
+constexpr std::size_t kMaxFiller = 5;
+constexpr std::size_t kMaxJunk = 8;
+constexpr std::uint8_t kGreedy = 9; // As many as fit an int for sure.
+
+bool IsFiller(char c)
+{
+    return c == '.' || c == ' ';
+}
+
+std::size_t FillerSize(std::string_view text, std::size_t limit)
+{
+    std::size_t n = 0;
+    while (n < text.size() && n < limit && IsFiller(text[n]))
+        ++n;
+    return n;
+}
+
+using Value = std::optional<double> Weather::*;
+
+// What the figure behind a letter means: its value is the figure divided, with something added.
+struct Field {
+    Value value = nullptr; // None for letters that are known, but of no use.
+    float divisor = 1;     // Small whole numbers, like the next: 16 bytes make a field quick to find.
+    std::int16_t addend = 0;
+    std::uint8_t minDigits = 1;
+    std::uint8_t maxDigits = 0; // 0 for letters that mean nothing here.
+};
+
+constexpr std::array<Field, 256> MakeFields()
+{
+    std::array<Field, 256> fields{};
+    fields['g'] = {&Weather::gust, 1, 0, 1, kGreedy};
+    fields['t'] = {&Weather::temperature, 1, 0, 1, kGreedy};
+    fields['r'] = {&Weather::rainHour, 100, 0, 1, 3};
+    fields['p'] = {&Weather::rainDay, 100, 0, 1, 3};
+    fields['P'] = {&Weather::rainMidnight, 100, 0, 1, 3};
+    fields['h'] = {&Weather::humidity, 1, 0, 1, 3};
+    fields['b'] = {&Weather::pressure, 10, 0, 4, 5};
+    fields['l'] = {&Weather::luminosity, 1, 1000, 1, 3};
+    fields['L'] = {&Weather::luminosity, 1, 0, 1, 4};
+    fields['s'] = {&Weather::snowDay, 1, 0, 1, 3};
+    fields['#'] = {nullptr, 1, 0, 1, kGreedy}; // A raw rain counter.
+    fields['v'] = {nullptr, 1, 0, 1, kGreedy}; // Seen on the air, in no book.
+    return fields;
+}
+constexpr std::array<Field, 256> kFields = MakeFields();
+
+bool MayBeSigned(char letter, char sign)
+{
+    return (sign == '-' && (letter == 't' || letter == 'v')) || (sign == '+' && letter == 'v');
+}
+
+const Field& FieldOf(char letter)
+{
+    return kFields[static_cast<unsigned char>(letter)];
+}
+
+// Bytes of a figure that says nothing: at least two dots, blanks or dashes.
+std::size_t UnknownSize(std::string_view text)
+{
+    std::size_t n = 0;
+    while (n < text.size() && n < kMaxFiller && (IsFiller(text[n]) || text[n] == '-'))
+        ++n;
+    return n >= 2 ? n : 0;
+}
+
+bool IsDecimal(std::string_view text, std::size_t point)
+{
+    return text.size() > point + 1 && text[point] == '.' && IsDigit(text[point + 1]);
+}
+
+// A figure that is not written as its field asks for: its digits with all points and dashes between them.
+std::size_t BadFigureSize(std::string_view text)
+{
+    std::size_t n = 0;
+    bool bDigit = false;
+    for (; n < text.size() && (IsDigit(text[n]) || text[n] == '.' || text[n] == '-'); ++n)
+        bDigit = bDigit || IsDigit(text[n]);
+    return bDigit ? n : 0;
+}
+
+// Snow is told with decimals as well: "s5.5", "s.50".
+std::size_t TakeDecimal(std::string_view figure, std::size_t point, Weather& weather)
+{
+    const DigitRun decimals = ReadDigits(figure.substr(point + 1), 2);
+    const int whole = point > 0 ? ParseDigits(figure.substr(0, point)).value_or(0) : 0;
+    weather.snowDay = whole + decimals.value / (decimals.count == 1 ? 10.0 : 100.0);
+    return point + 1 + decimals.count;
+}
+
+// The usual field: its letter, then no more digits than it has, with no point behind them. 0 for any other.
+std::size_t TakeUsualField(std::string_view text, const Field& field, Weather& weather)
+{
+    if (text.size() <= DigitBlock::kSize)
+        return 0;
+    const DigitBlock block(text.data() + 1);
+    const std::size_t count = block.Count();
+    if (count < 2 || count > field.maxDigits || count == DigitBlock::kSize || block.Is(count, '.'))
+        return 0;
+    if (field.value != nullptr && count >= field.minDigits)
+        weather.*field.value = static_cast<int>(block.Value(count)) / double{field.divisor} + field.addend;
+    return 1 + count;
+}
+
+// The field's letter with its figure in front of the text; returns its size, or 0 where there is no figure. A figure
+// that is not as it should be is dropped. Behind a blank a single digit is no figure, but a word.
+std::size_t TakeField(std::string_view text, const Field& field, bool bBehindBlank, Weather& weather)
+{
+    if (text.size() < 2)
+        return 0;
+    const std::string_view figure = text.substr(1);
+    const std::size_t sign = MayBeSigned(text[0], figure[0]) ? 1 : 0;
+    const DigitRun run = ReadDigits(figure.substr(sign), kGreedy);
+    const std::size_t size = sign + run.count;
+    const bool bDecimal = IsDecimal(figure, size);
+    if (bDecimal && text[0] == 's' && run.count <= field.maxDigits)
+        return 1 + TakeDecimal(figure, size, weather);
+    if (run.count == 0 || run.count > field.maxDigits || bDecimal) {
+        const std::size_t unknown = run.count == 0 ? UnknownSize(figure) : 0;
+        const std::size_t dropped = unknown > 0 ? unknown : BadFigureSize(figure);
+        return dropped > 0 ? 1 + dropped : 0;
+    }
+    if (bBehindBlank && run.count == 1)
+        return 0;
+    if (field.value != nullptr && run.count >= field.minDigits) {
+        const int value = static_cast<int>(run.value);
+        weather.*field.value = (figure[0] == '-' ? -value : value) / double{field.divisor} + field.addend;
+    }
+    return 1 + size;
+}
+
+// Which letters have been met: a bit each.
+class Letters {
+public:
+    void Add(char letter) { m_bits |= Bit(letter); }
+    // Of letters of fields only.
+    bool Hold(char letter) const { return (m_bits & Bit(letter)) != 0; }
+    bool HoldAny() const { return m_bits != 0; }
+
+private:
+    // Small and capital letters and '#' have different ends.
+    static std::uint64_t Bit(char letter) { return std::uint64_t{1} << (static_cast<unsigned char>(letter) & 63U); }
+
+    std::uint64_t m_bits = 0;
+};
+
+struct Width {
+    std::size_t least, most;
+};
+
+// Digits by the book; none for letters that are not in it.
+Width BookWidth(char letter)
+{
+    switch (letter) {
+    case 'h':
+        return {2, 3};
+    case 'b':
+        return {4, 5};
+    case '#':
+    case 'v':
+        return {1, 0};
+    default:
+        return {3, 3};
+    }
+}
+
+// A field exactly by the book: what may be believed behind bytes that nobody understands.
+bool IsWholeField(std::string_view text, const Letters& met)
+{
+    if (FieldOf(text[0]).maxDigits == 0 || met.Hold(text[0]))
+        return false;
+    const std::size_t sign = text.starts_with("t-") ? 1 : 0;
+    const DigitRun run = ReadDigits(text.substr(1 + sign), kGreedy);
+    if (run.count == 0)
+        return text.substr(1).starts_with("..");
+    const Width width = BookWidth(text[0]);
+    const std::size_t size = sign + run.count;
+    return size >= width.least && size <= width.most && !IsDecimal(text, 1 + size);
+}
+
+bool IsJunk(char c)
+{
+    return IsDigit(c) || c == '.' || c == '-' || static_cast<unsigned char>(c) >= 0x80;
+}
+
+// Size of a letter without a figure or in no book, and of stray bytes of figures, where a whole field follows them;
+// else the sender's software or comment begins here.
+std::size_t JunkSize(std::string_view text, const Letters& met)
+{
+    std::size_t n = IsUpper(text[0]) || IsLower(text[0]) ? 1 : 0;
+    while (n < text.size() && n < kMaxJunk && IsJunk(text[n]))
+        ++n;
+    return n > 0 && n < text.size() && IsWholeField(text.substr(n), met) ? n : 0;
+}
+
+// The size of a field that comes again between others, as some write it; 0 of one that begins the sender's software.
+std::size_t RepeatedSize(std::string_view text)
+{
+    const std::size_t size = 1 + ReadDigits(text.substr(1), kGreedy).count;
+    const bool bBetween = IsWholeField(text, {}) && size < text.size() && IsWholeField(text.substr(size), {});
+    return bBetween ? size : 0;
+}
+
+// What is no usual field: its size, or 0 where the fields end.
+std::size_t TakeUnusual(std::string_view text, Letters& met, Weather& weather)
+{
+    const std::size_t gap = FieldOf(text[0]).maxDigits == 0 ? FillerSize(text, text.size()) : 0;
+    if (gap == text.size())
+        return 0;
+    const bool bBehindBlank = gap > 0 && text[gap - 1] == ' ';
+    text.remove_prefix(gap);
+    const bool bField = FieldOf(text[0]).maxDigits != 0;
+    const bool bAgain = bField && met.Hold(text[0]);
+    std::size_t size = 0;
+    if (bAgain)
+        size = RepeatedSize(text);
+    else if (bField)
+        size = TakeField(text, FieldOf(text[0]), bBehindBlank, weather);
+    if (size == 0 && !bBehindBlank && !bAgain)
+        size = JunkSize(text, met);
+    if (size == 0)
+        return 0;
+    if (bField)
+        met.Add(text[0]);
+    return gap + size;
+}
+
+} // namespace
+
+bool TakeFields(std::string_view& text, Weather& weather)
+{
+    Letters met;
+    while (!text.empty()) {
+        const Field& field = FieldOf(text[0]);
+        const bool bNew = field.maxDigits != 0 && !met.Hold(text[0]);
+        std::size_t size = bNew ? TakeUsualField(text, field, weather) : 0;
+        if (size > 0)
+            met.Add(text[0]);
+        else
+            size = TakeUnusual(text, met, weather);
+        if (size == 0)
+            break;
+        text.remove_prefix(size);
+    }
+    return met.HoldAny();
+}
+
+bool StartsWithFields(std::string_view text)
+{
+    if (text.size() < 3 || (text[0] != 'g' && text[0] != 't'))
+        return false;
+    if ((IsDigit(text[1]) || text[1] == '-') && IsDigit(text[2]))
+        return true;
+    const std::size_t unknown = UnknownSize(text.substr(1));
+    const std::string_view next = text.substr(1 + unknown);
+    return unknown > 0 && (text[1] == '.' || (!next.empty() && IsWholeField(next, {})));
+}
+
+} // namespace ruvenmark::aprs
