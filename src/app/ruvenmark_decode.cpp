@@ -3,6 +3,7 @@
 #include "app/line_reader.h"
 #include "app/packet_json.h"
 #include "aprs/decode.h"
+#include "devices/log_line.h"
 #include "devices/packet_events.h"
 #include "platform/program_name.h"
 
@@ -153,10 +154,11 @@ int Run(int descriptor, const Options& options)
     const auto onLine = [&](std::string_view line) {
         if (IsBlankLine(line) || output.HasFailed())
             return;
-        const aprs::Packet packet = aprs::Decode(line);
+        const LogLine log(line);
+        const aprs::Packet packet = aprs::Decode(log.Packet());
         switch (options.mode) {
         case Mode::Packets:
-            output.Line(PacketJson(packet));
+            output.Line(PacketJson(packet, log.Stamp()));
             break;
         case Mode::Events:
             RaisePacketEvents(packet, RawData::No, sink, bNeverStopped);

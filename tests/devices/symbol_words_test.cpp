@@ -1,0 +1,33 @@
+#include "devices/symbol_words.h"
+#include "map/symbols.h"
+#include "platform/map_model.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace ruvenmark {
+namespace {
+
+// A word that the map or the tree does not know would show the default pin, or no picture at all.
+TEST(SymbolWords, AllHaveTheirPictures)
+{
+    const std::filesystem::path tree = RUVENMARK_SOURCE_DIR "/data/icons/tree";
+    for (const char table : {'/', '\\', 'D', '7'}) {
+        for (char code = '!'; code <= '~'; ++code) {
+            const std::string word(SymbolWord({table, code}));
+            EXPECT_TRUE(std::filesystem::exists(tree / (word + ".svg"))) << word;
+            EXPECT_TRUE(word == "Default" || SymbolId(word) != kDefaultSymbol) << word;
+        }
+    }
+}
+
+TEST(SymbolWords, CodesBeyondTheTablesHaveTheDefault)
+{
+    EXPECT_EQ(SymbolWord({'/', ' '}), "Default");
+    EXPECT_EQ(SymbolWord({'/', '\x7f'}), "Default");
+    EXPECT_EQ(SymbolWord({'\\', '\xff'}), "Default");
+}
+
+} // namespace
+} // namespace ruvenmark
