@@ -39,18 +39,25 @@ Blank lines give none. Output follows input at once, so it can stand behind a li
   -h, --help      print this help and end
   -V, --version   print the version and end
 
+Lines may come from the logs of other programs: a date, time or port before the packet is
+left out, bytes written as <0x1c> are read back.
+
 Every object has:
-  line, ok        the line as read; whether it could be decoded
+  line, ok        the packet as read; whether it could be decoded
   type            position, weather, object, item, status, message, ack, reject,
                   bulletin, telemetry, telemetry-definition, capabilities, query, grid,
                   user-defined, test; absent where ok is false
   error           why the line was refused, where ok is false
   source, dest, path; third_party: who relayed it, for third-party packets
 and what the packet has of:
+  log (what a log put before it), device, messaging (the sender takes messages),
   lat, lon (degrees), ambiguity (digits left blank), symbol (table or overlay, then
   code), course, speed_knots, altitude_ft, phg, dfs, power (watts), height (feet),
-  gain (dB), directivity, range_miles, time and warning, mic_e_status, device,
-  telemetry, comment; name, alive; status; addressee, text, id, ack, rej; sequence,
+  gain (dB), directivity, range_miles, time and warning, mic_e_status,
+  bearing, bearing_hits, bearing_range_miles, bearing_accuracy (degrees),
+  area, area_colour, area_lat, area_lon (degrees), area_width_miles,
+  telemetry, telemetry_sequence, telemetry_values, telemetry_bits,
+  frequency_mhz, tone_hz, dcs, offset_mhz, comment; name, alive; status; addressee, text, id, ack, rej; sequence,
   values, bits; capabilities; query; user_id; grid;
   wind_direction, wind_mph, gust_mph, temperature_f, rain_1h_in, rain_24h_in,
   rain_midnight_in, snow_24h_in, humidity, pressure_mbar, luminosity_wm2

@@ -64,6 +64,18 @@ std::optional<double> Tone(int hertz)
     return tone != kTones.end() ? std::optional(*tone) : std::nullopt;
 }
 
+// An offset written out, "+5.0000MHz".
+bool TakeLongOffset(std::string_view word, Frequency& frequency)
+{
+    if ((word[0] != '+' && word[0] != '-') || !IsUnit(word.substr(word.size() - kUnit.size())))
+        return false;
+    const std::string_view number = word.substr(1, word.size() - kUnit.size() - 1);
+    if (number.empty() || NumberSizeAtEnd(number) != number.size())
+        return false;
+    frequency.offset = word[0] == '-' ? -Megahertz(number) : Megahertz(number);
+    return true;
+}
+
 // One word behind the frequency: tone ("T088", "C088", small letters for narrow channels), code ("D023"), "1750" or
 // offset in tens of kilohertz ("+060"). False where it is none of them.
 bool TakeWord(std::string_view word, Frequency& frequency)
@@ -74,6 +86,8 @@ bool TakeWord(std::string_view word, Frequency& frequency)
     }
     if (word.size() < 4)
         return false;
+    if (TakeLongOffset(word, frequency))
+        return true;
     const char kind = ToUpper(word[0]);
     if ((kind == 'T' || kind == 'C' || kind == 'D') && word.size() == 4 &&
         (word.substr(1) == "off" || word.substr(1) == "OFF"))
