@@ -27,7 +27,12 @@ bool IsUnit(std::string_view text)
            std::equal(text.begin(), text.end(), kUnit.begin(), [](char a, char b) { return ToUpper(a) == b; });
 }
 
-// Size of "146.520" at the end of the text; 0 where there is none or it goes on in front.
+bool IsSign(char c)
+{
+    return c == '+' || c == '-';
+}
+
+// Size of "146.520" at the end of the text; 0 where there is none, or where it is an offset.
 std::size_t NumberSizeAtEnd(std::string_view text)
 {
     std::size_t n = 0;
@@ -37,7 +42,8 @@ std::size_t NumberSizeAtEnd(std::string_view text)
     const std::size_t point = number.find('.');
     const bool bOne = point != std::string_view::npos && number.find('.', point + 1) == std::string_view::npos;
     const std::size_t decimals = bOne ? n - point - 1 : 0;
-    return bOne && point >= 1 && point <= kMaxWhole && decimals >= 1 && decimals <= kMaxDecimals ? n : 0;
+    const bool bOffset = n < text.size() && IsSign(text[text.size() - 1 - n]);
+    return bOne && !bOffset && point >= 1 && point <= kMaxWhole && decimals >= 1 && decimals <= kMaxDecimals ? n : 0;
 }
 
 // "146.520": the decimals are counted, not their value, so that it is the nearest number to what is written.
@@ -67,7 +73,7 @@ std::optional<double> Tone(int hertz)
 // An offset written out, "+5.0000MHz".
 bool TakeLongOffset(std::string_view word, Frequency& frequency)
 {
-    if ((word[0] != '+' && word[0] != '-') || !IsUnit(word.substr(word.size() - kUnit.size())))
+    if (!IsSign(word[0]) || !IsUnit(word.substr(word.size() - kUnit.size())))
         return false;
     const std::string_view number = word.substr(1, word.size() - kUnit.size() - 1);
     if (number.empty() || NumberSizeAtEnd(number) != number.size())
@@ -95,7 +101,7 @@ bool TakeWord(std::string_view word, Frequency& frequency)
     const auto number = word.size() <= 5 ? ParseDigits(word.substr(1)) : std::nullopt;
     if (!number)
         return false;
-    if (kind == '+' || kind == '-')
+    if (IsSign(kind))
         frequency.offset = (kind == '-' ? -*number : *number) / 100.0;
     else if (word.size() == 4 && (kind == 'T' || kind == 'C'))
         frequency.tone = Tone(*number);
