@@ -9,7 +9,8 @@ namespace {
 
 constexpr std::size_t kMaxFiller = 5;
 constexpr std::size_t kMaxJunk = 8;
-constexpr std::uint8_t kGreedy = 9; // As many as fit an int for sure.
+constexpr std::uint8_t kMany = 7;  // Of figures without a width of their own; less than a block holds.
+constexpr std::size_t kGreedy = 9; // As many as fit an int for sure.
 
 bool IsFiller(char c)
 {
@@ -38,8 +39,8 @@ struct Field {
 constexpr std::array<Field, 256> MakeFields()
 {
     std::array<Field, 256> fields{};
-    fields['g'] = {&Weather::gust, 1, 0, 1, kGreedy};
-    fields['t'] = {&Weather::temperature, 1, 0, 1, kGreedy};
+    fields['g'] = {&Weather::gust, 1, 0, 1, kMany};
+    fields['t'] = {&Weather::temperature, 1, 0, 1, kMany};
     fields['r'] = {&Weather::rainHour, 100, 0, 1, 3};
     fields['p'] = {&Weather::rainDay, 100, 0, 1, 3};
     fields['P'] = {&Weather::rainMidnight, 100, 0, 1, 3};
@@ -48,8 +49,8 @@ constexpr std::array<Field, 256> MakeFields()
     fields['l'] = {&Weather::luminosity, 1, 1000, 1, 3};
     fields['L'] = {&Weather::luminosity, 1, 0, 1, 4};
     fields['s'] = {&Weather::snowDay, 1, 0, 1, 3};
-    fields['#'] = {nullptr, 1, 0, 1, kGreedy}; // A raw rain counter.
-    fields['v'] = {nullptr, 1, 0, 1, kGreedy}; // Seen on the air, in no book.
+    fields['#'] = {nullptr, 1, 0, 1, kMany}; // A raw rain counter.
+    fields['v'] = {nullptr, 1, 0, 1, kMany}; // Seen on the air, in no book.
     return fields;
 }
 constexpr std::array<Field, 256> kFields = MakeFields();
@@ -104,7 +105,7 @@ std::size_t TakeUsualField(std::string_view text, const Field& field, Weather& w
         return 0;
     const DigitBlock block(text.data() + 1);
     const std::size_t count = block.Count();
-    if (count < 2 || count > field.maxDigits || count == DigitBlock::kSize || block.Is(count, '.'))
+    if (count < 2 || count > field.maxDigits || text[1 + count] == '.')
         return 0;
     if (field.value != nullptr && count >= field.minDigits)
         weather.*field.value = static_cast<int>(block.Value(count)) / double{field.divisor} + field.addend;
