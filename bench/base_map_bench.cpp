@@ -1,7 +1,7 @@
 // The built-in map: opening it, painting its squares, a frame of a moving map, names, finding places.
-#include "desktop/map/place_index.h"
-#include "desktop/map/place_labels.h"
-#include "desktop/map/tile_painter.h"
+#include "desktop/map/base_map/place_index.h"
+#include "desktop/map/base_map/square_painter.h"
+#include "desktop/map/labels/place_labels.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -13,7 +13,7 @@
 namespace ruvenmark {
 namespace {
 
-const QString kPath = QStringLiteral(RUVENMARK_SOURCE_DIR "/data/basemap/world.rvm");
+constexpr const char* kPath = RUVENMARK_SOURCE_DIR "/data/basemap/world.rvm";
 
 struct Spot {
     const char* name;
@@ -59,7 +59,7 @@ void FirstFrame(benchmark::State& state)
     QImage image(1280, 800, QImage::Format_RGB32);
     for (auto _ : state) {
         const BaseMap map = BaseMap::Open(kPath);
-        TilePainter tiles(map);
+        SquarePainter tiles(map);
         PlaceLabels labels(map);
         LabelGrid grid;
         grid.Reset(1280, 800);
@@ -75,7 +75,7 @@ void PanFrame(benchmark::State& state)
 {
     const BaseMap map = BaseMap::Open(kPath);
     const Spot& spot = kSpots.at(static_cast<std::size_t>(state.range(0)));
-    TilePainter tiles(map);
+    SquarePainter tiles(map);
     PlaceLabels labels(map);
     LabelGrid grid;
     QImage image(1280, 800, QImage::Format_RGB32);

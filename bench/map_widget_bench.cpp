@@ -1,8 +1,8 @@
 // Time for one frame of the map window while it is moved and zoomed, painted in software at 1280 x 800 with all names
 // on. The bar: 30 ms a frame with 100,000 markers in view.
 #include "desktop/icons/icon_set.h"
-#include "desktop/map/base_map.h"
-#include "desktop/map/map_widget.h"
+#include "desktop/map/widget/map_widget.h"
+#include "mapfiles/base_map.h"
 #include "platform/files.h"
 
 #include <QApplication>
@@ -92,8 +92,10 @@ void AddTrails(Map& map, int count, std::mt19937& random)
 
 void Report(MapWidget& widget, Map& map, const char* what)
 {
-    const Times pan = Measure(widget, [&](int i) { widget.PanBy(i % 2 != 0 ? 7 : 5, i % 3 - 1); });
-    const Times zoom = Measure(widget, [&](int i) { widget.ZoomAbout({500, 300}, (i / 10) % 2 != 0 ? -0.1 : 0.1); });
+    const Times pan = Measure(widget, [&](int i) { widget.Mover().PanBy({i % 2 != 0 ? 7.0 : 5.0, i % 3 - 1.0}); });
+    const Times zoom = Measure(widget, [&](int i) {
+        widget.Mover().ZoomAbout({500, 300}, (i / 10) % 2 != 0 ? -0.1 : 0.1);
+    });
     const auto print = [&](const char* move, const Times& times) {
         std::printf("%-30s%-5s%7.1f ms (worst %6.1f, work %6.1f)\n", what, move, times.median, times.worst, times.work);
     };
@@ -116,8 +118,9 @@ int Run()
     control.NewMap(kRegionNorthAmerica);
     Map& map = control.RequireMap();
     IconSet icons;
-    const BaseMap base = BaseMap::Open(QStringLiteral(RUVENMARK_SOURCE_DIR "/data/basemap/world.rvm"));
-    MapWidget widget(control, icons, &base);
+    const BaseMap base = BaseMap::Open(RUVENMARK_SOURCE_DIR "/data/basemap/world.rvm");
+    const MapSelection selection;
+    MapWidget widget(control, icons, &base, selection);
     widget.resize(1280, 800);
     widget.show();
     map.SetView({38, -96}, 4.6);

@@ -7,12 +7,12 @@
 #include "desktop/data_path.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/main_window_view.h"
-#include "desktop/map/base_map.h"
-#include "desktop/map/map_widget.h"
+#include "desktop/map/widget/map_widget.h"
 #include "desktop/tree/call_search.h"
 #include "desktop/tree/tree_view.h"
 #include "lifecycle/start.h"
 #include "lifecycle/stop.h"
+#include "mapfiles/base_map.h"
 #include "packet_text.h"
 
 #include <QApplication>
@@ -32,7 +32,7 @@ namespace {
 using namespace ruvenmark;
 
 struct Program {
-    Program() : baseMap(BaseMap::Open(DataPath(QStringLiteral("basemap/world.rvm"))))
+    Program() : baseMap(BaseMap::Open(DataPath(QStringLiteral("basemap/world.rvm")).toStdString()))
     {
         machine.store.Set("MainWidth", "19200"); // 1280 x 800 pixels.
         machine.store.Set("MainHeight", "12000");

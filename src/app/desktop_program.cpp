@@ -13,12 +13,12 @@
 #include "desktop/data_path.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/main_window_view.h"
-#include "desktop/map/base_map.h"
 #include "desktop/screenshot.h"
 #include "desktop/termination.h"
 #include "desktop/theme.h"
 #include "devices/report_sources.h"
 #include "lifecycle/start.h"
+#include "mapfiles/base_map.h"
 #include "platform/failure.h"
 #include "platform/headless.h"
 
@@ -46,7 +46,7 @@ void SetEnvironment(const ProgramOptions& options)
 std::optional<BaseMap> OpenBaseMap()
 {
     try {
-        return BaseMap::Open(DataPath(QStringLiteral("basemap/world.rvm")));
+        return BaseMap::Open(DataPath(QStringLiteral("basemap/world.rvm")).toStdString());
     } catch (const Failure& failure) {
         std::cerr << "ruvenmark: " << failure.what() << '\n';
         return std::nullopt;

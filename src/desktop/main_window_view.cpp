@@ -4,12 +4,12 @@
 #include "desktop/bars/main_tool_bar.h"
 #include "desktop/bars/status_bar_view.h"
 #include "desktop/icons/icon_set.h"
-#include "desktop/map/map_widget.h"
+#include "desktop/map/tiles/tile_choice.h"
+#include "desktop/map/widget/map_widget.h"
 #include "desktop/panes/help_view.h"
 #include "desktop/panes/map_pane.h"
 #include "desktop/panes/panes.h"
 #include "desktop/shown_text.h"
-#include "desktop/tile_choice.h"
 #include "desktop/tree/tree_model.h"
 #include "desktop/tree/tree_view.h"
 #include "lifecycle/stop.h"
@@ -81,7 +81,7 @@ MainWindowView::~MainWindowView() = default;
 
 void MainWindowView::MakeRightPane(const BaseMap* base)
 {
-    m_map = new MapWidget(m_main.mpCtrl, m_icons, base, this);
+    m_map = new MapWidget(m_main.mpCtrl, m_icons, base, m_main.map.Selection, this);
     m_map->setObjectName(QStringLiteral("mpCtrl"));
     m_map->setAccessibleName(QStringLiteral("Map"));
     m_mapPane = new MapPane(
@@ -98,7 +98,11 @@ void MainWindowView::ConnectMap()
         if (button == Qt::LeftButton)
             mpCtrl_Click(m_main, x, y);
     });
-    connect(m_map, &MapWidget::SelectionChanged, this, [this] { SelectOnMap(m_main, m_map->Selection()); });
+    connect(m_map, &MapWidget::SelectionWanted, this,
+            [this](const MapSelection& selection) { SelectOnMap(m_main, selection); });
+    connect(&m_map->Tiles(), &MapTiles::ProblemFound, this, [this](const QString& problem) {
+        Attempt(m_main.abandoned, "Tiles", [&] { throw Failure(problem.toStdString()); });
+    });
 }
 
 void MainWindowView::ConnectTree()
@@ -129,7 +133,7 @@ void MainWindowView::Observe()
         m_main.map.DirectionsChanged.Observe(refreshLater),
         m_main.map.TilesChanged.Observe([this] { ShowTiles(); }),
         m_main.map.SelectionChanged.Observe([this, refreshLater] {
-            m_map->SetSelection(m_main.map.Selection);
+            m_map->update();
             refreshLater();
         }),
     };
@@ -163,7 +167,7 @@ void MainWindowView::RefreshIcons()
 
 void MainWindowView::ShowTiles()
 {
-    Attempt(m_main.abandoned, "Tiles", [this] { m_map->Tiles().Choose(TileChoiceOf(m_main.map.tiles)); });
+    m_map->Tiles().Choose(TileChoiceOf(m_main.map.tiles));
 }
 
 void MainWindowView::PopUp(QPoint place, int button, TreeNode* node)

@@ -1,7 +1,7 @@
 #include "desktop/screenshot.h"
 
 #include "desktop/main_window_view.h"
-#include "desktop/map/map_widget.h"
+#include "desktop/map/widget/map_widget.h"
 #include "platform/failure.h"
 
 #include <QCoreApplication>

@@ -1,24 +1,17 @@
 #include "map/tile_settings.h"
 
 #include "core/main_window.h"
+#include "map/tile_url.h"
 #include "platform/text.h"
 
 #include <algorithm>
-#include <array>
 
 namespace ruvenmark {
 
 namespace {
 
-constexpr FileFilter kTileFiles = {"Map Tiles (*.mbtiles *.png *.jpg *.jpeg)", "*.mbtiles *.png *.jpg *.jpeg"};
-
-bool IsTileUrl(std::string_view url)
-{
-    constexpr std::array kParts = {std::string_view("{z}"), std::string_view("{x}"), std::string_view("{y}")};
-    return (url.starts_with("https://") || url.starts_with("http://")) &&
-           std::all_of(kParts.begin(), kParts.end(),
-                       [&](std::string_view part) { return url.find(part) != std::string_view::npos; });
-}
+constexpr FileFilter kTileFiles = {"Map Tiles (*.mbtiles *.png *.jpg *.jpeg *.webp)",
+                                   "*.mbtiles *.png *.jpg *.jpeg *.webp"};
 
 bool IsNumber(std::string_view text)
 {

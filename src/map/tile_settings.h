@@ -12,7 +12,7 @@ inline constexpr std::string_view kDefaultTileUrl = "https://tile.openstreetmap.
 // Raster tiles under the map. Nothing is fetched from the network until the operator switches it on.
 struct TileSettings {
     bool bOnline = false;
-    std::string urlTemplate{kDefaultTileUrl}; // With {z}, {x} and {y}.
+    std::string urlTemplate{kDefaultTileUrl}; // See IsTileUrl.
     std::string source; // A folder of z/x/y tiles or an MBTiles file, used without the network; empty for none.
 };
 

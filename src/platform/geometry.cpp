@@ -10,8 +10,6 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr double kEarthRadiusMiles = 3958.7613;
-constexpr double kDegree = std::numbers::pi / 180;
 constexpr double kMaxMercatorLat = 85.05112877980659;
 constexpr int kShownDecimals = 5;
 
@@ -53,6 +51,18 @@ double InitialBearing(GeoPoint from, GeoPoint to)
     return bearing < 0 ? std::fmod(bearing + 360, 360) : bearing;
 }
 
+GeoPoint Destination(GeoPoint from, double bearing, double miles)
+{
+    const double angle = miles / kEarthRadiusMiles;
+    const double lat = from.lat * kDegree, direction = bearing * kDegree;
+    const double sine = std::sin(lat) * std::cos(angle) + std::cos(lat) * std::sin(angle) * std::cos(direction);
+    const double toLat = std::asin(std::clamp(sine, -1.0, 1.0));
+    const double dLon = std::atan2(std::sin(direction) * std::sin(angle) * std::cos(lat),
+                                   std::cos(angle) - std::sin(lat) * std::sin(toLat));
+    const double lon = from.lon + dLon / kDegree;
+    return {toLat / kDegree, lon - 360 * std::floor((lon + 180) / 360)};
+}
+
 double MapView::WorldPixels() const
 {
     return kTileSize * std::exp2(zoom);
@@ -76,6 +86,16 @@ GeoPoint FromPixel(const MapView& view, PixelPoint pixel)
     x -= std::floor(x);
     const double y = std::clamp(centre.y + (pixel.y - view.height / 2.0) / world, 0.0, 1.0);
     return FromMercator({x, y});
+}
+
+double MetresPerPixel(const MapView& view)
+{
+    return kEquatorMetres * std::cos(view.centre.lat * kDegree) / view.WorldPixels();
+}
+
+double ZoomOf(double worldPixels)
+{
+    return std::log2(worldPixels / kTileSize);
 }
 
 } // namespace ruvenmark

@@ -2,6 +2,11 @@
 
 namespace ruvenmark {
 
+inline constexpr double kDegree = 3.141592653589793 / 180; // In radians. Qt's moc cannot read <numbers>.
+inline constexpr double kMetresPerMile = 1609.344;
+inline constexpr double kEarthRadiusMiles = 3958.7613; // Of the sphere that everything is measured on.
+inline constexpr double kEquatorMetres = 360 * kDegree * kEarthRadiusMiles * kMetresPerMile;
+
 struct GeoPoint {
     double lat = 0, lon = 0; // Decimal degrees, north and east positive.
     friend bool operator==(const GeoPoint&, const GeoPoint&) = default;
@@ -22,6 +27,8 @@ GeoPoint FromMercator(MercatorPoint point);
 double GreatCircleMiles(GeoPoint from, GeoPoint to);
 // The direction to set out in, degrees from north, clockwise, 0 to below 360.
 double InitialBearing(GeoPoint from, GeoPoint to);
+// The point that lies `miles` from a point in the direction `bearing` (degrees from north, clockwise).
+GeoPoint Destination(GeoPoint from, double bearing, double miles);
 
 inline constexpr double kTileSize = 256; // Pixels of the whole world at zoom 0.
 
@@ -38,5 +45,9 @@ struct PixelPoint {
 };
 PixelPoint ToPixel(const MapView& view, GeoPoint point);
 GeoPoint FromPixel(const MapView& view, PixelPoint pixel);
+// On the ground, in the middle of the view.
+double MetresPerPixel(const MapView& view);
+// The zoom at which the world is so many pixels wide.
+double ZoomOf(double worldPixels);
 
 } // namespace ruvenmark

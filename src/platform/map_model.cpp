@@ -174,7 +174,7 @@ void Map::UnlinkName(SlotRef ref)
 
 void Map::SetMapStyle(std::int32_t style)
 {
-    if (style < 0 || style > kLastMapStyle)
+    if (!IsMapStyle(style))
         throw Failure("no such map style");
     m_style = style;
     Touch();
@@ -247,8 +247,7 @@ void Map::Replace(std::int32_t region)
     m_font = kFirstMapFont;
     m_bSaved = true;
     m_bPinEverAdded = false;
-    m_view.centre = region == kRegionEurope ? GeoPoint{50.5, 10.0} : GeoPoint{39.5, -98.35};
-    m_view.zoom = kFirstZoom;
+    m_view = RegionView(region, m_view.width, m_view.height);
     Changed.Raise();
     ViewChanged.Raise();
 }

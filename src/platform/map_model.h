@@ -2,6 +2,8 @@
 
 #include "platform/event.h"
 #include "platform/geometry.h"
+#include "platform/map_region.h"
+#include "platform/map_style.h"
 #include "platform/slot_pool.h"
 
 #include <cstdint>
@@ -15,19 +17,13 @@ namespace ruvenmark {
 
 class Map;
 
-inline constexpr std::int32_t kRegionNorthAmerica = 1;
-inline constexpr std::int32_t kRegionEurope = 2;
-constexpr bool IsMapRegion(std::int32_t region)
-{
-    return region == kRegionNorthAmerica || region == kRegionEurope;
-}
-inline constexpr std::int32_t kLastMapStyle = 4;
+inline constexpr std::int32_t kLastMapStyle = static_cast<std::int32_t>(kMapStyles.size()) - 1;
 inline constexpr std::int32_t kLastMapFont = 4; // The smallest.
 inline constexpr double kMinZoom = 1, kMaxZoom = 19;
 // Of a new map.
-inline constexpr std::int32_t kFirstMapStyle = 0;
+inline constexpr std::int32_t kFirstMapStyle = NumberOf(MapStyle::Road);
 inline constexpr std::int32_t kFirstMapFont = 2;
-inline constexpr double kFirstZoom = 4;
+inline constexpr double kFirstZoom = 4; // Of a document that tells none.
 inline constexpr std::int32_t kUnitsMiles = 0;
 inline constexpr std::int32_t kShapeRadiusCircle = 1009;
 inline constexpr std::int16_t kDefaultSymbol = 1;

@@ -1,4 +1,5 @@
 #include "map/tile_settings.h"
+#include "map/tile_url.h"
 #include "support/program.h"
 
 #include <gtest/gtest.h>
@@ -40,6 +41,18 @@ TEST(TileSettings, UnusableOnesInTheStoreAreTheDefaults)
     program.store.Set("TileURL", "http://localhost:8080/{z}/{y}/{x}.png?k=1");
     LoadTileSettings(program.main);
     EXPECT_EQ(program.main.map.tiles.urlTemplate, "http://localhost:8080/{z}/{y}/{x}.png?k=1");
+}
+
+TEST(TileUrl, OnlyWebServersWithEveryPartOfTheNumberAreAsked)
+{
+    EXPECT_TRUE(IsTileUrl(kDefaultTileUrl));
+    EXPECT_TRUE(IsTileUrl("http://127.0.0.1:8080/{z}/{y}/{x}.png?k=1"));
+    EXPECT_TRUE(IsTileUrl("https://a.b/?x={x}&y={y}&z={z}"));
+    for (const char* url : {"", "https://", "https:///{z}/{x}/{y}", "https://{z}{x}{y}", "file:///etc/{z}/{x}/{y}",
+                            "ftp://a.b/{z}/{x}/{y}", "data:{z}/{x}/{y}", "//a.b/{z}/{x}/{y}",
+                            "xhttps://a.b/{z}/{x}/{y}", "https://a.b/{z}/{x}", "https://a.b/{x}/{y}",
+                            "https://a.b/{z}/{y}", "https://a.b/{z}/{x}/{y} x", "https://a.b/{z}/{x}/{y}\r\nHost: c"})
+        EXPECT_FALSE(IsTileUrl(url)) << url;
 }
 
 TEST(TileSettings, ATileStandsForTheFolderOfAll)

@@ -181,5 +181,24 @@ TEST(MapControl, BeforeTheFirstMapThereIsNone)
     EXPECT_THROW(control.SetToolbarVisible(5, true), Failure);
 }
 
+TEST_F(MapModel, ANewMapHasNothingOfTheFormerOnesLookAndShowsTheRegion)
+{
+    TheMap().SetMapStyle(NumberOf(MapStyle::Terrain));
+    TheMap().SetMapFont(kLastMapFont);
+    TheMap().SetView({-40, 170}, 12);
+    TheMap().SetSize(1000, 700);
+    control.NewMap(kRegionEurope);
+    EXPECT_EQ(TheMap().MapStyle(), kFirstMapStyle);
+    EXPECT_EQ(TheMap().MapFont(), kFirstMapFont);
+    const MapView& view = TheMap().View();
+    EXPECT_EQ(view.width, 1000);
+    for (const GeoPoint corner : {GeoPoint{60, -8}, GeoPoint{36, 30}}) { // Lerwick to Antalya.
+        const PixelPoint at = ToPixel(view, corner);
+        EXPECT_TRUE(at.x > 0 && at.x < 1000 && at.y > 0 && at.y < 700) << corner.lat;
+    }
+    EXPECT_LT(view.zoom, 5);
+    EXPECT_GT(view.zoom, 3.5);
+}
+
 } // namespace
 } // namespace ruvenmark

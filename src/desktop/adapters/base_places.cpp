@@ -1,8 +1,8 @@
 #include "desktop/adapters/base_places.h"
 
-#include "desktop/map/base_map.h"
-#include "desktop/map/place_index.h"
+#include "desktop/map/base_map/place_index.h"
 #include "desktop/shown_text.h"
+#include "mapfiles/base_map.h"
 
 namespace ruvenmark {
 

@@ -1,6 +1,6 @@
 #include "desktop/adapters/qt_desktop.h"
 
-#include "desktop/map/map_widget.h"
+#include "desktop/map/widget/map_widget.h"
 #include "desktop/shown_text.h"
 #include "platform/failure.h"
 

@@ -1,11 +1,11 @@
 #include "desktop/bars/location_bar.h"
 
 #include "core/main_window.h"
-#include "desktop/map/earth.h"
-#include "desktop/map/view_moves.h"
+#include "desktop/map/view/view_moves.h"
 #include "desktop/named_control.h"
 #include "desktop/shown_text.h"
 #include "map/directions.h"
+#include "platform/geometry.h"
 #include "platform/map_model.h"
 #include "ui/menus.h"
 

@@ -2,7 +2,7 @@
 
 #include "core/main_window.h"
 #include "desktop/bars/location_bar.h"
-#include "desktop/map/map_widget.h"
+#include "desktop/map/widget/map_widget.h"
 #include "desktop/panes/directions_pane.h"
 #include "map/pointer_tools.h"
 
@@ -86,13 +86,13 @@ void MapPane::FillStandardBar()
 void MapPane::FillNavigationBar()
 {
     m_navigation->setObjectName(QStringLiteral("mapToolBar2"));
-    AddNavigation("zoom-in", "Zoom in", [this] { m_map.ZoomIn(); });
-    AddNavigation("zoom-out", "Zoom out", [this] { m_map.ZoomOut(); });
+    AddNavigation("zoom-in", "Zoom in", [this] { m_map.Mover().ZoomBy(1); });
+    AddNavigation("zoom-out", "Zoom out", [this] { m_map.Mover().ZoomBy(-1); });
     AddMove("pan-west", "Go west", -kMoveShare, 0);
     AddMove("pan-east", "Go east", kMoveShare, 0);
     AddMove("pan-north", "Go north", 0, -kMoveShare);
     AddMove("pan-south", "Go south", 0, kMoveShare);
-    AddNavigation("fit-world", "Show the whole region", [this] { m_map.ShowRegion(); });
+    AddNavigation("fit-world", "Show the whole region", [this] { m_map.Mover().ShowRegion(); });
 }
 
 void MapPane::FillDrawingBar()
@@ -117,7 +117,9 @@ void MapPane::AddNavigation(const char* iconName, const char* text, Act act)
 
 void MapPane::AddMove(const char* iconName, const char* text, double right, double down)
 {
-    AddNavigation(iconName, text, [this, right, down] { m_map.PanBy(right * m_map.width(), down * m_map.height()); });
+    AddNavigation(iconName, text, [this, right, down] {
+        m_map.Mover().PanBy({right * m_map.width(), down * m_map.height()});
+    });
 }
 
 void MapPane::ShowBars()

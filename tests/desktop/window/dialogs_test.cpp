@@ -1,6 +1,6 @@
 #include "desktop/adapters/qt_desktop.h"
 #include "desktop/adapters/qt_prompts.h"
-#include "desktop/map/map_widget.h"
+#include "desktop/map/widget/map_widget.h"
 #include "links/import_form_rules.h"
 #include "links/station_files.h"
 #include "map/find.h"

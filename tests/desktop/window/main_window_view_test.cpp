@@ -1,5 +1,5 @@
 #include "desktop/main_window_view.h"
-#include "desktop/map/map_widget.h"
+#include "desktop/map/widget/map_widget.h"
 #include "desktop/termination.h"
 #include "desktop/tree/tree_view.h"
 #include "map/directions.h"
@@ -281,6 +281,18 @@ TEST(MainWindowViewTest, AClickedMarkerIsSelectedAndDeleted)
     button.trigger();
     EXPECT_EQ(map.RecordCount(), 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !button.isEnabled(); }));
+}
+
+TEST(MainWindowViewTest, ATileFileThatCannotBeUsedIsToldAndCounted)
+{
+    WindowProgram program;
+    program.prompts.files = {"/no/such.mbtiles"};
+    program.Action("mnuTileFile").trigger();
+    MapTiles& tiles = program.window.Map().Tiles();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !tiles.Problem().isEmpty(); }));
+    EXPECT_EQ(program.main.abandoned.Count(), 1U);
+    program.Action("mnuTileFile").trigger(); // Puts it away.
+    EXPECT_EQ(tiles.Problem(), "");
 }
 
 TEST(MainWindowViewTest, HelpAndOperatorInfoShowInTheRightPane)

@@ -1,0 +1,229 @@
+#include "desktop/map/labels/station_labels.h"
+
+#include "desktop/map/markers/marker_painter.h"
+#include "desktop/shown_text.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr std::size_t kMostKept = 10000;
+constexpr std::size_t kMostCharacters = 200; // Measured of a name.
+constexpr double kHalo = 1.5;                // Pixels around the letters.
+constexpr double kHalf = kMarkerPixels / 2.0;
+constexpr double kGap = 1, kRingGap = 5;                      // Pixels from the marker, and from a selected one.
+constexpr QSizeF kCore(kMarkerPixels - 6, kMarkerPixels - 6); // What no name may cover of a marker.
+
+QRectF Around(QPointF centre, QSizeF size)
+{
+    return {centre.x() - size.width() / 2, centre.y() - size.height() / 2, size.width(), size.height()};
+}
+
+// Beside a marker: right, left, below, above; for one in view first where the whole name is in view too.
+std::array<QPointF, 4> NamePlaces(QPointF at, QSizeF size, double gap, const QRectF& view)
+{
+    const double sideways = kHalf + gap + size.width() / 2, upright = kHalf + gap + size.height() / 2;
+    std::array places{at + QPointF(sideways, 0), at - QPointF(sideways, 0), at + QPointF(0, upright),
+                      at - QPointF(0, upright)};
+    if (view.contains(at)) {
+        std::stable_partition(places.begin(), places.end(),
+                              [&](QPointF centre) { return view.contains(Around(centre, size)); });
+    }
+    return places;
+}
+
+std::array<QPointF, 4> BadgePlaces(QPointF at)
+{
+    constexpr double kOut = kHalf - 2;
+    return {at + QPointF(kOut, -kOut), at + QPointF(-kOut, -kOut), at + QPointF(kOut, kOut), at + QPointF(-kOut, kOut)};
+}
+
+bool IsSameLook(const MapLook& a, const MapLook& b)
+{
+    return a.nameFont == b.nameFont && a.text == b.text && a.halo == b.halo && a.badge == b.badge;
+}
+
+} // namespace
+
+void StationLabels::SetLook(const MapLook& look, qreal ratio)
+{
+    const bool bSame = m_look && m_ratio == ratio && IsSameLook(*m_look, look);
+    m_look = look;
+    m_ratio = ratio;
+    if (!bSame || m_names.size() > kMostKept) {
+        m_names.clear();
+        m_badges.clear();
+    }
+}
+
+QString StationLabels::CountText(std::uint32_t count)
+{
+    const auto tenths = [](std::uint32_t value, const char* unit) {
+        return QString::number(value / 10) +
+               (value < 100 && value % 10 != 0 ? QStringLiteral(".%1").arg(value % 10) : QString()) +
+               QLatin1String(unit);
+    };
+    if (count < 1000)
+        return QString::number(count);
+    return count < 1000000 ? tenths(count / 100, "k") : tenths(count / 100000, "M");
+}
+
+StationLabels::Text& StationLabels::Name(const std::string& name)
+{
+    const auto [it, bNew] = m_names.try_emplace(name);
+    if (bNew) {
+        const QFontMetricsF metrics(m_look->nameFont);
+        const QString text = ForDisplay(FirstCharacters(name, kMostCharacters));
+        it->second.shown = metrics.elidedText(text, Qt::ElideRight, kMostWidth);
+        it->second.size = {std::ceil(metrics.horizontalAdvance(it->second.shown)) + 2 * kHalo,
+                           std::ceil(metrics.height())};
+    }
+    return it->second;
+}
+
+StationLabels::Text& StationLabels::Badge(std::uint32_t count)
+{
+    const auto [it, bNew] = m_badges.try_emplace(count);
+    if (bNew) {
+        const QFontMetricsF metrics(m_look->badgeFont);
+        it->second.shown = CountText(count);
+        const double height = std::ceil(metrics.height());
+        const double width = std::ceil(metrics.horizontalAdvance(it->second.shown)) + 7;
+        it->second.size = {std::max(width, height), height};
+    }
+    return it->second;
+}
+
+void StationLabels::SetGround(const ViewFrame& frame)
+{
+    constexpr int kMargin = MarkerLayout::kMargin, kPeriod = 4; // Pixels of the grid's squares.
+    const auto phase = [](double edge) { return edge - std::floor(edge / kPeriod) * kPeriod; };
+    m_view = frame.Rect();
+    m_onGround = {kMargin + phase(frame.left * frame.world), kMargin + phase(frame.top * frame.world)};
+    m_grid.Reset(frame.width + 2 * kMargin + kPeriod, frame.height + 2 * kMargin + kPeriod);
+}
+
+void StationLabels::Place(const std::vector<MarkerItem>& items, const SlotPool<PinData>& pins, const ViewFrame& frame,
+                          std::optional<std::uint32_t> selected, std::span<const QRectF> taken)
+{
+    m_nameTodo.clear();
+    m_badgeTodo.clear();
+    m_namesPlaced.clear();
+    m_badgesPlaced.clear();
+    SetGround(frame);
+    for (const QRectF& rect : taken)
+        m_grid.Block(rect.translated(m_onGround));
+    for (std::size_t i = items.size(); i-- > 0;)
+        if (items[i].count > 1)
+            PlaceBadge(items[i]);
+    for (const MarkerItem& item : items)
+        m_grid.Block(Around(item.at, kCore).translated(m_onGround));
+    for (std::size_t i = items.size(); i-- > 0;)
+        if (items[i].bBalloon || selected == items[i].slot)
+            PlaceName(items[i], pins, selected == items[i].slot ? kRingGap : kGap);
+}
+
+void StationLabels::BlockIn(LabelGrid& grid, const std::vector<MarkerItem>& items) const
+{
+    for (const MarkerItem& item : items)
+        grid.Block(Around(item.at, kCore));
+    for (const Placed& name : m_namesPlaced)
+        grid.Block(name.rect);
+    for (const Placed& badge : m_badgesPlaced)
+        grid.Block(badge.rect);
+}
+
+void StationLabels::Take(std::uint32_t slot, const std::array<QPointF, 4>& centres, Text& text, std::vector<Todo>& todo,
+                         std::vector<Placed>& placed)
+{
+    for (const QPointF centre : centres) {
+        const QRectF rect = Around(centre, text.size);
+        if (!m_grid.TryPlace(rect.translated(m_onGround)))
+            continue;
+        if (m_view.intersects(rect)) {
+            todo.push_back({&text, rect});
+            placed.push_back({slot, rect});
+        }
+        return;
+    }
+}
+
+void StationLabels::PlaceBadge(const MarkerItem& item)
+{
+    Take(item.slot, BadgePlaces(item.at), Badge(item.count), m_badgeTodo, m_badgesPlaced);
+}
+
+void StationLabels::PlaceName(const MarkerItem& item, const SlotPool<PinData>& pins, double gap)
+{
+    const PinData* pin = pins.At(item.slot);
+    if (!pin || pin->name.empty())
+        return;
+    Text& text = Name(pin->name);
+    Take(item.slot, NamePlaces(item.at, text.size, gap, m_view), text, m_nameTodo, m_namesPlaced);
+}
+
+void StationLabels::PaintName(QPainter& painter, const Text& text, const QRectF& rect) const
+{
+    const QFontMetricsF metrics(m_look->nameFont);
+    const QPointF base(rect.left() + kHalo, std::round(rect.top() + metrics.ascent()));
+    QPainterPath letters;
+    letters.addText(base, m_look->nameFont, text.shown);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(letters, QPen(m_look->halo, 2 * kHalo, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setFont(m_look->nameFont);
+    painter.setPen(m_look->text);
+    painter.drawText(base, text.shown);
+}
+
+void StationLabels::PaintBadge(QPainter& painter, const Text& text, const QRectF& rect) const
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(m_look->halo, 1));
+    painter.setBrush(m_look->badge);
+    painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), rect.height() / 2, rect.height() / 2);
+    painter.setFont(m_look->badgeFont);
+    painter.setPen(m_look->badgeText);
+    painter.drawText(rect, Qt::AlignCenter, text.shown);
+}
+
+template <typename PaintText>
+void StationLabels::PaintKept(QPainter& painter, Text& text, const QRectF& rect, PaintText paintText) const
+{
+    if (text.picture.isNull()) {
+        text.picture = QPixmap((text.size * m_ratio).toSize());
+        text.picture.setDevicePixelRatio(m_ratio);
+        text.picture.fill(Qt::transparent);
+        QPainter onPicture(&text.picture);
+        paintText(onPicture, QRectF(QPointF(), text.size));
+    }
+    const auto snap = [this](double value) { return std::round(value * m_ratio) / m_ratio; };
+    painter.drawPixmap(QPointF(snap(rect.left()), snap(rect.top())), text.picture);
+}
+
+void StationLabels::Paint(QPainter& painter, bool bVector)
+{
+    painter.save();
+    const auto name = [this](QPainter& on, const Text& text, const QRectF& rect) { PaintName(on, text, rect); };
+    const auto badge = [this](QPainter& on, const Text& text, const QRectF& rect) { PaintBadge(on, text, rect); };
+    const auto paintAll = [&](std::vector<Todo>& todo, const auto& paintText) {
+        for (const Todo& one : todo)
+            if (bVector)
+                paintText(painter, *one.text, one.rect);
+            else
+                PaintKept(painter, *one.text, one.rect,
+                          [&](QPainter& on, const QRectF& rect) { paintText(on, *one.text, rect); });
+    };
+    paintAll(m_nameTodo, name);
+    paintAll(m_badgeTodo, badge);
+    painter.restore();
+}
+
+} // namespace ruvenmark

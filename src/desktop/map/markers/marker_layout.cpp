@@ -1,0 +1,144 @@
+#include "desktop/map/markers/marker_layout.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr double kUnits = 4294967296.0; // Of a PinPoint in the world.
+
+} // namespace
+
+void MarkerLayout::SetWindow(const ViewFrame& frame)
+{
+    const double perUnit = frame.world / kUnits;
+    const double left = frame.left - kMargin / frame.world;
+    const double top = frame.top - kMargin / frame.world;
+    m_window.left = static_cast<std::uint32_t>((left - std::floor(left)) * kUnits);
+    m_window.top = static_cast<std::int64_t>(top * kUnits);
+    m_window.spanX = static_cast<std::uint64_t>((frame.width + 2 * kMargin) / perUnit);
+    m_window.spanY = static_cast<std::uint64_t>((frame.height + 2 * kMargin) / perUnit);
+    m_window.scale = perUnit;
+    m_window.world = frame.world;
+    const auto shift = [&](double edge) { return edge - std::floor(edge / kSquare) * kSquare; };
+    m_window.shiftX = shift(left * frame.world);
+    m_window.shiftY = shift(top * frame.world);
+    m_window.columns = static_cast<std::size_t>(frame.width + 2 * kMargin) / kSquare + 2;
+    m_window.rows = static_cast<std::size_t>(frame.height + 2 * kMargin) / kSquare + 2;
+}
+
+// Newest first; positions are told from the corner of the window with its margin. Where the view is wider than the
+// world, a marker comes once for each copy.
+template <typename Visit>
+void MarkerLayout::EachInWindow(const std::vector<PinPoint>& points, Visit visit) const
+{
+    const Window window = m_window;
+    for (std::size_t i = points.size(); i-- > 0;) {
+        const PinPoint& point = points[i];
+        const std::uint32_t dx = point.x - window.left;
+        const auto dy = static_cast<std::uint64_t>(static_cast<std::int64_t>(point.y) - window.top);
+        if (dx >= window.spanX || dy >= window.spanY || !point.bLive)
+            continue;
+        const double y = static_cast<double>(dy) * window.scale;
+        const double right = static_cast<double>(window.spanX) * window.scale;
+        for (double x = dx * window.scale; x < right; x += window.world)
+            visit(static_cast<std::uint32_t>(i), x, y);
+    }
+}
+
+std::size_t MarkerLayout::SquareAt(double x, double y) const
+{
+    const auto column = static_cast<std::size_t>((x + m_window.shiftX) * (1.0 / kSquare));
+    const auto row = static_cast<std::size_t>((y + m_window.shiftY) * (1.0 / kSquare));
+    return std::min(row, m_window.rows - 1) * m_window.columns + std::min(column, m_window.columns - 1);
+}
+
+// Which of several markers is seen: the selected one, else one that shows its name, else the newest.
+int MarkerLayout::Rank(std::uint32_t slot) const
+{
+    if (m_selected == slot)
+        return 2;
+    return m_points[slot].bBalloon ? 1 : 0;
+}
+
+void MarkerLayout::Count(std::uint32_t slot, double x, double y)
+{
+    Square& square = m_squares[SquareAt(x, y)];
+    const Spot spot{slot, static_cast<float>(x), static_cast<float>(y)};
+    if (square.count == 0 || Rank(slot) > Rank(square.best.slot))
+        square.best = spot;
+    if (square.count < kMostInSquare)
+        square.spots[square.count] = spot;
+    ++square.count;
+}
+
+void MarkerLayout::Update(const std::vector<PinPoint>& points, const ViewFrame& frame,
+                          std::optional<std::uint32_t> selected)
+{
+    m_points = points.data();
+    m_selected = selected;
+    SetWindow(frame);
+    m_squares.assign(m_window.columns * m_window.rows, {});
+    EachInWindow(points, [this](std::uint32_t slot, double x, double y) { Count(slot, x, y); });
+    m_items.clear();
+    for (const Square& square : m_squares)
+        if (square.count > kMostInSquare)
+            Add(square.best, square.count);
+        else
+            Thin(square);
+    const auto isBelow = [this](const MarkerItem& a, const MarkerItem& b) {
+        const bool bSelectedA = m_selected == a.slot, bSelectedB = m_selected == b.slot;
+        return bSelectedA != bSelectedB ? bSelectedB : a.slot < b.slot;
+    };
+    std::sort(m_items.begin(), m_items.end(), isBelow);
+    m_points = nullptr;
+}
+
+void MarkerLayout::Thin(const Square& square)
+{
+    std::array<bool, kMostInSquare> taken{};
+    const std::size_t count = square.count;
+    for (std::size_t i = 0; i < count; ++i) {
+        if (taken[i])
+            continue;
+        Spot best = square.spots[i];
+        std::uint32_t together = 1;
+        for (std::size_t j = i + 1; j < count; ++j) {
+            const Spot& other = square.spots[j];
+            const bool bHidden =
+                std::abs(other.x - square.spots[i].x) < kHides && std::abs(other.y - square.spots[i].y) < kHides;
+            if (taken[j] || !bHidden)
+                continue;
+            taken[j] = true;
+            ++together;
+            if (Rank(other.slot) > Rank(best.slot))
+                best = other;
+        }
+        Add(best, together);
+    }
+}
+
+void MarkerLayout::Add(const Spot& spot, std::uint32_t count)
+{
+    const PinPoint& point = m_points[spot.slot];
+    m_items.push_back({spot.slot, point.symbol, point.bBalloon, count,
+                       QPointF(static_cast<double>(spot.x) - kMargin, static_cast<double>(spot.y) - kMargin)});
+}
+
+std::vector<std::uint32_t> MarkerLayout::Members(const std::vector<PinPoint>& points, const MarkerItem& item) const
+{
+    std::vector<std::uint32_t> members;
+    const double atX = item.at.x() + kMargin, atY = item.at.y() + kMargin;
+    const std::size_t square = SquareAt(atX, atY);
+    const bool bWholeSquare = m_squares[square].count > kMostInSquare;
+    EachInWindow(points, [&](std::uint32_t slot, double x, double y) {
+        const bool bNear = std::abs(x - atX) < kHides && std::abs(y - atY) < kHides;
+        if (SquareAt(x, y) == square && (bWholeSquare || bNear))
+            members.push_back(slot);
+    });
+    return members;
+}
+
+} // namespace ruvenmark

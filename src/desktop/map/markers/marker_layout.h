@@ -1,0 +1,79 @@
+#pragma once
+
+#include "desktop/map/view/view_frame.h"
+#include "platform/map_model.h"
+
+#include <QPointF>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace ruvenmark {
+
+// A marker as it is painted; it stands for `count` markers that would hide each other.
+struct MarkerItem {
+    std::uint32_t slot = 0;
+    std::int16_t symbol = 0;
+    bool bBalloon = false;
+    std::uint32_t count = 1;
+    QPointF at;
+};
+
+// Which markers are painted, and where. Markers within 4 pixels of each other count as one; where more than a few crowd
+// into one square of the ground, one stands for all. So a million markers cost a look at each and no more pictures than
+// fit on the screen. The squares are fixed to the ground: nothing flickers while the map is moved.
+class MarkerLayout {
+public:
+    static constexpr int kMargin = 160; // Pixels around the view, so that names reach into it.
+    static constexpr int kSquare = 40;
+    static constexpr std::uint32_t kMostInSquare = 4;
+    static constexpr double kHides = 4;
+
+    // The selected marker is never hidden by another.
+    void Update(const std::vector<PinPoint>& points, const ViewFrame& frame, std::optional<std::uint32_t> selected);
+
+    // In the order of painting: what was added last lies on top, the selected one above all.
+    const std::vector<MarkerItem>& Items() const { return m_items; }
+
+    // The markers an item stands for, newest first.
+    std::vector<std::uint32_t> Members(const std::vector<PinPoint>& points, const MarkerItem& item) const;
+
+private:
+    struct Spot {
+        std::uint32_t slot;
+        float x, y;
+    };
+    struct Square {
+        std::uint32_t count = 0;
+        Spot best{};
+        std::array<Spot, kMostInSquare> spots{};
+    };
+    struct Window {
+        std::uint32_t left = 0;
+        std::int64_t top = 0;
+        std::uint64_t spanX = 0, spanY = 0;
+        double scale = 0, shiftX = 0, shiftY = 0; // Pixels per unit; pixels from the first square's edge.
+        double world = 0;
+        std::size_t columns = 0, rows = 0;
+    };
+
+    void SetWindow(const ViewFrame& frame);
+    void Count(std::uint32_t slot, double x, double y);
+    int Rank(std::uint32_t slot) const;
+    std::size_t SquareAt(double x, double y) const;
+    void Thin(const Square& square);
+    void Add(const Spot& spot, std::uint32_t count);
+    template <typename Visit>
+    void EachInWindow(const std::vector<PinPoint>& points, Visit visit) const;
+
+    const PinPoint* m_points = nullptr; // Only during Update.
+    std::optional<std::uint32_t> m_selected;
+    Window m_window;
+    std::vector<Square> m_squares;
+    std::vector<MarkerItem> m_items;
+};
+
+} // namespace ruvenmark

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "desktop/map/base_map/square_painter.h"
+#include "desktop/map/labels/label_grid.h"
+#include "desktop/map/labels/place_labels.h"
+#include "desktop/map/tiles/map_tiles.h"
+#include "desktop/map/view/view_frame.h"
+
+#include <QObject>
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+
+class QPainter;
+
+namespace ruvenmark {
+
+class BaseMap;
+
+// What lies under everything: the built-in map, and over it pictures from elsewhere where the style takes them.
+class MapGround : public QObject {
+    Q_OBJECT
+
+public:
+    // Without a base map the ground is water.
+    explicit MapGround(const BaseMap* base, QObject* parent = nullptr);
+    ~MapGround() override;
+
+    struct How {
+        std::int32_t style = 0; // As the map model numbers them.
+        std::int32_t font = 2;
+        bool bDark = false;
+        qreal ratio = 1;
+        bool bVector = false, bWait = false;
+    };
+    void Paint(QPainter& painter, const ViewFrame& frame, const How& how);
+    // The names of places, where `grid` is free, and above them the pictures from elsewhere, which have names of their
+    // own.
+    void PaintAbove(QPainter& painter, const ViewFrame& frame, LabelGrid& grid, const How& how);
+
+    // Whether pictures from elsewhere are the ground of this style; they are never dark.
+    bool ShowsTiles(std::int32_t style) const;
+    QString Credits(std::int32_t style) const;
+    MapTiles& Tiles() { return m_tiles; }
+
+signals:
+    void Changed(); // More can be painted.
+
+private:
+    const BaseMap* m_base;
+    std::unique_ptr<SquarePainter> m_painter; // Both null without a base map.
+    std::unique_ptr<PlaceLabels> m_names;
+    MapTiles m_tiles;
+    bool m_bCovered = false; // The last frame showed nothing but tiles.
+};
+
+} // namespace ruvenmark

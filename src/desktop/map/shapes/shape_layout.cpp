@@ -1,0 +1,145 @@
+#include "desktop/map/shapes/shape_layout.h"
+
+#include "platform/geometry.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr double kSurroundings = 64; // Pixels; more than the widest pen and arrowhead.
+constexpr double kShort = 3;         // Pixels; of such lines one is enough for each square of that size.
+constexpr double kMostArcs = 4096;
+
+QRectF Surroundings(const ViewFrame& frame)
+{
+    return frame.Rect().adjusted(-kSurroundings, -kSurroundings, kSurroundings, kSurroundings);
+}
+
+// The box around a circle on the earth; as wide as the world where it holds a pole.
+QRectF Box(const ViewFrame& frame, GeoPoint centre, double angle)
+{
+    const QPointF middle = frame.ToPixel(ToMercator(centre));
+    const double north = std::min(centre.lat + angle / kDegree, 90.0);
+    const double south = std::max(centre.lat - angle / kDegree, -90.0);
+    const double ratio = std::sin(angle) / std::cos(centre.lat * kDegree);
+    const bool bPole = north >= 90 || south <= -90 || angle >= std::numbers::pi / 2 || ratio >= 1;
+    const double half = bPole ? frame.world : std::asin(ratio) / (2 * std::numbers::pi) * frame.world;
+    const double top = frame.ToPixel(ToMercator({north, centre.lon})).y();
+    const double bottom = frame.ToPixel(ToMercator({south, centre.lon})).y();
+    return {QPointF(middle.x() - half, top), QPointF(middle.x() + half, bottom)};
+}
+
+// As many corners as keep the outline within a quarter of a pixel of the true one.
+int Corners(double radiusPixels)
+{
+    return static_cast<int>(std::clamp(std::numbers::pi * std::sqrt(2 * radiusPixels), 48.0, kMostArcs));
+}
+
+} // namespace
+
+// Liang and Barsky's way: the part of the line's parameter that each edge leaves.
+bool CutLine(QLineF& line, const QRectF& rect)
+{
+    double first = 0, last = 1;
+    const auto edge = [&](double towards, double room) {
+        if (towards == 0)
+            return room >= 0;
+        const double t = room / towards;
+        if (towards < 0)
+            first = std::max(first, t);
+        else
+            last = std::min(last, t);
+        return first <= last;
+    };
+    if (!edge(-line.dx(), line.x1() - rect.left()) || !edge(line.dx(), rect.right() - line.x1()) ||
+        !edge(-line.dy(), line.y1() - rect.top()) || !edge(line.dy(), rect.bottom() - line.y1()))
+        return false;
+    line = QLineF(line.pointAt(first), line.pointAt(last));
+    return true;
+}
+
+void ShapeLayout::Update(const SlotPool<ShapeData>& shapes, const ViewFrame& frame)
+{
+    m_lines.clear();
+    m_circles.clear();
+    m_projected.resize(shapes.SlotCount());
+    const QRectF area = Surroundings(frame);
+    m_columns = static_cast<std::size_t>(area.width() / kShort) + 2;
+    m_taken.assign(m_columns * (static_cast<std::size_t>(area.height() / kShort) + 2), false);
+    for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot) {
+        const ShapeData* shape = shapes.At(slot);
+        if (!shape || !shape->bVisible)
+            continue;
+        if (shape->kind == ShapeData::Kind::Line)
+            AddLine(shapes.RefAt(slot), *shape, frame);
+        else
+            AddCircle(shapes.RefAt(slot), *shape, frame);
+    }
+}
+
+const ShapeLayout::Projected& ShapeLayout::Project(SlotRef ref, const ShapeData& shape)
+{
+    Projected& projected = m_projected[ref.slot];
+    if (projected.id != ref.id)
+        projected = {ref.id, ToMercator(shape.from), ToMercator(shape.to)};
+    return projected;
+}
+
+// False where a short line stands already: a long trail of small steps is seen at any zoom, and costs no more than it
+// shows.
+bool ShapeLayout::TakeSquare(QPointF at)
+{
+    const auto column = static_cast<std::size_t>((at.x() + kSurroundings) / kShort);
+    const auto row = static_cast<std::size_t>((at.y() + kSurroundings) / kShort);
+    const std::size_t square = row * m_columns + column;
+    const bool bFree = square < m_taken.size() && !m_taken[square];
+    if (bFree)
+        m_taken[square] = true;
+    return bFree;
+}
+
+// The short way round the earth.
+void ShapeLayout::AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& frame)
+{
+    const Projected& projected = Project(ref, shape);
+    const QPointF from = frame.ToPixel(projected.from);
+    double dx = projected.to.x - projected.from.x;
+    dx -= std::floor(dx + 0.5);
+    const QPointF to = from + QPointF(dx, projected.to.y - projected.from.y) * frame.world;
+    LineItem item{ref.slot, QLineF(from, to), false, false};
+    if (!CutLine(item.line, Surroundings(frame)))
+        return;
+    const bool bShort = std::abs(to.x() - from.x()) < kShort && std::abs(to.y() - from.y()) < kShort;
+    if (bShort && !TakeSquare(item.line.center()))
+        return;
+    item.bBeginCut = (item.line.p1() - from).manhattanLength() > 0.01;
+    item.bEndCut = (item.line.p2() - to).manhattanLength() > 0.01;
+    m_lines.push_back(item);
+}
+
+void ShapeLayout::AddCircle(SlotRef ref, const ShapeData& shape, const ViewFrame& frame)
+{
+    const double angle = std::min(std::abs(shape.width) / kEarthRadiusMiles, std::numbers::pi);
+    const QRectF box = Box(frame, shape.from, angle);
+    if (!box.intersects(Surroundings(frame)))
+        return;
+    const int corners = Corners(std::max(box.width(), box.height()) / 2);
+    CircleItem item{ref.slot, {}};
+    item.outline.reserve(corners + 1);
+    for (int i = 0; i <= corners; ++i) {
+        const double bearing = 360.0 * i / corners;
+        QPointF at = frame.ToPixel(ToMercator(Destination(shape.from, bearing, angle * kEarthRadiusMiles)));
+        if (i > 0) {
+            const double jump = at.x() - item.outline.last().x();
+            at.rx() -= std::floor(jump / frame.world + 0.5) * frame.world;
+        }
+        item.outline.append(at);
+    }
+    m_circles.push_back(std::move(item));
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,249 @@
+#include "desktop/map/widget/map_widget.h"
+
+#include "desktop/icons/icon_set.h"
+#include "desktop/map/widget/zoom_buttons.h"
+#include "platform/map_model.h"
+
+#include <QElapsedTimer>
+#include <QEvent>
+#include <QImage>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr int kGatherMilliseconds = 45;
+constexpr int kButtonMargin = 12;
+
+} // namespace
+
+MapWidget::MapWidget(MapControl& control, IconSet& icons, const BaseMap* base, const MapSelection& selection,
+                     QWidget* parent)
+    : QWidget(parent), m_control(control), m_selection(selection), m_ground(base), m_scene(icons, m_ground),
+      m_mover(control), m_input(control, m_mover, *this), m_picker(control, m_scene, m_balloons, selection),
+      m_buttons(new ZoomButtons(icons, this))
+{
+    setObjectName(QStringLiteral("mpCtrl"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setMinimumSize(120, 90);
+    setAccessibleName(QStringLiteral("Map"));
+    setAccessibleDescription(QStringLiteral(
+        "Arrow keys move the map, plus and minus zoom, Home shows the whole region, Escape closes the balloon."));
+    m_gather.setSingleShot(true);
+    connect(&m_gather, &QTimer::timeout, this, &MapWidget::GatheredChange);
+    connect(&m_ground, &MapGround::Changed, this, qOverload<>(&QWidget::update));
+    connect(m_buttons, &ZoomButtons::ZoomIn, this, [this] { m_mover.ZoomBy(1); });
+    connect(m_buttons, &ZoomButtons::ZoomOut, this, [this] { m_mover.ZoomBy(-1); });
+    ConnectInput();
+    m_controlEvents.push_back(m_control.Replaced.Observe([this] { ObserveMap(); }));
+    m_controlEvents.push_back(m_control.ControlChanged.Observe([this] { UpdatePointer(); }));
+    ObserveMap();
+    UpdatePointer();
+}
+
+MapWidget::~MapWidget() = default;
+
+void MapWidget::ConnectInput()
+{
+    connect(&m_input, &MapInput::PointerMoved, this, [this](QPointF at) {
+        if (m_balloons.Hovered() && !m_input.IsDragging())
+            Hover(at);
+        emit PointerMoved(static_cast<int>(std::lround(at.x())), static_cast<int>(std::lround(at.y())));
+    });
+    connect(&m_input, &MapInput::PointerRested, this, &MapWidget::Hover);
+    connect(&m_input, &MapInput::PointerLeft, this, [this] {
+        m_balloons.Hover(std::nullopt);
+        update();
+    });
+    connect(&m_input, &MapInput::Picked, this, &MapWidget::Click);
+    connect(&m_input, &MapInput::Clicked, this, [this](Qt::MouseButton button, QPointF at) {
+        const QPoint pixel = at.toPoint();
+        emit Clicked(button, pixel.x(), pixel.y());
+    });
+    connect(&m_input, &MapInput::DraggingChanged, this, &MapWidget::UpdatePointer);
+}
+
+void MapWidget::ObserveMap()
+{
+    m_mapEvents.clear();
+    Map* map = m_control.ActiveMap();
+    if (!map)
+        return;
+    m_mapEvents.push_back(map->Changed.Observe([this] { MapChanged(); }));
+    m_mapEvents.push_back(map->ViewChanged.Observe([this] { ViewChanged(); }));
+    map->SetSize(width(), height());
+    GatheredChange();
+}
+
+// Called for every report: nothing but a look at a timer.
+void MapWidget::MapChanged()
+{
+    if (!m_gather.isActive())
+        m_gather.start(static_cast<int>(std::max<qint64>(kGatherMilliseconds, 4 * m_lastPaint)));
+}
+
+void MapWidget::ViewChanged()
+{
+    if (!m_mover.IsMoving())
+        return MapChanged();
+    m_balloons.Hover(std::nullopt);
+    UpdateButtons();
+    update();
+}
+
+void MapWidget::GatheredChange()
+{
+    DropTheGone();
+    UpdateButtons();
+    update();
+}
+
+void MapWidget::DropTheGone()
+{
+    const Map* map = m_control.ActiveMap();
+    m_balloons.DropTheGone(map);
+    const bool bSelected = !std::holds_alternative<std::monostate>(m_selection);
+    if (bSelected &&
+        !(map && (SelectedIn<Pushpin>(map->Pins(), m_selection) || SelectedIn<Shape>(map->Shapes(), m_selection))))
+        emit SelectionWanted({});
+}
+
+void MapWidget::UpdatePointer()
+{
+    if (m_control.MousePointer() == kPointerWait)
+        setCursor(Qt::WaitCursor);
+    else if (m_input.IsDragging())
+        setCursor(Qt::ClosedHandCursor);
+    else
+        setCursor(m_control.MousePointer() == kPointerCross ? Qt::CrossCursor : Qt::ArrowCursor);
+}
+
+void MapWidget::UpdateButtons()
+{
+    const Map* map = m_control.ActiveMap();
+    m_buttons->SetEnabled(map && map->View().zoom < kMaxZoom, map && map->View().zoom > LeastZoom(height()));
+}
+
+void MapWidget::Click(QPointF at)
+{
+    const auto picked = m_picker.Click(at);
+    if (picked && *picked != m_selection)
+        emit SelectionWanted(*picked);
+    update();
+}
+
+void MapWidget::Hover(QPointF at)
+{
+    if (m_picker.Rest(at))
+        update();
+}
+
+ScenePaint MapWidget::HowToPaint() const
+{
+    ScenePaint how;
+    how.selection = m_selection;
+    how.palette = palette();
+    how.font = font();
+    return how;
+}
+
+void MapWidget::paintEvent(QPaintEvent*)
+{
+    QElapsedTimer watch;
+    watch.start();
+    QPainter painter(this);
+    const Map* map = m_control.ActiveMap();
+    if (!map) {
+        painter.fillRect(rect(), palette().window());
+        return;
+    }
+    ScenePaint how = HowToPaint();
+    how.ratio = devicePixelRatioF();
+    how.buttons = m_buttons->geometry();
+    const MapLook look = m_scene.Paint(painter, *map, map->View(), how);
+    m_balloons.Paint(painter, {*map, map->View(), m_scene.Markers(), look});
+    if (m_input.IsKeyboardHere()) {
+        painter.setPen(QPen(palette().highlight(), 2));
+        painter.drawRect(rect().adjusted(1, 1, -1, -1));
+    }
+    ++m_paints;
+    m_lastPaint = watch.elapsed();
+}
+
+// The scene is arranged for the window again afterwards.
+void MapWidget::PaintStill(QPainter& painter, const MapView& view, const ScenePaint& how)
+{
+    const Map& map = m_control.RequireMap();
+    const MapLook look = m_scene.Paint(painter, map, view, how);
+    m_balloons.PaintStill(painter, {map, view, m_scene.Markers(), look});
+    update();
+}
+
+QImage MapWidget::Picture(QSize size, qreal ratio)
+{
+    QImage picture(size * ratio, QImage::Format_RGB32);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(palette().color(QPalette::Window));
+    const Map* map = m_control.ActiveMap();
+    if (!map)
+        return picture;
+    MapView view = map->View();
+    view.width = size.width();
+    view.height = size.height();
+    ScenePaint how = HowToPaint();
+    how.ratio = ratio;
+    how.bWait = true;
+    QPainter painter(&picture);
+    PaintStill(painter, view, how);
+    return picture;
+}
+
+void MapWidget::PaintMap(QPainter& painter, const QRectF& target)
+{
+    const Map* map = m_control.ActiveMap();
+    if (!map || target.isEmpty())
+        return;
+    MapView view = map->View();
+    const double scale = std::min(target.width() / view.width, target.height() / view.height);
+    view.width = static_cast<int>(std::lround(target.width() / scale));
+    view.height = static_cast<int>(std::lround(target.height() / scale));
+    ScenePaint how = HowToPaint();
+    how.palette = QPalette(Qt::white); // Paper is white.
+    how.bVector = how.bWait = true;
+    painter.save();
+    painter.translate(target.topLeft());
+    painter.scale(scale, scale);
+    painter.setClipRect(QRectF(0, 0, view.width, view.height));
+    PaintStill(painter, view, how);
+    painter.restore();
+}
+
+void MapWidget::resizeEvent(QResizeEvent*)
+{
+    m_buttons->move(width() - m_buttons->width() - kButtonMargin, kButtonMargin);
+    m_mover.Resize(size());
+}
+
+void MapWidget::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+        update();
+    QWidget::changeEvent(event);
+}
+
+void MapWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Escape || !m_balloons.Pinned())
+        return QWidget::keyPressEvent(event);
+    m_balloons.Close();
+    update();
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "desktop/map/balloons/balloons.h"
+#include "desktop/map/scene/map_ground.h"
+#include "desktop/map/scene/map_scene.h"
+#include "desktop/map/view/map_mover.h"
+#include "desktop/map/widget/map_input.h"
+#include "desktop/map/widget/map_picker.h"
+#include "platform/event.h"
+#include "platform/map_control.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <vector>
+
+namespace ruvenmark {
+
+class BaseMap;
+class IconSet;
+class ZoomButtons;
+
+// The map window. What the operator does is painted at once; what reports do is gathered and painted a few times a
+// second, however many there are.
+class MapWidget : public QWidget {
+    Q_OBJECT
+
+public:
+    // What is passed must outlive the widget; base may be null. The selection is the logic's: it is read at each paint,
+    // and changed by whoever hears SelectionWanted. Call update() when it has changed.
+    MapWidget(MapControl& control, IconSet& icons, const BaseMap* base, const MapSelection& selection,
+              QWidget* parent = nullptr);
+    ~MapWidget() override;
+
+    MapTiles& Tiles() { return m_ground.Tiles(); }
+    const MapScene& Scene() const { return m_scene; }
+    const Balloons& OpenBalloons() const { return m_balloons; }
+    MapMover& Mover() { return m_mover; }
+    int Paints() const { return m_paints; }
+
+    // As on the screen, at any size, without what belongs to the pointer.
+    QImage Picture(QSize size, qreal ratio);
+    // For printers: what the screen shows lies wholly in `target`, as lines and letters.
+    void PaintMap(QPainter& painter, const QRectF& target);
+
+signals:
+    void PointerMoved(int x, int y);
+    void Clicked(Qt::MouseButton button, int x, int y); // The pointer may be the cross: then nothing is selected.
+    void SelectionWanted(const ruvenmark::MapSelection& selection);
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void ConnectInput();
+    void ObserveMap();
+    void MapChanged();
+    void ViewChanged();
+    void GatheredChange();
+    void DropTheGone();
+    void UpdatePointer();
+    void UpdateButtons();
+    void Click(QPointF at);
+    void Hover(QPointF at);
+    ScenePaint HowToPaint() const;
+    void PaintStill(QPainter& painter, const MapView& view, const ScenePaint& how);
+
+    MapControl& m_control;
+    const MapSelection& m_selection;
+    MapGround m_ground;
+    MapScene m_scene;
+    Balloons m_balloons;
+    MapMover m_mover;
+    MapInput m_input;
+    MapPicker m_picker;
+    ZoomButtons* m_buttons;
+    std::vector<Subscription> m_controlEvents, m_mapEvents;
+    QTimer m_gather;
+    qint64 m_lastPaint = 0; // Milliseconds it took.
+    int m_paints = 0;
+};
+
+} // namespace ruvenmark

@@ -1,0 +1,96 @@
+#include "desktop/map/base_map/place_index.h"
+#include "desktop/map/base_map/world_map.h"
+#include "mapfiles/base_map.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+
+namespace ruvenmark {
+namespace {
+
+class PlaceIndexTest : public testing::Test {
+protected:
+    QString First(QStringView text)
+    {
+        const auto found = FindPlaces(map, text, 1);
+        if (found.empty())
+            return {};
+        const PlaceRecord place = map.Place(found.front());
+        std::string title(place.name);
+        if (place.country)
+            title.append(", ").append(map.Country(*place.country).name);
+        return QString::fromStdString(title);
+    }
+
+    BaseMap map = BaseMap::Open(kWorldMapPath);
+};
+
+TEST_F(PlaceIndexTest, FindsTheLargestFirst)
+{
+    EXPECT_EQ(First(u"new yor"), "New York City, United States");
+    EXPECT_TRUE(First(u"Paris").endsWith("France"));
+    EXPECT_TRUE(First(u" london ").endsWith("United Kingdom"));
+    const auto found = FindPlaces(map, u"spring", 50);
+    EXPECT_EQ(found.size(), 50U);
+    EXPECT_TRUE(std::is_sorted(found.begin(), found.end()));
+    for (const std::size_t place : found)
+        EXPECT_EQ(FoldForSearch(QString::fromUtf8(map.Place(place).name.data(),
+                                                  static_cast<qsizetype>(map.Place(place).name.size())))
+                      .substr(0, 6),
+                  "spring");
+}
+
+TEST_F(PlaceIndexTest, MarksAndCaseDoNotMatter)
+{
+    EXPECT_TRUE(First(u"SAO PAU").startsWith(u"São Paulo"));
+    EXPECT_TRUE(First(u"zurich").startsWith(u"Zürich"));
+    EXPECT_EQ(First(u"ZÜRICH"), First(u"zurich"));
+    EXPECT_TRUE(First(u"lodz").startsWith(u"Łódź"));
+    EXPECT_TRUE(First(u"xi'an").startsWith(u"Xi’an"));
+}
+
+// The stored order and the folding here come from two programs: each name has to be found by itself.
+TEST_F(PlaceIndexTest, EveryNameIsFoundByItself)
+{
+    for (std::size_t place = 0; place < map.PlaceCount(); place += 7) {
+        const std::string_view name = map.Place(place).name;
+        const auto found = FindPlaces(map, QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())), 1);
+        ASSERT_FALSE(found.empty()) << name;
+        ASSERT_LE(found.front(), place) << name << ": only a larger place may come before it";
+    }
+}
+
+TEST_F(PlaceIndexTest, LaterWordsAreFoundAfterFirstOnes)
+{
+    const auto found = FindPlaces(map, u"Angeles", 1000);
+    const auto begins = [&](std::size_t place) {
+        return FoldForSearch(QString::fromStdString(std::string(map.Place(place).name))).starts_with("angeles");
+    };
+    const auto firstLater = std::partition_point(found.begin(), found.end(), begins);
+    ASSERT_NE(firstLater, found.begin());
+    ASSERT_NE(firstLater, found.end());
+    EXPECT_EQ(map.Place(*firstLater).name, "Los Angeles") << "the largest";
+    EXPECT_TRUE(std::none_of(firstLater, found.end(), begins));
+    EXPECT_TRUE(std::is_sorted(found.begin(), firstLater) && std::is_sorted(firstLater, found.end()));
+    EXPECT_TRUE(First(u"york ci").startsWith("New York City"));
+    EXPECT_EQ(FindPlaces(map, u"Angeles", 2).size(), 2U);
+    const auto twice = FindPlaces(map, u"baden", 1000);
+    EXPECT_EQ(std::set(twice.begin(), twice.end()).size(), twice.size()) << "Baden-Baden is one place";
+}
+
+TEST_F(PlaceIndexTest, AnyTextIsTaken)
+{
+    EXPECT_TRUE(FindPlaces(map, u"", 10).empty());
+    EXPECT_TRUE(FindPlaces(map, u"   ", 10).empty());
+    EXPECT_TRUE(FindPlaces(map, u"zzqqxx", 10).empty());
+    EXPECT_TRUE(FindPlaces(map, u"a", 0).empty());
+    EXPECT_TRUE(FindPlaces(map, QString(100000, u'n'), 10).empty());
+    const char16_t broken[] = {0xD800, u'a', 0};
+    EXPECT_TRUE(FindPlaces(map, broken, 10).empty());
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "desktop/map/base_map/base_map_painter.h"
+#include "desktop/map/view/view_frame.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <cmath>
+#include <cstddef>
+#include <string>
+
+namespace ruvenmark {
+
+inline const std::string kWorldMapPath = RUVENMARK_SOURCE_DIR "/data/basemap/world.rvm";
+
+inline ViewFrame FrameAt(GeoPoint centre, double zoom, int width, int height)
+{
+    return ViewFrame(MapView{centre, zoom, width, height});
+}
+
+inline QImage PaintGround(const BaseMap& map, const ViewFrame& frame, MapStyle style, double ratio = 1)
+{
+    QImage image(static_cast<int>(std::lround(frame.width * ratio)),
+                 static_cast<int>(std::lround(frame.height * ratio)), QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    image.fill(Qt::magenta);
+    QPainter painter(&image);
+    BaseMapPainter(map).Paint(painter, {frame.left, frame.top, frame.world, frame.width, frame.height, ratio}, style,
+                              false);
+    return image;
+}
+
+inline int Difference(QRgb a, QRgb b)
+{
+    return std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
+}
+
+// How many pixels of two pictures of one size differ visibly.
+inline std::size_t DifferentPixels(const QImage& a, const QImage& b)
+{
+    std::size_t count = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            count += Difference(a.pixel(x, y), b.pixel(x, y)) > 12 ? 1 : 0;
+    return count;
+}
+
+} // namespace ruvenmark

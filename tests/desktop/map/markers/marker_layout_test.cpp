@@ -1,0 +1,87 @@
+#include "desktop/map/markers/marker_layout.h"
+
+#include <gtest/gtest.h>
+
+#include <numeric>
+
+namespace ruvenmark {
+namespace {
+
+constexpr MapView kView{{40, -90}, 6, 800, 600};
+
+PinPoint PointAt(const MapView& view, double x, double y, bool bBalloon = false)
+{
+    const MercatorPoint at = ToMercator(FromPixel(view, {x, y}));
+    constexpr double kUnits = 4294967296.0;
+    return {static_cast<std::uint32_t>(at.x * kUnits), static_cast<std::uint32_t>(at.y * kUnits), 1, true, bBalloon};
+}
+
+std::uint32_t Counted(const MarkerLayout& layout)
+{
+    const auto& items = layout.Items();
+    return std::accumulate(items.begin(), items.end(), 0U, [](auto sum, const auto& item) { return sum + item.count; });
+}
+
+TEST(MarkerLayout, EveryMarkerInViewCountsOnceAndPicturesAreBounded)
+{
+    std::vector<PinPoint> points;
+    points.reserve(200000);
+    for (int i = 0; i < 200000; ++i)
+        points.push_back(PointAt(kView, i * 37 % 800, (i * 91 / 7) % 600));
+    points[500].bLive = false;
+    MarkerLayout layout;
+    layout.Update(points, ViewFrame(kView), std::nullopt);
+    EXPECT_EQ(Counted(layout), 199999U);
+    constexpr std::size_t kSquares =
+        (std::size_t{800} / MarkerLayout::kSquare + 2) * (std::size_t{600} / MarkerLayout::kSquare + 2);
+    EXPECT_LE(layout.Items().size(), kSquares * MarkerLayout::kMostInSquare);
+}
+
+TEST(MarkerLayout, MarkersThatHideEachOtherAreOneAndOthersStayApart)
+{
+    const std::vector<PinPoint> points{PointAt(kView, 100, 100), PointAt(kView, 101, 102), PointAt(kView, 300, 100),
+                                       PointAt(kView, 310, 100)};
+    MarkerLayout layout;
+    layout.Update(points, ViewFrame(kView), std::nullopt);
+    ASSERT_EQ(layout.Items().size(), 3U);
+    EXPECT_EQ(layout.Items()[0].slot, 1U) << "the newest stands for both";
+    EXPECT_EQ(layout.Items()[0].count, 2U);
+    EXPECT_EQ(layout.Members(points, layout.Items()[0]), (std::vector<std::uint32_t>{1, 0}));
+    EXPECT_NEAR(layout.Items()[1].at.x(), 300, 0.1);
+}
+
+TEST(MarkerLayout, NamedAndSelectedMarkersStandForTheirGroup)
+{
+    std::vector<PinPoint> points;
+    points.reserve(20);
+    for (int i = 0; i < 20; ++i)
+        points.push_back(PointAt(kView, 100, 100, i == 4));
+    MarkerLayout layout;
+    layout.Update(points, ViewFrame(kView), std::nullopt);
+    ASSERT_EQ(layout.Items().size(), 1U);
+    EXPECT_EQ(layout.Items()[0].slot, 4U);
+    EXPECT_EQ(layout.Members(points, layout.Items()[0]).size(), 20U);
+    layout.Update(points, ViewFrame(kView), 11);
+    EXPECT_EQ(layout.Items().back().slot, 11U);
+    EXPECT_EQ(layout.Items().back().count, 20U);
+}
+
+TEST(MarkerLayout, ViewAcrossTheDateLineAndWiderThanTheWorld)
+{
+    const MapView across{{0, 179.9}, 8, 800, 600};
+    std::vector<PinPoint> points{PointAt(across, 390, 300), PointAt(across, 700, 300)};
+    ASSERT_GT(points[0].x, points[1].x) << "they lie on both sides of the line";
+    MarkerLayout layout;
+    layout.Update(points, ViewFrame(across), std::nullopt);
+    ASSERT_EQ(layout.Items().size(), 2U);
+    EXPECT_NEAR(layout.Items()[0].at.x(), 390, 0.1);
+    EXPECT_NEAR(layout.Items()[1].at.x(), 700, 0.1);
+
+    const MapView wide{{0, 0}, 1, 1500, 500}; // The world is 512 pixels wide.
+    points = {PointAt(wide, 750, 250)};
+    layout.Update(points, ViewFrame(wide), std::nullopt);
+    EXPECT_EQ(layout.Items().size(), 3U) << "one in each copy of the world";
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,270 @@
+#include "desktop/map/widget/map_fixture.h"
+#include "desktop/map/widget/map_widget.h"
+#include "platform/geometry.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QPdfWriter>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace ruvenmark {
+namespace {
+
+using MapWidgetTest = MapFixture;
+
+double PixelsApart(const MapView& view, GeoPoint point, QPointF pixel)
+{
+    const PixelPoint at = ToPixel(view, point);
+    return QLineF(QPointF(at.x, at.y), pixel).length();
+}
+
+TEST_F(MapWidgetTest, ClickOnMarkerSelectsItAndPinsItsBalloonUntilTheNextClick)
+{
+    const Pushpin pin = AddPin({300, 200}, "K1ABC(RF)", "RF\r\nnote");
+    Painted();
+    const QSignalSpy selections(&widget, &MapWidget::SelectionWanted);
+    Click({304, 196});
+    EXPECT_EQ(selection, MapSelection(pin));
+    EXPECT_EQ(widget.OpenBalloons().Pinned(), pin.Ref());
+    const QImage open = Painted();
+    Click({300, 200});
+    EXPECT_EQ(widget.OpenBalloons().Pinned(), std::nullopt);
+    EXPECT_EQ(selection, MapSelection(pin));
+    EXPECT_NE(Painted(), open);
+    Click({600, 500});
+    EXPECT_EQ(selection, MapSelection());
+    EXPECT_EQ(selections.size(), 2);
+}
+
+TEST_F(MapWidgetTest, BalloonIsClosedByItsCrossAndByEscapeAndSwallowsOtherClicks)
+{
+    AddPin({300, 300}, "K1ABC(RF)", "RF\r\nnote");
+    Painted();
+    Click({300, 300});
+    Painted();
+    const QRectF balloon = widget.OpenBalloons().PinnedRect();
+    ASSERT_TRUE(balloon.isValid());
+    Click(balloon.center().toPoint());
+    EXPECT_TRUE(widget.OpenBalloons().Pinned());
+    Click(widget.OpenBalloons().CrossRect().center().toPoint());
+    EXPECT_FALSE(widget.OpenBalloons().Pinned());
+    Click({300, 300});
+    QTest::keyClick(&widget, Qt::Key_Escape);
+    EXPECT_FALSE(widget.OpenBalloons().Pinned());
+}
+
+TEST_F(MapWidgetTest, MarkerBeatsLineBeatsCircle)
+{
+    Map& map = TheMap();
+    const Shape circle = map.AddShape(kShapeRadiusCircle, map.XYToLocation(400, 300), 80, 80);
+    const double rim = ToPixel(map.View(), Destination(map.XYToLocation(400, 300).Point(), 90, 80)).x;
+    const Shape line = map.AddLine(map.XYToLocation(rim, 100), map.XYToLocation(rim, 500));
+    Painted();
+    const QPoint crossing(static_cast<int>(rim), 300);
+    Click(crossing);
+    EXPECT_EQ(selection, MapSelection(line));
+    Click({400 - (crossing.x() - 400), 300});
+    EXPECT_EQ(selection, MapSelection(circle));
+    const Pushpin pin = AddPin(crossing, "W1AW");
+    Painted();
+    Click(crossing);
+    EXPECT_EQ(selection, MapSelection(pin));
+}
+
+TEST_F(MapWidgetTest, RepeatedClicksGoThroughTheMarkersOfOneSpot)
+{
+    std::vector<SlotRef> pins;
+    for (const char* name : {"A", "B", "C"})
+        pins.push_back(AddPin({300, 200}, name).Ref());
+    Painted();
+    ASSERT_EQ(widget.Scene().Markers().Items().size(), 1U);
+    for (const std::size_t expected : {2U, 1U, 0U}) {
+        Click({300, 200});
+        EXPECT_EQ(widget.OpenBalloons().Pinned(), pins[expected]);
+    }
+    Click({300, 200});
+    EXPECT_FALSE(widget.OpenBalloons().Pinned());
+}
+
+TEST_F(MapWidgetTest, WhatIsDeletedOrReplacedIsNoLongerSelected)
+{
+    Pushpin pin = AddPin({300, 200}, "K1ABC");
+    Painted();
+    Click({300, 200});
+    pin.Delete();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return selection == MapSelection() && !widget.OpenBalloons().Pinned(); }));
+    Painted();
+    AddPin({300, 200}, "K1ABC");
+    Painted();
+    Click({300, 200});
+    control.NewMap(kRegionEurope);
+    EXPECT_EQ(selection, MapSelection());
+    EXPECT_FALSE(widget.OpenBalloons().Pinned());
+}
+
+TEST_F(MapWidgetTest, WhatTheLogicSelectsStandsOutAndAWishThatIsNotGrantedDoesNot)
+{
+    const Pushpin pin = AddPin({300, 200}, "K1ABC");
+    const QImage bare = Painted();
+    selection = pin;
+    widget.update();
+    EXPECT_NE(Painted(), bare);
+    selection = {};
+    widget.update();
+    EXPECT_EQ(Painted(), bare);
+
+    const MapSelection nothing; // A window whose logic never agrees.
+    MapWidget stubborn(control, icons, nullptr, nothing);
+    stubborn.resize(800, 600);
+    const QImage before = stubborn.grab().toImage();
+    const QSignalSpy wishes(&stubborn, &MapWidget::SelectionWanted);
+    QTest::mouseClick(&stubborn, Qt::LeftButton, Qt::NoModifier, {300, 200});
+    EXPECT_EQ(wishes.size(), 1);
+    QTest::keyClick(&stubborn, Qt::Key_Escape);
+    EXPECT_EQ(stubborn.grab().toImage(), before) << "a ring that nobody agreed to";
+}
+
+TEST_F(MapWidgetTest, ClickWithTheCrossGoesOnlyToTheLogic)
+{
+    AddPin({300, 200}, "K1ABC");
+    Painted();
+    control.SetMousePointer(kPointerCross);
+    EXPECT_EQ(widget.cursor().shape(), Qt::CrossCursor);
+    QSignalSpy clicks(&widget, &MapWidget::Clicked);
+    Click({300, 200});
+    ASSERT_EQ(clicks.size(), 1);
+    EXPECT_EQ(clicks[0][1].toInt(), 300);
+    EXPECT_EQ(selection, MapSelection());
+    EXPECT_FALSE(widget.OpenBalloons().Pinned());
+    const double zoom = TheMap().View().zoom;
+    control.SetMousePointer(kPointerDefault); // As the logic does on the click.
+    QTest::mouseDClick(&widget, Qt::LeftButton, Qt::NoModifier, {300, 200});
+    EXPECT_EQ(TheMap().View().zoom, zoom) << "the second press of a pinpoint zooms";
+    control.SetMousePointer(kPointerWait);
+    EXPECT_EQ(widget.cursor().shape(), Qt::WaitCursor);
+}
+
+TEST_F(MapWidgetTest, WheelKeepsThePointUnderThePointer)
+{
+    for (const QPointF at : {QPointF(100, 80), QPointF(733, 517)}) {
+        for (const int eighths : {120, 15, -240, -15}) {
+            const GeoPoint point = FromPixel(TheMap().View(), {at.x(), at.y()});
+            const double zoom = TheMap().View().zoom;
+            Wheel(at, eighths);
+            EXPECT_LT(PixelsApart(TheMap().View(), point, at), 0.01);
+            EXPECT_NEAR(TheMap().View().zoom - zoom, eighths / 240.0, 1e-9);
+        }
+    }
+}
+
+TEST_F(MapWidgetTest, DragMovesTheGroundWithThePointerAndSelectsNothing)
+{
+    AddPin({400, 300}, "K1ABC");
+    Painted();
+    const GeoPoint grabbed = FromPixel(TheMap().View(), {400, 300});
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, {400, 300});
+    QTest::mouseMove(&widget, {420, 290});
+    EXPECT_EQ(widget.cursor().shape(), Qt::ClosedHandCursor);
+    QTest::mouseMove(&widget, {523, 217});
+    EXPECT_LT(PixelsApart(TheMap().View(), grabbed, {523, 217}), 0.01);
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, {523, 217});
+    EXPECT_EQ(widget.cursor().shape(), Qt::ArrowCursor);
+    EXPECT_EQ(selection, MapSelection());
+}
+
+TEST_F(MapWidgetTest, KeysAndDoubleClickMoveTheView)
+{
+    const MapView before = TheMap().View();
+    QTest::keyClick(&widget, Qt::Key_Right);
+    EXPECT_GT(TheMap().View().centre.lon, before.centre.lon);
+    QTest::keyClick(&widget, Qt::Key_Up);
+    EXPECT_GT(TheMap().View().centre.lat, before.centre.lat);
+    QTest::keyClick(&widget, Qt::Key_Plus);
+    EXPECT_EQ(TheMap().View().zoom, before.zoom + 1);
+    QTest::keyClick(&widget, Qt::Key_Minus);
+    QTest::keyClick(&widget, Qt::Key_Home);
+    for (const GeoPoint corner : {GeoPoint{49, -125}, GeoPoint{25, -80}}) {
+        const PixelPoint at = ToPixel(TheMap().View(), corner);
+        EXPECT_TRUE(widget.rect().contains(QPointF(at.x, at.y).toPoint()));
+    }
+    const GeoPoint point = FromPixel(TheMap().View(), {200, 150});
+    const double zoom = TheMap().View().zoom;
+    QTest::mouseDClick(&widget, Qt::LeftButton, Qt::NoModifier, {200, 150});
+    EXPECT_LT(PixelsApart(TheMap().View(), point, {200, 150}), 0.01);
+    EXPECT_EQ(TheMap().View().zoom, zoom + 1);
+    QTest::mouseDClick(&widget, Qt::LeftButton, Qt::ShiftModifier, {200, 150});
+    EXPECT_EQ(TheMap().View().zoom, zoom);
+}
+
+TEST_F(MapWidgetTest, RestingPointerShowsTheNoteAndLeavingHidesIt)
+{
+    const Pushpin pin = AddPin({300, 200}, "K1ABC", "note");
+    const QImage bare = Painted();
+    Rest({302, 203});
+    EXPECT_EQ(widget.OpenBalloons().Hovered(), pin.Ref());
+    EXPECT_NE(Painted(), bare);
+    QSignalSpy moves(&widget, &MapWidget::PointerMoved);
+    QTest::mouseMove(&widget, {500, 400});
+    EXPECT_EQ(widget.OpenBalloons().Hovered(), std::nullopt);
+    ASSERT_EQ(moves.size(), 1);
+    EXPECT_EQ(moves[0][0].toInt(), 500);
+    EXPECT_EQ(Painted(), bare);
+}
+
+TEST_F(MapWidgetTest, TenThousandChangesAreFewPaintsAndOwnMovesArePaintedAtOnce)
+{
+    Pushpin pin = AddPin({300, 200}, "K1ABC");
+    const Location here = TheMap().XYToLocation(300, 200), there = TheMap().XYToLocation(500, 300);
+    Painted();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QCoreApplication::processEvents(), true; }));
+    const int before = widget.Paints();
+    for (int i = 0; i < 10000; ++i) {
+        pin.SetLocation(i % 2 != 0 ? here : there);
+        if (i % 100 == 0)
+            QCoreApplication::processEvents();
+    }
+    pin.SetLocation(there);
+    ASSERT_TRUE(QTest::qWaitFor([&] {
+        const auto& items = widget.Scene().Markers().Items();
+        return items.size() == 1 && items[0].at.x() > 499;
+    }));
+    EXPECT_LT(widget.Paints() - before, 30);
+    const int paints = widget.Paints();
+    widget.Mover().PanBy({10, 0});
+    QCoreApplication::processEvents();
+    EXPECT_EQ(widget.Paints(), paints + 1);
+}
+
+TEST_F(MapWidgetTest, PictureHasTheSizeAndRatioAskedForAndPrintingIsVectors)
+{
+    for (int i = 0; i < 50; ++i)
+        AddPin({100.0 + i * 12, 300}, "K" + std::to_string(i));
+    const QImage picture = widget.Picture({640, 480}, 2);
+    EXPECT_EQ(picture.size(), QSize(1280, 960));
+    EXPECT_EQ(TheMap().View().width, 800) << "a picture leaves the window's view alone";
+
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QPdfWriter pdf(&bytes);
+    QPainter painter(&pdf);
+    widget.PaintMap(painter, {0, 0, 8000, 5000});
+    painter.end();
+    EXPECT_TRUE(bytes.data().contains("/Font"));
+}
+
+TEST_F(MapWidgetTest, WindowWithoutAMapIsPaintedAndTakesInput)
+{
+    MapControl empty(files);
+    MapWidget bare(empty, icons, nullptr, selection);
+    bare.resize(300, 200);
+    EXPECT_FALSE(bare.grab().isNull());
+    QTest::mouseClick(&bare, Qt::LeftButton, Qt::NoModifier, {10, 10});
+    QTest::keyClick(&bare, Qt::Key_Home);
+    EXPECT_EQ(bare.Picture({10, 10}, 1).size(), QSize(10, 10));
+    empty.NewMap(kRegionEurope);
+    EXPECT_EQ(empty.RequireMap().View().width, 300);
+}
+
+} // namespace
+} // namespace ruvenmark
