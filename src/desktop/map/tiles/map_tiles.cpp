@@ -231,7 +231,7 @@ void MapTiles::Decode(TileId tile, const QByteArray& bytes, const QDateTime& fre
     m_stale.remove(tile);
     InThread(
         [this, tile, bytes, freshUntil, source = QString::fromStdString(m_choice.where)] {
-            const QImage picture = TileImage(bytes);
+            QImage picture = TileImage(bytes);
             if (!picture.isNull() && freshUntil.isValid())
                 m_cache.Store(source, tile, bytes, freshUntil);
             return picture;
