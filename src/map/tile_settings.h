@@ -7,12 +7,10 @@ namespace ruvenmark {
 
 struct MainWindow;
 
-inline constexpr std::string_view kDefaultTileUrl = "https://tile.openstreetmap.org/{z}/{x}/{y}.png";
-
 // Raster tiles under the map. Nothing is fetched from the network until the operator switches it on.
 struct TileSettings {
     bool bOnline = false;
-    std::string urlTemplate{kDefaultTileUrl}; // See IsTileUrl.
+    std::string urlTemplate; // See IsTileUrl.
     std::string source; // A folder of z/x/y tiles or an MBTiles file, used without the network; empty for none.
 };
 

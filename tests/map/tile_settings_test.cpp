@@ -11,7 +11,7 @@ TEST(TileSettings, AreOffUntilSwitchedOnAndOutliveTheRun)
 {
     Program program;
     EXPECT_FALSE(program.main.map.tiles.bOnline);
-    EXPECT_EQ(program.main.map.tiles.urlTemplate, kDefaultTileUrl);
+    EXPECT_EQ(program.main.map.tiles.urlTemplate, DefaultOf(Setting::TileURL));
     int changes = 0;
     const auto subscription = program.main.map.TilesChanged.Observe([&] { ++changes; });
     mnuOnlineTiles_Click(program.main);
@@ -35,7 +35,7 @@ TEST(TileSettings, UnusableOnesInTheStoreAreTheDefaults)
     for (const char* url : {"", "file:///etc/{z}/{x}/{y}", "https://example.org/{z}/{x}.png"}) {
         program.store.Set("TileURL", url);
         LoadTileSettings(program.main);
-        EXPECT_EQ(program.main.map.tiles.urlTemplate, kDefaultTileUrl) << url;
+        EXPECT_EQ(program.main.map.tiles.urlTemplate, DefaultOf(Setting::TileURL)) << url;
         EXPECT_FALSE(program.main.map.tiles.bOnline);
     }
     program.store.Set("TileURL", "http://localhost:8080/{z}/{y}/{x}.png?k=1");
@@ -45,7 +45,7 @@ TEST(TileSettings, UnusableOnesInTheStoreAreTheDefaults)
 
 TEST(TileUrl, OnlyWebServersWithEveryPartOfTheNumberAreAsked)
 {
-    EXPECT_TRUE(IsTileUrl(kDefaultTileUrl));
+    EXPECT_TRUE(IsTileUrl(DefaultOf(Setting::TileURL)));
     EXPECT_TRUE(IsTileUrl("http://127.0.0.1:8080/{z}/{y}/{x}.png?k=1"));
     EXPECT_TRUE(IsTileUrl("https://a.b/?x={x}&y={y}&z={z}"));
     for (const char* url : {"", "https://", "https:///{z}/{x}/{y}", "https://{z}{x}{y}", "file:///etc/{z}/{x}/{y}",
