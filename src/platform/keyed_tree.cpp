@@ -26,6 +26,14 @@ bool KeyIs(const TreeNode* node, std::string_view key)
     return key.empty();
 }
 
+std::size_t LevelOf(const TreeNode& node)
+{
+    std::size_t level = 0;
+    for (const TreeNode* above = node.Parent(); above; above = above->Parent())
+        ++level;
+    return level;
+}
+
 } // namespace
 
 std::string TreeNode::Key() const
@@ -37,29 +45,28 @@ std::string TreeNode::Key() const
     return key;
 }
 
-bool KeyedTree::KeyEqual::operator()(const KeyHash::Whole& probe, const TreeNode* node) const
+bool KeyedTree::KeyEqual::operator()(TreeNode* node, const KeyHash::Whole& probe) const
 {
-    return node->m_hash == probe.hash && KeyIs(node, probe.key);
+    if (node->m_hash == probe.hash && KeyIs(node, probe.key) &&
+        (!probe.highest || LevelOf(*node) < LevelOf(*probe.highest)))
+        probe.highest = node;
+    return false;
 }
 
-bool KeyedTree::KeyEqual::operator()(const KeyHash::Below& probe, const TreeNode* node) const
+bool KeyedTree::KeyEqual::operator()(const TreeNode* node, const KeyHash::Below& probe) const
 {
-    if (node->m_hash != probe.hash)
-        return false;
-    if (node->m_parent == &probe.parent)
-        return node->m_word == probe.word;
-    // Rare: the same letters in another split, such as a call that ends in a fact word.
-    std::string key = probe.parent.Key();
-    key += probe.word;
-    return KeyIs(node, key);
+    return node->m_hash == probe.hash && node->m_parent == probe.parent && node->m_word == probe.word;
 }
 
-KeyedTree::KeyedTree() : m_images(1), m_seed(std::random_device{}()) {}
+KeyedTree::KeyedTree() : m_images(1)
+{
+    m_root.m_hash = std::random_device{}();
+}
 
 KeyedTree::~KeyedTree() = default;
 
 // FNV-1a: a key's hash goes on from its parent's.
-std::uint32_t KeyedTree::HashOf(std::uint32_t start, std::string_view text) const
+std::uint32_t KeyedTree::HashOf(std::uint32_t start, std::string_view text)
 {
     std::uint32_t hash = start;
     for (const char c : text) {
@@ -71,19 +78,21 @@ std::uint32_t KeyedTree::HashOf(std::uint32_t start, std::string_view text) cons
 
 TreeNode* KeyedTree::Find(std::string_view key) const
 {
-    const auto it = m_index.find(KeyHash::Whole{key, HashOf(m_seed, key)});
-    return it == m_index.end() ? nullptr : *it;
+    TreeNode* highest = nullptr;
+    m_index.find(KeyHash::Whole{key, HashOf(m_root.m_hash, key), highest});
+    return highest;
 }
 
 TreeNode* KeyedTree::Find(const TreeNode& parent, std::string_view word) const
 {
-    if (parent.m_children.size() <= kFewChildren) {
-        for (const auto& child : parent.m_children)
-            if (child->m_word == word)
-                return child.get();
+    if (parent.m_children.size() > kFewChildren) {
+        const auto it = m_index.find(KeyHash::Below{Told(parent), word, HashOf(parent.m_hash, word)});
+        return it == m_index.end() ? nullptr : *it;
     }
-    const auto it = m_index.find(KeyHash::Below{parent, word, HashOf(parent.m_hash, word)});
-    return it == m_index.end() ? nullptr : *it;
+    for (const auto& child : parent.m_children)
+        if (child->m_word == word)
+            return child.get();
+    return nullptr;
 }
 
 TreeNode& KeyedTree::AddRoot(std::string_view key, std::string_view text, std::string_view image,
@@ -101,14 +110,13 @@ TreeNode& KeyedTree::Add(TreeNode& parent, std::string_view word, std::string_vi
 TreeNode& KeyedTree::AddBelow(TreeNode& parent, std::string_view word, std::string_view text, std::string_view image,
                               std::string_view expandedImage)
 {
-    const bool bRoot = &parent == &m_root;
-    if (bRoot ? Find(word) != nullptr : Find(parent, word) != nullptr)
+    if (Find(parent, word))
         throw Failure("the key is taken");
     auto node = std::make_unique<TreeNode>();
     node->m_word = word;
     node->m_text = text;
-    node->m_parent = bRoot ? nullptr : &parent;
-    node->m_hash = HashOf(bRoot ? m_seed : parent.m_hash, word);
+    node->m_parent = &parent == &m_root ? nullptr : &parent;
+    node->m_hash = HashOf(parent.m_hash, word);
     node->m_image = ImageIndex(image);
     node->m_expandedImage = ImageIndex(expandedImage);
 

@@ -46,8 +46,9 @@ private:
     bool m_bExpanded = false;
 };
 
-// A tree of texts whose nodes are found by a key that is unique in the whole tree; case counts. A node's key is its
-// parent's key followed by the node's own word, so that a station's facts are reached without building their keys.
+// A tree of texts. A node is what its place says, its parent and its word: no two children of one parent have the same
+// word; case counts. Its key, the words from the root down joined into one, finds it too, but other splits of the same
+// letters may stand elsewhere: station "AB" with a fact "Path" beside a station "ABPath".
 class KeyedTree {
 public:
     KeyedTree();
@@ -55,12 +56,13 @@ public:
     KeyedTree(const KeyedTree&) = delete;
     KeyedTree& operator=(const KeyedTree&) = delete;
 
-    // Null when there is no such node.
+    // Of several nodes with the key one on the highest level, a station before a fact. Null when there is none.
     TreeNode* Find(std::string_view key) const;
-    // The node whose key is the parent's key and the word, wherever it stands.
+    // The parent's child of this word, or null.
     TreeNode* Find(const TreeNode& parent, std::string_view word) const;
 
-    // Raises Failure when the key is taken. A sorted parent takes the node at its place, any other at the end.
+    // Raises Failure when the parent, or the roots, have the word. A sorted parent takes the node at its place, any
+    // other at the end.
     TreeNode& AddRoot(std::string_view key, std::string_view text, std::string_view image = {},
                       std::string_view expandedImage = {});
     TreeNode& Add(TreeNode& parent, std::string_view word, std::string_view text, std::string_view image = {},
@@ -99,12 +101,14 @@ public:
 private:
     struct KeyHash {
         using is_transparent = void;
+        // Equal to no node, so that a search meets every node of the hash; it leaves the highest of the key here.
         struct Whole {
             std::string_view key;
             std::uint32_t hash;
+            TreeNode*& highest;
         };
         struct Below {
-            const TreeNode& parent;
+            const TreeNode* parent; // Null for the roots.
             std::string_view word;
             std::uint32_t hash;
         };
@@ -115,30 +119,26 @@ private:
     struct KeyEqual {
         using is_transparent = void;
         bool operator()(const TreeNode* a, const TreeNode* b) const { return a == b; }
-        bool operator()(const KeyHash::Whole& probe, const TreeNode* node) const;
-        bool operator()(const KeyHash::Below& probe, const TreeNode* node) const;
-        template <typename Probe>
-        bool operator()(const TreeNode* node, const Probe& probe) const
-        {
-            return (*this)(probe, node);
-        }
+        bool operator()(TreeNode* node, const KeyHash::Whole& probe) const;
+        bool operator()(const TreeNode* node, const KeyHash::Below& probe) const;
     };
 
-    std::uint32_t HashOf(std::uint32_t start, std::string_view text) const;
+    static std::uint32_t HashOf(std::uint32_t start, std::string_view text);
     TreeNode& AddBelow(TreeNode& parent, std::string_view word, std::string_view text, std::string_view image,
                        std::string_view expandedImage);
     std::size_t SortedRow(const TreeNode& parent, std::string_view text) const;
     void SortChildren(TreeNode& node);
     void Forget(TreeNode& node);
     std::uint16_t ImageIndex(std::string_view image);
+    // What stands for a parent outside: null for the node above the roots.
     const TreeNode* Told(const TreeNode& node) const { return &node == &m_root ? nullptr : &node; }
 
-    TreeNode m_root; // Above the roots; never shown.
+    TreeNode m_root; // Above the roots; never shown. Its hash is a seed, so that nobody on the air can choose calls
+                     // that collide.
     // Flat, as a report pays for every cache line that it has to wait for.
     tsl::robin_set<TreeNode*, KeyHash, KeyEqual, std::allocator<TreeNode*>, true> m_index;
     std::vector<std::string> m_images; // The words in use; the first is the empty one.
     TreeNode* m_selected = nullptr;
-    std::uint32_t m_seed; // So that nobody on the air can choose calls that collide.
 };
 
 } // namespace ruvenmark

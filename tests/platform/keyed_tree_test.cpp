@@ -40,27 +40,29 @@ TEST(KeyedTree, SortedParentTakesChildrenAtTheirPlace)
     EXPECT_EQ(Texts(folder).back(), "aaa");
 }
 
-TEST(KeyedTree, KeysAreUniqueHoweverTheyAreSplit)
+// A station whose call is another's call and a fact's word must neither take that fact over nor be taken for it.
+TEST(KeyedTree, APlaceIsOneNodeHoweverTheKeyIsSplit)
 {
     KeyedTree tree;
     TreeNode& folder = tree.AddRoot("RFPositions", "Positions");
-    TreeNode& station = tree.Add(folder, "N0CALL", "N0CALL");
-    TreeNode& fact = tree.Add(station, "Lat", "Lat: 1");
+    TreeNode& station = tree.Add(folder, "AB", "AB");
+    TreeNode& fact = tree.Add(station, "Path", "Path: x");
+    EXPECT_EQ(fact.Key(), "RFPositionsABPath");
+    EXPECT_EQ(tree.Find("RFPositionsABPath"), &fact);
+    EXPECT_EQ(tree.Find(folder, "ABPath"), nullptr);
 
-    EXPECT_EQ(fact.Key(), "RFPositionsN0CALLLat");
-    EXPECT_EQ(tree.Find("RFPositionsN0CALLLat"), &fact);
-    EXPECT_EQ(tree.Find(folder, "N0CALLLat"), &fact); // As a station of that name would be looked for.
-    EXPECT_THROW(tree.Add(folder, "N0CALLLat", ""), Failure);
-    EXPECT_THROW(tree.AddRoot("RFPositionsN0CALL", ""), Failure);
-    EXPECT_THROW(tree.Add(station, "", ""), Failure); // The parent's own key.
+    TreeNode& object = tree.Add(folder, "ABPath", "ABPath");
+    EXPECT_EQ(tree.Find(station, "Path"), &fact);
+    EXPECT_EQ(tree.Find(folder, "ABPath"), &object);
+    EXPECT_EQ(tree.Find("RFPositionsABPath"), &object); // The station before the fact.
+    TreeNode& root = tree.AddRoot("RFPositionsABPath", "");
+    EXPECT_EQ(tree.Find("RFPositionsABPath"), &root);
+    tree.Remove(root);
+    tree.Remove(object);
+    EXPECT_EQ(tree.Find("RFPositionsABPath"), &fact);
 
-    // The same the other way round: the station first, then the fact.
-    TreeNode& other = tree.Add(folder, "N0CALL-1Lat", "N0CALL-1Lat");
-    TreeNode& short1 = tree.Add(folder, "N0CALL-1", "N0CALL-1");
-    EXPECT_THROW(tree.Add(short1, "Lat", ""), Failure);
-    tree.Remove(other);
-    EXPECT_EQ(tree.Find(short1, "Lat"), nullptr);
-    tree.Add(short1, "Lat", "");
+    EXPECT_THROW(tree.Add(station, "Path", ""), Failure);
+    EXPECT_THROW(tree.AddRoot("RFPositions", ""), Failure);
     EXPECT_EQ(tree.Find("rfpositions"), nullptr); // Case counts.
 }
 
@@ -83,13 +85,13 @@ TEST(KeyedTree, RemovingTheSelectedNodeOrOneAboveItEndsTheSelection)
     EXPECT_EQ(tree.Find("FSx"), nullptr);
 }
 
-// Random edits, and beside them the plainest model of what the keys mean.
+// Random edits, and beside them the plainest model of what stands where.
 class RandomEdits {
 public:
     void Step()
     {
-        const std::size_t what = Below(m_byKey.size() > 300 ? 10 : 8);
-        if (m_byKey.empty() || what < 5)
+        const std::size_t what = Below(m_nodes.size() > 300 ? 10 : 8);
+        if (m_nodes.empty() || what < 5)
             Add();
         else if (what == 5)
             tree.SetText(Any(), Word());
@@ -101,10 +103,21 @@ public:
 
     void ExpectConsistent()
     {
-        EXPECT_EQ(tree.NodeCount(), m_byKey.size());
-        for (const auto& [key, node] : m_byKey) {
-            EXPECT_EQ(tree.Find(key), node);
-            EXPECT_EQ(node->Key(), key);
+        EXPECT_EQ(tree.NodeCount(), m_nodes.size());
+        std::map<std::string, std::size_t> highestLevels; // By key.
+        for (const auto& [path, node] : m_nodes) {
+            auto& highest = highestLevels.try_emplace(Joined(path), path.size()).first->second;
+            highest = std::min(highest, path.size());
+        }
+        for (const auto& [path, node] : m_nodes) {
+            EXPECT_EQ(node->Key(), Joined(path));
+            const auto* found = tree.Find(Joined(path));
+            ASSERT_NE(found, nullptr);
+            EXPECT_EQ(PathOf(*found).size(), highestLevels[Joined(path)]);
+            EXPECT_EQ(found->Key(), Joined(path));
+            if (node->Parent()) {
+                EXPECT_EQ(tree.Find(*node->Parent(), node->Word()), node);
+            }
             const auto& siblings = node->Parent() ? node->Parent()->Children() : tree.Roots();
             EXPECT_EQ(siblings[tree.Row(*node)].get(), node);
             if (node->IsSorted()) {
@@ -119,8 +132,23 @@ public:
     KeyedTree tree;
 
 private:
+    using Path = std::vector<std::string>; // The words from the root down.
+
+    static Path PathOf(const TreeNode& node)
+    {
+        Path path = node.Parent() ? PathOf(*node.Parent()) : Path();
+        path.push_back(node.Word());
+        return path;
+    }
+    static std::string Joined(const Path& path)
+    {
+        std::string key;
+        for (const std::string& word : path)
+            key += word;
+        return key;
+    }
     std::size_t Below(std::size_t limit) { return m_random() % limit; }
-    // Of so few letters that splits collide often.
+    // Of so few letters that splits collide often, and of so many that a parent has many children.
     std::string Word()
     {
         std::string word;
@@ -128,21 +156,23 @@ private:
             word += "aAbC"[Below(4)];
         return word;
     }
-    TreeNode& Any() { return *std::next(m_byKey.begin(), static_cast<std::ptrdiff_t>(Below(m_byKey.size())))->second; }
+    TreeNode& Any() { return *std::next(m_nodes.begin(), static_cast<std::ptrdiff_t>(Below(m_nodes.size())))->second; }
     void Add()
     {
-        TreeNode* parent = m_byKey.empty() || Below(10) == 0 ? nullptr : &Any();
+        TreeNode* parent = m_nodes.empty() || Below(5) == 0 ? nullptr : &Any();
         const std::string word = Word();
-        const std::string key = parent ? parent->Key() + word : word;
-        const auto taken = m_byKey.find(key);
+        Path path = parent ? PathOf(*parent) : Path();
+        path.push_back(word);
+        const auto taken = m_nodes.find(path);
         if (parent) {
-            EXPECT_EQ(tree.Find(*parent, word), taken == m_byKey.end() ? nullptr : taken->second);
+            EXPECT_EQ(tree.Find(*parent, word), taken == m_nodes.end() ? nullptr : taken->second);
         }
+        const bool bWasTaken = taken != m_nodes.end();
         try {
-            m_byKey[key] = parent ? &tree.Add(*parent, word, Word()) : &tree.AddRoot(word, Word());
-            EXPECT_EQ(taken, m_byKey.end()) << key;
+            m_nodes[path] = parent ? &tree.Add(*parent, word, Word()) : &tree.AddRoot(word, Word());
+            EXPECT_FALSE(bWasTaken) << Joined(path);
         } catch (const Failure&) {
-            EXPECT_NE(taken, m_byKey.end()) << key;
+            EXPECT_TRUE(bWasTaken) << Joined(path);
         }
     }
     void Remove(TreeNode& node)
@@ -154,10 +184,10 @@ private:
     {
         for (const auto& child : node.Children())
             Forget(*child);
-        m_byKey.erase(node.Key());
+        m_nodes.erase(PathOf(node));
     }
 
-    std::map<std::string, TreeNode*> m_byKey;
+    std::map<Path, TreeNode*> m_nodes;
     std::mt19937 m_random{20261122};
 };
 
