@@ -130,7 +130,7 @@ void PrintJson(std::ostream& out, const RunState& state)
     for (const std::string& message : state.messages)
         json["messages"].push_back(ShownText(message));
     json["counts"] = CountsJson(state);
-    out << json.dump(1, ' ', false, Json::error_handler_t::replace) << '\n';
+    out << TerminalJson(json.dump(1, ' ', false, Json::error_handler_t::replace)) << '\n';
 }
 
 } // namespace ruvenmark

@@ -66,7 +66,7 @@ void PrintCounts(std::ostream& out, const RunState& state)
         abandoned += count;
     out << "abandoned: " << abandoned << '\n';
     for (const auto& [reason, count] : state.main.abandoned)
-        out << "  " << reason << ": " << count << '\n';
+        out << "  " << TerminalText(reason) << ": " << count << '\n';
 }
 
 } // namespace

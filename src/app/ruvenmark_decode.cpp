@@ -6,6 +6,7 @@
 #include "devices/log_line.h"
 #include "devices/packet_events.h"
 #include "platform/program_name.h"
+#include "platform/text.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -68,7 +69,8 @@ Examples:
   ruvenmark-decode --summary day.log
   nc SERVER 14580 | ruvenmark-decode -
 
-Exit status: 0, or 2 for wrong use or a file that cannot be read.
+Exit status: 0; 1 where the output cannot be written; 2 for wrong use or a file that
+cannot be read.
 )";
 
 enum class Mode { Packets, Events, Summary };
@@ -80,8 +82,20 @@ struct Options {
 
 int Complain(const std::string& text)
 {
-    std::cerr << "ruvenmark-decode: " << text << '\n';
+    std::cerr << "ruvenmark-decode: " << TerminalText(text) << '\n';
     return kWrongUse;
+}
+
+int ComplainOfOutput()
+{
+    Complain("the output could not be written");
+    return kWriteFailed;
+}
+
+int Print(std::string_view text)
+{
+    std::cout << text << std::flush;
+    return std::cout ? 0 : ComplainOfOutput();
 }
 
 // Gives the exit status where there is nothing more to do.
@@ -99,11 +113,9 @@ std::optional<int> ReadArguments(int count, char** arguments, Options& options)
         } else if (argument == "--") {
             bOptions = false;
         } else if (argument == "-h" || argument == "--help") {
-            std::cout << kHelp;
-            return 0;
+            return Print(kHelp);
         } else if (argument == "-V" || argument == "--version") {
-            std::cout << "ruvenmark-decode " << ProgramVersion() << '\n';
-            return 0;
+            return Print("ruvenmark-decode " + std::string(ProgramVersion()) + '\n');
         } else if (argument == "-e" || argument == "--events") {
             options.mode = Mode::Events;
         } else if (argument == "-s" || argument == "--summary") {
@@ -120,7 +132,7 @@ class Output {
 public:
     void Line(const nlohmann::ordered_json& json)
     {
-        m_text += json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+        m_text += TerminalJson(json.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace));
         m_text += '\n';
         if (m_text.size() > kEnough)
             Flush();
@@ -180,7 +192,7 @@ int Run(int descriptor, const Options& options)
     if (options.mode == Mode::Summary)
         output.Text(summary.ToString());
     output.Flush();
-    return output.HasFailed() ? kWriteFailed : 0;
+    return output.HasFailed() ? ComplainOfOutput() : 0;
 }
 
 bool IsFolder(int descriptor)

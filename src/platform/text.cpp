@@ -38,6 +38,28 @@ std::size_t SequenceLength(std::string_view text)
     return 0;
 }
 
+char32_t CodePoint(std::string_view sequence)
+{
+    const auto lead = static_cast<std::uint8_t>(sequence.front());
+    if (sequence.size() == 1)
+        return lead;
+    char32_t point = lead & (0x7FU >> sequence.size());
+    for (const char c : sequence.substr(1))
+        point = (point << 6U) | (static_cast<std::uint8_t>(c) & 0x3FU);
+    return point;
+}
+
+constexpr std::string_view kHexDigits = "0123456789abcdef";
+constexpr char32_t kFirstControl = 0x7F; // Above ASCII's blank; those below it are never seen in JSON's texts.
+
+// Controls, line and paragraph separators, direction marks and the mark of no width that begins files.
+bool IsSteering(char32_t point)
+{
+    return point < ' ' || (point >= kFirstControl && point < 0xA0) || point == 0x61C || point == 0x200E ||
+           point == 0x200F || (point >= 0x2028 && point <= 0x202E) || (point >= 0x2066 && point <= 0x2069) ||
+           point == 0xFEFF;
+}
+
 } // namespace
 
 std::string ToUpper(std::string_view text)
@@ -137,14 +159,37 @@ std::string TerminalText(std::string_view bytes)
     const std::string shown = ShownText(bytes);
     std::string line;
     line.reserve(shown.size());
-    for (std::size_t i = 0; i < shown.size(); ++i) {
-        const auto byte = static_cast<std::uint8_t>(shown[i]);
-        const bool bHighControl =
-            byte == 0xC2 && i + 1 < shown.size() && static_cast<std::uint8_t>(shown[i + 1]) < 0xA0;
-        line += byte < ' ' || byte == 0x7F || bHighControl ? '.' : shown[i];
-        i += bHighControl ? 1 : 0;
+    for (std::string_view rest = shown; !rest.empty();) {
+        const std::size_t length = SequenceLength(rest);
+        if (IsSteering(CodePoint(rest.substr(0, length))))
+            line += '.';
+        else
+            line += rest.substr(0, length);
+        rest.remove_prefix(length);
     }
     return line;
+}
+
+std::string TerminalJson(std::string json)
+{
+    const auto isPlain = [](char c) { return static_cast<std::uint8_t>(c) < kFirstControl; };
+    if (std::all_of(json.begin(), json.end(), isPlain))
+        return json;
+    std::string text;
+    text.reserve(json.size());
+    for (std::string_view rest = json; !rest.empty();) {
+        const std::size_t length = std::max<std::size_t>(SequenceLength(rest), 1);
+        const char32_t point = CodePoint(rest.substr(0, length));
+        if (point >= kFirstControl && IsSteering(point)) {
+            text += "\\u";
+            for (unsigned shift = 16; shift > 0; shift -= 4)
+                text += kHexDigits[(point >> (shift - 4)) & 0xFU];
+        } else {
+            text += rest.substr(0, length);
+        }
+        rest.remove_prefix(length);
+    }
+    return text;
 }
 
 std::string_view FirstCharacters(std::string_view text, std::size_t count)

@@ -43,8 +43,11 @@ bool IsUtf8(std::string_view bytes);
 
 // What a person or another program is shown: valid UTF-8 as it is, anything else read as Latin-1.
 std::string ShownText(std::string_view bytes);
-// The same as one line that cannot steer a terminal: every control character, U+0080 to U+009F too, turns into a point.
+// The same as one line that cannot steer a terminal nor turn the order of what stands around it: every control
+// character, U+007F to U+009F too, line separator and direction mark turns into a point.
 std::string TerminalText(std::string_view bytes);
+// JSON text with those that JSON lets stand as they are written as "\u009b".
+std::string TerminalJson(std::string json);
 
 // The first `count` characters: UTF-8 sequences where the text is UTF-8, bytes where it is not.
 std::string_view FirstCharacters(std::string_view text, std::size_t count);

@@ -11,6 +11,17 @@
 namespace ruvenmark {
 namespace {
 
+// Neither a terminal nor the order of a line's words is steered by what came from the air.
+TEST(Text, ControlsAndDirectionMarksAreHarmlessOnATerminal)
+{
+    EXPECT_EQ(
+        TerminalText("a\x1b[2J\n\x7f\u0085\u009bz\u00a0\u00e4\u202e\u2066\u200f\u2028\u061c\ufeff\u4e2d\U0001f600"),
+        "a.[2J....z\u00a0\u00e4......\u4e2d\U0001f600");
+    EXPECT_EQ(TerminalText("\x9b\xe4"), ".\u00e4"); // Read as Latin-1.
+    EXPECT_EQ(TerminalJson("{\n \"a\": \"\u00e4\x7f\u009b\u202e\u4e2d\\u001b\"\n}"),
+              "{\n \"a\": \"\u00e4\\u007f\\u009b\\u202e\u4e2d\\u001b\"\n}");
+}
+
 TEST(Text, Utf8IsCheckedAtItsEdges)
 {
     for (const char* text : {"", "plain", "\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xED\x9F\xBF", "\xEE\x80\x80",
