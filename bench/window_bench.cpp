@@ -67,7 +67,7 @@ std::string MakeFile(const QTemporaryDir& folder, int lines, int stations)
                 packet_text::CourseSpeed({1 + i % 360, i % 80}) + "line\r\n";
     }
     const std::string path = folder.filePath(QString::number(lines)).toStdString();
-    PosixFiles().WriteText(text, path);
+    PosixFiles().WriteText(text, path, FileKind::List);
     return path;
 }
 

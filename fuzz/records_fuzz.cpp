@@ -1,4 +1,4 @@
-#include "links/text_files.h"
+#include "platform/records.h"
 #include "support/doubles.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "app/desktop_program.h"
 
+#include "app/headless.h"
 #include "app/options.h"
 #include "app/program_settings.h"
 #include "core/bare_surface.h"
@@ -21,12 +22,14 @@
 #include "mapfiles/base_map.h"
 #include "platform/failure.h"
 #include "platform/headless.h"
+#include "platform/text.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QTimer>
 
 #include <iostream>
+#include <memory>
 #include <optional>
 
 namespace ruvenmark {
@@ -48,7 +51,7 @@ std::optional<BaseMap> OpenBaseMap()
     try {
         return BaseMap::Open(DataPath(QStringLiteral("basemap/world.rvm")).toStdString());
     } catch (const Failure& failure) {
-        std::cerr << "ruvenmark: " << failure.what() << '\n';
+        std::cerr << kProgramWord << TerminalText(failure.what()) << '\n';
         return std::nullopt;
     }
 }
@@ -108,12 +111,12 @@ struct DesktopRun {
     MainWindowView window;
 };
 
-void TakeScreenshot(DesktopRun& run, const ProgramOptions& options)
+void TakeScreenshot(DesktopRun& run, const ProgramOptions& options, IByteStream* load)
 {
     const SizeOption size = options.size.value_or(SizeOption{});
     run.window.resize(size.width, size.height);
-    if (options.loadFile)
-        run.window.LoadFile(*options.loadFile);
+    if (load)
+        run.window.LoadFile(*load);
     for (const char* key : {"FL", "FLPositions"})
         if (const TreeNode* node = run.main.tvStationList.Find(key))
             run.window.ShowInTree(*node);
@@ -123,12 +126,19 @@ void TakeScreenshot(DesktopRun& run, const ProgramOptions& options)
     SaveScreenshot(run.window, {size.width, size.height}, QFile::decodeName(options.screenshot->c_str()));
 }
 
+// Whether to start where another program uses the same settings.
+bool StartsBeside(DesktopRun& run)
+{
+    return !run.settings.IsElsewhere() ||
+           run.prompts.AskYesNo("Another Ruvenmark uses these settings. Do you want to go on without saving any?");
+}
+
 } // namespace
 
 int RunDesktop(int argc, char** argv, const ProgramOptions& options)
 {
     PosixFiles files;
-    RequireReadable(files, options);
+    std::unique_ptr<IByteStream> load = OpenLoad(files, options);
     SetEnvironment(options);
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("ruvenmark"));
@@ -138,13 +148,18 @@ int RunDesktop(int argc, char** argv, const ProgramOptions& options)
         UseDarkColors();
 
     DesktopRun run(options);
+    if (!StartsBeside(run))
+        return kEndedWell;
     StartMainWindow(run.main);
     if (options.screenshot) {
-        TakeScreenshot(run, options);
-        return 0;
+        TakeScreenshot(run, options, load.get());
+        return kEndedWell;
     }
-    if (options.loadFile)
-        QTimer::singleShot(0, &run.window, [&] { run.window.LoadFile(*options.loadFile); });
+    if (load)
+        QTimer::singleShot(0, &run.window, [&] {
+            run.window.LoadFile(*load);
+            load.reset();
+        });
     const Termination termination([&] { run.window.CloseUnasked(); });
     return QApplication::exec();
 }

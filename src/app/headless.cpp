@@ -10,14 +10,23 @@
 #include "links/station_files.h"
 #include "platform/headless.h"
 
+#include <memory>
 #include <ostream>
 
 namespace ruvenmark {
 
+bool FlushOutput(std::ostream& out, std::ostream& err)
+{
+    out.flush();
+    if (!out)
+        PrintedNotices(err).Say("the output could not be written");
+    return static_cast<bool>(out);
+}
+
 int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& err)
 {
     PosixFiles files;
-    RequireReadable(files, options);
+    std::unique_ptr<IByteStream> load = OpenLoad(files, options);
     ProgramSettings settings(files, options);
     SystemClock clock;
     SilentSound sound;
@@ -25,6 +34,8 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
     NoYield yield;
     HeadlessPrompts prompts(err);
     PrintedNotices notices(err);
+    if (settings.IsElsewhere())
+        notices.Say("another program uses these settings: nothing will be saved");
     BareDialogs dialogs;
     BareDesktop desktop;
     ReportSources sources;
@@ -42,21 +53,18 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
                      .programFolder = settings.Folder()});
 
     StartMainWindow(main);
-    if (options.loadFile)
-        LoadStationFile(main, *options.loadFile);
+    if (load)
+        LoadStationFile(main, *load);
+    load.reset();
     const RunState state{main, sources.Counts(), prompts.Messages()};
     if (options.bJson)
         PrintJson(out, state);
     else
         PrintText(out, state, options.print);
-    out.flush();
+    const bool bPrinted = FlushOutput(out, err);
     // Nobody is there to be asked, and the map was only wanted for the print.
     const StopResult result = StopMainWindow(main, MayAsk::No);
-    if (!out) {
-        notices.Say("the output could not be written");
-        return 1;
-    }
-    return result == StopResult::Stopped ? 0 : 1;
+    return bPrinted && result == StopResult::Stopped ? kEndedWell : kCannotWrite;
 }
 
 } // namespace ruvenmark

@@ -1,39 +1,40 @@
 #include "app/program_settings.h"
 
 #include "core/channel_state.h"
+#include "platform/failure.h"
+#include "platform/file_replacement.h"
 #include "platform/map_model.h"
 #include "platform/numbers.h"
 #include "tracking/track_lists.h"
 
 namespace ruvenmark {
 
-namespace {
-
-// One that was named and is there has to be readable; one that is not there is made at the end.
-std::string SettingsPath(IFiles& files, const ProgramOptions& options)
+std::unique_ptr<IByteStream> OpenLoad(IFiles& files, const ProgramOptions& options)
 {
-    if (!options.settingsFile)
-        return DefaultSettingsFile();
-    if (files.Exists(*options.settingsFile))
-        files.ReadText(*options.settingsFile);
-    return *options.settingsFile;
-}
-
-} // namespace
-
-void RequireReadable(IFiles& files, const ProgramOptions& options)
-{
-    if (options.loadFile)
-        files.ReadText(*options.loadFile);
+    return options.loadFile ? files.OpenStream(*options.loadFile) : nullptr;
 }
 
 ProgramSettings::ProgramSettings(IFiles& files, const ProgramOptions& options)
-    : m_file(files, SettingsPath(files, options)), m_overlay(m_file),
+    : m_path(options.settingsFile.value_or(DefaultSettingsFile())), m_file(files, m_path), m_overlay(m_file),
       m_folder(options.folder.value_or(DefaultProgramFolder()))
 {
+    // One that was named and is there has to be readable; one that is not there is made at the end.
+    if (options.settingsFile && !m_file.ReadFault().empty())
+        throw Failure(m_file.ReadFault());
     MakeFolder(m_folder);
     if (!options.settingsFile)
-        MakeFolder(FolderOf(DefaultSettingsFile()));
+        MakeFolder(FolderOf(m_path));
+    if (!options.screenshot) // A picture is taken beside whatever runs, and changes nothing.
+        m_lock.emplace(m_path);
+    if (options.screenshot || IsElsewhere()) {
+        m_file.KeepNothing();
+    } else {
+        RemoveLeftovers(m_folder);
+        RemoveLeftovers(FolderOf(m_path));
+    }
+    if (options.bHeadless)
+        m_overlay.SetForThisRun(Info(Setting::FLDelay).key,
+                                "0"); // Nobody watches the map keep up; --set comes behind it.
     for (const auto& [key, value] : options.settings)
         m_overlay.SetForThisRun(key, value);
     const std::string_view regionKey = Info(Setting::Region).key;

@@ -196,10 +196,20 @@ void MainWindowView::Run(MenuEntry entry)
 
 void MainWindowView::LoadFile(const std::string& path)
 {
+    RunLoad([&] { LoadStationFile(m_main, path); });
+}
+
+void MainWindowView::LoadFile(IByteStream& bytes)
+{
+    RunLoad([&] { LoadStationFile(m_main, bytes); });
+}
+
+void MainWindowView::RunLoad(const std::function<void()>& load)
+{
     if (m_main.FileLoading)
         return;
     ++m_running;
-    LoadStationFile(m_main, path);
+    load();
     --m_running;
     AfterCommand();
 }

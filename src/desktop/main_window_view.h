@@ -7,6 +7,7 @@
 #include <QMainWindow>
 #include <QTimer>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,7 @@ namespace ruvenmark {
 
 class BaseMap;
 class HelpView;
+class IByteStream;
 class IconSet;
 class MainToolBar;
 class MapPane;
@@ -45,6 +47,7 @@ public:
     // Runs a command of the menus. A load runs inside it.
     void Run(MenuEntry entry);
     void LoadFile(const std::string& path);
+    void LoadFile(IByteStream& bytes); // Opened before.
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -64,6 +67,7 @@ private:
     void RefreshIcons();
     void ShowTiles();
     void PopUp(QPoint place, int button, TreeNode* node);
+    void RunLoad(const std::function<void()>& load);
     void AfterCommand();
 
     MainWindow& m_main;

@@ -2,8 +2,10 @@
 
 #include "platform/dictionary.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace ruvenmark {
 
@@ -35,6 +37,13 @@ struct ServerLists {
     Dictionary<std::string> ServerList;
     Dictionary<std::string> PortList;
     Dictionary<std::string> ServerFilterList;
+
+    // What the file of each was found to hold, in this order: one that would not change is not written.
+    struct FileState {
+        std::vector<std::string> entries;
+        bool bUnreadable = false; // It is there and is not to be lost.
+    };
+    std::array<FileState, 3> files;
 };
 
 // frmImport

@@ -1,10 +1,13 @@
 #include "links/server_lists.h"
 
 #include "core/main_window.h"
-#include "links/text_files.h"
+#include "platform/failure.h"
+#include "platform/records.h"
 
 #include <array>
+#include <cstddef>
 #include <string>
+#include <vector>
 
 namespace ruvenmark {
 
@@ -52,31 +55,60 @@ void SaveServerForm(StoredSettings& stored, const ServerForm& form)
     stored.SetFlag(Setting::AutoTCP, form.bAutoTCP);
 }
 
+std::vector<std::string> Keys(const Dictionary<std::string>& list)
+{
+    std::vector<std::string> keys;
+    for (const auto& [key, value] : list)
+        keys.push_back(key);
+    return keys;
+}
+
+void LoadList(IFiles& files, const std::string& path, Dictionary<std::string>& list, ServerLists::FileState& state)
+{
+    try {
+        for (const auto& record : SplitRecords(files.ReadText(path, FileKind::List), kListDelimiter))
+            list.Set(record.front(), record.front());
+    } catch (const Failure&) {
+        state.bUnreadable = files.Exists(path);
+    }
+    state.entries = Keys(list);
+}
+
+// Raises Failure.
+void SaveList(IFiles& files, const std::string& path, const Dictionary<std::string>& list,
+              const ServerLists::FileState& state)
+{
+    const auto keys = Keys(list);
+    if (keys.empty() || keys == state.entries)
+        return;
+    if (state.bUnreadable)
+        throw Failure("cannot write " + path + ": it could not be read");
+    TextTable table;
+    for (const std::string& key : keys)
+        table.push_back({key});
+    WriteRecords(files, table, path, kListDelimiter);
+}
+
 } // namespace
 
 void LoadServerLists(MainWindow& main)
 {
-    for (const auto& [name, list] : kListFiles) {
-        auto& entries = main.serverLists.*list;
-        for (const auto& record :
-             ReadRecords(main.services.files, JoinPath(main.services.programFolder, name), kListDelimiter))
-            entries.Set(record.front(), record.front());
-    }
+    ServerLists& lists = main.serverLists;
+    for (std::size_t i = 0; i < kListFiles.size(); ++i)
+        LoadList(main.services.files, JoinPath(main.services.programFolder, kListFiles[i].name),
+                 lists.*kListFiles[i].list, lists.files[i]);
     LoadServerForm(main.stored, main.frmTcp);
 }
 
 void SaveServerLists(MainWindow& main)
 {
     SaveServerForm(main.stored, main.frmTcp);
+    const ServerLists& lists = main.serverLists;
     std::string unsaved;
-    for (const auto& [name, list] : kListFiles) {
-        TextTable table;
-        for (const auto& [key, value] : main.serverLists.*list)
-            table.push_back({key});
-        if (table.empty())
-            continue;
+    for (std::size_t i = 0; i < kListFiles.size() && main.services.store.IsKept(); ++i) {
+        const auto& [name, list] = kListFiles[i];
         try {
-            WriteRecords(main.services.files, table, JoinPath(main.services.programFolder, name), kListDelimiter);
+            SaveList(main.services.files, JoinPath(main.services.programFolder, name), lists.*list, lists.files[i]);
         } catch (const Failure& failure) { // The next list can be saved all the same.
             unsaved += unsaved.empty() ? "" : "; ";
             unsaved += failure.what();

@@ -85,7 +85,7 @@ void MapControl::NewMap(std::int32_t region)
 
 void MapControl::OpenMap(std::string_view path)
 {
-    const MapDocument document = ReadMapDocument(m_files.ReadText(path));
+    const MapDocument document = ReadMapDocument(m_files.ReadText(path, FileKind::Map));
     Map& map = StartMap(document.region);
     for (const PinData& pin : document.pins)
         AddPin(map, pin);
@@ -104,7 +104,7 @@ void MapControl::SaveMapAs(std::string_view path)
     MapDocument document = EmptyDocument();
     document.pins = OldestFirst(map.Pins());
     document.shapes = OldestFirst(map.Shapes());
-    m_files.WriteText(WriteMapDocument(document), path);
+    m_files.WriteText(WriteMapDocument(document), path, FileKind::Map);
     map.SetSaved(true);
 }
 

@@ -51,6 +51,65 @@ std::string Unescaped(std::string_view text)
     return plain;
 }
 
+struct SettingsText {
+    std::string otherText; // The lines of other sections, in front.
+    std::string remarks;   // The lines of our section that are no settings.
+    Dictionary<std::string> values;
+};
+
+SettingsText ReadSettings(std::string_view text)
+{
+    SettingsText settings;
+    bool bOurs = false;
+    while (!text.empty()) {
+        const auto end = text.find('\n');
+        const std::string_view whole = text.substr(0, end == std::string_view::npos ? end : end + 1);
+        text.remove_prefix(whole.size());
+        std::string_view line = Trim(Lines(whole).front());
+        const bool bHeader = line.starts_with('[') && line.ends_with(']');
+        if (bHeader)
+            bOurs = line == kHeader;
+        const auto sign = line.find('=');
+        const bool bRemark = line.starts_with('#') || line.starts_with(';');
+        if (!bOurs)
+            settings.otherText += whole;
+        else if (!bHeader && !bRemark && sign != std::string_view::npos)
+            settings.values.Set(Unescaped(Trim(line.substr(0, sign))), Unescaped(Trim(line.substr(sign + 1))));
+        else if (!bHeader)
+            settings.remarks += whole;
+    }
+    return settings;
+}
+
+std::string WriteSettings(const SettingsText& settings)
+{
+    const auto endLine = [](std::string& text) {
+        if (!text.empty() && text.back() != '\n')
+            text += '\n';
+    };
+    std::string text = settings.otherText;
+    endLine(text);
+    text += kHeader;
+    text += '\n';
+    text += settings.remarks;
+    endLine(text);
+    for (const auto& [key, value] : settings.values) {
+        AppendEscaped(text, key, true);
+        text += '=';
+        AppendEscaped(text, value, false);
+        text += '\n';
+    }
+    return text;
+}
+
+// The first where there is one.
+const std::string* FindIn(const Dictionary<std::string>& first, const Dictionary<std::string>& second,
+                          std::string_view key)
+{
+    const std::string* value = first.Find(key);
+    return value ? value : second.Find(key);
+}
+
 } // namespace
 
 // --- In memory
@@ -71,83 +130,69 @@ void MemorySettingsStore::Set(std::string_view key, std::string_view value)
 FileSettingsStore::FileSettingsStore(IFiles& files, std::string path) : m_files(files), m_path(std::move(path))
 {
     try {
-        Read(m_files.ReadText(m_path));
-    } catch (const Failure&) {
-        m_bKeepFile = m_files.Exists(m_path);
-    }
-}
-
-void FileSettingsStore::Read(std::string_view text)
-{
-    bool bOurs = false;
-    while (!text.empty()) {
-        const auto end = text.find('\n');
-        const std::string_view whole = text.substr(0, end == std::string_view::npos ? end : end + 1);
-        text.remove_prefix(whole.size());
-        std::string_view line = Trim(Lines(whole).front());
-        const bool bHeader = line.starts_with('[') && line.ends_with(']');
-        if (bHeader)
-            bOurs = line == kHeader;
-        const auto sign = line.find('=');
-        const bool bRemark = line.starts_with('#') || line.starts_with(';');
-        if (!bOurs)
-            m_otherText += whole;
-        else if (!bHeader && !bRemark && sign != std::string_view::npos)
-            m_values.Set(Unescaped(Trim(line.substr(0, sign))), Unescaped(Trim(line.substr(sign + 1))));
-        else if (!bHeader)
-            m_remarks += whole;
+        m_values = ReadSettings(m_files.ReadText(m_path, FileKind::Settings)).values;
+    } catch (const Failure& failure) {
+        if (m_files.Exists(m_path))
+            m_readFault = failure.what();
     }
 }
 
 std::string FileSettingsStore::Get(std::string_view key, std::string_view defaultValue) const
 {
-    const std::string* value = m_values.Find(key);
-    return value ? *value : std::string(defaultValue);
+    if (const std::string* value = m_values.Find(key))
+        return *value;
+    m_defaults.Set(key, std::string(defaultValue));
+    return std::string(defaultValue);
 }
 
 void FileSettingsStore::Set(std::string_view key, std::string_view value)
 {
-    const std::string* found = m_values.Find(key);
-    if (found && *found == value)
-        return;
+    const std::string* former = FindIn(m_values, m_defaults, key);
+    const bool bSame = former && *former == value;
+    if (!bSame || m_toWrite.Contains(key))
+        m_toWrite.Set(key, std::string(value));
+    else
+        m_toHave.Set(key, std::string(value));
     m_values.Set(key, std::string(value));
-    m_bChanged = true;
-}
-
-std::string FileSettingsStore::FileText() const
-{
-    const auto endLine = [](std::string& text) {
-        if (!text.empty() && text.back() != '\n')
-            text += '\n';
-    };
-    std::string text = m_otherText;
-    endLine(text);
-    text += kHeader;
-    text += '\n';
-    text += m_remarks;
-    endLine(text);
-    for (const auto& [key, value] : m_values) {
-        AppendEscaped(text, key, true);
-        text += '=';
-        AppendEscaped(text, value, false);
-        text += '\n';
-    }
-    return text;
 }
 
 bool FileSettingsStore::Flush()
 {
-    if (!m_bChanged)
+    if (!m_bKept || (m_toWrite.IsEmpty() && m_toHave.IsEmpty()))
         return true;
-    if (m_bKeepFile)
-        return false;
     try {
-        m_files.WriteText(FileText(), m_path);
+        WriteChanges();
     } catch (const Failure&) {
         return false;
     }
-    m_bChanged = false;
+    m_toWrite.Clear();
+    m_toHave.Clear();
     return true;
+}
+
+void FileSettingsStore::WriteChanges()
+{
+    if (!m_readFault.empty())
+        throw Failure(m_readFault);
+    SettingsText standing;
+    if (m_files.Exists(m_path))
+        standing = ReadSettings(m_files.ReadText(m_path, FileKind::Settings));
+    bool bChanges = false;
+    for (const auto& [key, value] : m_toWrite) {
+        const std::string* there = standing.values.Find(key);
+        if (there && *there == value)
+            continue;
+        standing.values.Set(key, value);
+        bChanges = true;
+    }
+    for (const auto& [key, value] : m_toHave) {
+        if (standing.values.Contains(key))
+            continue;
+        standing.values.Set(key, value);
+        bChanges = true;
+    }
+    if (bChanges)
+        m_files.WriteText(WriteSettings(standing), m_path, FileKind::Settings);
 }
 
 // --- For one run

@@ -1,14 +1,18 @@
 #include "app/headless.h"
 #include "platform/failure.h"
+#include "platform/file_lock.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <stdlib.h>
+#include <sys/stat.h>
+#include <thread>
 
 namespace ruvenmark {
 namespace {
@@ -66,6 +70,8 @@ TEST_F(Headless, TerminalsGetNoControls)
     Write("day.txt", kDay);
     Run({"--load", Path("day.txt")});
     EXPECT_THAT(out.str(), HasSubstr("status \u00e4.[2J.\n"));
+    Run({"--load", Path("day.txt"), "--json"});
+    EXPECT_THAT(out.str(), HasSubstr("status \u00e4\\u001b[2J\\u009b\""));
 }
 
 TEST_F(Headless, PrintsAllAsJson)
@@ -143,13 +149,61 @@ TEST_F(Headless, MessagesGoToTheErrorStreamAndTheirPart)
     EXPECT_THAT(out.str(), testing::StartsWith("Stations load failed!\nFL N0CALL\n  Call: N0CALL\n  Status: x\n"));
 }
 
+// A script must see that what it asked for is not there.
+TEST_F(Headless, WhatCannotBeWrittenEndsInStatusOneAndALine)
+{
+    std::ofstream full("/dev/full");
+    const auto options = [&](const std::string& settings) {
+        return ReadOptions({"--headless", "--settings", settings, "--folder", Path("program")});
+    };
+    EXPECT_EQ(RunHeadless(options(Path("settings")), full, err), 1);
+    EXPECT_EQ(err.str(), "Ruvenmark: the output could not be written\n");
+    err.str({});
+    EXPECT_EQ(RunHeadless(options(Path("none/settings")), out, err), 1);
+    EXPECT_EQ(err.str(), "Ruvenmark: The settings could not be saved\n");
+}
+
+TEST_F(Headless, ASecondProgramOnTheSameSettingsSavesNothing)
+{
+    Write("settings", "[Settings]\n");
+    {
+        const FileLock other(Path("settings"));
+        EXPECT_EQ(Run({}), 0);
+        EXPECT_EQ(err.str(), "Ruvenmark: another program uses these settings: nothing will be saved\n");
+        EXPECT_EQ(Read("settings"), "[Settings]\n");
+    }
+    Write(".ruvenmark-7", "half a fi"); // Of a program that was killed.
+    EXPECT_EQ(Run({}), 0);
+    EXPECT_EQ(err.str(), "");
+    EXPECT_THAT(Read("settings"), HasSubstr("\nCall=\n"));
+    EXPECT_FALSE(std::filesystem::exists(Path(".ruvenmark-7")));
+    EXPECT_FALSE(std::filesystem::exists(Path("settings.lock")));
+}
+
+TEST_F(Headless, LoadsFromAPipeAndWaitsForNoMap)
+{
+    ASSERT_EQ(mkfifo(Path("pipe").c_str(), 0600), 0);
+    std::thread writer([&] { std::ofstream(Path("pipe"), std::ios::binary) << kDay; });
+    Write("settings", "[Settings]\nFLDelay=20000\n"); // A load that heeds it takes over a minute.
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(Run({"--load", Path("pipe"), "--print", "counts"}), 0);
+    writer.join();
+    EXPECT_THAT(out.str(), testing::StartsWith("decoded: 3\nundecoded: 1\n"));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
+    EXPECT_THAT(Read("settings"), HasSubstr("FLDelay=20000\n"));
+}
+
 TEST_F(Headless, FilesThatCannotBeUsedAreToldAhead)
 {
     EXPECT_THROW(Run({"--load", Path("missing.txt")}), Failure);
     EXPECT_THROW(Run({"--load", folder}), Failure);
+    EXPECT_THROW(Run({"--load", "/dev/zero"}), Failure);
     EXPECT_FALSE(std::filesystem::exists(Path("settings"))); // Nothing had started.
     std::filesystem::create_directory(Path("settings"));
     EXPECT_THROW(Run({}), Failure);
+    std::filesystem::remove(Path("settings"));
+    ASSERT_EQ(mkfifo(Path("settings").c_str(), 0600), 0);
+    EXPECT_THROW(Run({}), Failure); // And does not wait for a writer.
     std::filesystem::remove(Path("settings"));
     Write("program", "a file where the folder should be");
     EXPECT_THROW(Run({}), Failure);

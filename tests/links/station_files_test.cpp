@@ -5,6 +5,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace ruvenmark {
 namespace {
 
@@ -78,6 +80,54 @@ TEST_F(StationFiles, NoLinesSayNothingAndNoFileFails)
     EXPECT_EQ(p.prompts.messages.size(), 2U);
 }
 
+// A mark at the head is no part of the first packet, and a line that is too long costs no other line.
+TEST_F(StationFiles, MarksAndOverlongLinesCostNoPacket)
+{
+    Load("\xEF\xBB\xBF" + Line("A") + "\n" + Line("B") + std::string(100000, 'x') + "\n" + Line("C"));
+    EXPECT_THAT(Stations(), ElementsAre("A", "C"));
+    EXPECT_EQ(p.sources.Counts().decoded, 2U);
+    EXPECT_EQ(p.sources.Counts().Undecoded(), 1U);
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
+}
+
+// Too long to be counted ahead: still from 0 to 100 and never back.
+TEST_F(StationFiles, ProgressOfALargeFileGoesByBytes)
+{
+    std::string text;
+    while (text.size() < 600000)
+        text += Line("A") + "\r\n";
+    std::vector<int> progress;
+    const int lines = static_cast<int>(text.size() / (Line("A").size() + 2));
+    for (int i = 1; i <= lines; ++i)
+        p.yield.At(i, [&] { progress.push_back(p.main.sbStatusBar.Progress()); });
+    Load(text);
+    ASSERT_EQ(progress.size(), static_cast<std::size_t>(lines));
+    EXPECT_TRUE(std::is_sorted(progress.begin(), progress.end()));
+    EXPECT_EQ(progress.front(), 0);
+    EXPECT_NEAR(progress[progress.size() / 2], 50, 1);
+    EXPECT_LT(progress[progress.size() - 2], 100);
+    EXPECT_EQ(progress.back(), 100);
+}
+
+// While a pipe brings nothing the window goes on, and may end the load.
+TEST_F(StationFiles, APipeIsReadAsItComes)
+{
+    std::vector<std::string> stations;
+    MemoryStream pipe({Line("A") + "\n" + Line("B"), "", "", "\n", "", Line("C")}, std::nullopt);
+    p.yield.At(1, [&] { stations = Stations(); });
+    LoadStationFile(p.main, pipe);
+    EXPECT_THAT(stations, ElementsAre("A"));
+    EXPECT_THAT(Stations(), ElementsAre("A", "B", "C"));
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
+
+    MemoryStream stopped({Line("D") + "\n", "", "", Line("E") + "\n" + Line("F")}, std::nullopt);
+    const int calls = p.yield.calls;
+    p.yield.At(calls + 1, [&] { mnuImportStations_Click(p.main); }); // While it waits for the second line.
+    LoadStationFile(p.main, stopped);
+    EXPECT_THAT(Stations(), ElementsAre("A", "B", "C", "D"));
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
+}
+
 TEST_F(StationFiles, AStopKeepsWhatWasParsed)
 {
     p.yield.At(2, [&] { mnuImportStations_Click(p.main); });
@@ -96,6 +146,17 @@ TEST_F(StationFiles, TheDelayIsReadAtEachLine)
     p.yield.At(3, [&] { p.main.frmImport.iFLDelay = -1; });
     Load(FourLines());
     EXPECT_THAT(p.sleep.slept, ElementsAre(20, 30));
+}
+
+// In one piece it could not be ended before it is over.
+TEST_F(StationFiles, ALongDelayLetsEventsInBetweenItsPieces)
+{
+    p.main.frmImport.iFLDelay = 120;
+    p.yield.At(3, [&] { p.main.FileLoading = false; }); // Behind the second piece.
+    Load(FourLines());
+    EXPECT_THAT(p.sleep.slept, ElementsAre(50, 50));
+    EXPECT_THAT(Stations(), ElementsAre("A"));
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
 }
 
 // Whatever comes in while a load lets events in: other channels, and commands that take away what the load works on.

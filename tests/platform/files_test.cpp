@@ -1,12 +1,17 @@
 #include "platform/failure.h"
+#include "platform/file_lock.h"
+#include "platform/file_replacement.h"
 #include "platform/files.h"
 
 #include <gmock/gmock.h>
 
+#include <array>
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -58,63 +63,155 @@ TEST_F(PosixFilesTest, EveryByteComesBack)
     std::string text;
     for (int i = 0; i < 200000; ++i)
         text += static_cast<char>(i * 7);
-    files.WriteText(text, In("a"));
-    EXPECT_EQ(files.ReadText(In("a")), text);
-    files.WriteText("", In("a"));
-    EXPECT_EQ(files.ReadText(In("a")), "");
+    files.WriteText(text, In("a"), FileKind::Map);
+    EXPECT_EQ(files.ReadText(In("a"), FileKind::Map), text);
+    files.WriteText("", In("a"), FileKind::Map);
+    EXPECT_EQ(files.ReadText(In("a"), FileKind::Map), "");
     EXPECT_EQ(FileCount(), 1U);
     EXPECT_TRUE(files.Exists(In("a")));
     files.Remove(In("a"));
     files.Remove(In("a"));
     files.Remove(In("none/a"));
     EXPECT_FALSE(files.Exists(In("a")));
-    EXPECT_EQ(Words([&] { files.ReadText(In("a")); }), "cannot open " + In("a") + ": No such file or directory");
-    EXPECT_EQ(Words([&] { files.ReadText(In("")); }), "cannot read " + In("") + ": Is a directory");
-    files.WriteText("", In("f"));
-    EXPECT_NE(Words([&] { files.ReadText(In(std::string_view("f\0x", 3))); }), "");
+    EXPECT_EQ(Words([&] { files.ReadText(In("a"), FileKind::Map); }),
+              "cannot open " + In("a") + ": No such file or directory");
+    EXPECT_EQ(Words([&] { files.ReadText(In(""), FileKind::Map); }), "cannot read " + In("") + ": Is a directory");
+    files.WriteText("", In("f"), FileKind::Map);
+    EXPECT_NE(Words([&] { files.ReadText(In(std::string_view("f\0x", 3)), FileKind::Map); }), "");
 }
 
 TEST_F(PosixFilesTest, AWriteThatFailsHalfwayLeavesTheOldFile)
 {
-    files.WriteText("old", In("a"));
+    files.WriteText("old", In("a"), FileKind::Map);
     const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
     rlimit former = {};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &former), 0);
     rlimit small = former;
     small.rlim_cur = 4096;
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &small), 0);
-    const std::string words = Words([&] { files.WriteText(std::string(100000, 'x'), In("a")); });
+    const std::string words = Words([&] { files.WriteText(std::string(100000, 'x'), In("a"), FileKind::Map); });
     ::setrlimit(RLIMIT_FSIZE, &former);
     std::signal(SIGXFSZ, formerHandler);
 
     EXPECT_EQ(words, "cannot write " + In("a") + ": File too large");
-    EXPECT_EQ(files.ReadText(In("a")), "old");
+    EXPECT_EQ(files.ReadText(In("a"), FileKind::Map), "old");
     EXPECT_EQ(FileCount(), 1U);
 }
 
 TEST_F(PosixFilesTest, KeepsThePermissionsAndFollowsLinks)
 {
     fs::create_directory(In("d"));
-    files.WriteText("old", In("d/target"));
+    files.WriteText("old", In("d/target"), FileKind::Map);
     ASSERT_EQ(::chmod(In("d/target").c_str(), 0640), 0);
     fs::create_symlink("d/target", In("link"));
     fs::create_symlink(In("link"), In("link2"));
 
-    files.WriteText("new", In("link2"));
+    files.WriteText("new", In("link2"), FileKind::Map);
     EXPECT_TRUE(fs::is_symlink(In("link2")) && fs::is_symlink(In("link")));
-    EXPECT_EQ(files.ReadText(In("d/target")), "new");
+    EXPECT_EQ(files.ReadText(In("d/target"), FileKind::Map), "new");
     EXPECT_EQ(Mode(In("d/target")), 0640U);
 
     fs::create_symlink("d/made", In("dangling"));
-    files.WriteText("x", In("dangling"));
-    EXPECT_EQ(files.ReadText(In("d/made")), "x");
+    files.WriteText("x", In("dangling"), FileKind::Map);
+    EXPECT_EQ(files.ReadText(In("d/made"), FileKind::Map), "x");
     fs::create_symlink("loop", In("loop"));
-    EXPECT_THAT(Words([&] { files.WriteText("x", In("loop")); }), testing::HasSubstr("symbolic links"));
+    EXPECT_THAT(Words([&] { files.WriteText("x", In("loop"), FileKind::Map); }), testing::HasSubstr("symbolic links"));
 
     const mode_t former = ::umask(027);
-    files.WriteText("", In("fresh"));
+    files.WriteText("", In("fresh"), FileKind::Map);
     ::umask(former);
     EXPECT_EQ(Mode(In("fresh")), 0640U);
+}
+
+// A pipe or a device has no end: it must neither be waited for nor read for ever, nor be replaced by a file.
+TEST_F(PosixFilesTest, OnlyOrdinaryFilesOfFairSizeAreTexts)
+{
+    ASSERT_EQ(::mkfifo(In("fifo").c_str(), 0600), 0);
+    const std::string notOrdinary = ": it is no ordinary file";
+    EXPECT_EQ(Words([&] { files.ReadText(In("fifo"), FileKind::Settings); }),
+              "cannot read " + In("fifo") + notOrdinary);
+    EXPECT_EQ(Words([&] { files.WriteText("x", In("fifo"), FileKind::Map); }),
+              "cannot write " + In("fifo") + notOrdinary);
+    EXPECT_EQ(Words([&] { files.ReadText("/dev/zero", FileKind::List); }), "cannot read /dev/zero" + notOrdinary);
+    EXPECT_EQ(Words([&] { files.OpenStream("/dev/zero"); }), "cannot read /dev/zero: it is neither a file nor a pipe");
+    EXPECT_EQ(Words([&] { files.OpenStream(In("")); }), "cannot read " + In("") + ": Is a directory");
+
+    std::ofstream(In("large")).close();
+    fs::resize_file(In("large"), 4000000);
+    EXPECT_EQ(files.ReadText(In("large"), FileKind::Settings).size(), 4000000U);
+    fs::resize_file(In("large"), 4000001);
+    EXPECT_EQ(Words([&] { files.ReadText(In("large"), FileKind::Settings); }),
+              "cannot read " + In("large") + ": it is larger than 4 MB");
+}
+
+// A pipe without a writer waits for one; one whose writers have gone is at its end.
+TEST_F(PosixFilesTest, StreamsAreFilesAndPipes)
+{
+    std::array<char, 8> room{};
+    const auto read = [&](IByteStream& stream) -> std::string {
+        const auto count = stream.Read(room, std::chrono::milliseconds(0));
+        return count ? std::string(room.data(), *count) : "(end)";
+    };
+    files.WriteText("0123456789", In("a"), FileKind::Map);
+    const auto file = files.OpenStream(In("a"));
+    EXPECT_EQ(file->Size(), 10U);
+    EXPECT_EQ(read(*file), "01234567");
+    EXPECT_EQ(read(*file), "89");
+    EXPECT_EQ(read(*file), "(end)");
+
+    ASSERT_EQ(::mkfifo(In("fifo").c_str(), 0600), 0);
+    const auto pipe = files.OpenStream(In("fifo"));
+    EXPECT_EQ(pipe->Size(), std::nullopt);
+    EXPECT_EQ(read(*pipe), "");
+    const int writer = ::open(In("fifo").c_str(), O_WRONLY | O_NONBLOCK);
+    EXPECT_EQ(read(*pipe), "");
+    ASSERT_EQ(::write(writer, "ab", 2), 2);
+    ::close(writer);
+    EXPECT_EQ(read(*pipe), "ab");
+    EXPECT_EQ(read(*pipe), "(end)");
+}
+
+TEST_F(PosixFilesTest, WhatACrashLeftIsClearedAway)
+{
+    std::ofstream(In(".ruvenmark-1")).close();
+    std::ofstream(In(".ruvenmark-" + std::to_string(::getpid()) + "-0")).close(); // A process of our number wrote it.
+    std::ofstream(In(".ruvenmark-2-0")).close();
+    const int busy = ::open(In(".ruvenmark-2-0").c_str(), O_WRONLY);
+    ASSERT_EQ(::flock(busy, LOCK_EX), 0); // Another program writes it just now.
+    std::ofstream(In("ruvenmark-3")).close();
+    files.WriteText("x", In("a"), FileKind::Map);
+    EXPECT_TRUE(fs::exists(In(".ruvenmark-2-0")) && fs::exists(In("ruvenmark-3")) && fs::exists(In("a")));
+    EXPECT_EQ(FileCount(), 3U);
+    ::close(busy);
+    RemoveLeftovers(In(""));
+    EXPECT_EQ(FileCount(), 2U);
+    RemoveLeftovers(In("none"));
+}
+
+TEST_F(PosixFilesTest, SettingsAreForThisUserAlone)
+{
+    files.WriteText("", In("new"), FileKind::Settings);
+    EXPECT_EQ(Mode(In("new")), 0600U);
+    std::ofstream(In("old")).close();
+    ASSERT_EQ(::chmod(In("old").c_str(), 0664), 0);
+    files.WriteText("", In("old"), FileKind::Settings);
+    EXPECT_EQ(Mode(In("old")), 0600U);
+}
+
+TEST_F(PosixFilesTest, OneProgramAtATimeHoldsALock)
+{
+    fs::create_symlink("s.ini", In("link"));
+    {
+        const FileLock lock(In("s.ini"));
+        EXPECT_FALSE(lock.IsElsewhere());
+        EXPECT_TRUE(FileLock(In("link")).IsElsewhere()); // Another name of the same file.
+        EXPECT_TRUE(FileLock(In("s.ini")).IsElsewhere());
+        EXPECT_FALSE(FileLock(In("t.ini")).IsElsewhere());
+    }
+    EXPECT_EQ(FileCount(), 1U);              // No lock is left lying.
+    std::ofstream(In("s.ini.lock")).close(); // As of a program that was killed.
+    EXPECT_FALSE(FileLock(In("s.ini")).IsElsewhere());
+    EXPECT_FALSE(FileLock(In("none/s.ini")).IsElsewhere());
 }
 
 TEST_F(PosixFilesTest, MakesFolders)
@@ -122,7 +219,7 @@ TEST_F(PosixFilesTest, MakesFolders)
     MakeFolder(In("a/b//c/"));
     MakeFolder(In("a/b/c"));
     EXPECT_TRUE(fs::is_directory(In("a/b/c")));
-    files.WriteText("", In("f"));
+    files.WriteText("", In("f"), FileKind::Map);
     EXPECT_EQ(Words([&] { MakeFolder(In("f")); }), "cannot make " + In("f") + ": Not a directory");
     EXPECT_NE(Words([&] { MakeFolder(In("f/x")); }), "");
 }

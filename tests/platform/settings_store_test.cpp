@@ -40,6 +40,42 @@ TEST(FileSettingsStore, WritesOnlyWhatChanged)
     EXPECT_EQ(files.writes, 2);
 }
 
+// Two programs on one file: each keeps what the other changed, and neither writes what only it was given as default.
+TEST(FileSettingsStore, LaysOnlyItsOwnChangesOverWhatStandsThereByThen)
+{
+    MemoryFiles files;
+    files.texts[kPath] = "[Settings]\na=1\nb=1\nc=1\n";
+    FileSettingsStore ours(files, kPath);
+    EXPECT_EQ(ours.Get("d", "default"), "default");
+    EXPECT_EQ(ours.Get("e", "default"), "default");
+    files.texts[kPath] = "[Settings]\na=2\nb=2\nd=2\nx=2\n# another's\n";
+    ours.Set("a", "1");
+    ours.Set("b", "3");
+    ours.Set("c", "1"); // As it was, and gone from the file meanwhile.
+    ours.Set("d", "default");
+    ours.Set("e", "default");
+    ASSERT_TRUE(ours.Flush());
+    EXPECT_EQ(files.texts[kPath], "[Settings]\n# another's\na=2\nb=3\nd=2\nx=2\nc=1\ne=default\n");
+
+    files.texts[kPath] = "[Settings]\n  a = 4\nb=4\nc=4\nd=4\ne=4\n";
+    const std::string before = files.texts[kPath];
+    for (const char* key : {"a", "b", "c", "d", "e"})
+        ours.Set(key, ours.Get(key, ""));
+    EXPECT_TRUE(ours.Flush());
+    EXPECT_EQ(files.texts[kPath], before); // Nothing of this run is new: not even its blanks are touched.
+    EXPECT_EQ(files.writes, 1);
+
+    ours.Set("b", "5");
+    ours.Set("b", "3"); // There and back is still a choice of this run.
+    EXPECT_TRUE(ours.Flush());
+    EXPECT_NE(files.texts[kPath].find("\nb=3\n"), std::string::npos);
+    ours.KeepNothing();
+    ours.Set("b", "6");
+    EXPECT_TRUE(ours.Flush());
+    EXPECT_FALSE(ours.IsKept() || OverlaySettingsStore(ours).IsKept());
+    EXPECT_EQ(files.texts[kPath].find("b=6"), std::string::npos);
+}
+
 TEST(FileSettingsStore, AFileThatCannotBeReadIsNotWrittenOver)
 {
     MemoryFiles files;
@@ -50,7 +86,10 @@ TEST(FileSettingsStore, AFileThatCannotBeReadIsNotWrittenOver)
     store.Set("a", "2");
     EXPECT_EQ(store.Get("a", "default"), "2");
     EXPECT_FALSE(store.Flush());
+    EXPECT_EQ(store.ReadFault(), "cannot open settings.ini");
     EXPECT_EQ(files.texts[kPath], "[Settings]\na=1\n");
+    files.texts.clear();
+    EXPECT_EQ(FileSettingsStore(files, kPath).ReadFault(), ""); // A missing one is no fault.
 }
 
 TEST(OverlaySettingsStore, HoldsForThisRunUntilSet)

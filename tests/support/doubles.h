@@ -8,12 +8,16 @@
 #include "platform/waiting.h"
 
 #include <chrono>
+#include <cstddef>
+#include <cstdint>
 #include <ctime>
 #include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -83,6 +87,30 @@ private:
     }
 };
 
+// Bytes that come as a test deals them out: each piece is one read, an empty one a wait without anything.
+class MemoryStream final : public IByteStream {
+public:
+    MemoryStream(std::vector<std::string> pieces, std::optional<std::uint64_t> size)
+        : m_pieces(pieces.begin(), pieces.end()), m_size(size)
+    {
+    }
+    std::optional<std::size_t> Read(std::span<char> room, std::chrono::milliseconds /*wait*/) override
+    {
+        if (m_pieces.empty())
+            return std::nullopt;
+        const std::size_t count = m_pieces.front().copy(room.data(), room.size());
+        m_pieces.front().erase(0, count);
+        if (m_pieces.front().empty())
+            m_pieces.pop_front();
+        return count;
+    }
+    std::optional<std::uint64_t> Size() const override { return m_size; }
+
+private:
+    std::deque<std::string> m_pieces;
+    std::optional<std::uint64_t> m_size;
+};
+
 class RecordingNotices final : public INotices {
 public:
     std::vector<std::string> lines;
@@ -99,14 +127,20 @@ public:
     // The nth write from now on fails and leaves the file as it was; 1 is the next.
     void FailWrite(int nth) { m_failingWrite = writes + nth; }
 
-    std::string ReadText(std::string_view path) override
+    std::string ReadText(std::string_view path, FileKind /*kind*/) override
     {
         const auto found = texts.find(path);
         if (found == texts.end() || unreadable.contains(path))
             throw Failure("cannot open " + std::string(path));
         return found->second;
     }
-    void WriteText(std::string_view text, std::string_view path) override
+    std::unique_ptr<IByteStream> OpenStream(std::string_view path) override
+    {
+        const std::string text = ReadText(path, FileKind::List);
+        return std::make_unique<MemoryStream>(text.empty() ? std::vector<std::string>() : std::vector{text},
+                                              text.size());
+    }
+    void WriteText(std::string_view text, std::string_view path, FileKind /*kind*/) override
     {
         if (++writes == m_failingWrite)
             throw Failure("cannot write " + std::string(path));

@@ -1,4 +1,4 @@
-#include "links/text_files.h"
+#include "platform/records.h"
 
 #include "platform/failure.h"
 #include "platform/files.h"
@@ -35,25 +35,27 @@ std::string Join(const TextRecord& pieces, std::string_view delimiter)
 
 } // namespace
 
-std::vector<std::string_view> UsedLines(std::string_view text)
+bool IsUsedLine(std::string_view line)
 {
-    auto lines = Lines(text);
-    std::erase_if(lines,
-                  [](std::string_view line) { return line.empty() || line.find('\0') != std::string_view::npos; });
-    return lines;
+    return !line.empty() && line.find('\0') == std::string_view::npos;
+}
+
+TextTable SplitRecords(std::string_view text, std::string_view delimiter)
+{
+    TextTable table;
+    for (const std::string_view line : Lines(text))
+        if (IsUsedLine(line))
+            table.push_back(SplitRecord(line, delimiter));
+    return table;
 }
 
 TextTable ReadRecords(IFiles& files, std::string_view path, std::string_view delimiter)
 {
-    TextTable table;
     try {
-        const std::string text = files.ReadText(path);
-        for (const std::string_view line : UsedLines(text))
-            table.push_back(SplitRecord(line, delimiter));
+        return SplitRecords(files.ReadText(path, FileKind::List), delimiter);
     } catch (const Failure&) {
         return {}; // The callers make no difference between a missing file and an empty one.
     }
-    return table;
 }
 
 void WriteRecords(IFiles& files, const TextTable& table, std::string_view path, std::string_view delimiter)
@@ -61,7 +63,7 @@ void WriteRecords(IFiles& files, const TextTable& table, std::string_view path, 
     TextRecord lines;
     for (const auto& record : table)
         lines.push_back(Join(record, delimiter));
-    files.WriteText(Join(lines, kLineEnd), path);
+    files.WriteText(Join(lines, kLineEnd), path, FileKind::List);
 }
 
 } // namespace ruvenmark

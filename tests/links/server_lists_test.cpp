@@ -1,5 +1,3 @@
-#include "links/text_files.h"
-#include "platform/failure.h"
 #include "support/program.h"
 
 #include <gmock/gmock.h>
@@ -8,32 +6,8 @@
 namespace ruvenmark {
 namespace {
 
-using namespace std::string_literals;
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-TextTable Records(std::string text, std::string_view delimiter = ":")
-{
-    MemoryFiles files;
-    files.texts["/f"] = std::move(text);
-    return ReadRecords(files, "/f", delimiter);
-}
-
-TEST(Records, AreTheUsedLinesSplitAtTheDelimiter)
-{
-    EXPECT_THAT(Records("a:b\r\nc"), ElementsAre(ElementsAre("a", "b"), ElementsAre("c")));
-    EXPECT_THAT(Records("a\nb\n"), ElementsAre(ElementsAre("a"), ElementsAre("b"))); // LF alone ends a line too.
-    EXPECT_THAT(Records("\r\n\r\na\r\n\r\n"), ElementsAre(ElementsAre("a")));
-    EXPECT_THAT(Records("a\0b\r\nc\r\n\0\r\n"s), ElementsAre(ElementsAre("c"))); // A NUL takes its line along.
-    EXPECT_THAT(Records(":a::"), ElementsAre(ElementsAre("", "a", "", "")));
-    EXPECT_THAT(Records("a::b:c", "::"), ElementsAre(ElementsAre("a", "b:c")));
-    EXPECT_THAT(Records(" \r\n"), ElementsAre(ElementsAre(" "))); // A blank is no empty line.
-    EXPECT_THAT(Records("a\rb"), ElementsAre(ElementsAre("a\rb")));
-    EXPECT_THAT(Records(""), IsEmpty());
-    EXPECT_THAT(Records("\r\n\r\n\n"), IsEmpty());
-    MemoryFiles files;
-    EXPECT_THAT(ReadRecords(files, "/missing", ":"), IsEmpty());
-}
 
 std::vector<std::string> Keys(const Dictionary<std::string>& list)
 {
@@ -78,6 +52,22 @@ TEST(ServerLists, AFileThatCannotBeWrittenCostsNothingElse)
     EXPECT_EQ(p.files.texts["/program/ports.txt"], "10152");
     EXPECT_EQ(p.store.Get("PrimaryServer", ""), "a");
     EXPECT_EQ(p.store.Get("FLDelay", ""), "3");
+    EXPECT_EQ(p.main.abandoned.Count(), 1U);
+}
+
+// A list that nobody changed is not the program's to rewrite: it may hold what the program does not keep.
+TEST(ServerLists, AListThatDidNotChangeIsLeftAlone)
+{
+    Program p(false);
+    p.files.texts["/program/servers.txt"] = "[2001:db8::1]:14580\n\n";
+    p.files.texts["/program/ports.txt"] = "14580";
+    p.files.unreadable.insert("/program/ports.txt");
+    StartMainWindow(p.main);
+    p.files.texts["/program/servers.txt"] += "by.another";
+    p.main.serverLists.PortList.Set("10152", "10152");
+    ASSERT_EQ(StopMainWindow(p.main), StopResult::StoppedWithLoss);
+    EXPECT_EQ(p.files.texts["/program/servers.txt"], "[2001:db8::1]:14580\n\nby.another");
+    EXPECT_EQ(p.files.texts["/program/ports.txt"], "14580"); // What could not be read is not lost.
     EXPECT_EQ(p.main.abandoned.Count(), 1U);
 }
 

@@ -1,0 +1,62 @@
+#include "platform/line_stream.h"
+#include "platform/text.h"
+#include "support/doubles.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace ruvenmark {
+namespace {
+
+// Those that are not empty.
+std::vector<std::string> LinesOf(std::vector<std::string> pieces)
+{
+    MemoryStream bytes(std::move(pieces), std::nullopt);
+    LineStream stream(bytes);
+    std::vector<std::string> lines;
+    for (;;) {
+        const auto step = stream.Next({});
+        if (step == LineStream::Step::End)
+            return lines;
+        if (step == LineStream::Step::Line && !stream.Line().empty())
+            lines.emplace_back(stream.Line());
+    }
+}
+
+// Whatever a pipe deals out, down to single bytes and to nothing for a while, the lines are those of the whole text.
+TEST(LineStream, LinesAreTheSameHoweverTheyCome)
+{
+    std::mt19937 random(1);
+    for (int run = 0; run < 300; ++run) {
+        std::string text = run % 3 == 0 ? "\xEF\xBB\xBF" : "";
+        const std::size_t mark = text.size();
+        for (std::size_t length = random() % 40; length > 0; --length)
+            text += "ab\r\n\0"[random() % 5];
+        std::vector<std::string> pieces;
+        for (std::size_t at = 0; at < text.size();) {
+            const std::size_t length = random() % 4;
+            pieces.push_back(text.substr(at, length));
+            at += pieces.back().size();
+        }
+        std::vector<std::string> expected;
+        for (const auto line : Lines(std::string_view(text).substr(mark)))
+            if (!line.empty())
+                expected.emplace_back(line);
+        ASSERT_EQ(LinesOf(pieces), expected) << run;
+    }
+}
+
+TEST(LineStream, ALineOfAnyLengthIsOneLineInBoundedMemory)
+{
+    const std::string begin(LineStream::kMaxLine, 'x');
+    for (const std::size_t more : {1U, 1000U, 300000U, 2000000U}) {
+        const std::string rest(more, 'y');
+        EXPECT_EQ(LinesOf({"a\n" + begin + rest + "\nb\n"}), (std::vector<std::string>{"a", begin, "b"})) << more;
+        EXPECT_EQ(LinesOf({begin, rest, "z\r", "\nb"}), (std::vector<std::string>{begin, "b"})) << more;
+        EXPECT_EQ(LinesOf({begin + rest}), (std::vector<std::string>{begin})) << more;
+    }
+}
+
+} // namespace
+} // namespace ruvenmark
