@@ -3,6 +3,7 @@
 #include "platform/failure.h"
 #include "platform/files.h"
 #include "platform/map_document.h"
+#include "platform/map_extent.h"
 
 #include <algorithm>
 #include <utility>
@@ -32,6 +33,20 @@ std::vector<Value> OldestFirst(const SlotPool<Value>& pool)
     for (const SlotRef ref : refs)
         values.push_back(*pool.At(ref.slot));
     return values;
+}
+
+// What a file of another program shows is all that is in it; one with nothing in it shows the region.
+void ShowDocument(Map& map, const MapDocument& document)
+{
+    MapView view = map.View();
+    const auto places = PlacesOf(document);
+    if (document.centre) {
+        view.centre = *document.centre;
+        view.zoom = document.zoom;
+    } else if (!places.empty()) {
+        view = ViewOfAll(places, view);
+    }
+    map.SetView(view.centre, view.zoom);
 }
 
 } // namespace
@@ -86,14 +101,14 @@ void MapControl::NewMap(std::int32_t region)
 void MapControl::OpenMap(std::string_view path)
 {
     const MapDocument document = ReadMapDocument(m_files.ReadText(path, FileKind::Map));
-    Map& map = StartMap(document.region);
+    Map& map = StartMap(document.region.value_or(IsMapRegion(m_region) ? m_region : kRegionNorthAmerica));
     for (const PinData& pin : document.pins)
         AddPin(map, pin);
     for (const ShapeData& shape : document.shapes)
         AddShape(map, shape);
     map.SetMapStyle(document.style);
     map.SetMapFont(document.font);
-    map.SetView(document.centre, document.zoom);
+    ShowDocument(map, document);
     map.SetSaved(true);
     Replaced.Raise();
 }

@@ -3,6 +3,7 @@
 #include "platform/map_model.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,10 +12,10 @@ namespace ruvenmark {
 
 // A map as a file holds it.
 struct MapDocument {
-    std::int32_t region = kRegionNorthAmerica;
+    std::optional<std::int32_t> region; // None in a file of another program.
     std::int32_t style = kFirstMapStyle;
     std::int32_t font = kFirstMapFont;
-    GeoPoint centre;
+    std::optional<GeoPoint> centre; // The same.
     double zoom = kFirstZoom;
     std::vector<PinData> pins; // Oldest first.
     std::vector<ShapeData> shapes;

@@ -8,6 +8,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <string>
 
 namespace ruvenmark {
 
@@ -16,6 +17,7 @@ namespace {
 // Objects are sorted maps here, so that a file of a million members costs no square of it.
 using InJson = nlohmann::json;
 
+constexpr double kMaxWeight = 100; // Pixels.
 constexpr double kNoLimit = std::numeric_limits<double>::max();
 
 [[noreturn]] void Refuse(const std::string& reason)
@@ -136,10 +138,18 @@ PinData ReadPin(const InJson& coordinates, const InJson& properties)
     return pin;
 }
 
+// Other programs write parts of pixels, and a line as broad as the window only costs time.
+void GetWeight(const InJson& properties, const char* name, std::int32_t& weight)
+{
+    double pixels = weight;
+    GetNumber(properties, name, pixels);
+    weight = static_cast<std::int32_t>(std::nearbyint(std::clamp(pixels, 0.0, kMaxWeight)));
+}
+
 void ReadStroke(const InJson& properties, ShapeData& shape)
 {
     GetColor(properties, "stroke", shape.foreColor);
-    GetWhole(properties, "stroke-width", shape.weight);
+    GetWeight(properties, "stroke-width", shape.weight);
     GetFlag(properties, "visible", shape.bVisible);
     GetFlag(properties, "beginArrow", shape.bBeginArrowhead);
     GetFlag(properties, "endArrow", shape.bEndArrowhead);
@@ -195,7 +205,8 @@ void ReadOwnMember(const InJson& own, MapDocument& document)
 {
     if (!own.is_object())
         Refuse(std::string("\"") + kOwnMember + "\" is no object");
-    GetWhole(own, "region", document.region, kRegionNorthAmerica, kRegionEurope);
+    if (own.contains("region"))
+        GetWhole(own, "region", document.region.emplace(), kRegionNorthAmerica, kRegionEurope);
     GetWhole(own, "style", document.style, 0, kLastMapStyle);
     GetWhole(own, "font", document.font, 0, kLastMapFont);
     if (const InJson* centre = Member(own, "centre"))
@@ -203,13 +214,22 @@ void ReadOwnMember(const InJson& own, MapDocument& document)
     GetNumber(own, "zoom", document.zoom);
 }
 
+InJson ParseJson(std::string_view text)
+{
+    try {
+        return InJson::parse(text);
+    } catch (const InJson::parse_error& error) {
+        Refuse("it is no JSON text from byte " + std::to_string(error.byte) + " on");
+    } catch (const InJson::out_of_range&) {
+        Refuse("a number in it is larger than any place or size");
+    }
+}
+
 } // namespace
 
 MapDocument ReadMapDocument(std::string_view text)
 {
-    const InJson root = InJson::parse(text, nullptr, false);
-    if (root.is_discarded())
-        Refuse("it is no JSON text");
+    const InJson root = ParseJson(text);
     if (!root.is_object() || Required(root, "type") != "FeatureCollection")
         Refuse("it is no collection of features");
     MapDocument document;

@@ -76,11 +76,14 @@ OutJson FeatureOf(const ShapeData& shape)
 
 std::string WriteMapDocument(const MapDocument& document)
 {
-    const OutJson own = {{"region", document.region},
-                         {"style", document.style},
-                         {"font", document.font},
-                         {"centre", PositionOf(document.centre)},
-                         {"zoom", document.zoom}};
+    OutJson own;
+    if (document.region)
+        own["region"] = *document.region;
+    own["style"] = document.style;
+    own["font"] = document.font;
+    if (document.centre)
+        own["centre"] = PositionOf(*document.centre);
+    own["zoom"] = document.zoom;
     std::string text = "{\"type\":\"FeatureCollection\",\n";
     text += "\"" + std::string(kOwnMember) + "\":" + own.dump() + ",\n";
     text += "\"features\":[";

@@ -121,7 +121,7 @@ TEST(MapDocument, ReadsWhatOthersWrote)
     EXPECT_EQ(document.pins[0].point, (GeoPoint{48, 11}));
     EXPECT_EQ(document.pins[1].name, "B");
     EXPECT_EQ(document.pins[1].symbol, 70);
-    EXPECT_TRUE(IsMapRegion(document.region));
+    EXPECT_FALSE(document.region || document.centre);
 }
 
 // A document whose one feature has the given geometry and properties.
@@ -137,6 +137,73 @@ std::string WithPin(const std::string& properties)
 std::string WithOwn(const std::string& own)
 {
     return R"({"type":"FeatureCollection","features":[],"ruvenmark":)" + own + "}";
+}
+
+// A file of another program says nothing of region and view: it must neither move the operator to another continent nor
+// show an empty sea.
+TEST(MapDocument, AFileOfAnotherProgramIsShownWhole)
+{
+    MemoryFiles files;
+    MapControl control(files);
+    control.NewMap(kRegionEurope);
+    Map& map = control.RequireMap();
+    map.SetSize(1000, 500);
+    const auto open = [&](const std::string& features) {
+        files.texts["f"] = R"({"type":"FeatureCollection","features":[)" + features + "]}";
+        control.OpenMap("f");
+        EXPECT_EQ(control.MapRegion(), kRegionEurope);
+    };
+    const auto point = [](const std::string& at, const std::string& properties = "{}") {
+        return R"({"type":"Feature","geometry":{"type":"Point","coordinates":)" + at + R"(},"properties":)" +
+               properties + "}";
+    };
+    const auto isInside = [&](double lat, double lon) {
+        const PixelPoint at = ToPixel(map.View(), {lat, lon});
+        return at.x > 20 && at.x < 980 && at.y > 20 && at.y < 480;
+    };
+    open(point("[10,48]"));
+    EXPECT_NEAR(map.View().centre.lat, 48, 1e-9);
+    EXPECT_NEAR(map.View().centre.lon, 10, 1e-9);
+    EXPECT_EQ(map.View().zoom, 12);
+    open(point("[10,48]") + "," + point("[10.5,47]"));
+    EXPECT_TRUE(isInside(48, 10) && isInside(47, 10.5));
+    EXPECT_GT(map.View().zoom, 7);                      // And no farther away than it takes.
+    open(point("[-179,10]") + "," + point("[178,12]")); // The short way, across the date line.
+    EXPECT_TRUE(isInside(10, -179) && isInside(12, 178));
+    EXPECT_GT(map.View().zoom, 6);
+    open(point("[10,48]", R"({"radiusMiles":100})"));
+    EXPECT_TRUE(isInside(48 + 100 / 69.2, 10) && isInside(48, 10 + 149 / 69.2));
+    EXPECT_GT(map.View().zoom, 5);
+    open(point("[0,90]") + "," + point("[120,-90]") + "," + point("[-120,0]", R"({"radiusMiles":1e300})"));
+    EXPECT_EQ(map.View().zoom, kMinZoom);
+    open("");
+    EXPECT_EQ(map.View().centre, (GeoPoint{50.5, 10})); // That of the region.
+}
+
+TEST(MapDocument, LinesOfOthersAreOfFairBreadth)
+{
+    const auto weight = [](const std::string& given) {
+        return ReadMapDocument(WithPin(R"({"radiusMiles":1,"stroke-width":)" + given + "}")).shapes[0].weight;
+    };
+    EXPECT_EQ(weight("2.6"), 3);
+    EXPECT_EQ(weight("-5"), 0);
+    EXPECT_EQ(weight("2e9"), 100);
+    EXPECT_THROW(weight("\"wide\""), Failure);
+}
+
+TEST(MapDocument, SaysWhyItRefuses)
+{
+    const auto reason = [](const std::string& text) -> std::string {
+        try {
+            ReadMapDocument(text);
+        } catch (const Failure& failure) {
+            return failure.what();
+        }
+        return "";
+    };
+    EXPECT_EQ(reason("{\"type\":}"), "this is no map file: it is no JSON text from byte 9 on");
+    EXPECT_EQ(reason(WithPin(R"({"symbol":40000})")), "this is no map file: \"symbol\" is no number of its range");
+    EXPECT_EQ(reason(WithPin("1e999")), "this is no map file: a number in it is larger than any place or size");
 }
 
 TEST(MapDocument, RefusesHostileValues)
