@@ -25,6 +25,19 @@ if(RUVENMARK_SANITIZE)
   target_link_options(ruvenmark_options INTERFACE -fsanitize=${RUVENMARK_SANITIZE})
 endif()
 
+# What users run stops at a fault of memory rather than going on with it. Under sanitizers the checks would be doubled.
+# Debian's compilers make position-independent objects by themselves.
+if(NOT RUVENMARK_SANITIZE)
+  include(CheckCXXCompilerFlag)
+  check_cxx_compiler_flag(-fcf-protection=full RUVENMARK_HAS_CF_PROTECTION)
+  set(hardening -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -D_GLIBCXX_ASSERTIONS)
+  if(RUVENMARK_HAS_CF_PROTECTION)
+    list(APPEND hardening -fcf-protection=full)
+  endif()
+  target_compile_options(ruvenmark_options INTERFACE "$<$<CONFIG:Release>:${hardening}>")
+  target_link_options(ruvenmark_options INTERFACE "$<$<CONFIG:Release>:-pie;LINKER:-z,relro,-z,now>")
+endif()
+
 # ruvenmark_library(NAME SOURCES file... [LINKS target...]): a folder of the house as a static library.
 function(ruvenmark_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
