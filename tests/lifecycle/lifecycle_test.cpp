@@ -1,14 +1,11 @@
 #include "lifecycle/start.h"
 #include "lifecycle/stop.h"
 #include "links/station_files.h"
-#include "platform/text.h"
 #include "support/program.h"
 #include "tracking/track_lists.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace ruvenmark {
 namespace {
@@ -127,6 +124,18 @@ TEST(Start, WithoutAMapSaysSoAndReportsAreFiled)
     EXPECT_THAT(p.prompts.questions, IsEmpty());
 }
 
+// The map of the region that is wanted, not that of the default.
+TEST(Start, WithoutTheMapOfEuropeSaysThat)
+{
+    Stored p{{"Region", "100"}};
+    p.dialogs.onRun[Form::frmRegion] = [](MainWindow& main) {
+        main.map.Region = kRegionEurope;
+        throw Failure("the window is gone");
+    };
+    p.Start();
+    EXPECT_THAT(p.prompts.messages, ElementsAre("Failed to initialize MapPoint Europe."));
+}
+
 TEST(Start, OpensTheDefaultMapAsANewOne)
 {
     Stored p{{"Region", "2"}};
@@ -145,39 +154,22 @@ TEST(Start, OpensTheDefaultMapAsANewOne)
     EXPECT_EQ(next.Value("Region"), "1"); // The chosen one, not the document's.
 }
 
-TEST(Stop, SavesEverythingInItsOrder)
+// What is emptied at the end is not taken for the operator's choice if the stop runs once more.
+TEST(Stop, LetsGoOfWhatItSavedAndRunsOnlyOnce)
 {
     Stored p{};
     p.Start();
     SetTrackList(p.main.Of(Channel::FL), "N0CALL");
     p.main.serverLists.PortList.Set("14580", "14580");
     ASSERT_TRUE(p.Stop());
-    std::vector<std::string> keys;
-    for (const auto& [key, value] : p.store.Values())
-        keys.push_back(key);
-    std::size_t place = 0;
-    for (const std::string_view key :
-         Words("MainLeft MainTop MainWidth MainHeight ShowTreeView WindowSplit TrackStationPosition "
-               "TrackedRFStations TrackedTCPStations TrackedFLStations ShowTrackLine rfFilterDest flFilterLon "
-               "rfFilterOn flFilterApply Call DestLon PrimaryServer PrimaryPort PrimaryFilter ServerBeacon "
-               "AddTCPSymbol ReconnectServer ReconnectAttempt BackupServer BackupPort BackupFilter BackupBeacon "
-               "AutoTCP ShowRFUnknown ShowTCPUnknown ShowFLUnknown FLDelay FLAdd FLShow")) {
-        const auto found = static_cast<std::size_t>(std::find(keys.begin(), keys.end(), key) - keys.begin());
-        EXPECT_LT(found, keys.size()) << key;
-        EXPECT_GE(found, place) << key;
-        place = found;
-    }
-    for (const auto& [key, text] : {std::pair("Dest", "100"), std::pair("MobileColor", "1"), std::pair("All", "0"),
-                                    std::pair("TrackLineSize", "1"), std::pair("rfTracked", "True")})
-        EXPECT_EQ(p.Value(key), text) << key; // The defaults.
     EXPECT_EQ(p.files.texts["/program/ports.txt"], "14580");
+    EXPECT_EQ(p.store.Lasting("TrackedFLStations"), "N0CALL");
     EXPECT_EQ(SettingText(p.main.Settings, Setting::Path), "");
     EXPECT_TRUE(p.main.serverLists.PortList.IsEmpty());
 
-    // What is emptied at the end is not taken for the operator's choice if the stop runs once more.
     ASSERT_TRUE(p.Stop());
-    EXPECT_EQ(p.Value("TrackedFLStations"), "N0CALL");
-    EXPECT_EQ(p.Value("Path"), "WIDE2-2");
+    EXPECT_EQ(p.store.Lasting("TrackedFLStations"), "N0CALL");
+    EXPECT_EQ(p.store.Lasting("Path"), "WIDE2-2");
 }
 
 TEST(Stop, ACancelLeavesEverythingRunning)
@@ -187,11 +179,11 @@ TEST(Stop, ACancelLeavesEverythingRunning)
     SetTrackList(p.main.Of(Channel::RF), "N0CALL");
     p.Position(Channel::RF, "N0CALL", 1, 2);
     p.Position(Channel::RF, "N0CALL", 3, 4);
-    const std::size_t stored = p.store.Values().Count();
+    const std::size_t writes = p.store.written.size();
     p.prompts.answers = {Answer::Cancel, Answer::Yes};
     EXPECT_FALSE(p.Stop());
     EXPECT_THAT(p.prompts.questions, ElementsAre("Do you want to save the current map?"));
-    EXPECT_EQ(p.store.Values().Count(), stored);
+    EXPECT_EQ(p.store.written.size(), writes);
     EXPECT_EQ(p.main.Of(Channel::RF).TrackMarkers.Count(), 1U);
     EXPECT_TRUE(IsTracked(p.main.Of(Channel::RF), "N0CALL"));
     EXPECT_FALSE(p.TheMap().Saved());

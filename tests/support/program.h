@@ -5,9 +5,9 @@
 #include "intake/station_store.h"
 #include "lifecycle/start.h"
 #include "lifecycle/stop.h"
-#include "platform/settings_store.h"
 #include "support/doubles.h"
 #include "support/recording_desktop.h"
+#include "support/recording_store.h"
 
 #include <memory>
 #include <optional>
@@ -20,7 +20,7 @@ namespace ruvenmark {
 // The whole program with a machine and an operator of the test's making. Set up settings and files before Start.
 class Program {
 public:
-    MemorySettingsStore store;
+    RecordingStore store;
     MemoryFiles files;
     FakeClock clock;
     RecordingSound sound;

@@ -1,0 +1,240 @@
+#include "platform/numbers.h"
+#include "support/program.h"
+#include "tracking/track_lists.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <iterator>
+
+namespace ruvenmark {
+namespace {
+
+using testing::ElementsAre;
+
+using M = MainWindow;
+using S = Setting;
+using W = WindowState;
+
+std::string Shown(const std::string& text)
+{
+    return text;
+}
+std::string Shown(bool value)
+{
+    return std::string(BoolText(value));
+}
+std::string Shown(std::int32_t value)
+{
+    return ShortText(std::int64_t{value});
+}
+
+// Where a stored value lives while the program runs, as text.
+template <Setting Which>
+std::string Kept(const M& main)
+{
+    return SettingText(main.Settings, Which);
+}
+template <auto Owner, auto Value>
+std::string In(const M& main)
+{
+    return Shown(main.*Owner.*Value);
+}
+template <Channel Which, auto Value>
+std::string On(const M& main)
+{
+    return Shown(main.Of(Which).*Value);
+}
+template <Channel Which, auto Value>
+std::string Filter(const M& main)
+{
+    return Shown(main.Of(Which).Filter.*Value);
+}
+template <Channel Which>
+std::string TrackList(const M& main)
+{
+    return TrackListText(main.Of(Which));
+}
+template <auto Value>
+std::string Tiles(const M& main)
+{
+    return Shown(main.map.tiles.*Value);
+}
+
+struct Row {
+    const char* key;
+    const char* byDefault;
+    const char* other;
+    std::string (*state)(const M&);
+};
+using enum Channel;
+// Everything that outlasts a run, in the order in which it is saved.
+constexpr Row kRows[] = {
+    {"MainLeft", "1000", "-30", In<&M::window, &W::left>},
+    {"MainTop", "1000", "40", In<&M::window, &W::top>},
+    {"MainWidth", "6500", "7001", In<&M::window, &W::width>},
+    {"MainHeight", "6500", "8001", In<&M::window, &W::height>},
+    {"ShowTreeView", "True", "False", In<&M::window, &W::bLeftPane>},
+    {"WindowSplit", "2000", "2500", In<&M::window, &W::splitterLeft>},
+    {"Region", "1", "2", In<&M::map, &MapSession::Region>}, // 1: asked for, and closed without an answer.
+    {"TrackStationPosition", "True", "False", In<&M::tracking, &TrackState::bTrackStationPosition>},
+
+    {"TrackedRFStations", "", "N0CALL", TrackList<RF>},
+    {"TrackedTCPStations", "", "N1CALL", TrackList<TCP>},
+    {"TrackedFLStations", "", "N2CALL", TrackList<FL>},
+    {"ShowTrackLine", "True", "False", In<&M::tracking, &TrackState::bShowTrackLine>},
+
+    {"rfFilterDest", "", "A*", Filter<RF, &ReportFilter::Dest>},
+    {"rfFilterReject", "", "B", Filter<RF, &ReportFilter::Reject>},
+    {"rfFilterCall", "", "C", Filter<RF, &ReportFilter::Call>},
+    {"rfFilterRange", "", "4", Filter<RF, &ReportFilter::Range>},
+    {"rfFilterLat", "", "5", Filter<RF, &ReportFilter::Lat>},
+    {"rfFilterLon", "", "-6", Filter<RF, &ReportFilter::Lon>},
+    {"tcpFilterDest", "", "A*", Filter<TCP, &ReportFilter::Dest>},
+    {"tcpFilterReject", "", "B", Filter<TCP, &ReportFilter::Reject>},
+    {"tcpFilterCall", "", "C", Filter<TCP, &ReportFilter::Call>},
+    {"tcpFilterRange", "", "4", Filter<TCP, &ReportFilter::Range>},
+    {"tcpFilterLat", "", "5", Filter<TCP, &ReportFilter::Lat>},
+    {"tcpFilterLon", "", "-6", Filter<TCP, &ReportFilter::Lon>},
+    {"flFilterDest", "", "A*", Filter<FL, &ReportFilter::Dest>},
+    {"flFilterReject", "", "B", Filter<FL, &ReportFilter::Reject>},
+    {"flFilterCall", "", "C", Filter<FL, &ReportFilter::Call>},
+    {"flFilterRange", "", "4", Filter<FL, &ReportFilter::Range>},
+    {"flFilterLat", "", "5", Filter<FL, &ReportFilter::Lat>},
+    {"flFilterLon", "", "-6", Filter<FL, &ReportFilter::Lon>},
+    {"rfFilterOn", "False", "True", Filter<RF, &ReportFilter::bOn>},
+    {"rfTracked", "True", "False", Filter<RF, &ReportFilter::bTracked>},
+    {"rfFilterApply", "False", "True", Filter<RF, &ReportFilter::bApply>},
+    {"tcpFilterOn", "False", "True", Filter<TCP, &ReportFilter::bOn>},
+    {"tcpTracked", "True", "False", Filter<TCP, &ReportFilter::bTracked>},
+    {"tcpFilterApply", "False", "True", Filter<TCP, &ReportFilter::bApply>},
+    {"flFilterOn", "False", "True", Filter<FL, &ReportFilter::bOn>},
+    {"flTracked", "True", "False", Filter<FL, &ReportFilter::bTracked>},
+    {"flFilterApply", "False", "True", Filter<FL, &ReportFilter::bApply>},
+
+    {"Call", "", "N0CALL", Kept<S::Call>},
+    {"Dest", "100", "APRS", Kept<S::Dest>}, // The digits of version 1.0.0.
+    {"Path", "WIDE2-2", "WIDE1-1", Kept<S::Path>},
+    {"Symbol", "-1", "9", Kept<S::Symbol>},
+    {"ShowRFNames", "1", "0", Kept<S::ShowRFNames>},
+    {"ShowTCPNames", "1", "0", Kept<S::ShowTCPNames>},
+    {"All", "0", "1", Kept<S::All>},
+    {"PositionInt", "-1", "3", Kept<S::PositionInt>},
+    {"WeatherInt", "-1", "4", Kept<S::WeatherInt>},
+    {"Lat", "", "48.5", Kept<S::Lat>},
+    {"Lon", "", "-11", Kept<S::Lon>},
+    {"Alt", "", "300", Kept<S::Alt>},
+    {"Speed", "", "30", Kept<S::Speed>},
+    {"Course", "", "90", Kept<S::Course>},
+    {"Power", "", "50", Kept<S::Power>},
+    {"Height", "", "20", Kept<S::Height>},
+    {"Gain", "", "3", Kept<S::Gain>},
+    {"Directivity", "", "45", Kept<S::Directivity>},
+    {"Comment", "", "hello", Kept<S::Comment>},
+    {"WindDir", "", "180", Kept<S::WindDir>},
+    {"WindSpeed", "", "7", Kept<S::WindSpeed>},
+    {"Gust", "", "8", Kept<S::Gust>},
+    {"Temperature", "", "70", Kept<S::Temperature>},
+    {"Rain1", "", "1", Kept<S::Rain1>},
+    {"Rain24", "", "24", Kept<S::Rain24>},
+    {"Rain12", "", "12", Kept<S::Rain12>},
+    {"Humidity", "", "50", Kept<S::Humidity>},
+    {"Pressure", "", "9900", Kept<S::Pressure>},
+    {"ReceiveBulletin", "True", "False", Kept<S::ReceiveBulletin>},
+    {"MatchSSID", "True", "False", Kept<S::MatchSSID>},
+    {"PlayAll", "True", "False", Kept<S::PlayAll>},
+    {"PlayTrack", "True", "False", Kept<S::PlayTrack>},
+    {"MessageSubnet", "", "net", Kept<S::MessageSubnet>},
+    {"WaveFile", "", "/a.wav", Kept<S::WaveFile>},
+    {"TrackWaveFile", "", "/b.wav", Kept<S::TrackWaveFile>},
+    {"DefaultMap", "", "/c.ptm", Kept<S::DefaultMap>},
+    {"TNCLog", "", "/d.log", Kept<S::TNCLog>},
+    {"TCPLog", "", "/e.log", Kept<S::TCPLog>},
+    {"LogTcpData", "True", "False", Kept<S::LogTcpData>},
+    {"TrackLineSize", "1", "8", Kept<S::TrackLineSize>},
+    {"TrackLineStyle", "1", "3", Kept<S::TrackLineStyle>},
+    {"MobileColor", "1", "7", Kept<S::MobileColor>},
+    {"Tactical", "", "BASE", Kept<S::Tactical>},
+    {"BeaconTactical", "False", "True", Kept<S::BeaconTactical>},
+    {"DestLat", "", "49", Kept<S::DestLat>},
+    {"DestLon", "", "12", Kept<S::DestLon>},
+
+    {"PrimaryServer", "", "one.example", In<&M::frmTcp, &ServerForm::sPrimaryServer>},
+    {"PrimaryPort", "-1", "14580", In<&M::frmTcp, &ServerForm::iPrimaryPort>},
+    {"PrimaryFilter", "", "r/48/11/50", In<&M::frmTcp, &ServerForm::sPrimaryFilter>},
+    {"ServerBeacon", "True", "False", In<&M::frmTcp, &ServerForm::bServerBeacon>},
+    {"AddTCPSymbol", "True", "False", In<&M::frmTcp, &ServerForm::bAddTCPSymbol>},
+    {"ReconnectServer", "False", "True", In<&M::frmTcp, &ServerForm::bReconnectServer>},
+    {"ReconnectAttempt", "0", "5", In<&M::frmTcp, &ServerForm::iReconnectAttempt>},
+    {"BackupServer", "", "two.example", In<&M::frmTcp, &ServerForm::sBackupServer>},
+    {"BackupPort", "-1", "10152", In<&M::frmTcp, &ServerForm::iBackupPort>},
+    {"BackupFilter", "", "t/m", In<&M::frmTcp, &ServerForm::sBackupFilter>},
+    {"BackupBeacon", "False", "True", In<&M::frmTcp, &ServerForm::bBackupBeacon>},
+    {"AutoTCP", "False", "True", In<&M::frmTcp, &ServerForm::bAutoTCP>},
+    {"ShowRFUnknown", "False", "True", On<RF, &ChannelState::bShowUnknown>},
+    {"ShowTCPUnknown", "False", "True", On<TCP, &ChannelState::bShowUnknown>},
+    {"ShowFLUnknown", "False", "True", On<FL, &ChannelState::bShowUnknown>},
+    {"FLDelay", "0", "20", In<&M::frmImport, &ImportForm::iFLDelay>},
+    {"FLAdd", "True", "False", In<&M::frmImport, &ImportForm::bFLAdd>},
+    {"FLShow", "True", "False", In<&M::frmImport, &ImportForm::bFLShow>},
+
+    {"OnlineTiles", "False", "True", Tiles<&TileSettings::bOnline>},
+    {"TileURL", "https://tile.openstreetmap.org/{z}/{x}/{y}.png", "https://tiles.example/{z}/{x}/{y}",
+     Tiles<&TileSettings::urlTemplate>},
+    {"TileSource", "", "/maps/alps.mbtiles", Tiles<&TileSettings::source>},
+};
+
+// A key misspelled, a default changed, a value that is not saved at all, and an order in which a crash would cost more.
+TEST(StoredSettings, AFirstRunLeavesEveryDefaultUnderItsKey)
+{
+    Program p(false);
+    p.store.Set("Region", "");
+    p.store.written.clear();
+    StartMainWindow(p.main);
+    EXPECT_THAT(p.store.written, testing::IsEmpty()); // Nothing is saved before the stop.
+    ASSERT_EQ(StopMainWindow(p.main), StopResult::Stopped);
+    std::vector<std::string> keys;
+    for (const Row& row : kRows) {
+        keys.emplace_back(row.key);
+        EXPECT_EQ(p.store.Lasting(row.key), row.byDefault) << row.key;
+    }
+    EXPECT_EQ(p.store.written, keys);
+}
+
+// Each one alone, so that two that were swapped do not stand for each other.
+TEST(StoredSettings, EachGoesToItsOwnPlaceAndBack)
+{
+    for (const Row& changed : kRows) {
+        Program p(false);
+        p.store.Set("Region", "");
+        p.store.Set(changed.key, changed.other);
+        StartMainWindow(p.main);
+        for (const Row& row : kRows) {
+            EXPECT_EQ(row.state(p.main), &row == &changed ? row.other : row.byDefault)
+                << row.key << " where " << changed.key << " is stored";
+            p.store.Set(row.key, "forgotten");
+        }
+        ASSERT_EQ(StopMainWindow(p.main), StopResult::Stopped);
+        for (const Row& row : kRows)
+            EXPECT_EQ(p.store.Lasting(row.key), &row == &changed ? row.other : row.byDefault)
+                << row.key << " where " << changed.key << " was stored";
+    }
+}
+
+// What comes later may need what came before: the map its region, the opening of a map the settings, the links all.
+TEST(StoredSettings, AreReadPartByPart)
+{
+    Program p;
+    std::vector<std::string> first;
+    for (const std::string& key : p.store.read)
+        for (const char* part : {"MainLeft", "Region", "Call", "DestLon", "TrackStationPosition", "PrimaryServer",
+                                 "rfFilterDest", "ShowRFUnknown", "TrackedRFStations", "ShowTrackLine", "FLDelay"})
+            if (key == part)
+                first.push_back(key);
+    EXPECT_THAT(first, ElementsAre("MainLeft", "Region", "Call", "DestLon", "TrackStationPosition", "PrimaryServer",
+                                   "rfFilterDest", "ShowRFUnknown", "TrackedRFStations", "ShowTrackLine", "FLDelay"));
+}
+
+} // namespace
+} // namespace ruvenmark
