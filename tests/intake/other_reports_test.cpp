@@ -31,7 +31,9 @@ TEST_F(OtherReports, AStatusItsCapabilitiesAndInfoShareOneNode)
     EXPECT_EQ(p.Text("RF"), "RF reports (1)");
 
     p.clock.Advance(std::chrono::seconds(7));
-    Rf().ReportCapabilities({"N0CALL", "APRS", "", "IGATE,MSG_CNT=3"});
+    Rf().ReportCapabilities({"N0CALL", "APRS", "WIDE2-2", "IGATE,MSG_CNT=3"});
+    EXPECT_EQ(p.Text("RFStatusN0CALLPath"), "Path: WIDE2-2");
+    EXPECT_EQ(Recorded(Field::StatusPath), "WIDE2-2");
     Rf().ReportInfo({"N0CALL", "APRS", "TCPIP*", "T#005"});
     EXPECT_THAT(p.ChildTexts("RFStatusN0CALL"),
                 ElementsAre("on air", "Path: TCPIP*", "Received: 2026-11-22 20:15:10", "IGATE,MSG_CNT=3", "T#005"));
@@ -163,58 +165,6 @@ TEST_F(OtherReports, StationDataGiveTheRange)
     EXPECT_GT(*ranges.Find("N2CALL"), 1e6);
 }
 
-TEST_F(OtherReports, ACancelledObjectLeavesTheMapButNotTheTree)
-{
-    p.Hear(Channel::RF, "N0CALL>APRS:;LEADER   *092345z4930.00N/07201.75W>test");
-    EXPECT_TRUE(p.Marker("LEADER(r)"));
-    EXPECT_EQ(p.Text("RFPositionsLEADERSender"), "Sender: N0CALL");
-    EXPECT_EQ(p.Text("RFPositionsLEADERState"), "Valid");
-    EXPECT_EQ(p.RecordText(Channel::RF, "LEADER", Field::Sender), "N0CALL");
-    p.Position(Channel::RF, "N0CALL", 1, 2);
-
-    p.Hear(Channel::RF, "N1CALL>APRS:;LEADER   _092345z4903.50N/07201.75W>test");
-    EXPECT_THAT(p.MarkerNames(), ElementsAre("N0CALL(r)"));
-    EXPECT_EQ(p.Text("RFPositionsLEADERState"), "Cancelled");
-    EXPECT_EQ(p.Text("RFPositionsLEADERLat"), "Lat: 49.5°");
-    EXPECT_EQ(p.RecordText(Channel::RF, "LEADER", Field::Sender), "N1CALL");
-}
-
-TEST_F(OtherReports, OnlyStateNullDeletesAndOnlyTheChannelsOwnMarker)
-{
-    p.Position(Channel::RF, "OBJ", 1, 2);
-    Rf().ReportObjectItem({"OBJ", "APRS", 1, 2, "N0CALL", 2});
-    EXPECT_EQ(p.Text("RFPositionsOBJState"), "Cancelled");
-    EXPECT_TRUE(p.Marker("OBJ(r)"));
-
-    Pushpin pin = *p.Marker("OBJ(r)");
-    pin.SetNote("TCP, of another channel");
-    Rf().ReportObjectItem({"OBJ", "APRS", 1, 2, "N0CALL", 0});
-    EXPECT_TRUE(p.Marker("OBJ(r)"));
-    pin.SetNote("RF");
-    Rf().ReportObjectItem({"OBJ", "APRS", 1, 2, "N0CALL", 0});
-    EXPECT_FALSE(p.Marker("OBJ(r)"));
-
-    // Objects are filtered under their name, not their sender's.
-    p.main.Of(Channel::RF).Filter.bOn = true;
-    p.main.Of(Channel::RF).Filter.Reject = "OBJ";
-    Rf().ReportObjectItem({"OBJ", "APRS", 1, 2, "N9CALL", 1});
-    EXPECT_EQ(p.RecordText(Channel::RF, "OBJ", Field::Sender), "N0CALL");
-    Rf().ReportObjectItem({"SAFE", "APRS", 1, 2, "OBJ", 1});
-    EXPECT_EQ(p.RecordText(Channel::RF, "SAFE", Field::Sender), "OBJ");
-}
-
-// An object's failure goes to its record; every other report's ends it.
-TEST_F(OtherReports, WithoutAFolderOnlyAnObjectIsRecorded)
-{
-    IReportSink& fl = p.Sink(Channel::FL); // Its tree comes with the first file.
-    fl.ReportObjectItem({"OBJ", "APRS", 1, 2, "N0CALL", 1});
-    fl.ReportPos({"N0CALL", "APRS", "", 1, 2, "Car", ""});
-    fl.ReportStatus({"N0CALL", "APRS", "", 1, 2, "x"});
-    EXPECT_EQ(p.RecordText(Channel::FL, "OBJ", Field::Sender), "N0CALL");
-    EXPECT_EQ(p.main.Of(Channel::FL).Stations.Count(), 1U);
-    EXPECT_EQ(p.Text("FL"), "(no node)");
-}
-
 TEST_F(OtherReports, UndecodedPacketsAreKeptOnlyWhereWanted)
 {
     p.Hear(Channel::RF, "no packet at all");
@@ -262,8 +212,13 @@ TEST_F(OtherReports, EveryKindPassesTheFilter)
     EXPECT_EQ(p.main.Of(Channel::RF).Stations.Count(), 0U);
     EXPECT_EQ(p.Text("RF"), "RF reports");
     EXPECT_THAT(p.MarkerNames(), IsEmpty());
-    raiseAll(1);
+    raiseAll(1); // Each in its own right: none of them is without a position.
     EXPECT_EQ(p.Text("RF"), "RF reports (3)");
+    for (const auto& [field, text] :
+         {std::pair(Field::Lat, "1"), std::pair(Field::Alt, "1"), std::pair(Field::Power, "1"),
+          std::pair(Field::Status, "x"), std::pair(Field::PositionTime, "(DHM)02:03:04 "),
+          std::pair(Field::WeatherReceived, "2026-11-22 20:15:03"), std::pair(Field::Sender, "S")})
+        EXPECT_EQ(Recorded(field), text) << FieldName(field);
     EXPECT_EQ(Recorded(Field::Info), "(not set)");
     filter.bApply = false;
     raisePlaceless();

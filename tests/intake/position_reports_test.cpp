@@ -69,6 +69,20 @@ TEST(ReportPos, EachChannelHasItsOwnSwitchesAndStores)
     }
 }
 
+TEST(ReportPos, ATrackedNewcomersBalloonFollowsAStateOfItsOwn)
+{
+    for (const int state : {0, 1}) {
+        Program p;
+        SetTrackList(p.main.Of(Channel::RF), "TRACKED");
+        p.main.tracking.NewMarkerBalloon = state;
+        SetSetting(p.main.Settings, Setting::ShowRFNames, state == 0 ? "1" : "0");
+        p.Position(Channel::RF, "TRACKED", 1, 2);
+        p.Position(Channel::RF, "PLAIN", 1, 2);
+        EXPECT_EQ(p.Marker("TRACKED(r)")->BalloonState(), state);
+        EXPECT_EQ(p.Marker("PLAIN(r)")->BalloonState(), 1 - state);
+    }
+}
+
 TEST(ReportPos, AnUntrackedStationMovesAtOnceAndLeavesNothingBehind)
 {
     Program p;

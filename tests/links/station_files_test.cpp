@@ -1,6 +1,8 @@
 #include "links/import_form_rules.h"
 #include "links/station_files.h"
+#include "map/markers.h"
 #include "support/program.h"
+#include "tracking/track_lists.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -137,6 +139,39 @@ TEST_F(StationFiles, AStopKeepsWhatWasParsed)
     EXPECT_THAT(p.prompts.messages, IsEmpty());
     EXPECT_THAT(p.prompts.fileTitles, IsEmpty()); // The entry stopped the load; it asked for no file.
     EXPECT_THAT(p.sleep.slept, ElementsAre(10));  // No pause behind a stop.
+}
+
+// The program ends while a file loads: what is saved must not be filled again behind its back.
+TEST_F(StationFiles, AStopOfTheProgramEndsTheLoad)
+{
+    p.main.frmImport.iFLDelay = 10;
+    SetTrackList(p.main.Of(Channel::FL), "C");
+    p.prompts.answers = {Answer::No};
+    p.yield.At(2, [&] { EXPECT_EQ(StopMainWindow(p.main), StopResult::Stopped); });
+    Load(FourLines());
+    EXPECT_THAT(Stations(), ElementsAre("A", "B"));
+    EXPECT_EQ(p.yield.calls, 2);
+    EXPECT_THAT(p.sleep.slept, ElementsAre(10));
+    EXPECT_THAT(p.prompts.messages, IsEmpty());
+    EXPECT_EQ(p.store.Lasting("FLDelay"), "10");
+    EXPECT_EQ(p.store.Lasting("TrackedFLStations"), "C");
+}
+
+// A command that walks all markers shows its own progress in the bar of the load.
+TEST_F(StationFiles, AWalkInALoadGivesBackBarAndPointer)
+{
+    p.yield.At(2, [&] {
+        p.main.sbStatusBar.SetWaitPointer(true); // Of some walk around this.
+        mnuHideAll_Click(p.main);
+        EXPECT_TRUE(p.main.sbStatusBar.IsProgressVisible());
+        EXPECT_EQ(p.main.sbStatusBar.Progress(), 33);
+        EXPECT_TRUE(p.main.sbStatusBar.IsWaitPointer());
+        p.main.sbStatusBar.SetWaitPointer(false);
+        mnuShowAll_Click(p.main);
+        EXPECT_FALSE(p.main.sbStatusBar.IsWaitPointer());
+    });
+    Load(FourLines());
+    EXPECT_EQ(p.yield.calls, 4);
 }
 
 TEST_F(StationFiles, TheDelayIsReadAtEachLine)
