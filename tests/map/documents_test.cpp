@@ -67,6 +67,38 @@ TEST_F(Documents, CancelInTheQuestionLeavesEverything)
     EXPECT_EQ(File(), "/a.ptm");
 }
 
+// Without that the next command would ask again.
+TEST_F(Documents, NoCountsAsSavedEvenWhereNothingFollows)
+{
+    Mark();
+    program.prompts.answers = {Answer::No};
+    Run(MenuEntry::mnuFileOpen); // No file is chosen.
+    EXPECT_TRUE(program.TheMap().Saved());
+    EXPECT_EQ(program.MarkerNames().size(), 1U);
+    Run(MenuEntry::mnuFileOpen);
+    EXPECT_EQ(program.prompts.questions.size(), 1U);
+}
+
+// Style and font are of the document: changing them is a change, and a new map begins with its own.
+TEST_F(Documents, StyleAndFontAreChangesAndStayBehindWithTheirMap)
+{
+    for (const MenuEntry entry : {MenuEntry::mnuPoliticalMap, MenuEntry::mnuFontSmallest}) {
+        Run(entry);
+        EXPECT_FALSE(program.TheMap().Saved());
+        program.TheMap().SetSaved(true);
+    }
+    program.prompts.files = {"/a.ptm", "/a.ptm"};
+    Run(MenuEntry::mnuFileSaveAs);
+    const std::int32_t style = program.TheMap().MapStyle();
+    const std::int32_t font = program.TheMap().MapFont();
+    Run(MenuEntry::mnuFileNew);
+    EXPECT_EQ(program.TheMap().MapStyle(), kFirstMapStyle);
+    EXPECT_EQ(program.TheMap().MapFont(), kFirstMapFont);
+    Run(MenuEntry::mnuFileOpen);
+    EXPECT_EQ(program.TheMap().MapStyle(), style);
+    EXPECT_EQ(program.TheMap().MapFont(), font);
+}
+
 TEST_F(Documents, NoForgetsTheChangesAndASaveAsCancelledGoesOn)
 {
     Mark();
@@ -130,7 +162,7 @@ TEST_F(Documents, ARegionIsKeptAtOnceAndMakesANewMapOnlyWhereItIsAnother)
     EXPECT_EQ(program.MarkerNames().size(), 1U);
     program.prompts.answers = {Answer::Cancel, Answer::No};
     Run(MenuEntry::mnuRegionEurope);
-    EXPECT_EQ(program.store.Get("Region", ""), "2");
+    EXPECT_EQ(program.store.Lasting("Region"), "2"); // Even if the program ended here.
     EXPECT_EQ(program.main.mpCtrl.MapRegion(), kRegionNorthAmerica);
     EXPECT_EQ(program.main.map.Region, kRegionNorthAmerica);
     Run(MenuEntry::mnuRegionEurope);
@@ -150,6 +182,7 @@ TEST_F(Documents, PrintsWhatTheDialogGivesAndCopiesThePicture)
     Run(MenuEntry::mnuFilePrint);
     ASSERT_EQ(program.desktop.prints.size(), 1U);
     EXPECT_EQ(program.desktop.prints[0].copies, 3);
+    EXPECT_TRUE(program.desktop.prints[0].bLandscape);
     Run(MenuEntry::mnuCopyMap);
     EXPECT_EQ(program.desktop.mapPictures, 1);
 }

@@ -75,6 +75,31 @@ TEST_F(RangeCircles, ShowTwiceLeavesOneCircleAtTheMarker)
     EXPECT_THAT(Circles(), IsEmpty());
 }
 
+// One that the map has lost must not save the others, and the own circle is none of them.
+TEST_F(RangeCircles, HideAllGoesOnPastADeadOneAndLeavesTheOwn)
+{
+    for (const char* call : {"N0CALL", "N1CALL", "N2CALL"}) {
+        Station(Channel::TCP, call);
+        p.Select(std::string("TCPPositions") + call);
+        mnuShowRange_Click(p.main);
+    }
+    Own("48", "50");
+    UpdateMyRange(p.main);
+    mnuShowMyRange_Click(p.main);
+    ASSERT_EQ(Circles().size(), 4U);
+    Shape(*p.main.Of(Channel::TCP).RangeCircles.Find("N1CALL")).Delete();
+    mnuHideAllRangeCircles_Click(p.main);
+    EXPECT_EQ(Circles().size(), 1U);
+    EXPECT_TRUE(p.main.Of(Channel::TCP).RangeCircles.IsEmpty());
+    EXPECT_TRUE(p.main.map.MyRangeCircle);
+
+    p.main.mpCtrl.NewMap(kRegionEurope); // The own one is dead too; it is drawn all the same.
+    DrawMyRange(p.main);
+    EXPECT_EQ(Circles().size(), 1U);
+    mnuHideMyRange_Click(p.main);
+    EXPECT_THAT(Circles(), IsEmpty());
+}
+
 TEST_F(RangeCircles, NoRangeOrNoPositionDrawsNothing)
 {
     p.Sink(Channel::RF).ReportDataExt({"N0CALL", "APRS", 48, 11, 50, 20, 3, ""});
@@ -112,9 +137,12 @@ TEST_F(RangeCircles, TheOwnCircleFollowsTheSettings)
     ASSERT_EQ(Circles().size(), 1U);
     EXPECT_EQ(Circles()[0].from, (GeoPoint{49, 11}));
     EXPECT_GT(Circles()[0].width, 13);
-    Own("49", "");
-    UpdateMyRange(p.main);
-    EXPECT_EQ(p.main.map.MyRange, 0);
+    for (const Setting missing : {Setting::Power, Setting::Height, Setting::Gain}) {
+        Own("49", "200");
+        SetSetting(p.main.Settings, missing, "");
+        UpdateMyRange(p.main);
+        EXPECT_EQ(p.main.map.MyRange, 0) << Info(missing).key;
+    }
     Own("", "50");
     UpdateMyRange(p.main); // Without a position there is neither circle nor range.
     EXPECT_THAT(Circles(), IsEmpty());
