@@ -75,6 +75,20 @@ TEST_F(FilterReports, WithNothingFilledEverythingPasses)
     EXPECT_FALSE(Drops(""));
 }
 
+// What is typed into a filter counts from the moment it is switched on, on its own channel.
+TEST_F(FilterReports, OneThatIsOffHoldsNothingBack)
+{
+    filter.Reject = "N*";
+    filter.Dest = "NONE";
+    p.Position(Channel::TCP, "N0CALL", 1, 2);
+    EXPECT_EQ(p.Text("TCP"), "TCP reports (1)");
+    filter.bOn = true;
+    p.Position(Channel::TCP, "N1CALL", 1, 2);
+    p.Position(Channel::RF, "N1CALL", 1, 2);
+    EXPECT_EQ(p.Text("TCP"), "TCP reports (1)");
+    EXPECT_EQ(p.Text("RF"), "RF reports (1)");
+}
+
 TEST_F(FilterReports, SubnetAndRejectListAreWalls)
 {
     filter.Dest = "APRS* TEST";
@@ -120,7 +134,7 @@ TEST_F(FilterReports, ADistanceEqualToTheRangePasses)
     EXPECT_FALSE(Drops("N0CALL", "APRS", 48, 11));
 }
 
-// Step 6 overrides whatever the lists said.
+// The flag overrides whatever the lists said.
 TEST_F(FilterReports, AReportWithoutAPositionFollowsItsOwnFlag)
 {
     Around("48", "11", "10");

@@ -63,6 +63,7 @@ TEST(FilterForm, SavesUpperCaseListsThatCountFromTheNextReportOn)
 
     SaveFilters(program.main);
     EXPECT_EQ(program.store.Get("tcpFilterDest", ""), "APRS*");
+    EXPECT_EQ(program.store.Get("tcpFilterReject", ""), "N0CALL");
     EXPECT_EQ(program.store.Get("tcpFilterRange", ""), "1e2");
     EXPECT_EQ(program.store.Get("rfFilterOn", ""), "False");
 }

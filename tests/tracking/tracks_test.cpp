@@ -1,7 +1,6 @@
-#include "map/markers.h"
-#include "support/program.h"
 #include "tracking/track_lines.h"
 #include "tracking/track_lists.h"
+#include "tracks_fixture.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,34 +12,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-class Tracks : public testing::Test {
-protected:
-    Tracks() { SetTrackList(Tcp(), "N0CALL"); }
-    ChannelState& Tcp() { return p.main.Of(Channel::TCP); }
-    void At(double lat, double lon = 11) { p.Position(Channel::TCP, "N0CALL", lat, lon); }
-    void SelectStation() { p.Select("TCPPositionsN0CALL"); }
-    // "name=balloon" of all markers, oldest first.
-    std::vector<std::string> Markers()
-    {
-        std::vector<std::string> markers;
-        for (const Pushpin& pin : p.TheMap().AllRecords())
-            markers.push_back(pin.Name() + "=" + std::to_string(pin.BalloonState()));
-        return markers;
-    }
-    std::vector<ShapeData> Lines()
-    {
-        std::vector<ShapeData> lines;
-        const auto& shapes = p.TheMap().Shapes();
-        for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot)
-            if (shapes.At(slot))
-                lines.push_back(*shapes.At(slot));
-        return lines;
-    }
-    void Set(Setting setting, const char* value) { SetSetting(p.main.Settings, setting, value); }
-
-    Program p;
-};
 
 TEST_F(Tracks, AMoveLeavesAPointAndALineBehind)
 {
@@ -110,51 +81,6 @@ TEST_F(Tracks, OnlyAMarkerOfTheChannelStartsATrack)
     EXPECT_THAT(p.MarkerNames(), ElementsAre("N0CALL(t)*", "N0CALL(t)"));
 }
 
-TEST_F(Tracks, AHiddenTrailGrowsUnseenUntilItIsShown)
-{
-    At(48);
-    At(49);
-    SelectStation();
-    mnuHideStationTrack_Click(p.main);
-    At(50);
-    EXPECT_THAT(Markers(), ElementsAre("N0CALL(t)*=0", "N0CALL(t)*=0", "N0CALL(t)=1"));
-    for (const ShapeData& line : Lines()) {
-        EXPECT_FALSE(line.bVisible || line.bBeginArrowhead || line.bEndArrowhead);
-        EXPECT_EQ(line.weight, 0);
-    }
-    EXPECT_EQ(Tcp().TrackLines.Find("N0CALL")->size(), 2U);
-
-    Set(Setting::TrackLineSize, "7");
-    Set(Setting::TrackLineStyle, "3");
-    mnuShowStationTrack_Click(p.main);
-    EXPECT_THAT(Markers(), ElementsAre("N0CALL(t)*=1", "N0CALL(t)*=1", "N0CALL(t)=1"));
-    for (const ShapeData& line : Lines()) {
-        EXPECT_TRUE(line.bVisible && line.bBeginArrowhead && line.bEndArrowhead);
-        EXPECT_EQ(line.weight, 11);
-    }
-    // Hidden ahead of the first move.
-    p.Position(Channel::TCP, "N1CALL", 1, 2);
-    p.Select("TCPPositionsN1CALL");
-    mnuHideStationTrack_Click(p.main);
-    EXPECT_EQ(*Tcp().TrackVisible.Find("N1CALL"), false);
-}
-
-TEST_F(Tracks, WithoutLinesATrackHasPointsOnly)
-{
-    mnuToolsShowTrackLine_Click(p.main);
-    At(48);
-    At(49);
-    EXPECT_THAT(Lines(), IsEmpty());
-    EXPECT_TRUE(Tcp().TrackLines.IsEmpty());
-    SelectStation();
-    p.prompts.answers = {Answer::No, Answer::Yes};
-    mnuRemoveTrack_Click(p.main);
-    EXPECT_EQ(p.MarkerNames().size(), 2U);
-    mnuRemoveTrack_Click(p.main);
-    EXPECT_THAT(p.MarkerNames(), ElementsAre("N0CALL(t)")); // The marker itself stays.
-    EXPECT_EQ(p.prompts.questions.front(), "Are you sure you want to remove track for N0CALL?");
-}
-
 TEST_F(Tracks, TheMapFollowsOnlyWhereWanted)
 {
     p.main.window.rightView = RightView::Inbox;
@@ -169,6 +95,22 @@ TEST_F(Tracks, TheMapFollowsOnlyWhereWanted)
     EXPECT_NEAR(p.TheMap().View().centre.lat, 48, 1e-9);
 }
 
+TEST_F(Tracks, LooksFollowTheirIndices)
+{
+    const std::vector<std::int32_t> weights = {0, 1, 2, 3, 4, 5, 8, 11, 13};
+    const std::vector<std::pair<bool, bool>> arrows = {{false, false}, {false, true}, {true, false}, {true, true}};
+    const std::vector<std::uint32_t> colors = {0, 255, 65280, 65535, 16711680, 16711935, 16776960, 16777215};
+    for (int index = -1; index <= 9; ++index) { // Outside its table each is nothing.
+        const std::size_t at = index < 0 ? 99 : static_cast<std::size_t>(index);
+        for (const Setting setting : {Setting::TrackLineSize, Setting::TrackLineStyle, Setting::MobileColor})
+            Set(setting, std::to_string(index).c_str());
+        EXPECT_EQ(TrackLineWeight(p.main.Settings), at < weights.size() ? weights[at] : 0) << index;
+        EXPECT_EQ(TrackBeginArrow(p.main.Settings), at < arrows.size() && arrows[at].first) << index;
+        EXPECT_EQ(TrackEndArrow(p.main.Settings), at < arrows.size() && arrows[at].second) << index;
+        EXPECT_EQ(MobileColor(p.main.Settings), at < colors.size() ? colors[at] : 0) << index;
+    }
+}
+
 // An unusable setting ends the map work; tree and record go on.
 TEST_F(Tracks, AnUnusableLineSizeLeavesThePointAndTheReport)
 {
@@ -179,89 +121,6 @@ TEST_F(Tracks, AnUnusableLineSizeLeavesThePointAndTheReport)
     EXPECT_EQ(p.RecordText(Channel::TCP, "N0CALL", Field::Lat), "49");
     EXPECT_THAT(p.Note("N0CALL(t)"), testing::HasSubstr("49°"));
     EXPECT_EQ(p.main.mpCtrl.RequireMap().Shapes().Count(), 0U) << "a line that no command could remove";
-}
-
-TEST_F(Tracks, StartAndStopTouchEveryNameThatHoldsTheCall)
-{
-    Set(Setting::ShowRFNames, "0");
-    Set(Setting::ShowTCPNames, "0");
-    for (const char* call : {"N5", "n5-7", "N6", "XN5X"})
-        p.Position(Channel::RF, call, 1, 2);
-    p.Position(Channel::TCP, "N5", 1, 2);
-    p.Select("RFPositionsN5");
-    mnuStartTrack_Click(p.main);
-    EXPECT_TRUE(p.main.Of(Channel::RF).Tracked.Contains("N5"));
-    EXPECT_THAT(Markers(), ElementsAre("N5(r)=1", "n5-7(r)=1", "N6(r)=0", "XN5X(r)=1", "N5(t)=1"));
-    mnuStartTrack_Click(p.main);
-    EXPECT_EQ(p.main.Of(Channel::RF).Tracked.Count(), 1U);
-
-    // The last step wins: names of RF and TCP are hidden whatever their settings say.
-    Set(Setting::ShowRFNames, "1");
-    mnuStopTrack_Click(p.main);
-    EXPECT_FALSE(p.main.Of(Channel::RF).Tracked.Contains("N5"));
-    EXPECT_THAT(Markers(), ElementsAre("N5(r)=0", "n5-7(r)=0", "N6(r)=0", "XN5X(r)=0", "N5(t)=0"));
-
-    AddChannelTree(p.Tree(), Channel::FL);
-    p.Position(Channel::FL, "N5", 1, 2);
-    p.Select("FLPositionsN5");
-    mnuStopTrack_Click(p.main); // FL follows its own.
-    EXPECT_EQ(p.Marker("N5(t)")->BalloonState(), 1);
-    p.main.frmImport.bFLShow = false;
-    mnuStopTrack_Click(p.main);
-    EXPECT_EQ(p.Marker("N5(f)")->BalloonState(), 0);
-}
-
-TEST_F(Tracks, ShowTrackedStationsOnly)
-{
-    At(48);
-    At(49);
-    p.Position(Channel::RF, "n0call", 1, 2); // Tracked on TCP: any list counts, and so does any case.
-    p.Position(Channel::RF, "N1CALL", 1, 2);
-    p.TheMap().AddPushpin(p.TheMap().GetLocation(1, 2), " N0CALL ");
-    mnuShowTrack_Click(p.main);
-    EXPECT_THAT(Markers(), ElementsAre("N0CALL(t)*=1", "N0CALL(t)=1", "n0call(r)=1", "N1CALL(r)=0", " N0CALL =1"));
-    EXPECT_EQ(SettingText(p.main.Settings, Setting::ShowRFNames), "0");
-    EXPECT_EQ(SettingText(p.main.Settings, Setting::ShowTCPNames), "0");
-    EXPECT_FALSE(p.main.frmImport.bFLShow);
-    EXPECT_EQ(p.main.tracking.NewMarkerBalloon, 1);
-}
-
-// The map may be replaced under a track: what is kept of it is dead, and every command copes.
-TEST_F(Tracks, OutliveTheirMapWithoutHarm)
-{
-    At(48);
-    At(49);
-    p.main.mpCtrl.NewMap(kRegionEurope);
-    EXPECT_EQ(Tcp().TrackMarkers.Find("N0CALL")->size(), 1U);
-    SelectStation();
-    mnuHideStationTrack_Click(p.main);
-    mnuShowStationTrack_Click(p.main);
-    At(50);
-    At(51);
-    EXPECT_THAT(p.MarkerNames(), ElementsAre("N0CALL(t)*", "N0CALL(t)"));
-    EXPECT_EQ(Tcp().TrackMarkers.Find("N0CALL")->size(), 2U);
-    p.prompts.answers = {Answer::Yes};
-    mnuRemoveAllTracks_Click(p.main);
-    EXPECT_EQ(p.prompts.questions.back(), "Are you sure you want to remove all station tracks?");
-    EXPECT_THAT(p.MarkerNames(), ElementsAre("N0CALL(t)"));
-    EXPECT_THAT(Lines(), IsEmpty());
-    EXPECT_TRUE(Tcp().TrackMarkers.IsEmpty());
-    EXPECT_TRUE(Tcp().TrackLines.IsEmpty());
-}
-
-// The question shows the call in upper case, and the track is looked up under that same text.
-TEST_F(Tracks, ATrackOfALowerCaseCallIsNotRemovedByItsCommand)
-{
-    p.Position(Channel::TCP, "n0call", 48, 11);
-    p.Position(Channel::TCP, "n0call", 49, 11);
-    p.Select("TCPPositionsn0call");
-    p.prompts.answers = {Answer::Yes};
-    mnuRemoveTrack_Click(p.main);
-    EXPECT_EQ(p.prompts.questions.back(), "Are you sure you want to remove track for N0CALL?");
-    EXPECT_EQ(Tcp().TrackMarkers.Count(), 1U);
-    RemoveStationTrack(p.main, Channel::TCP, "n0call");
-    EXPECT_EQ(Tcp().TrackMarkers.Count(), 0U);
-    EXPECT_THAT(p.MarkerNames(), ElementsAre("n0call(t)"));
 }
 
 } // namespace
