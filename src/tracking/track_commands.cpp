@@ -57,6 +57,12 @@ void ShowTrail(MainWindow& main, ChannelState& state, std::string_view call, boo
             Attempt(main.abandoned, "ShowTrail", [&] { ShowTrailLine(main.Settings, line, bShow); });
 }
 
+// Of exactly this call: trails are kept under calls as they were reported, in upper case or not.
+bool HasTrack(const ChannelState& state, std::string_view call)
+{
+    return state.TrackMarkers.Contains(call) || state.TrackLines.Contains(call);
+}
+
 bool IsTrackedAnywhere(const MainWindow& main, std::string_view key)
 {
     for (const ChannelState& state : main.channels)
@@ -108,9 +114,11 @@ void mnuRemoveTrack_Click(MainWindow& main)
     const auto selection = Selection(main);
     if (!selection)
         return;
-    const std::string call = TrackKey(selection->call);
-    if (main.services.prompts.AskYesNo("Are you sure you want to remove track for " + call + "?"))
-        RemoveStationTrack(main, selection->state.channel, call);
+    const std::string key = TrackKey(selection->call);
+    if (!main.services.prompts.AskYesNo("Are you sure you want to remove track for " + key + "?"))
+        return;
+    const ChannelState& state = selection->state;
+    RemoveStationTrack(main, state.channel, HasTrack(state, key) ? key : selection->call);
 }
 
 void mnuShowTrack_Click(MainWindow& main)

@@ -160,19 +160,30 @@ TEST_F(TrackCommands, OutliveTheirMapWithoutHarm)
     EXPECT_TRUE(Tcp().TrackLines.IsEmpty());
 }
 
-// The question shows the call in upper case, and the track is looked up under that same text.
-TEST_F(TrackCommands, ATrackOfALowerCaseCallIsNotRemovedByItsCommand)
+// The question shows the call in upper case; what is removed first is the track of that very call.
+TEST_F(TrackCommands, RemovingFindsATrackInEitherCase)
 {
-    p.Position(Channel::TCP, "n0call", 48, 11);
-    p.Position(Channel::TCP, "n0call", 49, 11);
+    for (const char* call : {"n0call", "N0CALL"})
+        for (const double lat : {48.0, 49.0})
+            p.Position(Channel::TCP, call, lat, 11);
     p.Select("TCPPositionsn0call");
-    p.prompts.answers = {Answer::Yes};
+    p.prompts.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
     mnuRemoveTrack_Click(p.main);
     EXPECT_EQ(p.prompts.questions.back(), "Are you sure you want to remove track for N0CALL?");
-    EXPECT_EQ(Tcp().TrackMarkers.Count(), 1U);
-    RemoveStationTrack(p.main, Channel::TCP, "n0call");
-    EXPECT_EQ(Tcp().TrackMarkers.Count(), 0U);
-    EXPECT_THAT(p.MarkerNames(), ElementsAre("n0call(t)"));
+    EXPECT_THAT(p.MarkerNames(), ElementsAre("n0call(t)*", "n0call(t)", "N0CALL(t)"));
+    mnuRemoveTrack_Click(p.main); // None is left there: the station's own.
+    EXPECT_EQ(p.prompts.questions.back(), "Are you sure you want to remove track for N0CALL?");
+    EXPECT_THAT(p.MarkerNames(), ElementsAre("n0call(t)", "N0CALL(t)"));
+    EXPECT_TRUE(Tcp().TrackMarkers.IsEmpty() && Tcp().TrackLines.IsEmpty());
+    mnuRemoveTrack_Click(p.main); // Nor here.
+    EXPECT_EQ(p.MarkerNames().size(), 2U);
+
+    p.main.tracking.bShowTrackLine = true; // A track may be of lines alone.
+    p.Position(Channel::TCP, "n0call", 50, 11);
+    Tcp().TrackMarkers.Clear();
+    p.prompts.answers = {Answer::Yes};
+    mnuRemoveTrack_Click(p.main);
+    EXPECT_THAT(Lines(), IsEmpty());
 }
 
 } // namespace
