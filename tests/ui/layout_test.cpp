@@ -50,6 +50,31 @@ TEST(Layout, NothingOverlapsOrIsClippedAtAnySize)
     }
 }
 
+TEST(Layout, HasTheseFigures)
+{
+    const auto at = [](bool bToolBar, bool bStatusBar, bool bLeftPane) {
+        LayoutInput input = kWindow;
+        input.bToolBar = bToolBar;
+        input.bStatusBar = bStatusBar;
+        input.bLeftPane = bLeftPane;
+        return SizeControls(input, 2500);
+    };
+    const WindowLayout all = at(true, true, true);
+    EXPECT_EQ(all.toolBar, (LayoutRect{0, 0, 12000, 600}));
+    EXPECT_EQ(all.statusBar, (LayoutRect{0, 8625, 12000, 375}));
+    EXPECT_EQ(all.tree, (LayoutRect{0, 600, 2500, 8025}));
+    EXPECT_EQ(all.imgSplitter, (LayoutRect{2500, 600, 40, 8025}));
+    EXPECT_EQ(all.rightPane, (LayoutRect{2540, 600, 12000 - (2500 + 140), 8025}));
+    const WindowLayout wide = at(true, true, false);
+    EXPECT_EQ(wide.rightPane, (LayoutRect{0, 600, 12000 - 100, 8025}));
+    EXPECT_FALSE(wide.tree.bVisible || wide.imgSplitter.bVisible);
+    EXPECT_EQ(at(false, true, true).rightPane, (LayoutRect{2540, 0, 9360, 8625}));
+    EXPECT_EQ(at(true, false, true).tree, (LayoutRect{0, 600, 2500, 8400}));
+    EXPECT_FALSE(at(false, false, true).toolBar.bVisible || at(false, false, true).statusBar.bVisible);
+    EXPECT_EQ(SizeControls(kWindow, 499).tree.width, 500);
+    EXPECT_EQ(SizeControls(kWindow, 11501).imgSplitter.left, 11500);
+}
+
 TEST(Layout, ANarrowWindowGrowsAndAMinimisedOneKeepsItsPlace)
 {
     EXPECT_EQ(AllowedWindowWidth(2999), 3000);
@@ -84,9 +109,10 @@ TEST(Layout, HelpStaysWhereItIsWhenItIsThePageAlready)
 {
     Program program;
     program.main.window.webAddress = "file:///elsewhere/Readme.htm";
+    program.main.window.bMapTicked = program.main.window.bMessagesTicked = true;
     mnuRuvenmarkHelp_Click(program.main);
     EXPECT_EQ(program.main.window.webAddress, "file:///elsewhere/Readme.htm");
-    EXPECT_FALSE(program.main.window.bMapTicked);
+    EXPECT_FALSE(program.main.window.bMapTicked || program.main.window.bMessagesTicked);
     program.main.window.webAddress = "https://example.org/detail/N0CALL";
     mnuRuvenmarkHelp_Click(program.main);
     EXPECT_EQ(program.main.window.webAddress, "/program/Readme.htm");

@@ -102,5 +102,33 @@ TEST(Menus, ViewTicksWhatShows)
               (std::vector<std::string>{"mnuStandardToolbar", "mnuNavigationToolbar"}));
 }
 
+// Points or lines of any channel are tracks.
+TEST(Menus, RemoveAllTracksIsOfferedWhereThereIsATrack)
+{
+    for (const Channel channel : kChannels) {
+        Program program;
+        if (channel == Channel::FL)
+            AddChannelTree(program.Tree(), channel);
+        const auto isOffered = [&] {
+            return FindState(MenuItems(program.main, Menu::Tools), MenuEntry::mnuRemoveAllTracks)->bEnabled;
+        };
+        ChannelState& state = program.main.Of(channel);
+        state.Tracked.Set("N0CALL", "N0CALL");
+        program.Position(channel, "N0CALL", 40, -80);
+        EXPECT_FALSE(isOffered());
+        program.Position(channel, "N0CALL", 41, -80);
+        const auto points = state.TrackMarkers;
+        state.TrackMarkers.Clear();
+        EXPECT_TRUE(isOffered());
+        state.TrackLines.Clear();
+        EXPECT_FALSE(isOffered());
+        state.TrackMarkers = points;
+        EXPECT_TRUE(isOffered());
+        program.prompts.answers = {Answer::Yes};
+        RunMenuEntry(program.main, MenuEntry::mnuRemoveAllTracks);
+        EXPECT_FALSE(isOffered());
+    }
+}
+
 } // namespace
 } // namespace ruvenmark
