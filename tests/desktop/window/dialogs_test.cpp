@@ -1,28 +1,18 @@
-#include "desktop/adapters/qt_desktop.h"
-#include "desktop/adapters/qt_prompts.h"
 #include "desktop/map/widget/map_widget.h"
 #include "links/import_form_rules.h"
 #include "links/station_files.h"
 #include "map/find.h"
-#include "platform/failure.h"
 #include "tracking/filter_form_rules.h"
 #include "tracking/track_list_form_rules.h"
 #include "tracking/track_lists.h"
 #include "window_program.h"
 
 #include <QCheckBox>
-#include <QClipboard>
 #include <QComboBox>
-#include <QFile>
-#include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPushButton>
 #include <QTabWidget>
-#include <QTemporaryDir>
 
 namespace ruvenmark {
 namespace {
@@ -244,61 +234,6 @@ TEST_F(DialogsTest, AboutOpensAndCloses)
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
     program.Action("mnuHelpAbout").trigger();
-}
-
-TEST_F(DialogsTest, BoxesCarryTheTitleAndPlainText)
-{
-    QtPrompts prompts;
-    prompts.SetWindow(&program.window);
-    WhenModal([&](QDialog& dialog) {
-        auto& box = dynamic_cast<QMessageBox&>(dialog);
-        EXPECT_EQ(box.windowTitle(), QStringLiteral("Ruvenmark"));
-        EXPECT_EQ(box.textFormat(), Qt::PlainText);
-        EXPECT_EQ(box.text(), QStringLiteral("<b>x</b>"));
-        box.button(QMessageBox::Ok)->click();
-    });
-    prompts.Message("<b>x</b>");
-    WhenModal([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    EXPECT_EQ(prompts.AskYesNoCancel("?"), Answer::Cancel);
-    WhenModal([](QDialog& dialog) { dynamic_cast<QMessageBox&>(dialog).button(QMessageBox::No)->click(); });
-    EXPECT_FALSE(prompts.AskYesNo("?"));
-    WhenModal([](QDialog& dialog) {
-        auto& files = dynamic_cast<QFileDialog&>(dialog);
-        EXPECT_EQ(files.nameFilters(), QStringList{QStringLiteral("Station Files (*.*) (*)")});
-        files.reject();
-    });
-    EXPECT_FALSE(prompts.OpenFile("Open", {"Station Files (*.*)", "*.*"}));
-}
-
-TEST_F(DialogsTest, PrintingAsksFirstAndFillsThePage)
-{
-    QtDesktop desktop;
-    desktop.SetWindow(&program.window, &program.window.Map());
-    EXPECT_THROW(desktop.PrintMap({}), Failure);
-    WhenModal([](QDialog& dialog) {
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Print"));
-        dialog.reject();
-    });
-    EXPECT_FALSE(desktop.AskPrint("Print"));
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("map.pdf"));
-    WhenModal([&](QDialog& dialog) {
-        QPrinter& printer = *dynamic_cast<QPrintDialog&>(dialog).printer();
-        printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(path);
-        printer.setPageOrientation(QPageLayout::Landscape);
-        dialog.done(QDialog::Accepted);
-    });
-    const auto choice = desktop.AskPrint("Print");
-    ASSERT_TRUE(choice);
-    EXPECT_TRUE(choice->bLandscape);
-    desktop.PrintMap(*choice);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(file.readAll().startsWith("%PDF"));
-
-    desktop.CopyMapPicture();
-    EXPECT_EQ(QGuiApplication::clipboard()->image().size(), program.window.Map().size());
 }
 
 } // namespace

@@ -1,0 +1,91 @@
+#include "desktop/adapters/qt_desktop.h"
+#include "desktop/adapters/qt_prompts.h"
+#include "desktop/map/map_widget.h"
+#include "platform/failure.h"
+#include "window_program.h"
+
+#include <QAbstractButton>
+#include <QClipboard>
+#include <QFile>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+namespace ruvenmark {
+namespace {
+
+// Of its first page, in points; empty where the file is none.
+QSize PageOfPdf(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray bytes = file.readAll();
+    const QRegularExpression box(QStringLiteral(R"(/MediaBox \[0 0 (\d+)\S* (\d+))"));
+    const auto match = box.match(QString::fromLatin1(bytes));
+    return bytes.startsWith("%PDF") ? QSize(match.captured(1).toInt(), match.captured(2).toInt()) : QSize();
+}
+
+TEST(QtPromptsTest, BoxesCarryTheTitleAndPlainText)
+{
+    WindowProgram program;
+    QtPrompts prompts;
+    prompts.SetWindow(&program.window);
+    WhenModal([&](QDialog& dialog) {
+        auto& box = dynamic_cast<QMessageBox&>(dialog);
+        EXPECT_EQ(box.windowTitle(), QStringLiteral("Ruvenmark"));
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.text(), QStringLiteral("<b>x</b>"));
+        box.button(QMessageBox::Ok)->click();
+    });
+    prompts.Message("<b>x</b>");
+    WhenModal([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    EXPECT_EQ(prompts.AskYesNoCancel("?"), Answer::Cancel);
+    WhenModal([](QDialog& dialog) { dynamic_cast<QMessageBox&>(dialog).button(QMessageBox::No)->click(); });
+    EXPECT_FALSE(prompts.AskYesNo("?"));
+    WhenModal([](QDialog& dialog) {
+        auto& files = dynamic_cast<QFileDialog&>(dialog);
+        EXPECT_EQ(files.nameFilters(), QStringList{QStringLiteral("Station Files (*.*) (*)")});
+        files.reject();
+    });
+    EXPECT_FALSE(prompts.OpenFile("Open", {"Station Files (*.*)", "*.*"}));
+}
+
+TEST(QtDesktopTest, PrintingAsksFirstAndFillsThePage)
+{
+    WindowProgram program;
+    QtDesktop desktop;
+    desktop.SetWindow(&program.window, &program.window.Map());
+    EXPECT_THROW(desktop.PrintMap({}), Failure);
+    WhenModal([](QDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Print"));
+        dialog.reject();
+    });
+    EXPECT_FALSE(desktop.AskPrint("Print"));
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("map.pdf"));
+    WhenModal([&](QDialog& dialog) {
+        QPrinter& printer = *dynamic_cast<QPrintDialog&>(dialog).printer();
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+        printer.setPageOrientation(QPageLayout::Landscape);
+        dialog.done(QDialog::Accepted);
+    });
+    const auto choice = desktop.AskPrint("Print");
+    ASSERT_TRUE(choice);
+    EXPECT_TRUE(choice->bLandscape);
+    for (const bool bLandscape : {true, false}) {
+        desktop.PrintMap({1, bLandscape});
+        const QSize page = PageOfPdf(path);
+        EXPECT_EQ(page.width() > page.height(), bLandscape) << page.width() << 'x' << page.height();
+    }
+
+    desktop.CopyMapPicture();
+    EXPECT_EQ(QGuiApplication::clipboard()->image().size(), program.window.Map().size());
+}
+
+} // namespace
+} // namespace ruvenmark
