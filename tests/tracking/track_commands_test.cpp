@@ -178,8 +178,7 @@ TEST_F(TrackCommands, RemovingFindsATrackInEitherCase)
     mnuRemoveTrack_Click(p.main); // Nor here.
     EXPECT_EQ(p.MarkerNames().size(), 2U);
 
-    p.main.tracking.bShowTrackLine = true; // A track may be of lines alone.
-    p.Position(Channel::TCP, "n0call", 50, 11);
+    p.Position(Channel::TCP, "N0CALL", 50, 11); // A track may be of lines alone.
     Tcp().TrackMarkers.Clear();
     p.prompts.answers = {Answer::Yes};
     mnuRemoveTrack_Click(p.main);
