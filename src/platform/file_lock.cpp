@@ -22,7 +22,7 @@ bool IsNamed(const Descriptor& file, const std::string& path)
 
 } // namespace
 
-FileLock::FileLock(std::string path) : m_path(FollowLinks(SystemPath(path, "lock")) + ".lock")
+FileLock::FileLock(std::string_view path) : m_path(FollowLinks(SystemPath(path, "lock")) + ".lock")
 {
     for (;;) {
         Descriptor file(::open(m_path.c_str(), O_RDWR | O_CREAT | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC, kPrivateFile));

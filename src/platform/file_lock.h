@@ -3,6 +3,7 @@
 #include "platform/file_descriptor.h"
 
 #include <string>
+#include <string_view>
 
 namespace ruvenmark {
 
@@ -10,7 +11,7 @@ namespace ruvenmark {
 // is killed. A name and a link to it are one file.
 class FileLock {
 public:
-    explicit FileLock(std::string path);
+    explicit FileLock(std::string_view path);
     FileLock(const FileLock&) = delete;
     FileLock& operator=(const FileLock&) = delete;
     ~FileLock();
