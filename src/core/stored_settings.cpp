@@ -59,9 +59,9 @@ void StoredSettings::SetWhole(Setting setting, std::int64_t value)
     Set(setting, ShortText(value));
 }
 
-bool StoredSettings::Flush()
+void StoredSettings::Flush()
 {
-    return m_store.Flush();
+    m_store.Flush();
 }
 
 } // namespace ruvenmark

@@ -31,8 +31,8 @@ public:
     void SetFlag(Setting setting, bool value);
     void SetWhole(Setting setting, std::int64_t value);
 
-    // False where what was set cannot be kept.
-    bool Flush();
+    // From here on what was set outlasts even a crash. Raises Failure where it cannot be kept.
+    void Flush();
 
 private:
     ISettingsStore& m_store;

@@ -1,6 +1,7 @@
 #include "desktop/main_window_view.h"
 
 #include "core/main_window.h"
+#include "core/notices.h"
 #include "desktop/bars/main_tool_bar.h"
 #include "desktop/bars/status_bar_view.h"
 #include "desktop/icons/icon_set.h"
@@ -101,7 +102,7 @@ void MainWindowView::ConnectMap()
     connect(m_map, &MapWidget::SelectionWanted, this,
             [this](const MapSelection& selection) { SelectOnMap(m_main, selection); });
     connect(&m_map->Tiles(), &MapTiles::ProblemFound, this, [this](const QString& problem) {
-        Attempt(m_main.abandoned, "Tiles", [&] { throw Failure(problem.toStdString()); });
+        AttemptAloud(m_main, "The tiles cannot be used", [&] { throw Failure(problem.toStdString()); });
     });
 }
 

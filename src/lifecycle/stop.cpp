@@ -46,10 +46,8 @@ bool SaveParts(MainWindow& main)
     for (const Part part : {Part::Region, Part::Follow, Part::TrackLists, Part::Filters, Part::Settings,
                             Part::ServerLists, Part::UnknownFolders, Part::FileLoad, Part::Tiles})
         bAll &= SavePart(main, part);
-    if (main.stored.Flush())
-        return bAll;
-    Tell(main, "The settings could not be saved");
-    return false;
+    bAll &= AttemptAloud(main, "The settings could not be saved", [&] { main.stored.Flush(); });
+    return bAll;
 }
 
 } // namespace

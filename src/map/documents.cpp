@@ -117,8 +117,7 @@ void mnuFileClose_Click(MainWindow& main)
 void ChangeRegion(MainWindow& main, std::int32_t region)
 {
     main.stored.SetWhole(Setting::Region, region);
-    if (!main.stored.Flush())
-        Tell(main, "The settings could not be saved");
+    AttemptAloud(main, "The settings could not be saved", [&] { main.stored.Flush(); });
     AttemptAloud(main, "The region was not changed", [&] {
         if (main.mpCtrl.MapRegion() != region)
             NewMap(main, region);

@@ -11,7 +11,7 @@ struct MainWindow;
 struct TileSettings {
     bool bOnline = false;
     std::string urlTemplate; // See IsTileUrl.
-    std::string source; // A folder of z/x/y tiles or an MBTiles file, used without the network; empty for none.
+    std::string source;      // A folder of z/x/y tiles or an MBTiles file, used without the network; empty for none.
 };
 
 void LoadTileSettings(MainWindow& main);

@@ -156,18 +156,13 @@ void FileSettingsStore::Set(std::string_view key, std::string_view value)
     m_values.Set(key, std::string(value));
 }
 
-bool FileSettingsStore::Flush()
+void FileSettingsStore::Flush()
 {
     if (!m_bKept || (m_toWrite.IsEmpty() && m_toHave.IsEmpty()))
-        return true;
-    try {
-        WriteChanges();
-    } catch (const Failure&) {
-        return false;
-    }
+        return;
+    WriteChanges();
     m_toWrite.Clear();
     m_toHave.Clear();
-    return true;
 }
 
 void FileSettingsStore::WriteChanges()

@@ -9,14 +9,14 @@ namespace ruvenmark {
 
 class IFiles;
 
-// The per-user store of named texts. No failure is reported: a value that cannot be read is not there.
+// The per-user store of named texts. A value that cannot be read is not there.
 class ISettingsStore {
 public:
     virtual ~ISettingsStore() = default;
     virtual std::string Get(std::string_view key, std::string_view defaultValue) const = 0;
     virtual void Set(std::string_view key, std::string_view value) = 0;
-    // From here on what was set outlasts even a crash. False where it cannot be kept.
-    virtual bool Flush() = 0;
+    // From here on what was set outlasts even a crash. Raises Failure where it cannot be kept.
+    virtual void Flush() = 0;
     // False where nothing of this run is to outlast it; files beside the settings then stay as they are too.
     virtual bool IsKept() const { return true; }
 };
@@ -25,7 +25,7 @@ class MemorySettingsStore final : public ISettingsStore {
 public:
     std::string Get(std::string_view key, std::string_view defaultValue) const override;
     void Set(std::string_view key, std::string_view value) override;
-    bool Flush() override { return true; }
+    void Flush() override {}
     const Dictionary<std::string>& Values() const { return m_values; }
 
 private:
@@ -43,7 +43,7 @@ public:
 
     std::string Get(std::string_view key, std::string_view defaultValue) const override;
     void Set(std::string_view key, std::string_view value) override;
-    bool Flush() override;
+    void Flush() override;
     bool IsKept() const override { return m_bKept; }
 
     void KeepNothing() { m_bKept = false; }
@@ -71,7 +71,7 @@ public:
     void SetForThisRun(std::string_view key, std::string_view value) { m_values.Set(key, std::string(value)); }
     std::string Get(std::string_view key, std::string_view defaultValue) const override;
     void Set(std::string_view key, std::string_view value) override;
-    bool Flush() override { return m_below.Flush(); }
+    void Flush() override { m_below.Flush(); }
     bool IsKept() const override { return m_below.IsKept(); }
 
 private:

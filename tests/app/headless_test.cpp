@@ -160,7 +160,8 @@ TEST_F(Headless, WhatCannotBeWrittenEndsInStatusOneAndALine)
     EXPECT_EQ(err.str(), "Ruvenmark: the output could not be written\n");
     err.str({});
     EXPECT_EQ(RunHeadless(options(Path("none/settings")), out, err), 1);
-    EXPECT_EQ(err.str(), "Ruvenmark: The settings could not be saved\n");
+    EXPECT_EQ(err.str(), "Ruvenmark: The settings could not be saved: cannot write " + Path("none/settings") +
+                             ": No such file or directory\n");
 }
 
 TEST_F(Headless, ASecondProgramOnTheSameSettingsSavesNothing)

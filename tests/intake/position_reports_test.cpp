@@ -173,29 +173,28 @@ TEST(ReportPos, CallsAreFiledAsReportedAndTrackedNormalised)
     EXPECT_EQ(p.Text("RFPositions"), "Positions (3)");
 }
 
-// "N0CALL" has a node with the key of the station "N0CALLLat": the one key, the one node.
-TEST(ReportPos, ACallThatEndsInAFactWordSharesThatNode)
+// The station "N0CALLLat" has the joined key of a fact of "N0CALL": each keeps its own node, and the key finds the
+// station.
+TEST(ReportPos, ACallThatEndsInAFactWordIsAStationOfItsOwn)
 {
-    Program p;
-    p.Position(Channel::TCP, "N0CALL", 1, 2);
-    p.Position(Channel::TCP, "N0CALLLat", 3, 4, "Van");
-    EXPECT_EQ(p.Text("TCPPositionsN0CALLLat"), "N0CALLLat");
-    EXPECT_EQ(p.Text("TCPPositionsN0CALLLatLat"), "Lat: 3°");
-    EXPECT_EQ(p.Text("TCPPositions"), "Positions (1)");
-    EXPECT_EQ(p.RecordText(Channel::TCP, "N0CALLLat", Field::Lat), "3");
-    EXPECT_TRUE(p.Marker("N0CALLLat(t)"));
-    p.Position(Channel::TCP, "N0CALL", 5, 6);
-    EXPECT_EQ(p.Text("TCPPositionsN0CALLLat"), "Lat: 5°");
-    RemoveStation(p.main, Channel::TCP, "N0CALL", kPositions);
-    EXPECT_EQ(p.Text("TCPPositionsN0CALLLatLat"), "(no node)");
-    EXPECT_EQ(p.RecordText(Channel::TCP, "N0CALLLat", Field::Lat), "3");
-
-    // The other way round, in a sorted folder: the station's own node takes the fact's text and moves to its place.
-    p.Position(Channel::RF, "N0CALLLat", 3, 4);
-    p.Position(Channel::RF, "N0CALL", 1, 2);
-    EXPECT_THAT(p.ChildTexts("RFPositions"), ElementsAre("Lat: 1°", "N0CALL"));
-    p.Position(Channel::RF, "N0CALLLat", 3, 4);
-    EXPECT_THAT(p.ChildTexts("RFPositions"), ElementsAre("N0CALL", "N0CALLLat"));
+    for (const bool bFactFirst : {true, false}) {
+        Program p;
+        for (const bool bFact : {bFactFirst, !bFactFirst})
+            if (bFact)
+                p.Position(Channel::TCP, "N0CALL", 1, 2);
+            else
+                p.Position(Channel::TCP, "N0CALLLat", 3, 4, "Van");
+        EXPECT_EQ(p.Text("TCPPositionsN0CALLLat"), "N0CALLLat");
+        EXPECT_EQ(p.Text("TCPPositionsN0CALLLatLat"), "Lat: 3°");
+        EXPECT_THAT(p.ChildTexts("TCPPositionsN0CALL"), testing::Contains("Lat: 1°"));
+        EXPECT_EQ(p.Text("TCPPositions"), "Positions (2)");
+        EXPECT_TRUE(p.Marker("N0CALLLat(t)"));
+        p.Position(Channel::TCP, "N0CALL", 5, 6);
+        EXPECT_THAT(p.ChildTexts("TCPPositionsN0CALL"), testing::Contains("Lat: 5°"));
+        RemoveStation(p.main, Channel::TCP, "N0CALL", kPositions);
+        EXPECT_EQ(p.Text("TCPPositionsN0CALLLat"), "N0CALLLat");
+        EXPECT_EQ(p.Text("TCPPositions"), "Positions (1)");
+    }
 }
 
 class Movement : public testing::Test {

@@ -1,9 +1,9 @@
+#include "core/views.h"
 #include "map/edit_commands.h"
 #include "map/selection.h"
 #include "platform/map_document.h"
 #include "support/program.h"
 #include "ui/menus.h"
-#include "core/views.h"
 #include "ui/web_page.h"
 
 #include <gtest/gtest.h>

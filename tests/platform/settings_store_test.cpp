@@ -20,7 +20,7 @@ TEST(FileSettingsStore, IsTextThatPersonsMayEdit)
     EXPECT_EQ(store.Get("x", "none"), "none");
 
     store.Set("Call", " N0CALL\n");
-    ASSERT_TRUE(store.Flush());
+    EXPECT_NO_THROW(store.Flush());
     EXPECT_EQ(files.texts[kPath], "; mine\r\n[Other]\r\nCall=OTHER\r\nnoise\r\n[More]\r\nx=1\n[Settings]\n"
                                   "# a remark\r\nCall=\\x20N0CALL\\x0a\nPath=C:\\x5cdir\\x5cx4\nCall2=a=b\n");
 }
@@ -29,14 +29,14 @@ TEST(FileSettingsStore, WritesOnlyWhatChanged)
 {
     MemoryFiles files;
     FileSettingsStore store(files, kPath);
-    EXPECT_TRUE(store.Flush());
+    EXPECT_NO_THROW(store.Flush());
     EXPECT_EQ(files.writes, 0);
     store.Set("a", "1");
     files.FailWrite(1);
-    EXPECT_FALSE(store.Flush());
-    EXPECT_TRUE(store.Flush()); // Tried again, and well.
+    EXPECT_THROW(store.Flush(), Failure);
+    EXPECT_NO_THROW(store.Flush()); // Tried again, and well.
     store.Set("a", "1");
-    EXPECT_TRUE(store.Flush());
+    EXPECT_NO_THROW(store.Flush());
     EXPECT_EQ(files.writes, 2);
 }
 
@@ -54,24 +54,24 @@ TEST(FileSettingsStore, LaysOnlyItsOwnChangesOverWhatStandsThereByThen)
     ours.Set("c", "1"); // As it was, and gone from the file meanwhile.
     ours.Set("d", "default");
     ours.Set("e", "default");
-    ASSERT_TRUE(ours.Flush());
+    EXPECT_NO_THROW(ours.Flush());
     EXPECT_EQ(files.texts[kPath], "[Settings]\n# another's\na=2\nb=3\nd=2\nx=2\nc=1\ne=default\n");
 
     files.texts[kPath] = "[Settings]\n  a = 4\nb=4\nc=4\nd=4\ne=4\n";
     const std::string before = files.texts[kPath];
     for (const char* key : {"a", "b", "c", "d", "e"})
         ours.Set(key, ours.Get(key, ""));
-    EXPECT_TRUE(ours.Flush());
+    EXPECT_NO_THROW(ours.Flush());
     EXPECT_EQ(files.texts[kPath], before); // Nothing of this run is new: not even its blanks are touched.
     EXPECT_EQ(files.writes, 1);
 
     ours.Set("b", "5");
     ours.Set("b", "3"); // There and back is still a choice of this run.
-    EXPECT_TRUE(ours.Flush());
+    EXPECT_NO_THROW(ours.Flush());
     EXPECT_NE(files.texts[kPath].find("\nb=3\n"), std::string::npos);
     ours.KeepNothing();
     ours.Set("b", "6");
-    EXPECT_TRUE(ours.Flush());
+    EXPECT_NO_THROW(ours.Flush());
     EXPECT_FALSE(ours.IsKept() || OverlaySettingsStore(ours).IsKept());
     EXPECT_EQ(files.texts[kPath].find("b=6"), std::string::npos);
 }
@@ -85,7 +85,7 @@ TEST(FileSettingsStore, AFileThatCannotBeReadIsNotWrittenOver)
     EXPECT_EQ(store.Get("a", "default"), "default");
     store.Set("a", "2");
     EXPECT_EQ(store.Get("a", "default"), "2");
-    EXPECT_FALSE(store.Flush());
+    EXPECT_THROW(store.Flush(), Failure);
     EXPECT_EQ(store.ReadFault(), "cannot open settings.ini");
     EXPECT_EQ(files.texts[kPath], "[Settings]\na=1\n");
     files.texts.clear();

@@ -24,11 +24,7 @@ public:
         written.emplace_back(key);
         m_kept.Set(key, value);
     }
-    bool Flush() override
-    {
-        m_lasting = m_kept;
-        return true;
-    }
+    void Flush() override { m_lasting = m_kept; }
 
     // As of the last Flush; "(not stored)" where there is nothing.
     std::string Lasting(std::string_view key) const { return m_lasting.Get(key, "(not stored)"); }

@@ -1,6 +1,6 @@
 #include "desktop/adapters/qt_desktop.h"
 #include "desktop/adapters/qt_prompts.h"
-#include "desktop/map/map_widget.h"
+#include "desktop/map/widget/map_widget.h"
 #include "platform/failure.h"
 #include "window_program.h"
 
