@@ -20,7 +20,14 @@ public:
     public:
         explicit Raising(OwnEvents& events) : m_events(events), m_outer(events.m_innermost)
         {
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic push // A false alarm: what is dropped keeps no such pointer.
+#pragma GCC diagnostic ignored "-Wdangling-pointer"
+#endif
             events.m_innermost = this;
+#if defined(__GNUC__) && !defined(__clang__)
+#pragma GCC diagnostic pop
+#endif
         }
         Raising(const Raising&) = delete;
         Raising& operator=(const Raising&) = delete;
@@ -30,7 +37,10 @@ public:
                 m_events.m_innermost = m_outer;
         }
 
-        const bool& IsDropped() const { return m_bDropped; } // Changes while events run.
+        const bool& IsDropped() const
+        {
+            return m_bDropped;
+        } // Changes while events run.
 
     private:
         friend class OwnEvents;
