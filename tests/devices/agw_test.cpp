@@ -1,0 +1,187 @@
+#include "devices/agw_source.h"
+#include "devices/ax25.h"
+#include "fake_byte_links.h"
+#include "recorded_events.h"
+
+#include <gmock/gmock.h>
+
+namespace ruvenmark {
+namespace {
+
+using namespace std::string_literals;
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::string Frame(char kind, const std::string& data)
+{
+    AgwFrame frame;
+    frame.kind = kind;
+    frame.data = data;
+    return AgwBytes(frame);
+}
+
+std::string Heard(const std::string& info)
+{
+    return Frame('K', '\0' + MakeUiFrame("W1AW", "APRS", "", info));
+}
+
+const std::string kPorts = Frame('G', "2;Port1 radio;Port2 radio;\0"s);
+
+struct Agw : testing::Test {
+    FakeByteLinks links;
+    LineCounts counts;
+    RecordedEvents recorded;
+    std::unique_ptr<AgwSource> source = std::make_unique<AgwSource>(links, recorded.sink, counts);
+
+    void Connect()
+    {
+        source->ConnectSocket("engine", 8000, kAccessToken);
+        links.Open();
+        links.Say(kPorts);
+        recorded.events.clear();
+        links.Written();
+    }
+};
+
+// Raw monitoring is turned on and off by turns: asked for twice, nothing would be heard.
+TEST_F(Agw, AsksForPortsAndOnceForRawFrames)
+{
+    source->ConnectSocket("engine", 8000, kAccessToken);
+    EXPECT_EQ(links.opened, "socket engine 8000");
+    EXPECT_EQ(links.Written(), "");
+    links.Open();
+    EXPECT_EQ(links.Written(), Frame('G', "") + Frame('k', ""));
+    EXPECT_THAT(recorded.events, ElementsAre("SocketConnected"));
+    links.Say(kPorts);
+    links.Tick(59s);
+    EXPECT_EQ(links.Written(), "");
+}
+
+TEST_F(Agw, HearsRawFramesAmongOthersHoweverTheyArrive)
+{
+    const std::string info = ">a\xFF\x1C";
+    const std::string text = Frame('U', " 1:Fm W1AW To APRS <UI pid=F0 Len=3 >\r>no\r");
+    ForEveryCut(text + Heard(info) + Frame('K', "") + Frame('K', "\0short"s) + Frame('z', "?") + Heard(">b"),
+                [&](const std::vector<std::string>& pieces) {
+                    FakeByteLinks engine;
+                    RecordedEvents heard;
+                    AgwSource agw(engine, heard.sink, counts);
+                    agw.ConnectSocket("engine", 8000, kAccessToken);
+                    engine.Open();
+                    for (const std::string& piece : pieces)
+                        engine.Say(piece);
+                    EXPECT_EQ(heard.Raw().size(), 2U);
+                    EXPECT_EQ(heard.events.back(), "ReportStatus b");
+                });
+}
+
+// Calls in the header are followed by anything; the length is the engine's word for how much comes.
+TEST(AgwFrames, ReadsHeadersAsEnginesWriteThem)
+{
+    std::string bytes(36, '\xAA');
+    bytes.replace(4, 1, "K").replace(8, 10, "W1AW-7\0abc"s).replace(18, 10, "0123456789").replace(28, 4, "\2\0\0\0"s);
+    bytes[0] = 3;
+    AgwReader reader;
+    reader.Take(bytes + "xyz");
+    const auto frame = reader.Next();
+    ASSERT_TRUE(frame);
+    EXPECT_EQ(frame->port, 3);
+    EXPECT_EQ(frame->from, "W1AW-7");
+    EXPECT_EQ(frame->to, "0123456789");
+    EXPECT_EQ(frame->data, "xy");
+    EXPECT_FALSE(reader.Next());
+}
+
+TEST_F(Agw, SendsWholeFramesOnTheFirstPort)
+{
+    EXPECT_THROW(source->SendFrame("W1AW", "APRS", "", ">Hi"), Failure);
+    source->ConnectSocket("engine", 8000, kAccessToken);
+    EXPECT_THROW(source->SendFrame("W1AW", "APRS", "", ">Hi"), Failure); // Not open yet.
+    links.Open();
+    links.Written();
+    source->SendFrame("W1AW-7", "APRS", "WIDE1-1", ">Hi");
+    AgwReader reader;
+    reader.Take(links.Written());
+    const auto frame = reader.Next();
+    ASSERT_TRUE(frame);
+    EXPECT_EQ(frame->kind, 'K');
+    EXPECT_EQ(frame->port, 0);
+    EXPECT_EQ(frame->from, "W1AW-7");
+    EXPECT_EQ(ReadUiFrame(frame->data.substr(1)), "W1AW-7>APRS,WIDE1-1:>Hi");
+    EXPECT_THROW(source->SendFrame("W1AW-77", "APRS", "", ">Hi"), Failure);
+    links.Say(Frame('G', "0;\0"s));
+    EXPECT_THROW(source->SendFrame("W1AW", "APRS", "", ">Hi"), Failure);
+}
+
+TEST_F(Agw, FailsOnceAndSaysWhetherItEverStood)
+{
+    EXPECT_THROW(source->ConnectSocket("engine", 8000, "1234"), Failure);
+    links.bRefuse = true;
+    EXPECT_THROW(source->ConnectSocket("engine", 8000, kAccessToken), Failure);
+    links.bRefuse = false;
+    source->ConnectSocket("engine", 8000, kAccessToken);
+    links.Lose();
+    EXPECT_THAT(recorded.events, ElementsAre("SocketConnectionError"));
+    EXPECT_FALSE(links.IsKept());
+
+    source = std::make_unique<AgwSource>(links, recorded.sink, counts);
+    Connect();
+    links.Lose();
+    EXPECT_THAT(recorded.events, ElementsAre("SocketConnectionClosed"));
+    EXPECT_FALSE(links.IsKept());
+    EXPECT_THROW(source->SendFrame("W1AW", "APRS", "", ">Hi"), Failure);
+}
+
+TEST_F(Agw, AnAbsurdLengthEndsTheLinkBehindWhatCameWhole)
+{
+    Connect();
+    std::string broken = Frame('K', "");
+    broken.replace(28, 4, "\xFF\xFF\xFF\x7F");
+    links.Say(Heard(">last") + broken);
+    EXPECT_THAT(recorded.events,
+                ElementsAre("ReportRawData W1AW>APRS:>last", "ReportStatus last", "SocketConnectionClosed"));
+    EXPECT_FALSE(links.IsKept());
+}
+
+// Sockets to a machine that is gone, or to a program that is no engine, stay open for hours.
+TEST_F(Agw, ASilentEngineIsALostOne)
+{
+    source->ConnectSocket("engine", 8000, kAccessToken);
+    links.Tick(14s);
+    EXPECT_THAT(recorded.events, IsEmpty());
+    links.Tick(2s);
+    EXPECT_THAT(recorded.events, ElementsAre("SocketConnectionError"));
+
+    source = std::make_unique<AgwSource>(links, recorded.sink, counts);
+    source->ConnectSocket("engine", 8000, kAccessToken);
+    links.Open();
+    links.Tick(16s);
+    EXPECT_EQ(recorded.events.back(), "SocketConnectionClosed");
+
+    source = std::make_unique<AgwSource>(links, recorded.sink, counts);
+    Connect();
+    links.Tick(61s); // Nothing on the air: asked, and answered.
+    EXPECT_EQ(links.Written(), Frame('R', ""));
+    links.Say(Frame('R', std::string(8, '\0')));
+    links.Tick(59s);
+    EXPECT_THAT(recorded.events, IsEmpty());
+    links.Tick(20s);
+    EXPECT_THAT(recorded.events, ElementsAre("SocketConnectionClosed"));
+}
+
+TEST_F(Agw, DroppedInsideAnyOfItsEventsItFallsSilent)
+{
+    std::string broken = Frame('K', "");
+    broken.replace(28, 4, "\xFF\xFF\xFF\x7F");
+    const auto run = [&](std::unique_ptr<AgwSource>& agw) {
+        agw = std::make_unique<AgwSource>(links, recorded.sink, counts);
+        agw->ConnectSocket("engine", 8000, kAccessToken);
+        links.Open();
+        links.Say(Heard(">a") + Heard(">b") + broken);
+    };
+    EXPECT_TRUE(IsSilentOnceDropped<AgwSource>(6, recorded, run));
+}
+
+} // namespace
+} // namespace ruvenmark
