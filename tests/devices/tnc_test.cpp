@@ -1,0 +1,283 @@
+#include "devices/tnc_source.h"
+#include "fake_byte_links.h"
+#include "recorded_events.h"
+
+#include <gmock/gmock.h>
+
+namespace ruvenmark {
+namespace {
+
+using namespace std::string_literals;
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// Each as units write it, and the packet line that it is.
+struct HeardForm {
+    std::string said, packet;
+};
+const std::vector<HeardForm> kHeardForms{
+    {"N0CALL>APRS,WIDE2-2:>Hi\r\n", "N0CALL>APRS,WIDE2-2:>Hi"},
+    {"KB1ZXL-1>T2QY5P,W1MHL*,WIDE2-1: <<UI>>:\r\n`c1Yl!->/\r\n", "KB1ZXL-1>T2QY5P,W1MHL*,WIDE2-1:`c1Yl!->/"},
+    {"N8VIM>BEACON,W1XM,WIDE2*: <UI>:\r\n!4236\r\n", "N8VIM>BEACON,W1XM,WIDE2*:!4236"},
+    {"KD5EOC-10>BEACON/2: <UI>:\r\n>Hi\r\n", "KD5EOC-10>BEACON:>Hi"},
+    {"AA6I>APOTU0,K6IXA-3,WIDE2* [06/02/18 13:47:54] <UI>:\r\n\r\n\r\n>Hi\r\n", "AA6I>APOTU0,K6IXA-3,WIDE2*:>Hi"},
+    {"AA6I>APOTU0 [06/02/18 13:47:54]:>Hi\r\n", "AA6I>APOTU0:>Hi"},
+    {"AA6I>APOTU0 [06/02/18 13:47:54]: <UI>:\r\n>Hi\r\n", "AA6I>APOTU0:>Hi"},
+    {"W2JUP*>TESTER <UI>:>Hi\r\n", "W2JUP>TESTER:>Hi"},
+    {"W2JUP*>TESTER <UI>:\r\n>Hi\r\n", "W2JUP>TESTER:>Hi"},
+    {"W2MEB-9>SX2X9U,W0BJ-1*,WIDE2* <UI R Len=34>:`c1Yl!->/\r\n", "W2MEB-9>SX2X9U,W0BJ-1*,WIDE2*:`c1Yl!->/"},
+    {"N0CALL>APRS:\r\n>Hi\r\n", "N0CALL>APRS:>Hi"}, // Headers on a line of their own.
+    {"N0CALL>APRS:<IGATE,MSG_CNT=1\r\n", "N0CALL>APRS:<IGATE,MSG_CNT=1"},
+    {"N0CALL>APRS: <UI>:\r\ncmd:\r\n", "N0CALL>APRS:cmd:"}, // Text that looks like the TNC's own.
+    {"N0CALL>APRS: <UI>:\r\n$GPRMC,1\r\n", "N0CALL>APRS:$GPRMC,1"},
+    {"N0CALL>APRS: <UI>:\r\nA>B:>Hi\r\n", "N0CALL>APRS:A>B:>Hi"},
+    {"N0CALL>APRS: <UI>:\r\n\r\nW1AW>APRS:>Hi\r\n", "W1AW>APRS:>Hi"}, // The first had no information,
+    {"N0CALL>APRS:\r\nW1AW>APRS:>Hi\r\n", "W1AW>APRS:>Hi"},           // nor had this.
+    {"cmd:N0CALL>APRS:>Hi\r\n", "N0CALL>APRS:>Hi"},
+    {"N0CALL>APRS:>Hi\r", "N0CALL>APRS:>Hi"},
+};
+// Says nothing of the air.
+constexpr std::string_view kChatter =
+    "\r\n\r\nTAPR TNC 2\r\nAX.25 Level 2 Version 2.0\r\nChecksum $3C\r\n\x07"
+    "cmd:MYCALL   was NOCALL\r\n*** CONNECTED to W1AW\r\nW1AW>N0CALL <I C S0 R0>:hi\r\n"
+    ">:,*\r\nTOOLONGCALL>APRS:no\r\nA>B no packet\r\ncmd:";
+
+struct Tnc : testing::Test {
+    FakeByteLinks links;
+    LineCounts counts;
+    RecordedEvents recorded;
+    std::unique_ptr<TncSource> source = std::make_unique<TncSource>(links, recorded.sink, counts);
+
+    void Open() { source->OpenPort("/dev/ttyS0", 9600, kAccessToken); }
+    // Open, at the prompt, with nothing under way.
+    void OpenToPrompt()
+    {
+        Open();
+        links.Say("\r\ncmd:");
+        links.Written();
+    }
+    void Send(std::initializer_list<const char*> commands)
+    {
+        source->EnterCommandMode();
+        for (const char* command : commands)
+            source->SendCommand(command);
+    }
+};
+
+TEST_F(Tnc, MakesOnePacketLineOfEveryFormHeard)
+{
+    for (const HeardForm& form : kHeardForms) {
+        ForEveryCut(std::string(kChatter) + "\r\n" + form.said + std::string(kChatter),
+                    [&](const std::vector<std::string>& pieces) {
+                        FakeByteLinks wire;
+                        RecordedEvents heard;
+                        TncSource tnc(wire, heard.sink, counts);
+                        tnc.OpenPort("/dev/ttyS0", 9600, kAccessToken);
+                        for (const std::string& piece : pieces)
+                            wire.Say(piece);
+                        EXPECT_THAT(heard.Raw(), ElementsAre(form.packet));
+                    });
+    }
+}
+
+TEST_F(Tnc, LeavesOutLinesThatAreTooLong)
+{
+    Open();
+    for (int i = 0; i < 100; ++i)
+        links.Say("N0CALL>APRS:>" + std::string(1000, 'x'));
+    links.Say("\r\nN0CALL>APRS:>Hi\r\n");
+    EXPECT_THAT(recorded.Raw(), ElementsAre("N0CALL>APRS:>Hi"));
+}
+
+// A command typed in converse mode would go on the air: each waits for the prompt before it.
+TEST_F(Tnc, TypesEachCommandBehindThePromptAndTheTextOnce)
+{
+    Open();
+    EXPECT_EQ(links.opened, "serial /dev/ttyS0 9600");
+    EXPECT_EQ(links.Written(), "\x03");
+    Send({"MYCALL W1AW", "UNPROTO APRS VIA WIDE1-1", "CONV", "N0CALL>APRS:>my own\rtext\x03"});
+    links.Tick(1s);
+    EXPECT_EQ(links.Written(), "");
+    links.Say("\r\ncm");
+    EXPECT_EQ(links.Written(), "");
+    links.Say("d:");
+    EXPECT_EQ(links.Written(), "\x03");
+    links.Say("\r\ncmd:\r\n"); // With a line end.
+    EXPECT_EQ(links.Written(), "MYCALL W1AW\r");
+    links.Say("MYCALL W1AW\r\nMYCALL   was NOCALL\r\n");
+    EXPECT_EQ(links.Written(), "");
+    links.Say("cmd:W1XM>APRS:>heard meanwhile\r\n");
+    EXPECT_EQ(links.Written(), "UNPROTO APRS VIA WIDE1-1\r");
+    links.Say("UNPROTO APRS VIA WIDE1-1\r\ncmd:");
+    EXPECT_EQ(links.Written(), "CONV\r");
+    links.Tick(250ms);
+    EXPECT_EQ(links.Written(), "");
+    links.Tick(500ms);
+    EXPECT_EQ(links.Written(), "N0CALL>APRS:>my owntext\r");
+    links.Say("N0CALL>APRS:>my ow\r\nntext\r\n"); // The echo, as wide as the TNC's screen: not heard.
+    links.Tick(2min);
+    EXPECT_EQ(links.Written(), "");
+    EXPECT_THAT(recorded.Raw(), ElementsAre("W1XM>APRS:>heard meanwhile"));
+    Send({"LTM 0"});
+    EXPECT_EQ(links.Written(), "\x03");
+}
+
+TEST_F(Tnc, GivesUpARunWhosePromptDoesNotComeAndSaysSoAtTheNext)
+{
+    OpenToPrompt();
+    Send({"MYCALL W1AW", "CONV", ">one"});
+    links.Tick(5750ms);
+    EXPECT_EQ(links.Written(), "\x03\x03\x03"); // Never anything else.
+    links.Tick(1s);
+    EXPECT_THROW(source->EnterCommandMode(), Failure);
+    EXPECT_EQ(links.Written(), "\x03");
+    links.Tick(7s);
+    links.Say("cmd:"); // Too late for that run, but it answers again.
+    links.Tick(5s);
+    EXPECT_EQ(links.Written(), "\x03\x03");
+    Send({"MYCALL W1AW", "CONV", ">two"});
+    links.Say("cmd:");
+    EXPECT_EQ(links.Written(), "\x03MYCALL W1AW\r");
+    links.Tick(4s);
+    links.Say("LISTS PAGES\r\n"); // It is at work still.
+    links.Tick(4s);
+    links.Say("cmd:");
+    EXPECT_EQ(links.Written(), "CONV\r");
+    Send({"MYCALL W1AW", "CONV", ">three"});
+    links.Tick(750ms);
+    links.Say("cmd:");
+    EXPECT_EQ(links.Written(), ">two\r\x03MYCALL W1AW\r");
+    links.Tick(6s); // Silent in the middle.
+    EXPECT_THROW(source->SendCommand("CONV"), Failure);
+    links.Say("cmd:");
+    links.Tick(1s);
+    EXPECT_EQ(links.Written(), "");
+}
+
+// Refused the call or the way, the text would go out under the last ones.
+TEST_F(Tnc, PutsNothingOnTheAirWhereACommandWasRefused)
+{
+    for (const std::string& fault : {"?EH"s, "$\r\nEH?"s, "?bad parameter"s, "?VIA"s, "*** What?"s}) {
+        source = std::make_unique<TncSource>(links, recorded.sink, counts);
+        recorded.events.clear();
+        OpenToPrompt();
+        Send({"MYCALL NO CALL", "UNPROTO APRS", "CONV", ">Hi"});
+        links.Say("cmd:");
+        links.Say("MYCALL NO CALL\r\n" + fault + "\r\ncmd:");
+        links.Say("cmd:");
+        links.Tick(5s);
+        EXPECT_EQ(links.Written(), "\x03MYCALL NO CALL\rUNPROTO APRS\r") << fault;
+        EXPECT_EQ(recorded.Raw().size(), 1U) << fault; // The operator sees why.
+        Send({"CONV", ">Hi"});
+        links.Say("cmd:");
+        links.Say("CONV\r\n" + fault + "\r\ncmd:");
+        links.Tick(5s);
+        EXPECT_EQ(links.Written(), "\x03"
+                                   "CONV\r")
+            << fault;
+        Send({"CONV", ">Hi"});
+        links.Say("cmd:");
+        links.Tick(1s);
+        EXPECT_EQ(links.Written(), "\x03"
+                                   "CONV\r>Hi\r")
+            << fault;
+        links.Say(fault + "\r\n"); // On the air, that is nobody's fault.
+        EXPECT_EQ(recorded.Raw().size(), 2U) << fault;
+    }
+}
+
+TEST_F(Tnc, ObeysXoffButNotForever)
+{
+    OpenToPrompt();
+    links.Say("\x13");
+    Send({"MYCALL W1AW"});
+    links.Tick(9s);
+    EXPECT_EQ(links.Written(), "");
+    links.Say("W1XM\x11>APRS:>Hi\r\n");
+    EXPECT_EQ(links.Written(), "\x03");
+    links.Say("cmd:\x13");
+    links.Tick(9s); // A packet may hold the byte.
+    EXPECT_EQ(links.Written(), "");
+    links.Tick(2s);
+    EXPECT_EQ(links.Written(), "MYCALL W1AW\r");
+    EXPECT_THAT(recorded.Raw(), ElementsAre("W1XM>APRS:>Hi"));
+}
+
+// Closing follows at once on the commands that put the TNC back as it was.
+TEST_F(Tnc, ClosingSendsWhatStillWaitsAndGivesUpOnASilentTnc)
+{
+    OpenToPrompt();
+    Send({"LTM 0", "MYCALL NOCALL"});
+    std::string typed = links.Written();
+    links.answer = [&](const std::string& written) {
+        typed += written;
+        return "W1XM>APRS:>Hi\r\ncmd:"s;
+    };
+    source->ClosePort();
+    EXPECT_EQ(typed + links.Written(), "\x03LTM 0\rMYCALL NOCALL\r");
+    EXPECT_FALSE(links.IsKept());
+    EXPECT_THAT(recorded.events, IsEmpty());
+    EXPECT_THROW(source->ClosePort(), Failure);
+
+    source = std::make_unique<TncSource>(links, recorded.sink, counts);
+    OpenToPrompt();
+    Send({"LTM 0"});
+    const Moment begun = links.Now();
+    links.answer = nullptr;
+    source->ClosePort();
+    EXPECT_LE(links.Now() - begun, 4s);
+}
+
+TEST_F(Tnc, RefusesWhatWouldPileUp)
+{
+    OpenToPrompt();
+    source->EnterCommandMode();
+    EXPECT_THROW(for (int i = 0; i < 1000; ++i) source->SendCommand("DISPLAY"), Failure);
+}
+
+// A receiver behind the TNC: one sentence every few seconds or minutes, and no silence is a loss.
+TEST_F(Tnc, PassesOnPositionsOfAReceiverBehindIt)
+{
+    OpenToPrompt();
+    links.Say("cmd:$GPGGA,123519,4807.038,N,01131.000,E,1,08,0.9,100.0,M,46.9,M,,*46\r\n");
+    EXPECT_THAT(recorded.events, IsEmpty());
+    links.Tick(500ms);
+    EXPECT_THAT(recorded.events, ElementsAre("ReportGpsData"));
+    links.Tick(5min);
+    EXPECT_EQ(recorded.events.size(), 1U);
+    links.Say("$GPGGA,124019,,,,,0,00,,,M,,M,,*69\r\n$GPGGA,124020,,,,,0,00,,,M,,M,,\r\n");
+    links.Tick(500ms);
+    EXPECT_EQ(recorded.events.size(), 2U);
+}
+
+TEST_F(Tnc, TellsALostPortOnceAndRefusesWhatNeedsOne)
+{
+    EXPECT_THROW(source->OpenPort("/dev/ttyS0", 9600, "1234"), Failure);
+    EXPECT_THROW(source->EnterCommandMode(), Failure);
+    OpenToPrompt();
+    EXPECT_THROW(Open(), Failure);
+    links.Lose();
+    EXPECT_THAT(recorded.events, ElementsAre("SocketConnectionClosed"));
+    EXPECT_FALSE(links.IsKept());
+    EXPECT_THROW(source->SendCommand("CONV"), Failure);
+}
+
+TEST_F(Tnc, DroppedInsideAnyOfItsEventsItFallsSilent)
+{
+    const auto run = [&](std::unique_ptr<TncSource>& tnc) {
+        tnc = std::make_unique<TncSource>(links, recorded.sink, counts);
+        tnc->OpenPort("/dev/ttyS0", 9600, kAccessToken);
+        links.Say("cmd:");
+        tnc->EnterCommandMode();
+        tnc->SendCommand("NONSENSE");
+        links.Say("cmd:");
+        links.Say("W1AW>APRS:>a\r\n?EH\r\ncmd:W1AW>APRS:>b\r\n$GPGLL,4807.038,N,01131.000,E\r\n");
+        links.Tick(1s);
+        links.Lose();
+    };
+    EXPECT_TRUE(IsSilentOnceDropped<TncSource>(7, recorded, run));
+}
+
+} // namespace
+} // namespace ruvenmark
