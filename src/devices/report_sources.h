@@ -1,7 +1,7 @@
 #pragma once
 
+#include "contracts/byte_link.h"
 #include "contracts/report_source.h"
-#include "devices/file_report_source.h"
 #include "devices/line_counts.h"
 
 #include <memory>
@@ -11,13 +11,22 @@ namespace ruvenmark {
 // The sources of the real program, with what became of their lines.
 class ReportSources final : public IReportSources {
 public:
-    std::unique_ptr<IReportSource> CreateFile(IReportSink& sink) override
-    {
-        return std::make_unique<FileReportSource>(sink, m_counts);
-    }
+    // Of saved files only.
+    ReportSources() = default;
+    // `links` must outlive the sources.
+    explicit ReportSources(IByteLinks& links) : m_links(&links) {}
+
+    std::unique_ptr<IReportSource> CreateTnc(IReportSink& sink) override;
+    std::unique_ptr<IReportSource> CreateAgw(IReportSink& sink) override;
+    std::unique_ptr<IReportSource> CreateServer(IReportSink& sink) override;
+    std::unique_ptr<IReportSource> CreateFile(IReportSink& sink) override;
+
     const LineCounts& Counts() const { return m_counts; }
 
 private:
+    IByteLinks& Links() const;
+
+    IByteLinks* m_links = nullptr;
     LineCounts m_counts;
 };
 
