@@ -48,7 +48,7 @@ inline void CheckFinite(double value)
     Require(std::isfinite(value));
 }
 
-class CheckingSink final : public IReportSink {
+class CheckingSink : public IReportSink {
 public:
     void ReportPos(const PosReport& report) override
     {
