@@ -2,7 +2,7 @@
 // keeps every entry that was read.
 
 #include "require.h"
-#include "support/program.h"
+#include "support/test_program.h"
 
 #include <array>
 #include <cstdint>
@@ -28,7 +28,7 @@ std::vector<std::string> Entries(const Dictionary<std::string>& list)
 
 std::vector<std::string> Run(MemoryFiles& files, const char* added)
 {
-    Program program(false);
+    TestProgram program(false);
     program.files.texts = files.texts;
     StartMainWindow(program.main);
     ServerLists& lists = program.main.serverLists;

@@ -3,7 +3,7 @@
 
 #include "map/edit_commands.h"
 #include "require.h"
-#include "support/program.h"
+#include "support/test_program.h"
 
 #include <cstdint>
 
@@ -11,7 +11,7 @@ namespace {
 
 using namespace ruvenmark;
 
-std::size_t CountObjects(Program& program)
+std::size_t CountObjects(TestProgram& program)
 {
     return program.TheMap().Pins().Count() + program.TheMap().Shapes().Count();
 }
@@ -20,7 +20,7 @@ std::size_t CountObjects(Program& program)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    Program program;
+    TestProgram program;
     program.desktop.clipboard.assign(data, data + size);
     const bool bCanPaste = CanPaste(program.main);
     mnuEditPaste_Click(program.main);

@@ -4,7 +4,7 @@
 #include "map/marker_names.h"
 #include "platform/text.h"
 #include "require.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "ui/menus.h"
 #include "ui/station_tree_commands.h"
 
@@ -64,7 +64,7 @@ public:
     void End()
     {
         Require(StopMainWindow(m_program.main, MayAsk::No) == StopResult::Stopped);
-        Program next(false);
+        TestProgram next(false);
         for (const auto& [key, value] : m_program.store.Values())
             next.store.Set(key, value);
         next.files.texts = m_program.files.texts;
@@ -148,7 +148,7 @@ private:
         Require(root->Text() == CountText(Traits(channel).rootText, sum));
     }
 
-    Program m_program;
+    TestProgram m_program;
     std::vector<TreeNode*> m_nodes; // In the order of the tree.
 };
 

@@ -3,7 +3,7 @@
 
 #include "core/settings.h"
 #include "require.h"
-#include "support/program.h"
+#include "support/test_program.h"
 
 #include <cstdint>
 #include <string>
@@ -17,7 +17,7 @@ constexpr const char* kPath = "/settings.ini";
 void StartAndStop(MemoryFiles& files)
 {
     FileSettingsStore store(files, kPath);
-    Program machine(false); // Lends all but its files and settings.
+    TestProgram machine(false); // Lends all but its files and settings.
     MainWindow main(Services{.store = store,
                              .files = files,
                              .clock = machine.clock,

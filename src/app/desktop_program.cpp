@@ -22,6 +22,7 @@
 #include "mapfiles/base_map.h"
 #include "platform/failure.h"
 #include "platform/headless.h"
+#include "platform/program_name.h"
 #include "platform/text.h"
 
 #include <QApplication>

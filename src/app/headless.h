@@ -11,8 +11,6 @@ inline constexpr int kEndedWell = 0;
 inline constexpr int kCannotWrite = 1; // The output, the settings or a list; memory that ran out.
 inline constexpr int kCannotRun = 2;   // Wrong options, and missing or unreadable files.
 
-inline constexpr const char* kProgramWord = "ruvenmark: "; // Ahead of each line on standard error.
-
 // False, and a line on `err`, where what was printed could not be written.
 bool FlushOutput(std::ostream& out, std::ostream& err);
 

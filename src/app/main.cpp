@@ -1,6 +1,7 @@
 #include "app/headless.h"
 #include "app/options.h"
 #include "platform/failure.h"
+#include "platform/program_name.h"
 #include "platform/text.h"
 #ifdef RUVENMARK_DESKTOP
 #include "app/desktop_program.h"

@@ -38,12 +38,12 @@ std::optional<std::string> HeadlessPrompts::SaveFile(std::string_view title, Fil
 
 void PrintedNotices::Say(std::string_view line)
 {
-    m_out << kProgramName << ": " << TerminalText(line) << std::endl; // At once: what comes next may be the end.
+    m_out << kProgramWord << TerminalText(line) << std::endl; // At once: what comes next may be the end.
 }
 
 void HeadlessPrompts::Print(std::string_view text, std::string_view answer)
 {
-    m_out << kProgramName << ": " << TerminalText(text) << answer << '\n';
+    m_out << kProgramWord << TerminalText(text) << answer << '\n';
 }
 
 } // namespace ruvenmark

@@ -157,10 +157,10 @@ TEST_F(Headless, WhatCannotBeWrittenEndsInStatusOneAndALine)
         return ReadOptions({"--headless", "--settings", settings, "--folder", Path("program")});
     };
     EXPECT_EQ(RunHeadless(options(Path("settings")), full, err), 1);
-    EXPECT_EQ(err.str(), "Ruvenmark: the output could not be written\n");
+    EXPECT_EQ(err.str(), "ruvenmark: the output could not be written\n");
     err.str({});
     EXPECT_EQ(RunHeadless(options(Path("none/settings")), out, err), 1);
-    EXPECT_EQ(err.str(), "Ruvenmark: The settings could not be saved: cannot write " + Path("none/settings") +
+    EXPECT_EQ(err.str(), "ruvenmark: The settings could not be saved: cannot write " + Path("none/settings") +
                              ": No such file or directory\n");
 }
 
@@ -170,7 +170,7 @@ TEST_F(Headless, ASecondProgramOnTheSameSettingsSavesNothing)
     {
         const FileLock other(Path("settings"));
         EXPECT_EQ(Run({}), 0);
-        EXPECT_EQ(err.str(), "Ruvenmark: another program uses these settings: nothing will be saved\n");
+        EXPECT_EQ(err.str(), "ruvenmark: another program uses these settings: nothing will be saved\n");
         EXPECT_EQ(Read("settings"), "[Settings]\n");
     }
     Write(".ruvenmark-7", "half a fi"); // Of a program that was killed.

@@ -1,4 +1,4 @@
-#include "support/program.h"
+#include "support/test_program.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ class ObjectReports : public testing::Test {
 protected:
     IReportSink& Rf() { return p.Sink(Channel::RF); }
 
-    Program p;
+    TestProgram p;
 };
 
 // Its picture is that of its position report; the object report counts it but has none of its own.

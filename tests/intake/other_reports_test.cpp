@@ -1,4 +1,4 @@
-#include "support/program.h"
+#include "support/test_program.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ protected:
     IReportSink& Rf() { return p.Sink(Channel::RF); }
     std::string Recorded(Field field) { return p.RecordText(Channel::RF, "N0CALL", field); }
 
-    Program p;
+    TestProgram p;
 };
 
 TEST_F(OtherReports, AStatusItsCapabilitiesAndInfoShareOneNode)

@@ -1,5 +1,5 @@
 #include "map/marker_names.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "tracking/track_lists.h"
 
 #include <gmock/gmock.h>
@@ -15,7 +15,7 @@ constexpr const char* kNow = "2026-11-22 20:15:03";
 
 TEST(ReportPos, IsFiledInTreeRecordMarkerAndNote)
 {
-    Program p;
+    TestProgram p;
     p.Position(Channel::TCP, "N0CALL-9", 48.5, -11.25, "Car", "on the road");
 
     EXPECT_THAT(p.ChildTexts("TCPPositionsN0CALL-9"), ElementsAre("Lat: 48.5°", "Lon: -11.25°", "Path: WIDE1-1,WIDE2-1",
@@ -44,7 +44,7 @@ TEST(ReportPos, IsFiledInTreeRecordMarkerAndNote)
 // The three handlers are one behaviour: a mix-up of a channel's own switch, setting or prefix shows here.
 TEST(ReportPos, EachChannelHasItsOwnSwitchesAndStores)
 {
-    Program p;
+    TestProgram p;
     SetSetting(p.main.Settings, Setting::ShowTCPNames, "0");
     p.main.frmImport.bFLShow = false;
     AddChannelTree(p.Tree(), Channel::FL);
@@ -72,7 +72,7 @@ TEST(ReportPos, EachChannelHasItsOwnSwitchesAndStores)
 TEST(ReportPos, ATrackedNewcomersBalloonFollowsAStateOfItsOwn)
 {
     for (const int state : {0, 1}) {
-        Program p;
+        TestProgram p;
         SetTrackList(p.main.Of(Channel::RF), "TRACKED");
         p.main.tracking.NewMarkerBalloon = state;
         SetSetting(p.main.Settings, Setting::ShowRFNames, state == 0 ? "1" : "0");
@@ -85,7 +85,7 @@ TEST(ReportPos, ATrackedNewcomersBalloonFollowsAStateOfItsOwn)
 
 TEST(ReportPos, AnUntrackedStationMovesAtOnceAndLeavesNothingBehind)
 {
-    Program p;
+    TestProgram p;
     p.Position(Channel::RF, "N0CALL", 48, 11, "Car", "first");
     Pushpin pin = *p.Marker("N0CALL(r)");
     pin.SetBalloonState(0); // Hidden by the operator: a move leaves it so.
@@ -113,7 +113,7 @@ TEST(ReportPos, AnUntrackedStationMovesAtOnceAndLeavesNothingBehind)
 // Whatever fails on the map, the tree and the record are written.
 TEST(ReportPos, AMapFailureLeavesTreeAndRecord)
 {
-    Program p;
+    TestProgram p;
     SetTrackList(p.main.Of(Channel::RF), "N0CALL");
     SetSetting(p.main.Settings, Setting::TrackWaveFile, "/ding.wav");
     p.files.texts["/ding.wav"] = "RIFF";
@@ -137,7 +137,7 @@ TEST(ReportPos, AMapFailureLeavesTreeAndRecord)
 
 TEST(ReportPos, SoundsForEachReportOfATrackedStation)
 {
-    Program p;
+    TestProgram p;
     SetTrackList(p.main.Of(Channel::RF), "N0CALL");
     SetSetting(p.main.Settings, Setting::TrackWaveFile, "/ding.wav");
     p.Position(Channel::RF, "N0CALL", 1, 2);
@@ -156,7 +156,7 @@ TEST(ReportPos, SoundsForEachReportOfATrackedStation)
 // Only the tracking dictionaries know a call trimmed and in upper case.
 TEST(ReportPos, CallsAreFiledAsReportedAndTrackedNormalised)
 {
-    Program p;
+    TestProgram p;
     p.main.commDialog.bAddRFSymbol = false;
     SetTrackList(p.main.Of(Channel::RF), "n0call");
     for (const char* call : {"N0CALL", "n0call", " N0call "}) {
@@ -178,7 +178,7 @@ TEST(ReportPos, CallsAreFiledAsReportedAndTrackedNormalised)
 TEST(ReportPos, ACallThatEndsInAFactWordIsAStationOfItsOwn)
 {
     for (const bool bFactFirst : {true, false}) {
-        Program p;
+        TestProgram p;
         for (const bool bFact : {bFactFirst, !bFactFirst})
             if (bFact)
                 p.Position(Channel::TCP, "N0CALL", 1, 2);
@@ -209,7 +209,7 @@ protected:
     std::string Fact(const char* word) { return p.Text(std::string("TCPPositionsN0CALL") + word); }
     std::uint32_t Color() { return p.Node("TCPPositionsN0CALL")->Color(); }
 
-    Program p;
+    TestProgram p;
 };
 
 // The first event of a station may be this one.

@@ -1,6 +1,6 @@
 #include "intake/station_store.h"
 #include "map/range_circles.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "tracking/track_lists.h"
 
 #include <gmock/gmock.h>
@@ -12,7 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-std::vector<std::string> RootKeys(Program& p)
+std::vector<std::string> RootKeys(TestProgram& p)
 {
     std::vector<std::string> keys;
     for (const auto& root : p.Tree().Roots())
@@ -22,7 +22,7 @@ std::vector<std::string> RootKeys(Program& p)
 
 TEST(Counts, AddUpTheFourFoldersAndGoBackToThePlainLabel)
 {
-    Program p;
+    TestProgram p;
     p.main.Of(Channel::TCP).bShowUnknown = true;
     p.Position(Channel::TCP, "A", 1, 2);
     p.Position(Channel::TCP, "B", 1, 2);
@@ -41,7 +41,7 @@ TEST(Counts, AddUpTheFourFoldersAndGoBackToThePlainLabel)
 // The sum is a 16-bit number; past that the root keeps its text, and nothing else suffers.
 TEST(Counts, TheRootStopsAtSixteenBitsAndTheReportGoesOn)
 {
-    Program p;
+    TestProgram p;
     p.main.Of(Channel::TCP).bShowUnknown = true;
     for (int i = 0; i < 32767; ++i)
         p.Sink(Channel::TCP).ReportPacket(std::to_string(i));
@@ -58,7 +58,7 @@ TEST(Counts, TheRootStopsAtSixteenBitsAndTheReportGoesOn)
 
 TEST(Trees, HaveTheirFoldersAndPictures)
 {
-    Program p;
+    TestProgram p;
     AddChannelTree(p.Tree(), Channel::FL);
     EXPECT_THAT(RootKeys(p), ElementsAre("My", "RF", "TCP", "FL"));
     for (const char* root : {"My", "RF", "TCP", "FL"}) {
@@ -92,7 +92,7 @@ protected:
     }
     std::size_t ShapeCount() { return p.TheMap().Shapes().Count(); }
 
-    Program p;
+    TestProgram p;
 };
 
 TEST_F(FullStation, RemovedFromPositionsLosesAllItHadOnTheMap)

@@ -1,7 +1,7 @@
 #include "lifecycle/start.h"
 #include "lifecycle/stop.h"
 #include "links/station_files.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "tracking/track_lists.h"
 
 #include <gmock/gmock.h>
@@ -14,8 +14,8 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 // A program that has not started, with these settings stored.
-struct Stored : Program {
-    Stored(std::initializer_list<std::pair<const char*, const char*>> settings) : Program(false)
+struct Stored : TestProgram {
+    Stored(std::initializer_list<std::pair<const char*, const char*>> settings) : TestProgram(false)
     {
         for (const auto& [key, value] : settings)
             store.Set(key, value);

@@ -1,5 +1,5 @@
 #include "platform/numbers.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "tracking/track_lists.h"
 
 #include <gmock/gmock.h>
@@ -188,7 +188,7 @@ constexpr Row kRows[] = {
 // A key misspelled, a default changed, a value that is not saved at all, and an order in which a crash would cost more.
 TEST(StoredSettings, AFirstRunLeavesEveryDefaultUnderItsKey)
 {
-    Program p(false);
+    TestProgram p(false);
     p.store.Set("Region", "");
     p.store.written.clear();
     StartMainWindow(p.main);
@@ -206,7 +206,7 @@ TEST(StoredSettings, AFirstRunLeavesEveryDefaultUnderItsKey)
 TEST(StoredSettings, EachGoesToItsOwnPlaceAndBack)
 {
     for (const Row& changed : kRows) {
-        Program p(false);
+        TestProgram p(false);
         p.store.Set("Region", "");
         p.store.Set(changed.key, changed.other);
         StartMainWindow(p.main);
@@ -225,7 +225,7 @@ TEST(StoredSettings, EachGoesToItsOwnPlaceAndBack)
 // What comes later may need what came before: the map its region, the opening of a map the settings, the links all.
 TEST(StoredSettings, AreReadPartByPart)
 {
-    Program p;
+    TestProgram p;
     std::vector<std::string> first;
     for (const std::string& key : p.store.read)
         for (const char* part : {"MainLeft", "Region", "Call", "DestLon", "TrackStationPosition", "PrimaryServer",

@@ -1,4 +1,4 @@
-#include "support/program.h"
+#include "support/test_program.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -21,7 +21,7 @@ std::vector<std::string> Keys(const Dictionary<std::string>& list)
 
 TEST(ServerLists, EntriesAreCutAtTheirColonAndKeepTheirPlace)
 {
-    Program p(false);
+    TestProgram p(false);
     p.files.texts["/program/servers.txt"] = "b.example:14580\r\na.example\r\n\r\nb.example\r\n";
     p.files.texts["/program/filters.txt"] = "r/48/11/50 t/m\n"; // No ports.txt: the next file is read all the same.
     StartMainWindow(p.main);
@@ -40,7 +40,7 @@ TEST(ServerLists, EntriesAreCutAtTheirColonAndKeepTheirPlace)
 
 TEST(ServerLists, AFileThatCannotBeWrittenCostsNothingElse)
 {
-    Program p;
+    TestProgram p;
     p.main.serverLists.ServerList.Set("a", "a");
     p.main.serverLists.PortList.Set("10152", "10152");
     p.main.frmTcp.sPrimaryServer = "a";
@@ -58,7 +58,7 @@ TEST(ServerLists, AFileThatCannotBeWrittenCostsNothingElse)
 // A list that nobody changed is not the program's to rewrite: it may hold what the program does not keep.
 TEST(ServerLists, AListThatDidNotChangeIsLeftAlone)
 {
-    Program p(false);
+    TestProgram p(false);
     p.files.texts["/program/servers.txt"] = "[2001:db8::1]:14580\n\n";
     p.files.texts["/program/ports.txt"] = "14580";
     p.files.unreadable.insert("/program/ports.txt");

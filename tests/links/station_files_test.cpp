@@ -1,7 +1,7 @@
 #include "links/import_form_rules.h"
 #include "links/station_files.h"
 #include "map/markers.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "tracking/track_lists.h"
 
 #include <gmock/gmock.h>
@@ -33,7 +33,7 @@ protected:
     std::string FourLines() { return Line("A") + "\r\n" + Line("B") + "\n\n  " + Line("C") + "  \r\n" + Line("D"); }
     std::vector<std::string> Stations() { return p.ChildTexts("FLPositions"); }
 
-    Program p;
+    TestProgram p;
 };
 
 TEST_F(StationFiles, EveryLineIsParsedWithProgressAndOneYield)

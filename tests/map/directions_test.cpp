@@ -1,6 +1,6 @@
 #include "map/directions.h"
 #include "map/pointer_tools.h"
-#include "support/program.h"
+#include "support/test_program.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ namespace {
 
 TEST(Directions, TellDistanceAndBearingsOfTheGreatCircle)
 {
-    Program program;
+    TestProgram program;
     EXPECT_EQ(DirectionsText(program.main), "");
     EXPECT_TRUE(SetDirectionsEnd(program.main, 0, "40.64, -73.78")); // New York to London: 3,442 miles, 51 degrees.
     EXPECT_TRUE(SetDirectionsEnd(program.main, 1, "51.47,-0.45"));
@@ -23,7 +23,7 @@ TEST(Directions, TellDistanceAndBearingsOfTheGreatCircle)
 
 TEST(Directions, EndsAreStationsMarkersOrPoints)
 {
-    Program program;
+    TestProgram program;
     program.Hear(Channel::TCP, "N0CALL>APRS:!4000.00N/08000.00W>");
     for (const char* typed : {"N0CALL", " n0call ", "N0CALL(t)"}) {
         const auto end = ReadDirectionsEnd(program.main, typed);

@@ -1,5 +1,5 @@
 #include "map/documents.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "ui/menus.h"
 
 #include <gtest/gtest.h>
@@ -18,7 +18,7 @@ protected:
     const std::string& File() const { return program.main.map.sMainMapFile; }
     const std::string& Caption() const { return program.main.window.caption; }
 
-    Program program;
+    TestProgram program;
 };
 
 TEST_F(Documents, SavesUnderANewNameThenUnderTheSame)

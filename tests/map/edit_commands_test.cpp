@@ -2,7 +2,7 @@
 #include "map/edit_commands.h"
 #include "map/selection.h"
 #include "platform/map_document.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "ui/menus.h"
 #include "ui/web_page.h"
 
@@ -28,7 +28,7 @@ protected:
         return enabled;
     }
 
-    Program program;
+    TestProgram program;
 };
 
 TEST_F(EditCommands, APinGoesOverTheClipboardWithAllItHas)

@@ -1,6 +1,6 @@
 #include "map/find.h"
 #include "map/selection.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "ui/web_page.h"
 
 #include <gtest/gtest.h>
@@ -28,7 +28,7 @@ protected:
         return NamesOf(Find(program.main, places, text, limit));
     }
 
-    Program program;
+    TestProgram program;
     FakePlaces places;
 };
 

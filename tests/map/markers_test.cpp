@@ -1,7 +1,7 @@
 #include "map/marker_names.h"
 #include "map/markers.h"
 #include "map/symbols.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "tracking/track_lists.h"
 
 #include <gmock/gmock.h>
@@ -101,7 +101,7 @@ protected:
     }
     const std::string& Text(Setting setting) const { return SettingText(p.main.Settings, setting); }
 
-    Program p;
+    TestProgram p;
 };
 
 TEST_F(MarkerCommands, HideAllAndShowAll)
@@ -219,7 +219,7 @@ TEST_F(MarkerCommands, ViewMyPositionShowsTheOwnMarker)
 // With no marker ever added a walk returns at once: not even a moment's wait pointer.
 TEST(MarkerWalk, IsNothingOnAnEmptyMap)
 {
-    Program p;
+    TestProgram p;
     int changes = 0;
     const auto watch = p.main.sbStatusBar.Changed.Observe([&] { ++changes; });
     WalkMarkers(p.main, [](Pushpin&) { FAIL(); });

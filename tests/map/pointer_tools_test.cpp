@@ -1,5 +1,5 @@
 #include "map/pointer_tools.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "tracking/filter_form_rules.h"
 #include "ui/menus.h"
 #include "ui/web_page.h"
@@ -23,7 +23,7 @@ protected:
     bool ClickMiddle() { return mpCtrl_Click(program.main, 400, 300); }
     ReportFilter& Fields(Channel channel) { return program.main.frmFilter.fields[static_cast<std::size_t>(channel)]; }
 
-    Program program;
+    TestProgram program;
 };
 
 TEST_F(PointerTools, CoordinatesUnderThePointerHaveFiveDecimals)

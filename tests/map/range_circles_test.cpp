@@ -1,7 +1,7 @@
 #include "map/range_circles.h"
 #include "map/symbols.h"
 #include "platform/failure.h"
-#include "support/program.h"
+#include "support/test_program.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -38,7 +38,7 @@ protected:
         SetSetting(p.main.Settings, Setting::Gain, "3");
     }
 
-    Program p;
+    TestProgram p;
 };
 
 TEST_F(RangeCircles, ShowTwiceLeavesOneCircleAtTheMarker)

@@ -1,6 +1,6 @@
 #include "map/tile_settings.h"
 #include "map/tile_url.h"
-#include "support/program.h"
+#include "support/test_program.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ namespace {
 
 TEST(TileSettings, AreOffUntilSwitchedOnAndOutliveTheRun)
 {
-    Program program;
+    TestProgram program;
     EXPECT_FALSE(program.main.map.tiles.bOnline);
     EXPECT_EQ(program.main.map.tiles.urlTemplate, DefaultOf(Setting::TileURL));
     int changes = 0;
@@ -30,7 +30,7 @@ TEST(TileSettings, AreOffUntilSwitchedOnAndOutliveTheRun)
 
 TEST(TileSettings, UnusableOnesInTheStoreAreTheDefaults)
 {
-    Program program(false);
+    TestProgram program(false);
     program.store.Set("OnlineTiles", "maybe");
     for (const char* url : {"", "file:///etc/{z}/{x}/{y}", "https://example.org/{z}/{x}.png"}) {
         program.store.Set("TileURL", url);

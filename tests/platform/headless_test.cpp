@@ -33,9 +33,9 @@ TEST(HeadlessPrompts, PrintsWithTheHarmlessAnswerAndKeepsTheMessages)
     EXPECT_EQ(prompts.SaveFile("Save As", {"All (*.*)", "*.*"}), std::nullopt);
     prompts.Message("gr\xFC\xDF\n\x1B[2J\x9B");
     prompts.Message("\xC2\x9B\x7F\xC2\xA0");
-    EXPECT_EQ(out.str(), "Ruvenmark: Save? Cancel\nRuvenmark: Remove? No\n"
-                         "Ruvenmark: Open, All (*.*): no file\nRuvenmark: Save As, All (*.*): no file\n"
-                         "Ruvenmark: gr\xC3\xBC\xC3\x9F..[2J.\nRuvenmark: ..\xC2\xA0\n");
+    EXPECT_EQ(out.str(), "ruvenmark: Save? Cancel\nruvenmark: Remove? No\n"
+                         "ruvenmark: Open, All (*.*): no file\nruvenmark: Save As, All (*.*): no file\n"
+                         "ruvenmark: gr\xC3\xBC\xC3\x9F..[2J.\nruvenmark: ..\xC2\xA0\n");
     ASSERT_EQ(prompts.Messages().size(), 2U);
     EXPECT_EQ(prompts.Messages()[1], "\xC2\x9B\x7F\xC2\xA0");
 }

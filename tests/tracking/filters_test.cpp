@@ -1,5 +1,5 @@
 #include "platform/numbers.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "tracking/filters.h"
 #include "tracking/pattern.h"
 #include "tracking/track_lists.h"
@@ -62,7 +62,7 @@ protected:
         return TravelDistance(p.main, lat1, lon1, lat2, lon2);
     }
 
-    Program p;
+    TestProgram p;
     ReportFilter& filter;
 };
 
@@ -162,7 +162,7 @@ TEST_F(FilterReports, NeverFails)
     Around("48", "east", "10");
     EXPECT_TRUE(Drops("N2CALL", "APRS", 48, 11));
 
-    Program bare(false); // No map: the result stands as the lists left it.
+    TestProgram bare(false); // No map: the result stands as the lists left it.
     ReportFilter& other = bare.main.Of(Channel::RF).Filter;
     other.Lat = "48", other.Lon = "11", other.Range = "10";
     EXPECT_FALSE(FilterReport(bare.main, Channel::RF, "N2CALL", "APRS", 10, 10));

@@ -1,4 +1,4 @@
-#include "support/program.h"
+#include "support/test_program.h"
 #include "tracking/filter_form_rules.h"
 #include "tracking/filters.h"
 #include "tracking/track_list_form_rules.h"
@@ -15,7 +15,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-ReportFilter& Fields(Program& program, Channel channel)
+ReportFilter& Fields(TestProgram& program, Channel channel)
 {
     return program.main.frmFilter.fields[static_cast<std::size_t>(channel)];
 }
@@ -45,7 +45,7 @@ TEST(FilterForm, ChecksWhatAFieldHoldsWhenItIsLeft)
 
 TEST(FilterForm, SavesUpperCaseListsThatCountFromTheNextReportOn)
 {
-    Program program;
+    TestProgram program;
     mnuToolsFilter_Click(program.main);
     ReportFilter& fields = Fields(program, Channel::TCP);
     fields.bOn = true;
@@ -70,7 +70,7 @@ TEST(FilterForm, SavesUpperCaseListsThatCountFromTheNextReportOn)
 
 TEST(FilterForm, OpensWithTheFiltersAsTheyStandButNeverOverWhatIsTyped)
 {
-    Program program;
+    TestProgram program;
     program.main.Of(Channel::FL).Filter.Call = "N0CALL";
     program.main.Of(Channel::FL).Filter.bTracked = false;
     program.main.frmFilter.unitLabels[2] = "miles";
@@ -89,7 +89,7 @@ TEST(FilterForm, OpensWithTheFiltersAsTheyStandButNeverOverWhatIsTyped)
 
 TEST(TrackListForm, TakesListsAndChoices)
 {
-    Program program;
+    TestProgram program;
     program.dialogs.onRun[Form::frmTrackList] = [](MainWindow& main) {
         TrackListForm& form = main.frmTrackList;
         form.txtTrackList = {"n1call  N0CALL n1call N2CALL", "", " "};
@@ -121,7 +121,7 @@ TEST(TrackListForm, TakesListsAndChoices)
 
 TEST(TrackListForm, AnUnusableSettingIsNoChoiceAndStays)
 {
-    Program program;
+    TestProgram program;
     program.dialogs.onRun[Form::frmTrackList] = [](MainWindow& main) { frmTrackList_Track(main.frmTrackList); };
     for (const char* value : {"9", "-3", "thick"}) {
         SetSetting(program.main.Settings, Setting::TrackLineSize, value);

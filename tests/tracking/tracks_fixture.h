@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/program.h"
+#include "support/test_program.h"
 #include "tracking/track_lists.h"
 
 #include <gtest/gtest.h>
@@ -36,7 +36,7 @@ protected:
     }
     void Set(Setting setting, const char* value) { SetSetting(p.main.Settings, setting, value); }
 
-    Program p;
+    TestProgram p;
 };
 
 } // namespace ruvenmark

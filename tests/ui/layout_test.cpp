@@ -1,4 +1,4 @@
-#include "support/program.h"
+#include "support/test_program.h"
 #include "ui/layout.h"
 #include "ui/menus.h"
 #include "ui/web_page.h"
@@ -79,7 +79,7 @@ TEST(Layout, ANarrowWindowGrowsAndAMinimisedOneKeepsItsPlace)
 {
     EXPECT_EQ(AllowedWindowWidth(2999), 3000);
     EXPECT_EQ(AllowedWindowWidth(3001), 3001);
-    Program program;
+    TestProgram program;
     KeepGeometry(program.main, 10, 20, 7000, 8000, false);
     KeepGeometry(program.main, -480000, -480000, 2400, 400, true);
     StopMainWindow(program.main);
@@ -90,7 +90,7 @@ TEST(Layout, ANarrowWindowGrowsAndAMinimisedOneKeepsItsPlace)
 
 TEST(Layout, TheLeftPaneComesBackWithTheTreeOfTheRightView)
 {
-    Program program;
+    TestProgram program;
     WindowState& window = program.main.window;
     mnuTreeView_Click(program.main);
     window.rightView = RightView::Sent;
@@ -107,7 +107,7 @@ TEST(Layout, TheLeftPaneComesBackWithTheTreeOfTheRightView)
 
 TEST(Layout, HelpStaysWhereItIsWhenItIsThePageAlready)
 {
-    Program program;
+    TestProgram program;
     program.main.window.webAddress = "file:///elsewhere/Readme.htm";
     program.main.window.bMapTicked = program.main.window.bMessagesTicked = true;
     mnuRuvenmarkHelp_Click(program.main);

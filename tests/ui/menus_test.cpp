@@ -1,5 +1,5 @@
 #include "platform/text.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "ui/layout.h"
 #include "ui/menus.h"
 
@@ -13,7 +13,7 @@ namespace ruvenmark {
 namespace {
 
 // The entries that have a tick.
-std::vector<std::string> Ticked(const Program& program, Menu menu)
+std::vector<std::string> Ticked(const TestProgram& program, Menu menu)
 {
     std::vector<std::string> ticked;
     for (const MenuItem& item : MenuItems(program.main, menu))
@@ -28,7 +28,7 @@ char Mnemonic(std::string_view caption)
     return mark == std::string_view::npos ? '\0' : ToUpper(caption.at(mark + 1));
 }
 
-std::vector<Menu> MenuBarAndBelow(const Program& program)
+std::vector<Menu> MenuBarAndBelow(const TestProgram& program)
 {
     std::vector<Menu> menus(MenuBar().begin(), MenuBar().end());
     for (std::size_t i = 0; i < menus.size(); ++i) {
@@ -41,7 +41,7 @@ std::vector<Menu> MenuBarAndBelow(const Program& program)
 
 TEST(Menus, EveryEntryOfTheMenuBarHasACommandAndAMnemonicOfItsOwn)
 {
-    const Program program;
+    const TestProgram program;
     std::set<std::string_view> shortcuts;
     std::set<MenuEntry> entries;
     for (const Menu menu : MenuBarAndBelow(program)) {
@@ -67,7 +67,7 @@ TEST(Menus, EveryEntryOfTheMenuBarHasACommandAndAMnemonicOfItsOwn)
 TEST(Menus, EveryCommandOfTheMenuBarRunsOnAFreshProgramAndWithoutAMap)
 {
     for (const bool bStarted : {true, false}) {
-        Program program(bStarted);
+        TestProgram program(bStarted);
         for (const Menu menu : MenuBarAndBelow(program))
             for (const MenuItem& item : MenuItems(program.main, menu))
                 EXPECT_NO_THROW(RunMenuEntry(program.main, item.entry)) << Info(item.entry).name;
@@ -76,7 +76,7 @@ TEST(Menus, EveryCommandOfTheMenuBarRunsOnAFreshProgramAndWithoutAMap)
 
 TEST(Menus, ViewTicksWhatShows)
 {
-    Program program;
+    TestProgram program;
     EXPECT_EQ(Ticked(program, Menu::View),
               (std::vector<std::string>{"mnuViewToolbar", "mnuViewStatusBar", "mnuTreeView", "mnuViewMap"}));
     EXPECT_EQ(Ticked(program, Menu::MapFont), std::vector<std::string>{"mnuFontMedium"});
@@ -106,7 +106,7 @@ TEST(Menus, ViewTicksWhatShows)
 TEST(Menus, RemoveAllTracksIsOfferedWhereThereIsATrack)
 {
     for (const Channel channel : kChannels) {
-        Program program;
+        TestProgram program;
         if (channel == Channel::FL)
             AddChannelTree(program.Tree(), channel);
         const auto isOffered = [&] {

@@ -1,4 +1,4 @@
-#include "support/program.h"
+#include "support/test_program.h"
 #include "ui/station_tree_commands.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-std::optional<PopupMenu> RightClick(Program& program, std::string_view key)
+std::optional<PopupMenu> RightClick(TestProgram& program, std::string_view key)
 {
     return tvStationList_MouseUp(program.main, kRightButton, key.empty() ? nullptr : program.Node(key));
 }
@@ -33,7 +33,7 @@ Names Shown(const std::optional<PopupMenu>& popup)
 
 TEST(PopupMenus, OnlyTheRightButtonOpensOneAndItSelectsFirst)
 {
-    Program program;
+    TestProgram program;
     EXPECT_FALSE(tvStationList_MouseUp(program.main, 1, program.Node("RF")));
     EXPECT_EQ(program.Tree().Selected(), nullptr);
     EXPECT_TRUE(tvStationList_MouseUp(program.main, 3, program.Node("TCP")));
@@ -44,7 +44,7 @@ TEST(PopupMenus, OnlyTheRightButtonOpensOneAndItSelectsFirst)
 
 TEST(PopupMenus, RootsShowTheirOwnForm)
 {
-    Program program;
+    TestProgram program;
     EXPECT_EQ(Shown(RightClick(program, "RF")),
               (Names{"Filter RF Reports", "Edit RF Filter...", "Delete RF Reports", "-Hide All Range Circles",
                      "Show Tracked Stations Only", "Show RF Station Names*", "Hide RF Station Names"}));
@@ -72,7 +72,7 @@ TEST(PopupMenus, RootsShowTheirOwnForm)
 
 TEST(PopupMenus, NothingUnderThePointerOffersWhatIsForAll)
 {
-    Program program;
+    TestProgram program;
     EXPECT_EQ(Shown(RightClick(program, "")),
               (Names{"Delete all Reports", "Show All Station Names*", "Hide All Station Names",
                      "-Hide All Range Circles", "Show Tracked Stations Only", "Load Stations..."}));
@@ -85,7 +85,7 @@ TEST(PopupMenus, NothingUnderThePointerOffersWhatIsForAll)
 
 TEST(PopupMenus, AStationsEntriesFollowItsChannel)
 {
-    Program program;
+    TestProgram program;
     program.Hear(Channel::RF, "n0call-9>APRS:!4000.00N/08000.00W>");
     program.Hear(Channel::TCP, "n0call-9>APRS:!4000.00N/08000.00W>PHG5130");
     program.main.Of(Channel::RF).Tracked.Set("N0CALL-9", "N0CALL-9");
@@ -111,7 +111,7 @@ TEST(PopupMenus, AStationsEntriesFollowItsChannel)
 
 TEST(PopupMenus, FoldersAreSortedOrCatchPackets)
 {
-    Program program;
+    TestProgram program;
     AddChannelTree(program.Tree(), Channel::FL);
     EXPECT_FALSE(RightClick(program, "RFPositions"));
     EXPECT_EQ(Shown(RightClick(program, "RFUnknown")), Names{"Catch Rejected Packets"});
@@ -124,7 +124,7 @@ TEST(PopupMenus, FoldersAreSortedOrCatchPackets)
 
 TEST(PopupMenus, FactsHaveNoneAndTheOwnStationsFactsHaveTheirs)
 {
-    Program program;
+    TestProgram program;
     program.Hear(Channel::TCP, "N0CALL>APRS:!4000.00N/08000.00W>");
     EXPECT_FALSE(RightClick(program, "TCPPositionsN0CALLLat"));
     EXPECT_FALSE(RightClick(program, "My"));

@@ -1,5 +1,5 @@
 #include "links/import_form_rules.h"
-#include "support/program.h"
+#include "support/test_program.h"
 #include "ui/call_sign_page.h"
 #include "ui/station_tree_commands.h"
 #include "ui/web_page.h"
@@ -16,7 +16,7 @@ using Texts = std::vector<std::string>;
 
 TEST(StationTree, IsSortedOnceByCommand)
 {
-    Program program;
+    TestProgram program;
     for (const char* call : {"N3C", "n1a", "N2B"})
         program.Position(Channel::TCP, call, 40, -80);
     program.Select("TCPPositions");
@@ -28,7 +28,7 @@ TEST(StationTree, IsSortedOnceByCommand)
 
 TEST(StationTree, AnExpandedStationIsNoNews)
 {
-    Program program;
+    TestProgram program;
     program.Position(Channel::RF, "N0CALL", 40, -80);
     tvStationList_Expand(program.main, *program.Node("RFPositionsN0CALL"));
     tvStationList_Expand(program.main, *program.Node("RFPositions"));
@@ -38,7 +38,7 @@ TEST(StationTree, AnExpandedStationIsNoNews)
 
 TEST(StationTree, RemovesAStationAfterAsking)
 {
-    Program program;
+    TestProgram program;
     program.Position(Channel::RF, "N0CALL", 40, -80);
     program.Position(Channel::RF, "N1CALL", 41, -80);
     program.Select("RFPositionsN0CALL");
@@ -54,7 +54,7 @@ TEST(StationTree, RemovesAStationAfterAsking)
 
 TEST(StationTree, ClearsOneChannelOrAll)
 {
-    Program program;
+    TestProgram program;
     for (const Channel channel : kChannels) {
         if (channel == Channel::FL)
             AddChannelTree(program.Tree(), channel);
@@ -80,7 +80,7 @@ TEST(StationTree, ClearsOneChannelOrAll)
 TEST(StationTree, UnloadsTheFilesWithTheirMarkersAndCircles)
 {
     for (const int others : {0, 5}) { // More markers than stations take the other walk.
-        Program program;
+        TestProgram program;
         program.Hear("N0CALL>APRS:!4000.00N/08000.00W>PHG5130");
         for (int i = 0; i < others; ++i)
             program.Position(Channel::TCP, "N0CALL-" + std::to_string(i), 40, -80);
@@ -111,7 +111,7 @@ TEST(StationTree, UnloadsTheFilesWithTheirMarkersAndCircles)
 
 TEST(StationTree, UnloadingWhileAFileLoadsEndsTheLoad)
 {
-    Program program;
+    TestProgram program;
     program.files.texts["/day.txt"] = "N0CALL>APRS:!4000.00N/08000.00W>\nN1CALL>APRS:!4000.00N/08000.00W>\n"
                                       "N2CALL>APRS:!4000.00N/08000.00W>\n";
     program.prompts.files = {"/day.txt"};
@@ -130,7 +130,7 @@ TEST(StationTree, UnloadingWhileAFileLoadsEndsTheLoad)
 
 TEST(StationTree, RadioServerAndOwnStationAreNeverUnloaded)
 {
-    Program program;
+    TestProgram program;
     program.prompts.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
     for (const char* key : {"RF", "TCP", "My"}) {
         program.Select(key);
@@ -142,7 +142,7 @@ TEST(StationTree, RadioServerAndOwnStationAreNeverUnloaded)
 
 TEST(StationTree, FiltersAreSwitchedAndEditedByTheirRoot)
 {
-    Program program;
+    TestProgram program;
     program.Select("TCP");
     RunMenuEntry(program.main, MenuEntry::mnuPopupToggleFilter);
     EXPECT_TRUE(program.main.Of(Channel::TCP).Filter.bOn);
@@ -161,7 +161,7 @@ TEST(StationTree, OperatorInfoOpensTheBrowserWithASafeAddress)
     EXPECT_TRUE(CallSignPage("N0CALL-9-1").ends_with("/detail/N0CALL"));
     EXPECT_TRUE(CallSignPage("A/../?q=\"<b>\xC3\xA9").ends_with("/detail/A%2F..%2F%3Fq%3D%22%3Cb%3E%C3%A9"));
 
-    Program program;
+    TestProgram program;
     program.Position(Channel::RF, "N0CALL-9", 40, -80);
     program.Select("RFPositionsN0CALL-9");
     RunMenuEntry(program.main, MenuEntry::mnuInfo);

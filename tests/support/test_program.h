@@ -18,7 +18,7 @@
 namespace ruvenmark {
 
 // The whole program with a machine and an operator of the test's making. Set up settings and files before Start.
-class Program {
+class TestProgram {
 public:
     RecordingStore store;
     MemoryFiles files;
@@ -44,7 +44,7 @@ public:
                              .sources = sources,
                              .programFolder = "/program"}};
 
-    explicit Program(bool bStart = true)
+    explicit TestProgram(bool bStart = true)
     {
         store.Set("Region", "1");
         if (bStart)
