@@ -5,6 +5,7 @@
 #include "map/markers.h"
 #include "map/range_circles.h"
 #include "map/tile_settings.h"
+#include "platform/map_style.h"
 #include "tracking/filter_form_rules.h"
 #include "tracking/track_lines.h"
 #include "tracking/track_list_form_rules.h"
@@ -26,10 +27,10 @@ void RunFont(MainWindow& main)
     SetMapFont(main, kFont);
 }
 
-template <std::int32_t kStyle>
+template <MapStyle kStyle>
 void RunStyle(MainWindow& main)
 {
-    SetMapStyle(main, kStyle);
+    SetMapStyle(main, NumberOf(kStyle));
 }
 
 template <std::int32_t kToolbar>
@@ -93,12 +94,16 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuFontSmaller, "mnuFontSmaller", "&Smaller", "", true, RunFont<3>, rules::TickFont<3>},
     MenuEntryInfo{E::mnuFontSmallest, "mnuFontSmallest", "Smalles&t", "", true, RunFont<4>, rules::TickFont<4>},
 
-    MenuEntryInfo{E::mnuRoadMap, "mnuRoadMap", "&Road Map", "", true, RunStyle<0>, rules::TickStyle<0>},
-    MenuEntryInfo{E::mnuRoadDataMap, "mnuRoadDataMap", "Road &and Data Map", "", true, RunStyle<1>,
-                  rules::TickStyle<1>},
-    MenuEntryInfo{E::mnuDataMap, "mnuDataMap", "&Data Map", "", true, RunStyle<2>, rules::TickStyle<2>},
-    MenuEntryInfo{E::mnuTerrainMap, "mnuTerrainMap", "&Terrain Map", "", true, RunStyle<3>, rules::TickStyle<3>},
-    MenuEntryInfo{E::mnuPoliticalMap, "mnuPoliticalMap", "&Political Map", "", true, RunStyle<4>, rules::TickStyle<4>},
+    MenuEntryInfo{E::mnuRoadMap, "mnuRoadMap", "&Road Map", "", true, RunStyle<MapStyle::Road>,
+                  rules::TickStyle<MapStyle::Road>},
+    MenuEntryInfo{E::mnuRoadDataMap, "mnuRoadDataMap", "Road &and Data Map", "", true, RunStyle<MapStyle::RoadAndData>,
+                  rules::TickStyle<MapStyle::RoadAndData>},
+    MenuEntryInfo{E::mnuDataMap, "mnuDataMap", "&Data Map", "", true, RunStyle<MapStyle::Data>,
+                  rules::TickStyle<MapStyle::Data>},
+    MenuEntryInfo{E::mnuTerrainMap, "mnuTerrainMap", "&Terrain Map", "", true, RunStyle<MapStyle::Terrain>,
+                  rules::TickStyle<MapStyle::Terrain>},
+    MenuEntryInfo{E::mnuPoliticalMap, "mnuPoliticalMap", "&Political Map", "", true, RunStyle<MapStyle::Political>,
+                  rules::TickStyle<MapStyle::Political>},
 
     MenuEntryInfo{E::mnuStandardToolbar, "mnuStandardToolbar", "&Standard", "", true, RunMapToolbar<1>,
                   rules::TickToolbar<1>},

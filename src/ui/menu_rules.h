@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/main_window.h"
+#include "platform/map_style.h"
 #include "ui/menus.h"
 
 #include <cstdint>
@@ -28,11 +29,11 @@ void TickFont(const MenuContext& at, MenuEntryState& state)
     state.bChecked = state.bEnabled && at.main.mpCtrl.ActiveMap()->MapFont() == kFont;
 }
 
-template <std::int32_t kStyle>
+template <MapStyle kStyle>
 void TickStyle(const MenuContext& at, MenuEntryState& state)
 {
     OnMap(at, state);
-    state.bChecked = state.bEnabled && at.main.mpCtrl.ActiveMap()->MapStyle() == kStyle;
+    state.bChecked = state.bEnabled && at.main.mpCtrl.ActiveMap()->MapStyle() == NumberOf(kStyle);
 }
 
 template <std::int32_t kToolbar>
