@@ -12,9 +12,10 @@ QT_QPA_PLATFORM=offscreen "$program" --settings "$own/settings.ini" --folder "$o
 running=$!
 trap 'kill -9 $running 2>/dev/null || true' EXIT
 
-# The map has a marker and is unsaved by the time the box is up; the program folder tells that the start is over.
+# Until it listens to SIGTERM (bit 14 of the mask of caught signals), and a moment more for the box to come up.
 for ((tries = 0; tries < 600; ++tries)); do
-  [[ -d $own/program ]] && break
+  caught=$(sed -n 's/^SigCgt:[[:space:]]*//p' "/proc/$running/status")
+  (((16#$caught >> 14) & 1)) && break
   sleep 0.1
 done
 sleep 1
