@@ -26,6 +26,7 @@ public:
     }
     void Flush() override { m_lasting = m_kept; }
 
+    const Dictionary<std::string>& Values() const { return m_kept.Values(); }
     // As of the last Flush; "(not stored)" where there is nothing.
     std::string Lasting(std::string_view key) const { return m_lasting.Get(key, "(not stored)"); }
 
