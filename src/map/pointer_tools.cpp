@@ -30,6 +30,8 @@ bool IsPinPointing(const MainWindow& main)
 
 void StartPinPoint(MainWindow& main, const PinPointTarget& target)
 {
+    if (IsPinPointing(main) && main.map.PinPointSource->form != target.form)
+        BringBack(main); // Its click is somebody else's now.
     if (target.form)
         main.services.dialogs.StandAside(*target.form);
     ShowMapView(main.window);

@@ -62,6 +62,19 @@ TEST_F(PointerTools, ADialogClosedInTheMeantimeGetsNothing)
         << "whatever stood aside for the click must not stay hidden";
 }
 
+// Whoever asks next takes the click over; the dialog that waited before must not stay hidden for ever.
+TEST_F(PointerTools, ADialogWhoseClickIsTakenOverComesBack)
+{
+    RunMenuEntry(program.main, MenuEntry::mnuDirections);
+    mnuToolsFilter_Click(program.main);
+    frmFilter_PinPoint(program.main);
+    PinPointDirectionsEnd(program.main, 0);
+    EXPECT_EQ(program.dialogs.calls.back(), "ComeBack frmFilter");
+    EXPECT_TRUE(ClickMiddle());
+    EXPECT_EQ(Fields(Channel::RF).Lat, "");
+    EXPECT_TRUE(program.main.map.directions[0]);
+}
+
 TEST_F(PointerTools, DirectionsTakeBothEnds)
 {
     RunMenuEntry(program.main, MenuEntry::mnuDirections);
