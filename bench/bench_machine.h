@@ -2,7 +2,9 @@
 
 #include "core/bare_surface.h"
 #include "core/main_window.h"
+#include "devices/gps_server.h"
 #include "devices/report_sources.h"
+#include "devices/weather_server.h"
 #include "platform/files.h"
 #include "platform/headless.h"
 #include "platform/settings_store.h"
@@ -35,7 +37,10 @@ struct BenchMachine {
                 .notices = notices,
                 .dialogs = dialogs,
                 .desktop = desktop,
+                .wires = wires,
                 .sources = sources,
+                .gpsServers = gpsServers,
+                .weatherServers = weatherServers,
                 .programFolder = "/tmp"};
     }
 
@@ -49,7 +54,10 @@ struct BenchMachine {
     PrintedNotices notices{std::cerr};
     BareDialogs dialogs;
     BareDesktop desktop;
-    ReportSources sources;
+    BareByteLinks wires;
+    ReportSources sources{wires};
+    GpsServers gpsServers{wires};
+    WeatherServers weatherServers{wires};
 };
 
 } // namespace ruvenmark

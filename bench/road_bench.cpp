@@ -54,7 +54,7 @@ struct Program {
     {
         StartMainWindow(main);
         AddChannelTree(main.tvStationList, Channel::FL);
-        source = machine.sources.CreateFile(*main.sinks[Index(Channel::FL)]);
+        source = machine.sources.CreateFile(*main.links.sinks[Index(Channel::FL)]);
     }
 };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "check_line.h"
-#include "devices/fake_byte_links.h"
+#include "support/fake_byte_links.h"
 
 #include <cstdint>
 #include <functional>

@@ -110,7 +110,7 @@ private:
         m_program.prompts.files = {"/day"};
         RunMenuEntry(m_program.main, MenuEntry::mnuLoadStations);
         m_program.prompts.files.clear();
-        Require(!m_program.main.FileLoading);
+        Require(!m_program.main.links.FileLoading);
     }
     void SaveAndReopen()
     {

@@ -28,11 +28,14 @@ void StartAndStop(MemoryFiles& files)
                              .notices = machine.notices,
                              .dialogs = machine.dialogs,
                              .desktop = machine.desktop,
+                             .wires = machine.wires,
                              .sources = machine.sources,
+                             .gpsServers = machine.gpsServers,
+                             .weatherServers = machine.weatherServers,
                              .programFolder = "/program"});
     StartMainWindow(main);
     Require(main.mpCtrl.ActiveMap() != nullptr);
-    machine.sources.CreateFile(*main.sinks[Index(Channel::RF)])->ParseLine("N0CALL>APRS:=4903.50N/07201.75W>x");
+    machine.sources.CreateFile(*main.links.sinks[Index(Channel::RF)])->ParseLine("N0CALL>APRS:=4903.50N/07201.75W>x");
     Require(StopMainWindow(main, MayAsk::No) == StopResult::Stopped);
 }
 

@@ -17,7 +17,9 @@
 #include "desktop/screenshot.h"
 #include "desktop/termination.h"
 #include "desktop/theme.h"
+#include "devices/gps_server.h"
 #include "devices/report_sources.h"
+#include "devices/weather_server.h"
 #include "lifecycle/start.h"
 #include "mapfiles/base_map.h"
 #include "platform/failure.h"
@@ -71,7 +73,10 @@ struct DesktopRun {
                 .notices = notices,
                 .dialogs = Dialogs(options),
                 .desktop = desktop,
+                .wires = wires,
                 .sources = sources,
+                .gpsServers = gpsServers,
+                .weatherServers = weatherServers,
                 .programFolder = settings.Folder()}),
           window(main, icons, Base())
     {
@@ -107,7 +112,10 @@ struct DesktopRun {
     QtDialogs dialogs;
     BareDialogs bareDialogs;
     QtDesktop desktop;
-    ReportSources sources;
+    BareByteLinks wires;
+    ReportSources sources{wires};
+    GpsServers gpsServers{wires};
+    WeatherServers weatherServers{wires};
     MainWindow main;
     MainWindowView window;
 };

@@ -4,7 +4,9 @@
 #include "app/program_settings.h"
 #include "core/bare_surface.h"
 #include "core/main_window.h"
+#include "devices/gps_server.h"
 #include "devices/report_sources.h"
+#include "devices/weather_server.h"
 #include "lifecycle/start.h"
 #include "lifecycle/stop.h"
 #include "links/station_files.h"
@@ -38,7 +40,10 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
         notices.Say("another program uses these settings: nothing will be saved");
     BareDialogs dialogs;
     BareDesktop desktop;
-    ReportSources sources;
+    BareByteLinks wires;
+    ReportSources sources{wires};
+    GpsServers gpsServers{wires};
+    WeatherServers weatherServers{wires};
     MainWindow main({.store = settings.Store(),
                      .files = files,
                      .clock = clock,
@@ -49,7 +54,10 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
                      .notices = notices,
                      .dialogs = dialogs,
                      .desktop = desktop,
+                     .wires = wires,
                      .sources = sources,
+                     .gpsServers = gpsServers,
+                     .weatherServers = weatherServers,
                      .programFolder = settings.Folder()});
 
     StartMainWindow(main);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "contracts/byte_link.h"
 #include "core/desktop.h"
 #include "core/forms.h"
+#include "platform/failure.h"
 
 // What stands behind the window's interfaces where nobody watches.
 namespace ruvenmark {
@@ -30,6 +32,31 @@ public:
 
 private:
     std::string m_text;
+};
+
+// A machine without a wire.
+class BareByteLinks final : public IByteLinks {
+public:
+    std::unique_ptr<IByteLink> OpenSerial(std::string_view /*port*/, std::int32_t /*baud*/,
+                                          IByteSink& /*sink*/) override
+    {
+        Refuse();
+    }
+    std::unique_ptr<IByteLink> StartSocket(std::string_view /*host*/, std::int32_t /*port*/,
+                                           IByteSink& /*sink*/) override
+    {
+        Refuse();
+    }
+    std::unique_ptr<IByteLink> ConnectSocket(std::string_view /*host*/, std::int32_t /*port*/,
+                                             std::chrono::seconds /*limit*/, IByteSink& /*sink*/) override
+    {
+        Refuse();
+    }
+    std::vector<std::string> SerialPorts() override { return {}; }
+    Moment Now() const override { return std::chrono::steady_clock::now(); }
+
+private:
+    [[noreturn]] static void Refuse() { throw Failure("this program has no links"); }
 };
 
 } // namespace ruvenmark

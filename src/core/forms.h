@@ -10,9 +10,33 @@ struct MainWindow;
 
 // The dialogs, by their names. The fields of each are a struct of the logic that outlives its window; its rules are
 // functions beside that struct.
-enum class Form : std::uint8_t { frmRegion, frmImport, frmTrackList, frmAbout, frmFilter, frmFind };
-inline constexpr std::array kForms = {Form::frmRegion, Form::frmImport, Form::frmTrackList,
-                                      Form::frmAbout,  Form::frmFilter, Form::frmFind};
+enum class Form : std::uint8_t {
+    frmRegion,
+    frmImport,
+    frmTrackList,
+    frmAbout,
+    frmFilter,
+    frmFind,
+    commDialog,
+    frmTcp,
+    frmGps,
+    frmWx,
+    frmGpsPanel,
+    frmTnc,
+    frmTcpData,
+    frmPosition,
+    frmWeather,
+    frmStatus,
+    frmObject,
+    frmMessage,
+    frmOpenMessage,
+    frmOptions
+};
+inline constexpr std::array kForms = {Form::frmRegion,  Form::frmImport,   Form::frmTrackList,   Form::frmAbout,
+                                      Form::frmFilter,  Form::frmFind,     Form::commDialog,     Form::frmTcp,
+                                      Form::frmGps,     Form::frmWx,       Form::frmGpsPanel,    Form::frmTnc,
+                                      Form::frmTcpData, Form::frmPosition, Form::frmWeather,     Form::frmStatus,
+                                      Form::frmObject,  Form::frmMessage,  Form::frmOpenMessage, Form::frmOptions};
 
 constexpr std::size_t Index(Form form)
 {

@@ -1,17 +1,23 @@
 #pragma once
 
-#include "contracts/report_source.h"
 #include "core/channel_state.h"
 #include "core/failure_counts.h"
+#include "core/link_state.h"
 #include "core/loaded_parts.h"
 #include "core/services.h"
 #include "core/settings.h"
 #include "core/stored_settings.h"
 #include "core/window_state.h"
-#include "links/link_forms.h"
+#include "links/gps_form.h"
+#include "links/gps_state.h"
+#include "links/import_form.h"
+#include "links/server_form.h"
+#include "links/tnc_form.h"
+#include "links/weather_form.h"
 #include "map/find_form.h"
 #include "map/map_session.h"
 #include "map/region_form.h"
+#include "outgoing/beacon_state.h"
 #include "platform/keyed_tree.h"
 #include "platform/map_control.h"
 #include "platform/status_bar.h"
@@ -20,7 +26,6 @@
 #include "tracking/track_state.h"
 
 #include <array>
-#include <memory>
 #include <utility>
 
 namespace ruvenmark {
@@ -46,17 +51,17 @@ struct MainWindow {
     TncForm commDialog;
     ServerForm frmTcp;
     ServerLists serverLists;
+    GpsForm frmGps;
+    WxForm frmWx;
+    GpsState gps;
+    BeaconState beacons;
     RegionForm frmRegion;
     ImportForm frmImport;
     FilterForm frmFilter;
     TrackListForm frmTrackList;
     FindForm frmFind;
-    bool FileLoading = false;
     FailureCounts abandoned;
-
-    // Sinks outlive their sources.
-    std::array<std::unique_ptr<IReportSink>, 3> sinks;
-    std::unique_ptr<IReportSource> aprsfl;
+    LinkState links; // Last: its sources fall silent first.
 
     ChannelState& Of(Channel channel) { return channels[Index(channel)]; }
     const ChannelState& Of(Channel channel) const { return channels[Index(channel)]; }

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "contracts/byte_link.h"
+#include "contracts/gps_server.h"
 #include "contracts/report_source.h"
+#include "contracts/weather_server.h"
 #include "core/desktop.h"
 #include "core/forms.h"
 #include "platform/clock.h"
@@ -26,7 +29,10 @@ struct Services {
     INotices& notices;
     IDialogs& dialogs;
     IDesktop& desktop;
+    IByteLinks& wires; // The dialogs of the links ask for the ports of this machine.
     IReportSources& sources;
+    IGpsServers& gpsServers;
+    IWeatherServers& weatherServers;
     std::string programFolder;
 };
 

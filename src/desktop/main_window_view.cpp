@@ -207,7 +207,7 @@ void MainWindowView::LoadFile(IByteStream& bytes)
 
 void MainWindowView::RunLoad(const std::function<void()>& load)
 {
-    if (m_main.FileLoading)
+    if (m_main.links.FileLoading)
         return;
     ++m_running;
     load();
@@ -252,7 +252,7 @@ void MainWindowView::CloseUnasked()
 void MainWindowView::closeEvent(QCloseEvent* event)
 {
     if (m_running > 0) {
-        m_main.FileLoading = false;
+        m_main.links.FileLoading = false;
         m_bCloseWanted = true;
         event->ignore();
         return;
@@ -268,7 +268,7 @@ void MainWindowView::closeEvent(QCloseEvent* event)
 
 void MainWindowView::dragEnterEvent(QDragEnterEvent* event)
 {
-    if (!m_main.FileLoading && !DraggedFile(*event->mimeData()).isEmpty())
+    if (!m_main.links.FileLoading && !DraggedFile(*event->mimeData()).isEmpty())
         event->acceptProposedAction();
 }
 

@@ -9,29 +9,22 @@ namespace ruvenmark {
 
 std::unique_ptr<IReportSource> ReportSources::CreateTnc(IReportSink& sink)
 {
-    return std::make_unique<TncSource>(Links(), sink, m_counts);
+    return std::make_unique<TncSource>(m_links, sink, m_counts);
 }
 
 std::unique_ptr<IReportSource> ReportSources::CreateAgw(IReportSink& sink)
 {
-    return std::make_unique<AgwSource>(Links(), sink, m_counts);
+    return std::make_unique<AgwSource>(m_links, sink, m_counts);
 }
 
 std::unique_ptr<IReportSource> ReportSources::CreateServer(IReportSink& sink)
 {
-    return std::make_unique<ServerSource>(Links(), sink, m_counts);
+    return std::make_unique<ServerSource>(m_links, sink, m_counts);
 }
 
 std::unique_ptr<IReportSource> ReportSources::CreateFile(IReportSink& sink)
 {
     return std::make_unique<FileReportSource>(sink, m_counts);
-}
-
-IByteLinks& ReportSources::Links() const
-{
-    if (m_links == nullptr)
-        throw Failure("this program has no links");
-    return *m_links;
 }
 
 } // namespace ruvenmark

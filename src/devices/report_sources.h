@@ -11,10 +11,8 @@ namespace ruvenmark {
 // The sources of the real program, with what became of their lines.
 class ReportSources final : public IReportSources {
 public:
-    // Of saved files only.
-    ReportSources() = default;
     // `links` must outlive the sources.
-    explicit ReportSources(IByteLinks& links) : m_links(&links) {}
+    explicit ReportSources(IByteLinks& links) : m_links(links) {}
 
     std::unique_ptr<IReportSource> CreateTnc(IReportSink& sink) override;
     std::unique_ptr<IReportSource> CreateAgw(IReportSink& sink) override;
@@ -24,9 +22,7 @@ public:
     const LineCounts& Counts() const { return m_counts; }
 
 private:
-    IByteLinks& Links() const;
-
-    IByteLinks* m_links = nullptr;
+    IByteLinks& m_links;
     LineCounts m_counts;
 };
 

@@ -18,7 +18,7 @@ namespace {
 void MakeSinks(MainWindow& main)
 {
     for (const Channel channel : kChannels)
-        main.sinks[Index(channel)] = MakeReportSink(main, channel);
+        main.links.sinks[Index(channel)] = MakeReportSink(main, channel);
 }
 
 void BuildStationTree(MainWindow& main)

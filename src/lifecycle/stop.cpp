@@ -25,8 +25,8 @@ bool SettleMap(MainWindow& main)
 
 void EndLinks(MainWindow& main)
 {
-    main.FileLoading = false;
-    main.aprsfl.reset();
+    main.links.FileLoading = false;
+    main.links.aprsfl.reset();
 }
 
 void ReleaseTracks(MainWindow& main)

@@ -25,9 +25,9 @@ constexpr std::array<ListFile, 3> kListFiles = {{{"servers.txt", &ServerLists::S
 
 void LoadServerForm(StoredSettings& stored, ServerForm& form)
 {
-    form.sPrimaryServer = stored.Text(Setting::PrimaryServer);
-    form.iPrimaryPort = stored.Int16(Setting::PrimaryPort);
-    form.sPrimaryFilter = stored.Text(Setting::PrimaryFilter);
+    form.sServerAddress = stored.Text(Setting::PrimaryServer);
+    form.iServerPort = stored.Int16(Setting::PrimaryPort);
+    form.sServerFilter = stored.Text(Setting::PrimaryFilter);
     form.bServerBeacon = stored.Flag(Setting::ServerBeacon);
     form.bAddTCPSymbol = stored.Flag(Setting::AddTCPSymbol);
     form.bReconnectServer = stored.Flag(Setting::ReconnectServer);
@@ -41,9 +41,9 @@ void LoadServerForm(StoredSettings& stored, ServerForm& form)
 
 void SaveServerForm(StoredSettings& stored, const ServerForm& form)
 {
-    stored.Set(Setting::PrimaryServer, form.sPrimaryServer);
-    stored.SetWhole(Setting::PrimaryPort, form.iPrimaryPort);
-    stored.Set(Setting::PrimaryFilter, form.sPrimaryFilter);
+    stored.Set(Setting::PrimaryServer, form.sServerAddress);
+    stored.SetWhole(Setting::PrimaryPort, form.iServerPort);
+    stored.Set(Setting::PrimaryFilter, form.sServerFilter);
     stored.SetFlag(Setting::ServerBeacon, form.bServerBeacon);
     stored.SetFlag(Setting::AddTCPSymbol, form.bAddTCPSymbol);
     stored.SetFlag(Setting::ReconnectServer, form.bReconnectServer);

@@ -29,7 +29,7 @@ constexpr std::uint32_t kBlankLinesAtOnce = 1U << 16U; // Some milliseconds of t
 bool NextLine(MainWindow& main, LineStream& lines)
 {
     std::uint32_t blankLines = 0;
-    while (main.FileLoading) {
+    while (main.links.FileLoading) {
         const LineStream::Step step = lines.Next(kPipeWait);
         if (step == LineStream::Step::End)
             return false;
@@ -72,7 +72,7 @@ private:
 // Lets events in between its pieces, so that a long delay can be ended.
 void Delay(MainWindow& main)
 {
-    for (std::int32_t left = main.frmImport.iFLDelay; main.FileLoading && left > 0; left -= kLongestSleepMs) {
+    for (std::int32_t left = main.frmImport.iFLDelay; main.links.FileLoading && left > 0; left -= kLongestSleepMs) {
         main.services.sleep.SleepMs(std::min(left, kLongestSleepMs));
         if (left > kLongestSleepMs)
             main.services.yield.ProcessPending();
@@ -84,14 +84,14 @@ void Delay(MainWindow& main)
 void ReplayLines(MainWindow& main, IByteStream& bytes)
 {
     LineStream lines(bytes);
-    main.aprsfl = main.services.sources.CreateFile(*main.sinks[Index(Channel::FL)]);
-    main.FileLoading = true;
+    main.links.aprsfl = main.services.sources.CreateFile(*main.links.sinks[Index(Channel::FL)]);
+    main.links.FileLoading = true;
     main.sbStatusBar.ShowProgress();
     main.sbStatusBar.SetProgress(0);
     bool bMore = NextLine(main, lines);
     const LoadProgress progress(lines, bytes.Size());
-    for (std::uint64_t i = 0; bMore && main.FileLoading && main.aprsfl; ++i) {
-        main.aprsfl->ParseLine(Trim(lines.Line()));
+    for (std::uint64_t i = 0; bMore && main.links.FileLoading && main.links.aprsfl; ++i) {
+        main.links.aprsfl->ParseLine(Trim(lines.Line()));
         bMore = NextLine(main, lines);
         if (i == 0 && lines.IsAtEnd())
             throw Failure("the progress of a single line cannot be told");
@@ -107,8 +107,8 @@ void Load(MainWindow& main, const std::function<void()>& replay)
     if (!main.tvStationList.Find(Traits(Channel::FL).word))
         AddChannelTree(main.tvStationList, Channel::FL);
     const bool bWhole = Attempt(main.abandoned, "LoadStationFile", replay);
-    main.aprsfl.reset();
-    main.FileLoading = false;
+    main.links.aprsfl.reset();
+    main.links.FileLoading = false;
     main.sbStatusBar.SetProgress(0);
     main.sbStatusBar.HideProgress();
     if (!bWhole)
@@ -129,8 +129,8 @@ void LoadStationFile(MainWindow& main, IByteStream& bytes)
 
 void mnuImportStations_Click(MainWindow& main)
 {
-    if (main.FileLoading) {
-        main.FileLoading = false;
+    if (main.links.FileLoading) {
+        main.links.FileLoading = false;
         return;
     }
     const auto path = main.services.prompts.OpenFile("Open", {"Station Files (*.*)", "*.*"});

@@ -18,4 +18,12 @@ std::string_view SystemClock::LocalNowText()
     return m_text;
 }
 
+UtcTime SystemClock::UtcNow()
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm utc = {};
+    gmtime_r(&now, &utc);
+    return {utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min};
+}
+
 } // namespace ruvenmark

@@ -39,7 +39,7 @@ void OnDirectionsText(const MenuContext& at, MenuEntryState& state)
 
 void OnLoading(const MenuContext& at, MenuEntryState& state)
 {
-    if (at.main.FileLoading)
+    if (at.main.links.FileLoading)
         state.caption = "Stop File Loa&ding";
 }
 

@@ -173,7 +173,7 @@ void mnuUnloadFolder_Click(MainWindow& main)
     if (!standing)
         return;
     if (channel)
-        main.FileLoading = false; // What is unloaded is not loaded any further.
+        main.links.FileLoading = false; // What is unloaded is not loaded any further.
     Attempt(main.abandoned, "mnuUnloadFolder",
             [&] { ForEachMarkerOfRoot(main, *standing, [](Pushpin& pin) { pin.Delete(); }); });
     if (channel)

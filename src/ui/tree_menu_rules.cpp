@@ -167,7 +167,7 @@ void TickNoRootNames(const MenuContext& at, MenuEntryState& state)
 
 void OnTreeLoading(const MenuContext& at, MenuEntryState& state)
 {
-    if (at.main.FileLoading)
+    if (at.main.links.FileLoading)
         state.caption = "Stop File Loading";
 }
 

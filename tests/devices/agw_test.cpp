@@ -1,7 +1,7 @@
 #include "devices/agw_source.h"
 #include "devices/ax25.h"
-#include "fake_byte_links.h"
 #include "recorded_events.h"
+#include "support/fake_byte_links.h"
 
 #include <gmock/gmock.h>
 

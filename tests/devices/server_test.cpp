@@ -1,6 +1,6 @@
 #include "devices/server_source.h"
-#include "fake_byte_links.h"
 #include "recorded_events.h"
+#include "support/fake_byte_links.h"
 
 #include <gmock/gmock.h>
 

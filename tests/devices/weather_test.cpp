@@ -1,5 +1,5 @@
 #include "devices/weather_server.h"
-#include "fake_byte_links.h"
+#include "support/fake_byte_links.h"
 
 #include <gmock/gmock.h>
 

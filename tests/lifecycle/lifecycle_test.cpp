@@ -90,7 +90,7 @@ TEST(Start, AnUnreadableValueCountsAsItsDefaultAndStaysUntilItIsChanged)
     EXPECT_EQ(p.main.window.left, 1000);
     EXPECT_EQ(p.main.window.width, 4000);
     EXPECT_TRUE(p.main.window.bLeftPane);
-    EXPECT_EQ(p.main.frmTcp.iPrimaryPort, -1);
+    EXPECT_EQ(p.main.frmTcp.iServerPort, -1);
     EXPECT_EQ(SettingText(p.main.Settings, Setting::TrackLineSize), "1");
     EXPECT_EQ(p.main.Of(Channel::TCP).Filter.Call, "N1CALL");
     EXPECT_TRUE(IsTracked(p.main.Of(Channel::RF), "N0CALL"));

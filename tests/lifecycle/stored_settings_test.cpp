@@ -160,9 +160,9 @@ constexpr Row kRows[] = {
     {"DestLat", "", "49", Kept<S::DestLat>},
     {"DestLon", "", "12", Kept<S::DestLon>},
 
-    {"PrimaryServer", "", "one.example", In<&M::frmTcp, &ServerForm::sPrimaryServer>},
-    {"PrimaryPort", "-1", "14580", In<&M::frmTcp, &ServerForm::iPrimaryPort>},
-    {"PrimaryFilter", "", "r/48/11/50", In<&M::frmTcp, &ServerForm::sPrimaryFilter>},
+    {"PrimaryServer", "", "one.example", In<&M::frmTcp, &ServerForm::sServerAddress>},
+    {"PrimaryPort", "-1", "14580", In<&M::frmTcp, &ServerForm::iServerPort>},
+    {"PrimaryFilter", "", "r/48/11/50", In<&M::frmTcp, &ServerForm::sServerFilter>},
     {"ServerBeacon", "True", "False", In<&M::frmTcp, &ServerForm::bServerBeacon>},
     {"AddTCPSymbol", "True", "False", In<&M::frmTcp, &ServerForm::bAddTCPSymbol>},
     {"ReconnectServer", "False", "True", In<&M::frmTcp, &ServerForm::bReconnectServer>},

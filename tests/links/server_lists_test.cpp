@@ -43,7 +43,7 @@ TEST(ServerLists, AFileThatCannotBeWrittenCostsNothingElse)
     TestProgram p;
     p.main.serverLists.ServerList.Set("a", "a");
     p.main.serverLists.PortList.Set("10152", "10152");
-    p.main.frmTcp.sPrimaryServer = "a";
+    p.main.frmTcp.sServerAddress = "a";
     p.main.frmImport.iFLDelay = 3;
     p.files.FailWrite(1);
     ASSERT_EQ(StopMainWindow(p.main), StopResult::StoppedWithLoss);

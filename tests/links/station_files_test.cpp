@@ -25,8 +25,8 @@ protected:
     {
         p.files.texts["/day.txt"] = std::move(text);
         LoadStationFile(p.main, "/day.txt");
-        EXPECT_FALSE(p.main.FileLoading);
-        EXPECT_EQ(p.main.aprsfl, nullptr);
+        EXPECT_FALSE(p.main.links.FileLoading);
+        EXPECT_EQ(p.main.links.aprsfl, nullptr);
         EXPECT_FALSE(p.main.sbStatusBar.IsProgressVisible());
         EXPECT_EQ(p.main.sbStatusBar.Progress(), 0);
     }
@@ -42,7 +42,7 @@ TEST_F(StationFiles, EveryLineIsParsedWithProgressAndOneYield)
     for (int i = 1; i <= 4; ++i) {
         p.yield.At(i, [&] {
             progress.push_back(p.main.sbStatusBar.Progress());
-            EXPECT_TRUE(p.main.FileLoading && p.main.sbStatusBar.IsProgressVisible());
+            EXPECT_TRUE(p.main.links.FileLoading && p.main.sbStatusBar.IsProgressVisible());
         });
     }
     Load(FourLines());
@@ -187,7 +187,7 @@ TEST_F(StationFiles, TheDelayIsReadAtEachLine)
 TEST_F(StationFiles, ALongDelayLetsEventsInBetweenItsPieces)
 {
     p.main.frmImport.iFLDelay = 120;
-    p.yield.At(3, [&] { p.main.FileLoading = false; }); // Behind the second piece.
+    p.yield.At(3, [&] { p.main.links.FileLoading = false; }); // Behind the second piece.
     Load(FourLines());
     EXPECT_THAT(p.sleep.slept, ElementsAre(50, 50));
     EXPECT_THAT(Stations(), ElementsAre("A"));

@@ -35,6 +35,13 @@ public:
         std::strftime(m_text.data(), m_text.size() + 1, "%Y-%m-%d %H:%M:%S", std::gmtime(&seconds));
         return m_text;
     }
+    // The test's machine stands in a zone five hours behind.
+    UtcTime UtcNow() override
+    {
+        const std::time_t seconds = (m_now + std::chrono::hours(5)).time_since_epoch().count();
+        const std::tm utc = *std::gmtime(&seconds);
+        return {utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min};
+    }
     void Advance(std::chrono::seconds seconds) { m_now += seconds; }
 
 private:

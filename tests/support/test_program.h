@@ -1,11 +1,14 @@
 #pragma once
 
 #include "core/main_window.h"
+#include "devices/gps_server.h"
 #include "devices/report_sources.h"
+#include "devices/weather_server.h"
 #include "intake/station_store.h"
 #include "lifecycle/start.h"
 #include "lifecycle/stop.h"
 #include "support/doubles.h"
+#include "support/fake_byte_links.h"
 #include "support/recording_desktop.h"
 #include "support/recording_store.h"
 
@@ -30,7 +33,10 @@ public:
     RecordingNotices notices;
     RecordingDialogs dialogs;
     RecordingDesktop desktop;
-    ReportSources sources;
+    FakeByteLinks wires;
+    ReportSources sources{wires};
+    GpsServers gpsServers{wires};
+    WeatherServers weatherServers{wires};
     MainWindow main{Services{.store = store,
                              .files = files,
                              .clock = clock,
@@ -41,7 +47,10 @@ public:
                              .notices = notices,
                              .dialogs = dialogs,
                              .desktop = desktop,
+                             .wires = wires,
                              .sources = sources,
+                             .gpsServers = gpsServers,
+                             .weatherServers = weatherServers,
                              .programFolder = "/program"}};
 
     explicit TestProgram(bool bStart = true)
@@ -59,7 +68,7 @@ public:
         sources.CreateFile(Sink(channel))->ParseLine(line);
     }
     void Hear(std::string_view line) { Hear(Channel::FL, line); }
-    IReportSink& Sink(Channel channel) { return *main.sinks[static_cast<std::size_t>(channel)]; }
+    IReportSink& Sink(Channel channel) { return *main.links.sinks[static_cast<std::size_t>(channel)]; }
 
     // A position report by event.
     void Position(Channel channel, std::string_view call, double lat, double lon, std::string_view symbol = "Car",

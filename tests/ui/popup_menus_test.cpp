@@ -56,7 +56,7 @@ TEST(PopupMenus, RootsShowTheirOwnForm)
                      "Show Tracked Stations Only", "Show TCP Station Names", "Hide TCP Station Names*"}));
 
     program.Hear("N0CALL>APRS:!4000.00N/08000.00W>");
-    program.main.FileLoading = true;
+    program.main.links.FileLoading = true;
     EXPECT_EQ(Shown(RightClick(program, "FL")),
               (Names{"Filter FL Reports", "Edit FL Filter...", "Delete FL Reports", "-Hide All Range Circles",
                      "Show Tracked Stations Only", "Show FL Station Names*", "Hide FL Station Names",

@@ -46,6 +46,21 @@ std::unique_ptr<FormDialog> QtDialogs::Make(Form form, MainWindow& main) const
         return std::make_unique<FrmFilterDialog>(main, m_window);
     case Form::frmFind:
         return std::make_unique<FindDialog>(main, m_places, m_window);
+    case Form::commDialog:
+    case Form::frmTcp:
+    case Form::frmGps:
+    case Form::frmWx:
+    case Form::frmGpsPanel:
+    case Form::frmTnc:
+    case Form::frmTcpData:
+    case Form::frmPosition:
+    case Form::frmWeather:
+    case Form::frmStatus:
+    case Form::frmObject:
+    case Form::frmMessage:
+    case Form::frmOpenMessage:
+    case Form::frmOptions:
+        break;
     }
     throw std::logic_error("no such form");
 }

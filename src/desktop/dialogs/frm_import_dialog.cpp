@@ -3,8 +3,8 @@
 #include "desktop/dialogs/dialog_buttons.h"
 #include "desktop/dialogs/field_check.h"
 #include "desktop/named_control.h"
+#include "links/import_form.h"
 #include "links/import_form_rules.h"
-#include "links/link_forms.h"
 #include "platform/prompts.h"
 
 #include <QFormLayout>

@@ -107,11 +107,11 @@ TEST(MainWindowViewTest, ALoadIsStoppedHalfWayByItsMenuEntry)
     program.files.texts["/log"] = ManyLines(200000);
     // Events are let in for the first time behind the first line.
     QTimer::singleShot(0, [&] {
-        EXPECT_TRUE(program.main.FileLoading);
+        EXPECT_TRUE(program.main.links.FileLoading);
         program.Action("mnuImportStations").trigger();
     });
     program.window.LoadFile("/log");
-    EXPECT_FALSE(program.main.FileLoading);
+    EXPECT_FALSE(program.main.links.FileLoading);
     EXPECT_LT(program.main.Of(Channel::FL).Stations.Count(), 500U);
     EXPECT_TRUE(program.prompts.messages.empty());
 }

@@ -56,10 +56,10 @@ TEST(MenuBinderTest, StatesAreThoseOfTheMomentAtWhichAMenuOpens)
     }
     ASSERT_TRUE(file && edit);
     QAction& load = program.Action("mnuImportStations");
-    program.main.FileLoading = true;
+    program.main.links.FileLoading = true;
     emit file->aboutToShow();
     EXPECT_EQ(load.text(), QStringLiteral("Stop File Loa&ding"));
-    program.main.FileLoading = false;
+    program.main.links.FileLoading = false;
     emit file->aboutToShow();
     EXPECT_EQ(load.text(), QStringLiteral("Loa&d Stations..."));
 

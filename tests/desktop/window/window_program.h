@@ -5,12 +5,15 @@
 #include "desktop/adapters/qt_yield.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/main_window_view.h"
+#include "devices/gps_server.h"
 #include "devices/report_sources.h"
+#include "devices/weather_server.h"
 #include "intake/station_store.h"
 #include "lifecycle/start.h"
 #include "lifecycle/stop.h"
 #include "platform/settings_store.h"
 #include "support/doubles.h"
+#include "support/fake_byte_links.h"
 #include "support/recording_desktop.h"
 
 #include <QAction>
@@ -40,7 +43,10 @@ struct WindowProgram {
     FakePlaces places;
     QtDialogs dialogs{icons, places};
     RecordingDesktop desktop;
-    ReportSources sources;
+    FakeByteLinks wires;
+    ReportSources sources{wires};
+    GpsServers gpsServers{wires};
+    WeatherServers weatherServers{wires};
     MainWindow main{Services{.store = store,
                              .files = files,
                              .clock = clock,
@@ -51,7 +57,10 @@ struct WindowProgram {
                              .notices = notices,
                              .dialogs = dialogs,
                              .desktop = desktop,
+                             .wires = wires,
                              .sources = sources,
+                             .gpsServers = gpsServers,
+                             .weatherServers = weatherServers,
                              .programFolder = "/program"}};
     MainWindowView window{main, icons, nullptr};
 
@@ -72,7 +81,7 @@ struct WindowProgram {
     {
         if (channel == Channel::FL && !main.tvStationList.Find("FL"))
             AddChannelTree(main.tvStationList, Channel::FL);
-        main.sinks[static_cast<std::size_t>(channel)]->ReportPos({call, "APRS", "WIDE1-1", lat, lon, "Car", ""});
+        main.links.sinks[static_cast<std::size_t>(channel)]->ReportPos({call, "APRS", "WIDE1-1", lat, lon, "Car", ""});
     }
     QAction& Action(const char* name)
     {

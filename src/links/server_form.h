@@ -9,27 +9,21 @@
 
 namespace ruvenmark {
 
-// Fields of the link dialogs; they outlive the windows, and other subsystems read them at any time.
-
-// commDialog
-struct TncForm {
-    bool bAddRFSymbol = true; // A marker for each report.
-};
-
-// frmTcp
+// frmTcp: the APRS server and its backup. The first fields outlive the window; other subsystems read them at any time.
 struct ServerForm {
-    std::string sPrimaryServer;
-    std::int16_t iPrimaryPort = -1;
-    std::string sPrimaryFilter;
+    std::string sServerAddress;
+    std::int16_t iServerPort = -1;
+    std::string sServerFilter;
     bool bServerBeacon = true;
     bool bAddTCPSymbol = true; // A marker for each report.
     bool bReconnectServer = false;
-    std::int16_t iReconnectAttempt = 0;
+    std::int16_t iReconnectAttempt = 0; // At the primary server, before the backup server's turn.
     std::string sBackupServer;
     std::int16_t iBackupPort = -1;
     std::string sBackupFilter;
     bool bBackupBeacon = false;
     bool bAutoTCP = false;
+    bool bCancel = true;
 };
 
 // What the lists of the server dialog offer: a text is key and value.
@@ -44,18 +38,6 @@ struct ServerLists {
         bool bUnreadable = false; // It is there and is not to be lost.
     };
     std::array<FileState, 3> files;
-};
-
-// frmImport
-inline constexpr std::int16_t kLoadCancelled = -1;
-struct ImportForm {
-    std::int16_t iFLDelay = 0; // Milliseconds after each line, or kLoadCancelled.
-    bool bFLAdd = true;        // A marker for each report.
-    bool bFLShow = true;       // New markers show their names.
-    // What the dialog shows while it is open.
-    std::string txtDelay;
-    bool chkAdd = true;
-    bool chkShow = true;
 };
 
 } // namespace ruvenmark

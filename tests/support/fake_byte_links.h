@@ -3,31 +3,42 @@
 #include "contracts/byte_link.h"
 #include "platform/failure.h"
 
+#include <algorithm>
 #include <functional>
+#include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace ruvenmark {
 
-// Wires of the test's making, one at a time, with a clock that only the test moves.
+// Wires of the test's making, with a clock that only the test moves. What the other end does happens on the wire that
+// was opened last, or on the one that is chosen.
 class FakeByteLinks final : public IByteLinks {
 public:
+    // Goes on with the wire whose `opened` begins so: the one of them that was opened last.
+    void Use(std::string_view how)
+    {
+        const auto found = std::find_if(m_wires.rbegin(), m_wires.rend(),
+                                        [&](const auto& wire) { return wire->how.starts_with(how); });
+        m_wire = found == m_wires.rend() ? std::make_shared<Wire>() : *found;
+    }
     // What the other end does. Nothing reaches a link that is dropped.
     void Open()
     {
-        if (m_sink != nullptr)
-            m_sink->OnOpened(m_now);
+        if (IsKept())
+            m_wire->sink->OnOpened(m_now);
     }
     void Say(std::string_view bytes)
     {
-        if (m_sink != nullptr)
-            m_sink->OnBytes(bytes, m_now);
+        if (IsKept())
+            m_wire->sink->OnBytes(bytes, m_now);
     }
     void Lose()
     {
-        m_bLost = true;
-        if (m_sink != nullptr)
-            m_sink->OnLost(m_now);
+        m_wire->bLost = true;
+        if (IsKept())
+            m_wire->sink->OnLost(m_now);
     }
     // Time passes, four ticks a second.
     void Tick(std::chrono::milliseconds time)
@@ -35,13 +46,14 @@ public:
         constexpr std::chrono::milliseconds kTick{250};
         for (auto passed = kTick; passed <= time; passed += kTick) {
             m_now += kTick;
-            if (m_sink != nullptr)
-                m_sink->OnTick(m_now);
+            for (const auto& wire : std::vector(m_wires))
+                if (wire->sink != nullptr)
+                    wire->sink->OnTick(m_now);
         }
     }
     // What was written since it was asked last.
-    std::string Written() { return std::exchange(m_written, {}); }
-    bool IsKept() const { return m_sink != nullptr; }
+    std::string Written() { return std::exchange(m_wire->written, {}); }
+    bool IsKept() const { return m_wire->sink != nullptr; }
 
     std::string opened; // "serial /dev/ttyS0 9600", "socket localhost 8000", "connect localhost 14580 15"
     bool bRefuse = false;
@@ -65,41 +77,48 @@ public:
     Moment Now() const override { return m_now; }
 
 private:
+    struct Wire {
+        std::string how, written;
+        IByteSink* sink = nullptr; // Null once the link is dropped.
+        bool bLost = false;
+    };
     class Link final : public IByteLink {
     public:
-        explicit Link(FakeByteLinks& links) : m_links(links) {}
-        ~Link() override { m_links.m_sink = nullptr; }
+        Link(FakeByteLinks& links, std::shared_ptr<Wire> wire) : m_links(links), m_wire(std::move(wire)) {}
+        ~Link() override { m_wire->sink = nullptr; }
 
         void Write(std::string_view bytes) override
         {
-            if (m_links.m_bLost)
+            if (m_wire->bLost)
                 throw Failure("lost");
-            m_links.m_written += bytes;
+            m_wire->written += bytes;
         }
         Arrival Wait(std::chrono::milliseconds limit) override
         {
-            std::string bytes = m_links.answer ? m_links.answer(m_links.Written()) : std::string();
+            std::string bytes = m_links.answer ? m_links.answer(std::exchange(m_wire->written, {})) : std::string();
             m_links.m_now += limit;
             return {std::move(bytes), m_links.m_now};
         }
 
     private:
         FakeByteLinks& m_links;
+        std::shared_ptr<Wire> m_wire;
     };
 
     std::unique_ptr<IByteLink> Make(std::string how, IByteSink& sink)
     {
         if (bRefuse)
             throw Failure("refused");
-        opened = std::move(how);
-        m_bLost = false;
-        m_sink = &sink;
-        return std::make_unique<Link>(*this);
+        opened = how;
+        m_wire = std::make_shared<Wire>();
+        m_wire->how = std::move(how);
+        m_wire->sink = &sink;
+        m_wires.push_back(m_wire);
+        return std::make_unique<Link>(*this, m_wire);
     }
 
-    IByteSink* m_sink = nullptr;
-    bool m_bLost = false;
-    std::string m_written;
+    std::vector<std::shared_ptr<Wire>> m_wires;
+    std::shared_ptr<Wire> m_wire = std::make_shared<Wire>();
     Moment m_now{std::chrono::hours{100}};
 };
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+
+namespace ruvenmark {
+
+// Whether the own station can be reported, and how often. A tick is 15 seconds.
+struct BeaconState {
+    bool PositionDefined = false;
+    bool WeatherDefined = false;
+    std::int32_t positionInterval = 0; // Ticks between beacons; 0 by hand only.
+    std::int32_t weatherInterval = 0;
+    std::int32_t positionTicks = 0; // Since the last beacon.
+    std::int32_t weatherTicks = 0;
+};
+
+} // namespace ruvenmark
