@@ -26,8 +26,10 @@
 #include "platform/headless.h"
 #include "platform/program_name.h"
 #include "platform/text.h"
+#include "ports/qt_byte_links.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTimer>
 
@@ -58,6 +60,26 @@ std::optional<BaseMap> OpenBaseMap()
         return std::nullopt;
     }
 }
+
+// While a connect holds everything up: the window is painted, whole now and then as what the window system asks for
+// waits too, and nothing else happens.
+class PaintOnly {
+public:
+    explicit PaintOnly(QWidget& window) : m_window(window) {}
+    void operator()()
+    {
+        constexpr int kWholeMilliseconds = 500;
+        if (!m_sinceWhole.isValid() || m_sinceWhole.hasExpired(kWholeMilliseconds)) {
+            m_window.update();
+            m_sinceWhole.start();
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
+    }
+
+private:
+    QWidget& m_window;
+    QElapsedTimer m_sinceWhole;
+};
 
 // Everything that lives from start to stop, in the order in which it is made.
 struct DesktopRun {
@@ -112,7 +134,7 @@ struct DesktopRun {
     QtDialogs dialogs;
     BareDialogs bareDialogs;
     QtDesktop desktop;
-    BareByteLinks wires;
+    QtByteLinks wires{PaintOnly(window)};
     ReportSources sources{wires};
     GpsServers gpsServers{wires};
     WeatherServers weatherServers{wires};

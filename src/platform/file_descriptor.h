@@ -5,7 +5,7 @@
 #include <unistd.h>
 #include <utility>
 
-// What the system calls behind files have in common; for the sources of this folder.
+// What the system calls behind files have in common; for the sources of this folder and the sockets of ports/.
 namespace ruvenmark {
 
 // An open file of the system, closed with it. Below 0 there is none.
@@ -25,6 +25,7 @@ public:
     }
     bool IsOpen() const { return m_number >= 0; }
     int Number() const { return m_number; }
+    int Release() { return std::exchange(m_number, -1); } // Somebody else closes it.
 
 private:
     int m_number;

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/file_descriptor.h"
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace ruvenmark {
+
+// A connected TCP socket; look-up and connect run on a thread of their own, as the system's look-up knows no limit. The
+// caller waits, and `paint`, where there is one, is called many times a second meanwhile. Raises Failure, at the limit
+// too.
+Descriptor ConnectWithin(const std::string& host, std::uint16_t port, std::chrono::milliseconds limit,
+                         const std::function<void()>& paint);
+
+} // namespace ruvenmark

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "ports/wire.h"
+
+#include <QSerialPort>
+
+#include <cstdint>
+#include <string_view>
+
+namespace ruvenmark {
+
+// A serial port: eight bits, no parity, one stop bit, XON and XOFF obeyed and sent.
+class SerialWire final : public Wire {
+public:
+    // Raises Failure.
+    SerialWire(std::string_view port, std::int32_t baud, IByteSink& sink);
+
+private:
+    QIODevice& Device() override { return m_port; }
+    void Flush() override;
+    void Close() override;
+    void OnError(QSerialPort::SerialPortError error);
+
+    QSerialPort m_port;
+};
+
+} // namespace ruvenmark

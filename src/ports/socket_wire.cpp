@@ -1,0 +1,64 @@
+#include "ports/socket_wire.h"
+
+#include "platform/failure.h"
+
+#include <QNetworkProxy>
+
+namespace ruvenmark {
+
+namespace {
+
+// An address that swallows everything would keep the socket waiting for minutes, and without an error.
+constexpr std::chrono::seconds kConnectLimit{15};
+
+} // namespace
+
+SocketWire::SocketWire(std::string_view host, std::uint16_t port, IByteSink& sink) : Wire(sink)
+{
+    Prepare();
+    connect(&m_socket, &QTcpSocket::connected, this, &SocketWire::OnConnected);
+    m_limit.setSingleShot(true);
+    connect(&m_limit, &QTimer::timeout, this, &SocketWire::Lose);
+    m_limit.start(kConnectLimit);
+    m_socket.connectToHost(QString::fromUtf8(host.data(), static_cast<qsizetype>(host.size())), port);
+}
+
+SocketWire::SocketWire(Descriptor connected, IByteSink& sink) : Wire(sink)
+{
+    Prepare();
+    if (!m_socket.setSocketDescriptor(connected.Number()))
+        throw Failure("the connection cannot be used: " + m_socket.errorString().toStdString());
+    connected.Release();
+    SetOptions();
+    Open();
+}
+
+void SocketWire::Prepare()
+{
+    m_socket.setProxy(QNetworkProxy::NoProxy);
+    m_socket.setReadBufferSize(kReadAhead);
+    connect(&m_socket, &QTcpSocket::readyRead, this, &SocketWire::Arrive);
+    connect(&m_socket, &QTcpSocket::errorOccurred, this, &SocketWire::OnError);
+    connect(&m_socket, &QTcpSocket::disconnected, this, &SocketWire::Lose);
+}
+
+void SocketWire::SetOptions()
+{
+    m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    m_socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+}
+
+void SocketWire::OnConnected()
+{
+    m_limit.stop();
+    SetOptions();
+    OpenAndTell();
+}
+
+void SocketWire::OnError(QAbstractSocket::SocketError error)
+{
+    if (error != QAbstractSocket::SocketTimeoutError || !IsOpen()) // Of a wait, which tells it itself.
+        Lose();
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/file_descriptor.h"
+#include "ports/wire.h"
+
+#include <QTcpSocket>
+
+#include <cstdint>
+#include <string_view>
+
+namespace ruvenmark {
+
+class SocketWire final : public Wire {
+public:
+    // Begins to connect.
+    SocketWire(std::string_view host, std::uint16_t port, IByteSink& sink);
+    // Takes a socket that is connected. Raises Failure.
+    SocketWire(Descriptor connected, IByteSink& sink);
+
+private:
+    QIODevice& Device() override { return m_socket; }
+    void Flush() override { m_socket.flush(); }
+    void Close() override { m_socket.abort(); }
+    void Prepare();
+    void SetOptions();
+    void OnConnected();
+    void OnError(QAbstractSocket::SocketError error);
+
+    QTcpSocket m_socket;
+    QTimer m_limit;
+};
+
+} // namespace ruvenmark

@@ -1,0 +1,127 @@
+#include "platform/failure.h"
+#include "ports/noting_sink.h"
+#include "ports/qt_byte_links.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdlib>
+#include <ctime>
+#include <fcntl.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace ruvenmark {
+namespace {
+
+using namespace std::chrono_literals;
+
+// The device at the other end of a pseudo terminal.
+class Terminal {
+public:
+    Terminal() : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
+    {
+        if (grantpt(m_master) != 0 || unlockpt(m_master) != 0)
+            ADD_FAILURE() << "no pseudo terminal";
+    }
+    Terminal(const Terminal&) = delete;
+    Terminal& operator=(const Terminal&) = delete;
+    ~Terminal() { HangUp(); }
+
+    std::string Name() const { return ptsname(m_master); }
+    int Number() const { return m_master; }
+    void Say(std::string_view bytes) const
+    {
+        EXPECT_EQ(write(m_master, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+    }
+    std::string Heard()
+    {
+        std::array<char, 1024> buffer{};
+        const ssize_t count = read(m_master, buffer.data(), buffer.size());
+        if (count > 0)
+            m_heard.append(buffer.data(), static_cast<std::size_t>(count));
+        return m_heard;
+    }
+    void HangUp()
+    {
+        if (m_master >= 0)
+            close(m_master);
+        m_master = -1;
+    }
+
+private:
+    int m_master;
+    std::string m_heard;
+};
+
+TEST(SerialWire, CarriesBytesBothWaysAndTicks)
+{
+    QtByteLinks links;
+    NotingSink sink;
+    Terminal terminal;
+    const auto link = links.OpenSerial(terminal.Name(), 9600, sink);
+
+    termios settings{};
+    ASSERT_EQ(tcgetattr(terminal.Number(), &settings), 0);
+    EXPECT_EQ(settings.c_iflag & (IXON | IXOFF), static_cast<tcflag_t>(IXON | IXOFF));
+    EXPECT_EQ(settings.c_lflag & (ICANON | ECHO), 0U);
+
+    const std::string all("\x03\x1A\xFF\0\r\n", 6); // None of them may be turned into something else.
+    link->Write(all);
+    EXPECT_TRUE(RunUntil([&] { return terminal.Heard() == all; }));
+    terminal.Say(all);
+    EXPECT_TRUE(sink.bytes.empty()); // Only the loop tells.
+    EXPECT_TRUE(RunUntil([&] { return sink.bytes == all && sink.ticks >= 2; }));
+    EXPECT_EQ(sink.opened, 0);
+}
+
+TEST(SerialWire, WaitsWithoutTellingTheSink)
+{
+    QtByteLinks links;
+    NotingSink sink;
+    Terminal terminal;
+    const auto link = links.OpenSerial(terminal.Name(), 9600, sink);
+    link->Write("MYCALL\r");
+    EXPECT_TRUE(link->Wait(20ms).bytes.empty());
+    EXPECT_EQ(terminal.Heard(), "MYCALL\r"); // A wait sends what was written.
+    terminal.Say("cmd:");
+    EXPECT_EQ(link->Wait(30s).bytes, "cmd:");
+    RunFor(50ms);
+    EXPECT_TRUE(sink.bytes.empty()); // Not told a second time.
+    terminal.HangUp();
+    EXPECT_THROW(link->Wait(30s), Failure);
+    EXPECT_TRUE(RunUntil([&] { return sink.lost == 1; }));
+}
+
+// A port whose other end is gone would tell so without pause, at the cost of a processor.
+TEST(SerialWire, TellsAHangUpOnceAndCostsNothingAfterwards)
+{
+    QtByteLinks links;
+    NotingSink sink;
+    Terminal terminal;
+    const auto link = links.OpenSerial(terminal.Name(), 9600, sink);
+    terminal.HangUp();
+    ASSERT_TRUE(RunUntil([&] { return sink.lost > 0; }));
+    const std::clock_t begun = std::clock();
+    const int ticks = sink.ticks;
+    RunUntil([&] { return sink.ticks >= ticks + 4; });
+    EXPECT_LT(std::clock() - begun, CLOCKS_PER_SEC / 2);
+    EXPECT_EQ(sink.lost, 1);
+    EXPECT_THROW(link->Write("x"), Failure);
+}
+
+TEST(SerialWire, SaysWhyAPortIsNotOpened)
+{
+    QtByteLinks links;
+    NotingSink sink;
+    try {
+        links.OpenSerial("/dev/no-such-port", 9600, sink);
+        FAIL();
+    } catch (const Failure& failure) {
+        EXPECT_NE(std::string(failure.what()).find("cannot open /dev/no-such-port: "), std::string::npos);
+    }
+    EXPECT_THROW(links.OpenSerial(Terminal().Name(), 0, sink), Failure);
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,188 @@
+#include "platform/failure.h"
+#include "ports/noting_sink.h"
+#include "ports/qt_byte_links.h"
+
+#include <QTcpServer>
+#include <QTcpSocket>
+
+#include <gtest/gtest.h>
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr std::string_view kHost = "127.0.0.1";
+
+class Sockets : public testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(server.listen(QHostAddress::LocalHost)); }
+
+    std::unique_ptr<IByteLink> Start() { return links.StartSocket(kHost, server.serverPort(), sink); }
+    std::unique_ptr<IByteLink> Connect() { return links.ConnectSocket(kHost, server.serverPort(), 30s, sink); }
+    bool Accept()
+    {
+        return RunUntil([&] { return (peer = peer ? peer : server.nextPendingConnection()) != nullptr; });
+    }
+    bool PeerHears(const QByteArray& bytes)
+    {
+        return RunUntil([&] { return (heard += peer->readAll()) == bytes; });
+    }
+
+    QtByteLinks links;
+    NotingSink sink;
+    QTcpServer server;
+    QTcpSocket* peer = nullptr;
+    QByteArray heard;
+};
+
+TEST_F(Sockets, StartCarryAndEnd)
+{
+    auto link = Start();
+    EXPECT_THROW(link->Write("early"), Failure);
+    EXPECT_EQ(sink.opened, 0);
+    ASSERT_TRUE(RunUntil([&] { return sink.opened == 1; }));
+    ASSERT_TRUE(Accept());
+    link->Write(std::string_view("a\0b", 3));
+    EXPECT_TRUE(PeerHears(QByteArray("a\0b", 3)));
+    peer->write("answer");
+    EXPECT_TRUE(RunUntil([&] { return sink.bytes == "answer"; }));
+    // What is written right before the link is dropped is sent all the same.
+    link->Write("bye");
+    link.reset();
+    EXPECT_TRUE(PeerHears(QByteArray("a\0bbye", 6)));
+    RunFor(300ms);
+    EXPECT_EQ(sink.lost, 0);
+}
+
+// All that came before the other end closed is told, then one loss; the clock goes on.
+TEST_F(Sockets, TellTheLastBytesBeforeOneLoss)
+{
+    const auto link = Connect();
+    link->Write("x"); // Open at once.
+    ASSERT_TRUE(Accept());
+    const std::string flood(3'000'000, 'f');
+    peer->write(flood.data(), static_cast<qint64>(flood.size()));
+    peer->disconnectFromHost();
+    std::size_t heardAtLoss = 0;
+    sink.onLost = [&] { heardAtLoss = sink.bytes.size(); };
+    ASSERT_TRUE(RunUntil([&] { return sink.lost > 0; }));
+    EXPECT_EQ(heardAtLoss, flood.size());
+    EXPECT_THROW(link->Write("x"), Failure);
+    EXPECT_THROW(link->Wait(1ms), Failure);
+    const int ticks = sink.ticks;
+    EXPECT_TRUE(RunUntil([&] { return sink.ticks >= ticks + 2; }));
+    EXPECT_EQ(sink.lost, 1);
+    EXPECT_EQ(sink.opened, 0);
+}
+
+TEST_F(Sockets, MayBeDroppedInsideTheirOwnEvents)
+{
+    std::unique_ptr<IByteLink> link;
+    const auto drop = [&] { link.reset(); };
+    sink.onBytes = drop;
+    link = Connect();
+    ASSERT_TRUE(Accept());
+    peer->write("1");
+    EXPECT_TRUE(RunUntil([&] { return link == nullptr; }));
+
+    sink.onBytes = nullptr;
+    sink.onTick = drop;
+    link = Connect();
+    EXPECT_TRUE(RunUntil([&] { return link == nullptr; }));
+
+    // From a loop that runs inside the event, too.
+    sink.onTick = nullptr;
+    sink.onLost = [&] {
+        QTimer::singleShot(0, drop);
+        RunFor(20ms);
+    };
+    const quint16 port = server.serverPort();
+    server.close();
+    link = links.StartSocket(kHost, port, sink);
+    EXPECT_TRUE(RunUntil([&] { return link == nullptr; }));
+    const int ticks = sink.ticks;
+    RunFor(600ms);
+    EXPECT_EQ(sink.ticks, ticks);
+}
+
+TEST_F(Sockets, NameTheCauseOfARefusal)
+{
+    const quint16 port = server.serverPort();
+    server.close();
+    const auto refusal = [&](std::string_view host, std::int32_t number) -> std::string {
+        try {
+            links.ConnectSocket(host, number, 30s, sink);
+        } catch (const Failure& failure) {
+            return failure.what();
+        }
+        return "connected";
+    };
+    EXPECT_EQ(refusal(kHost, port), "cannot connect to 127.0.0.1:" + std::to_string(port) + ": Connection refused");
+    EXPECT_NE(refusal("no-such-host.invalid", 80).find("no-such-host.invalid:80: the host is not found"),
+              std::string::npos);
+    EXPECT_EQ(refusal(kHost, 65536 + 80), "there is no port 65616");
+    EXPECT_EQ(refusal("", 80), "no host is given");
+
+    const auto link = links.StartSocket(kHost, port, sink);
+    EXPECT_EQ(sink.lost, 0); // Never inside the call.
+    EXPECT_TRUE(RunUntil([&] { return sink.lost == 1; }));
+    EXPECT_EQ(sink.opened, 0);
+}
+
+// A listener whose queue is full lets connects hang, as an address does that swallows everything.
+TEST_F(Sockets, GiveUpAtTheLimitAndOnlyPaintMeanwhile)
+{
+    const int listener = socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    auto* plain = reinterpret_cast<sockaddr*>(&address);
+    socklen_t size = sizeof address;
+    ASSERT_EQ(bind(listener, plain, size), 0);
+    ASSERT_EQ(listen(listener, 0), 0);
+    ASSERT_EQ(getsockname(listener, plain, &size), 0);
+    std::vector<int> queued;
+    for (int i = 0; i < 4; ++i) {
+        queued.push_back(socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0));
+        (void)connect(queued.back(), plain, size);
+    }
+
+    int painted = 0, timers = 0;
+    QTimer logic;
+    QObject::connect(&logic, &QTimer::timeout, &logic, [&] { ++timers; });
+    logic.start(1);
+    QtByteLinks painting([&] { ++painted; });
+    try {
+        painting.ConnectSocket(kHost, ntohs(address.sin_port), 1s, sink);
+        ADD_FAILURE() << "connected";
+    } catch (const Failure& failure) {
+        EXPECT_NE(std::string(failure.what()).find("timed out"), std::string::npos);
+    }
+    EXPECT_GT(painted, 2);
+    EXPECT_EQ(timers, 0);
+    for (const int number : queued)
+        close(number);
+    close(listener);
+}
+
+// An other end that stands still must not eat the memory.
+TEST_F(Sockets, AreLostWhenTooMuchIsUnsent)
+{
+    const auto link = Connect();
+    ASSERT_TRUE(Accept());
+    peer->setReadBufferSize(1);
+    const std::string piece(1 << 20, 'x');
+    int taken = 0;
+    EXPECT_THROW(for (; taken < 64; ++taken) link->Write(piece), Failure);
+    EXPECT_GE(taken, 8);
+    EXPECT_TRUE(RunUntil([&] { return sink.lost == 1; }));
+}
+
+} // namespace
+} // namespace ruvenmark
