@@ -181,7 +181,7 @@ int RunDesktop(int argc, char** argv, const ProgramOptions& options)
     DesktopRun run(options);
     if (!StartsBeside(run))
         return kEndedWell;
-    StartMainWindow(run.main);
+    StartMainWindow(run.main, options.screenshot ? AutoConnect::No : AutoConnect::Yes);
     if (options.screenshot) {
         TakeScreenshot(run, options, load.get());
         return kEndedWell;

@@ -60,7 +60,7 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
                      .weatherServers = weatherServers,
                      .programFolder = settings.Folder()});
 
-    StartMainWindow(main);
+    StartMainWindow(main, AutoConnect::No);
     if (load)
         LoadStationFile(main, *load);
     load.reset();

@@ -14,6 +14,7 @@ enum class Part : std::uint8_t {
     Follow, // Whether the map follows tracked stations.
     ServerLists,
     Filters,
+    Comm, // commDialog.
     UnknownFolders,
     TrackLists,
     FileLoad,

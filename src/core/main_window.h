@@ -11,6 +11,7 @@
 #include "links/gps_form.h"
 #include "links/gps_state.h"
 #include "links/import_form.h"
+#include "links/monitor_state.h"
 #include "links/server_form.h"
 #include "links/tnc_form.h"
 #include "links/weather_form.h"
@@ -54,6 +55,7 @@ struct MainWindow {
     GpsForm frmGps;
     WxForm frmWx;
     GpsState gps;
+    MonitorState monitors;
     BeaconState beacons;
     RegionForm frmRegion;
     ImportForm frmImport;

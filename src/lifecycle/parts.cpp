@@ -4,6 +4,7 @@
 #include "core/notices.h"
 #include "links/import_form_rules.h"
 #include "links/server_lists.h"
+#include "links/tnc_form_rules.h"
 #include "map/map_start.h"
 #include "map/tile_settings.h"
 #include "tracking/filters.h"
@@ -95,6 +96,7 @@ constexpr std::array kParts = {
     PartInfo{Part::Follow, "The settings of tracking", LoadFollow, SaveFollow},
     PartInfo{Part::ServerLists, "The lists of servers", LoadServerLists, SaveServerLists},
     PartInfo{Part::Filters, "The filters", LoadFilters, SaveFilters},
+    PartInfo{Part::Comm, "The settings of the TNC", LoadCommSettings, SaveCommSettings},
     PartInfo{Part::UnknownFolders, "The settings of the folders", LoadUnknownFolders, SaveUnknownFolders},
     PartInfo{Part::TrackLists, "The track lists", LoadTrackLists, SaveTrackLists},
     PartInfo{Part::FileLoad, "The settings of file loads", LoadImportSettings, SaveImportSettings},

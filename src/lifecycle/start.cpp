@@ -5,6 +5,7 @@
 #include "intake/station_store.h"
 #include "lifecycle/parts.h"
 #include "links/report_sinks.h"
+#include "links/tnc_link.h"
 #include "map/map_start.h"
 #include "platform/program_name.h"
 
@@ -36,8 +37,15 @@ void ShowOwnCall(MainWindow& main)
     main.sbStatusBar.SetPanel(Panel::Call, call.empty() ? "No Call Sign" : call);
 }
 
+// Without any dialog.
+void AutoConnectLinks(MainWindow& main)
+{
+    if (main.commDialog.bAutoConnect)
+        main.commDialog.bAutoSerialPort ? ConnectSerialTnc(main) : ConnectAgw(main);
+}
+
 // What the first Failure skips the rest of.
-void StartSubsystems(MainWindow& main)
+void StartSubsystems(MainWindow& main, AutoConnect autoConnect)
 {
     SetUpMap(main);
     main.window.bLeftPane = main.stored.Flag(Setting::ShowTreeView);
@@ -45,17 +53,19 @@ void StartSubsystems(MainWindow& main)
     LoadPart(main, Part::Follow);
     main.tracking.NewMarkerBalloon = 1;
     main.sbStatusBar.SetPanel(Panel::Tnc, "TNC not connected");
-    for (const Part part :
-         {Part::ServerLists, Part::Filters, Part::UnknownFolders, Part::TrackLists, Part::FileLoad, Part::Tiles})
+    for (const Part part : {Part::ServerLists, Part::Filters, Part::Comm, Part::UnknownFolders, Part::TrackLists,
+                            Part::FileLoad, Part::Tiles})
         LoadPart(main, part);
     ShowOwnCall(main);
     main.window.caption = kProgramName;
     main.window.Changed.Raise();
+    if (autoConnect == AutoConnect::Yes)
+        AutoConnectLinks(main);
 }
 
 } // namespace
 
-void StartMainWindow(MainWindow& main)
+void StartMainWindow(MainWindow& main, AutoConnect autoConnect)
 {
     MakeSinks(main);
     bool bWell = Attempt(main.abandoned, "Start, geometry", [&] { LoadPart(main, Part::Geometry); });
@@ -67,7 +77,7 @@ void StartMainWindow(MainWindow& main)
     });
     bWell &= Attempt(main.abandoned, "Start, settings", [&] { LoadPart(main, Part::Settings); });
     bWell &= AttemptAloud(main, "The map for the start could not be opened", [&] { OpenDefaultMap(main); });
-    bWell &= AttemptAloud(main, "The start ended early", [&] { StartSubsystems(main); });
+    bWell &= AttemptAloud(main, "The start ended early", [&] { StartSubsystems(main, autoConnect); });
     if (!bWell && !main.mpCtrl.ActiveMap()) {
         const bool bEurope = main.map.Region == kRegionEurope;
         main.services.prompts.Message(bEurope ? "Failed to initialize MapPoint Europe."

@@ -3,6 +3,8 @@
 #include "core/main_window.h"
 #include "core/notices.h"
 #include "lifecycle/parts.h"
+#include "links/monitors.h"
+#include "links/tnc_link.h"
 #include "map/documents.h"
 #include "platform/failure.h"
 
@@ -27,6 +29,7 @@ void EndLinks(MainWindow& main)
 {
     main.links.FileLoading = false;
     main.links.aprsfl.reset();
+    CloseTncLink(main);
 }
 
 void ReleaseTracks(MainWindow& main)
@@ -44,7 +47,7 @@ bool SaveParts(MainWindow& main)
     bool bAll = SavePart(main, Part::Geometry);
     ReleaseTracks(main);
     for (const Part part : {Part::Region, Part::Follow, Part::TrackLists, Part::Filters, Part::Settings,
-                            Part::ServerLists, Part::UnknownFolders, Part::FileLoad, Part::Tiles})
+                            Part::ServerLists, Part::Comm, Part::UnknownFolders, Part::FileLoad, Part::Tiles})
         bAll &= SavePart(main, part);
     bAll &= AttemptAloud(main, "The settings could not be saved", [&] { main.stored.Flush(); });
     return bAll;
@@ -59,7 +62,8 @@ StopResult StopMainWindow(MainWindow& main, MayAsk mayAsk)
     EndLinks(main);
     for (const Form form : kForms)
         main.services.dialogs.Hide(form);
-    const bool bAll = SaveParts(main);
+    bool bAll = SaveParts(main);
+    bAll &= SaveMonitorLogs(main);
     main.Settings = {};
     main.serverLists = {};
     main.loaded = {}; // What was let go of cannot be saved once more.

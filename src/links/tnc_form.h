@@ -21,6 +21,15 @@ struct TncForm {
     std::int16_t iUpdateRateIndex = 0;
     bool bAutoConnect = false;
     bool bAutoSerialPort = true; // What the start connects: the TNC, else the AGW Packet Engine.
+
+    // What the dialog shows while it is open.
+    std::int32_t cboConnect = 0; // Position in the list, as with the next lists.
+    std::string txtSocketAddress, txtSocketPort;
+    std::string cboSerialPort, cboSerialBaud;
+    std::int32_t cboSentence = 0, cboUpdateRate = 0;
+    bool chkAdd = true;
+    bool chkAuto = false;
+    bool chkTncGps = false;
 };
 
 } // namespace ruvenmark

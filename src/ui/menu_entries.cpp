@@ -1,4 +1,6 @@
+#include "links/monitors.h"
 #include "links/station_files.h"
+#include "links/tnc_link.h"
 #include "map/documents.h"
 #include "map/edit_commands.h"
 #include "map/find.h"
@@ -85,6 +87,10 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuOnlineTiles, "mnuOnlineTiles", "&Online Tiles", "", true, mnuOnlineTiles_Click,
                   rules::TickTiles},
     MenuEntryInfo{E::mnuTileFile, "mnuTileFile", "T&ile File...", "", true, mnuTileFile_Click, rules::TickTileFile},
+    MenuEntryInfo{E::mnuViewTncData, "mnuViewTncData", "T&NC Data", "", true, mnuViewTncData_Click,
+                  rules::TickForm<Form::frmTnc>},
+    MenuEntryInfo{E::mnuViewTcpData, "mnuViewTcpData", "TC&P Data", "", true, mnuViewTcpData_Click,
+                  rules::TickForm<Form::frmTcpData>},
     MenuEntryInfo{E::mnuViewFullScreen, "mnuViewFullScreen", "F&ull Screen", "F11", true, mnuViewFullScreen_Click,
                   rules::TickWindow<&WindowState::bFullScreen>},
 
@@ -119,6 +125,8 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuRegionEurope, "mnuRegionEurope", "&Europe", "", true, RunRegion<kRegionEurope>,
                   rules::TickRegion<kRegionEurope>},
 
+    MenuEntryInfo{E::mnuConnect, "mnuConnect", "Connect &TNC...", "", false, ConnectTnc, rules::NameConnectTnc},
+
     MenuEntryInfo{E::mnuToolsFilter, "mnuToolsFilter", "&Filters...", "", false, mnuToolsFilter_Click},
     MenuEntryInfo{E::mnuTrackedStations, "mnuTrackedStations", "&Track List...", "", false, mnuTrackedStations_Click},
     MenuEntryInfo{E::mnuToolsStationTracking, "mnuToolsStationTracking", "&Shift Map to Tracked Stations", "", true,
@@ -146,6 +154,8 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuHideRange, "mnuHideRange", "Hide Signal Range", "", false, mnuHideRange_Click, rules::OnCircle},
     MenuEntryInfo{E::mnuRemoveStation, "mnuRemoveStation", "Delete Report", "", false, mnuRemoveStation_Click},
 
+    MenuEntryInfo{E::mnuPopupConnect, "mnuPopupConnect", "Connect TNC...", "", false, mnuPopupConnect_Click,
+                  rules::NamePopupConnect},
     MenuEntryInfo{E::mnuPopupToggleFilter, "mnuPopupToggleFilter", "Filter Reports", "", true,
                   mnuPopupToggleFilter_Click, rules::OnChannelFilter},
     MenuEntryInfo{E::mnuPopupEditFilter, "mnuPopupEditFilter", "Edit Filter", "", false, mnuPopupEditFilter_Click,

@@ -45,6 +45,9 @@ constexpr std::array kView = {MenuPlace{E::mnuViewToolbar},
                               MenuPlace{E::None, Menu::MapToolbars},
                               MenuPlace{E::None, Menu::Region},
                               kLine,
+                              MenuPlace{E::mnuViewTncData},
+                              MenuPlace{E::mnuViewTcpData},
+                              kLine,
                               MenuPlace{E::mnuOnlineTiles},
                               MenuPlace{E::mnuTileFile},
                               kLine,
@@ -61,6 +64,8 @@ constexpr std::array kMapToolbars = {MenuPlace{E::mnuStandardToolbar}, MenuPlace
 
 constexpr std::array kRegionMenu = {MenuPlace{E::mnuRegionNorthAmerica}, MenuPlace{E::mnuRegionEurope}};
 
+constexpr std::array kComm = {MenuPlace{E::mnuConnect}};
+
 constexpr std::array kTools = {
     MenuPlace{E::mnuToolsFilter},        MenuPlace{E::mnuTrackedStations}, kLine, MenuPlace{E::mnuToolsStationTracking},
     MenuPlace{E::mnuToolsShowTrackLine}, MenuPlace{E::mnuRemoveAllTracks}, kLine, MenuPlace{E::mnuDirections}};
@@ -76,7 +81,8 @@ constexpr std::array kStation = {
     MenuPlace{E::mnuShowRange},        MenuPlace{E::mnuHideRange},   kLine,
     MenuPlace{E::mnuRemoveStation}};
 
-constexpr std::array kRoot = {MenuPlace{E::mnuPopupToggleFilter, Menu::None, kChannelRoots},
+constexpr std::array kRoot = {MenuPlace{E::mnuPopupConnect, Menu::None, kRfRoot},
+                              MenuPlace{E::mnuPopupToggleFilter, Menu::None, kChannelRoots},
                               MenuPlace{E::mnuPopupEditFilter, Menu::None, kChannelRoots},
                               MenuPlace{E::mnuClearReports, Menu::None, kChannelRoots},
                               MenuPlace{E::mnuClearAllReports, Menu::None, kNoNode},
@@ -101,6 +107,7 @@ constexpr std::array kMenus = {
     MenuInfo{Menu::File, "&File", kFile},
     MenuInfo{Menu::Edit, "&Edit", kEdit},
     MenuInfo{Menu::View, "&View", kView},
+    MenuInfo{Menu::Comm, "&Communication", kComm},
     MenuInfo{Menu::Tools, "&Tools", kTools},
     MenuInfo{Menu::Help, "&Help", kHelp},
     MenuInfo{Menu::MapFont, "Map &Font", kMapFont},

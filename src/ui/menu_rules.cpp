@@ -43,6 +43,12 @@ void OnLoading(const MenuContext& at, MenuEntryState& state)
         state.caption = "Stop File Loa&ding";
 }
 
+void NameConnectTnc(const MenuContext& at, MenuEntryState& state)
+{
+    if (at.main.links.IsOnAir())
+        state.caption = "Disconnect &TNC";
+}
+
 void OnTracks(const MenuContext& at, MenuEntryState& state)
 {
     const auto& channels = at.main.channels;

@@ -22,6 +22,14 @@ void TickFollow(const MenuContext& at, MenuEntryState& state);
 void TickTrackLine(const MenuContext& at, MenuEntryState& state);
 void TickDirections(const MenuContext& at, MenuEntryState& state);
 
+void NameConnectTnc(const MenuContext& at, MenuEntryState& state);
+
+template <Form kForm>
+void TickForm(const MenuContext& at, MenuEntryState& state)
+{
+    state.bChecked = at.main.services.dialogs.IsVisible(kForm);
+}
+
 template <std::int32_t kFont>
 void TickFont(const MenuContext& at, MenuEntryState& state)
 {
@@ -64,6 +72,7 @@ void OnRange(const MenuContext& at, MenuEntryState& state);
 void OnCircle(const MenuContext& at, MenuEntryState& state);
 
 // --- A root, or nothing
+void NamePopupConnect(const MenuContext& at, MenuEntryState& state);
 void OnChannelFilter(const MenuContext& at, MenuEntryState& state);
 void NameFilterEditor(const MenuContext& at, MenuEntryState& state);
 void NameChannelReports(const MenuContext& at, MenuEntryState& state);

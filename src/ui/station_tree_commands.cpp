@@ -3,6 +3,7 @@
 #include "core/main_window.h"
 #include "core/tree_selection.h"
 #include "intake/station_store.h"
+#include "links/tnc_link.h"
 #include "map/markers.h"
 #include "map/range_circles.h"
 #include "tracking/filter_form_rules.h"
@@ -179,6 +180,12 @@ void mnuUnloadFolder_Click(MainWindow& main)
     if (channel)
         UnloadChannel(main, *channel);
     main.tvStationList.Remove(*standing);
+}
+
+void mnuPopupConnect_Click(MainWindow& main)
+{
+    if (SelectedChannel(main) == Channel::RF)
+        ConnectTnc(main);
 }
 
 void mnuPopupToggleFilter_Click(MainWindow& main)

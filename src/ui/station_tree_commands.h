@@ -47,6 +47,7 @@ void mnuRemoveStation_Click(MainWindow& main);
 void mnuClearReports_Click(MainWindow& main);
 void mnuClearAllReports_Click(MainWindow& main);
 void mnuUnloadFolder_Click(MainWindow& main); // Any root but RF and TCP.
+void mnuPopupConnect_Click(MainWindow& main); // The link of the root.
 void mnuPopupToggleFilter_Click(MainWindow& main);
 void mnuPopupEditFilter_Click(MainWindow& main);
 void mnuInfo_Click(MainWindow& main);

@@ -118,6 +118,16 @@ void OnCircle(const MenuContext& at, MenuEntryState& state)
 
 // --- A root, or nothing
 
+void NamePopupConnect(const MenuContext& at, MenuEntryState& state)
+{
+    const ChannelState* channel = ChannelAt(at);
+    const LinkState& links = at.main.links;
+    if (channel && channel->channel == Channel::TCP)
+        state.caption = links.bServerConnected ? "Disconnect APRS Server" : "Connect APRS Server...";
+    else if (links.IsOnAir())
+        state.caption = "Disconnect TNC";
+}
+
 void OnChannelFilter(const MenuContext& at, MenuEntryState& state)
 {
     if (const ChannelState* channel = ChannelAt(at)) {

@@ -172,6 +172,18 @@ constexpr Row kRows[] = {
     {"BackupFilter", "", "t/m", In<&M::frmTcp, &ServerForm::sBackupFilter>},
     {"BackupBeacon", "False", "True", In<&M::frmTcp, &ServerForm::bBackupBeacon>},
     {"AutoTCP", "False", "True", In<&M::frmTcp, &ServerForm::bAutoTCP>},
+    {"ConnectSocket", "False", "True", In<&M::commDialog, &TncForm::bConnectSocket>},
+    {"SerialPort", "", "/dev/ttyS0", In<&M::commDialog, &TncForm::sSerialPort>},
+    {"BaudIndex", "0", "3", In<&M::commDialog, &TncForm::iBaudListIndex>},
+    {"SentenceIndex", "0", "2", In<&M::commDialog, &TncForm::iSentenceIndex>},
+    {"UpdateRateIndex", "0", "12", In<&M::commDialog, &TncForm::iUpdateRateIndex>},
+    {"LastBaudRate", "0", "115200", In<&M::commDialog, &TncForm::lLastBaudRate>},
+    {"AddRFSymbol", "True", "False", In<&M::commDialog, &TncForm::bAddRFSymbol>},
+    {"TncGps", "False", "True", In<&M::commDialog, &TncForm::bTncGps>},
+    {"SerialAutoConnect", "False", "True", In<&M::commDialog, &TncForm::bAutoConnect>},
+    {"AutoConnectType", "True", "False", In<&M::commDialog, &TncForm::bAutoSerialPort>},
+    {"SocketAddress", "", "localhost", In<&M::commDialog, &TncForm::sSocketAddress>},
+    {"SocketPort", "0", "8001", In<&M::commDialog, &TncForm::iSocketPort>},
     {"ShowRFUnknown", "False", "True", On<RF, &ChannelState::bShowUnknown>},
     {"ShowTCPUnknown", "False", "True", On<TCP, &ChannelState::bShowUnknown>},
     {"ShowFLUnknown", "False", "True", On<FL, &ChannelState::bShowUnknown>},
@@ -209,7 +221,7 @@ TEST(StoredSettings, EachGoesToItsOwnPlaceAndBack)
         TestProgram p(false);
         p.store.Set("Region", "");
         p.store.Set(changed.key, changed.other);
-        StartMainWindow(p.main);
+        StartMainWindow(p.main, AutoConnect::No);
         for (const Row& row : kRows) {
             EXPECT_EQ(row.state(p.main), &row == &changed ? row.other : row.byDefault)
                 << row.key << " where " << changed.key << " is stored";
@@ -228,12 +240,14 @@ TEST(StoredSettings, AreReadPartByPart)
     TestProgram p;
     std::vector<std::string> first;
     for (const std::string& key : p.store.read)
-        for (const char* part : {"MainLeft", "Region", "Call", "DestLon", "TrackStationPosition", "PrimaryServer",
-                                 "rfFilterDest", "ShowRFUnknown", "TrackedRFStations", "ShowTrackLine", "FLDelay"})
+        for (const char* part :
+             {"MainLeft", "Region", "Call", "DestLon", "TrackStationPosition", "PrimaryServer", "rfFilterDest",
+              "ConnectSocket", "ShowRFUnknown", "TrackedRFStations", "ShowTrackLine", "FLDelay"})
             if (key == part)
                 first.push_back(key);
     EXPECT_THAT(first, ElementsAre("MainLeft", "Region", "Call", "DestLon", "TrackStationPosition", "PrimaryServer",
-                                   "rfFilterDest", "ShowRFUnknown", "TrackedRFStations", "ShowTrackLine", "FLDelay"));
+                                   "rfFilterDest", "ConnectSocket", "ShowRFUnknown", "TrackedRFStations",
+                                   "ShowTrackLine", "FLDelay"));
 }
 
 } // namespace

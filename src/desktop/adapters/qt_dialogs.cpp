@@ -2,11 +2,13 @@
 
 #include "core/main_window.h"
 #include "desktop/dialogs/about_dialog.h"
+#include "desktop/dialogs/comm_dialog.h"
 #include "desktop/dialogs/find_dialog.h"
 #include "desktop/dialogs/frm_filter_dialog.h"
 #include "desktop/dialogs/frm_import_dialog.h"
 #include "desktop/dialogs/frm_region_dialog.h"
 #include "desktop/dialogs/frm_track_list_dialog.h"
+#include "desktop/dialogs/monitor_dialog.h"
 
 #include <stdexcept>
 #include <utility>
@@ -47,12 +49,17 @@ std::unique_ptr<FormDialog> QtDialogs::Make(Form form, MainWindow& main) const
     case Form::frmFind:
         return std::make_unique<FindDialog>(main, m_places, m_window);
     case Form::commDialog:
+        return std::make_unique<CommDialog>(main, m_window);
+    case Form::frmTnc:
+        return std::make_unique<MonitorDialog>(main.monitors.txtTNCData, MonitorTexts{"TNC Data", "txtTNCData"},
+                                               m_window);
+    case Form::frmTcpData:
+        return std::make_unique<MonitorDialog>(main.monitors.txtTCPData, MonitorTexts{"TCP Data", "txtTCPData"},
+                                               m_window);
     case Form::frmTcp:
     case Form::frmGps:
     case Form::frmWx:
     case Form::frmGpsPanel:
-    case Form::frmTnc:
-    case Form::frmTcpData:
     case Form::frmPosition:
     case Form::frmWeather:
     case Form::frmStatus:

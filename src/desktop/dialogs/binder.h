@@ -43,6 +43,19 @@ public:
         Add([&list, &field] { list.setCurrentIndex(field >= 0 && field < list.count() ? field : -1); });
     }
 
+    // The text of an editable one, chosen or typed.
+    void Bind(QComboBox& box, std::string& field)
+    {
+        QObject::connect(box.lineEdit(), &QLineEdit::textEdited, &box,
+                         [&field](const QString& text) { field = text.toStdString(); });
+        QObject::connect(&box, &QComboBox::activated, &box,
+                         [&box, &field] { field = box.currentText().toStdString(); });
+        Add([&box, &field] {
+            if (const QString text = ForDisplay(field); box.currentText() != text)
+                box.setEditText(text);
+        });
+    }
+
     // The tab in front.
     void Bind(QTabWidget& tabs, int& field)
     {

@@ -1,0 +1,240 @@
+#include "links/tnc_form_rules.h"
+#include "links/tnc_link.h"
+#include "support/test_program.h"
+#include "ui/menus.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace ruvenmark {
+namespace {
+
+using namespace std::string_literals;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr std::string_view kPrompt = "cmd:";
+
+struct TncLink : testing::Test {
+    TestProgram program;
+    MainWindow& main = program.main;
+    TncForm& form = main.commDialog;
+
+    const std::string& Panel() const { return main.sbStatusBar.PanelText(ruvenmark::Panel::Tnc); }
+    std::string Caption() const { return StateOf(MenuEntry::mnuConnect, {main, nullptr}).caption; }
+    // Everything that the program types while the TNC prompts after each line.
+    std::string Typed()
+    {
+        std::string typed;
+        for (std::string more = program.wires.Written(); !more.empty(); more = program.wires.Written()) {
+            typed += more;
+            program.wires.Say(kPrompt);
+        }
+        return typed;
+    }
+    void AcceptSerial(bool bGps = false)
+    {
+        program.dialogs.onRun[Form::commDialog] = [this, bGps](MainWindow& at) {
+            form.cboConnect = 0;
+            form.cboSerialPort = "/dev/ttyS0";
+            form.cboSerialBaud = "9600";
+            form.chkTncGps = bGps;
+            form.cboSentence = 1;
+            form.cboUpdateRate = 19;
+            EXPECT_TRUE(commDialog_Accept(at));
+        };
+    }
+    void AcceptAgw()
+    {
+        program.dialogs.onRun[Form::commDialog] = [this](MainWindow& at) {
+            form.cboConnect = 1;
+            commDialog_cboConnect_Click(form);
+            EXPECT_TRUE(commDialog_Accept(at));
+        };
+    }
+};
+
+TEST_F(TncLink, ASerialConnectSendsTheOperatorsLinesThenThoseOfTheGps)
+{
+    program.files.texts["/program/tncsettings.txt"] = "MYCALL N0CALL\r\n\r\n MON ON \n";
+    program.files.texts["/program/originalsettings.txt"] = "MON OFF";
+    AcceptSerial(true);
+    ConnectTnc(main);
+    EXPECT_EQ(program.wires.opened, "serial /dev/ttyS0 9600");
+    EXPECT_EQ(Panel(), "Connected to port /dev/ttyS0 at 9600bps");
+    EXPECT_EQ(Caption(), "Disconnect &TNC");
+    const std::string typed = Typed();
+    EXPECT_THAT(typed,
+                testing::ContainsRegex("MYCALL N0CALL\r.*MON ON \r.*GBAUD 4800\rGPSTEXT .GPRMC\rLTMH OFF\rLTM 100\r"));
+    EXPECT_EQ(main.gps.GpsUpdateSeconds, 100);
+
+    main.gps.bValidFix = true;
+    SetSetting(main.Settings, Setting::Speed, "30");
+    std::string last;
+    program.wires.answer = [&](const std::string& written) {
+        last += written;
+        return std::string(kPrompt);
+    };
+    ConnectTnc(main);
+    EXPECT_THAT(last + program.wires.Written(), testing::ContainsRegex("LTM 0\r.*MON OFF\r"));
+    EXPECT_FALSE(program.wires.IsKept());
+    EXPECT_FALSE(main.gps.bValidFix);
+    EXPECT_EQ(SettingText(main.Settings, Setting::Speed), "");
+    EXPECT_EQ(Panel(), "TNC disconnected");
+    EXPECT_EQ(Caption(), "Connect &TNC...");
+}
+
+// Without files and a receiver nothing is typed at all: the TNC may be in use by its operator.
+TEST_F(TncLink, WithoutFilesAndGpsNothingIsSent)
+{
+    AcceptSerial();
+    ConnectTnc(main);
+    ConnectTnc(main);
+    EXPECT_EQ(program.wires.Written(), "");
+    EXPECT_EQ(Panel(), "TNC disconnected");
+}
+
+TEST_F(TncLink, FailuresAndLossesShowAndFreeTheLink)
+{
+    program.wires.bRefuse = true;
+    AcceptSerial();
+    ConnectTnc(main);
+    EXPECT_EQ(Panel(), "TNC connection failed");
+    EXPECT_FALSE(main.links.bSerialConnected);
+    EXPECT_FALSE(main.links.aprs);
+
+    program.wires.bRefuse = false;
+    ConnectTnc(main);
+    program.wires.Lose();
+    program.wires.Tick(std::chrono::seconds(1));
+    EXPECT_EQ(Panel(), "TNC connection unexpectedly closed");
+    EXPECT_FALSE(main.links.bSerialConnected);
+    EXPECT_FALSE(main.links.aprs);
+}
+
+TEST_F(TncLink, TheAgwEngineIsConnectedWhenItSaysSo)
+{
+    program.files.texts["/program/tncsettings.txt"] = "MYCALL N0CALL";
+    AcceptAgw();
+    ConnectTnc(main);
+    EXPECT_EQ(program.wires.opened, "socket 127.0.0.1 8000");
+    EXPECT_EQ(Panel(), "Connecting to AGW Packet Engine");
+    EXPECT_EQ(Caption(), "Connect &TNC...");
+    ConnectTnc(main); // Asks again; the connect that was under way is let go of.
+    EXPECT_EQ(program.dialogs.calls.size(), 2U);
+    program.Sink(Channel::RF).SocketConnected();
+    EXPECT_EQ(Panel(), "Connected to AGW Packet Engine");
+    EXPECT_EQ(Caption(), "Disconnect &TNC");
+    program.Sink(Channel::RF).SocketConnectionClosed();
+    EXPECT_EQ(Panel(), "AGW connection unexpectedly closed");
+    EXPECT_FALSE(main.links.bSocketConnected);
+    ConnectTnc(main);
+    program.Sink(Channel::RF).SocketConnectionError();
+    EXPECT_EQ(Panel(), "AGW connection failed");
+    EXPECT_FALSE(main.links.aprs);
+}
+
+TEST_F(TncLink, TheStartConnectsWhatWasChosenAndTheStopPutsTheTncBack)
+{
+    const auto start = [](TestProgram& p, AutoConnect autoConnect) {
+        p.store.Set("SerialAutoConnect", "True");
+        p.store.Set("SerialPort", "/dev/ttyS0");
+        p.store.Set("LastBaudRate", "4800");
+        p.store.Set("TncGps", "True");
+        p.files.texts["/program/originalsettings.txt"] = "MON OFF";
+        StartMainWindow(p.main, autoConnect);
+    };
+    TestProgram idle(false);
+    start(idle, AutoConnect::No);
+    EXPECT_EQ(idle.wires.opened, "");
+
+    TestProgram p(false);
+    start(p, AutoConnect::Yes);
+    EXPECT_EQ(p.wires.opened, "serial /dev/ttyS0 4800");
+    EXPECT_THAT(p.dialogs.calls, IsEmpty());
+    std::string typed;
+    p.wires.answer = [&](const std::string& written) {
+        typed += written;
+        return std::string(kPrompt);
+    };
+    StopMainWindow(p.main);
+    typed += p.wires.Written();
+    EXPECT_THAT(typed, testing::HasSubstr("GPSTEXT \r")); // The sentence's text is not stored.
+    EXPECT_THAT(typed, testing::HasSubstr("MON OFF\r"));
+    EXPECT_EQ(typed.find("LTM 0\r"), typed.rfind("LTM 0\r")); // That of the connect alone.
+    EXPECT_FALSE(p.main.links.aprs);
+}
+
+TEST_F(TncLink, TheTreesRootConnects)
+{
+    program.Select("RF");
+    const TreeNode* node = program.Node("RF");
+    const auto caption = [&] { return StateOf(MenuEntry::mnuPopupConnect, {main, node}).caption; };
+    EXPECT_EQ(caption(), "Connect TNC...");
+    AcceptSerial();
+    RunMenuEntry(main, MenuEntry::mnuPopupConnect);
+    EXPECT_TRUE(main.links.bSerialConnected);
+    EXPECT_EQ(caption(), "Disconnect TNC");
+}
+
+// --- The dialog
+
+TEST_F(TncLink, TheDialogTellsWhatIsMissingInItsOrder)
+{
+    commDialog_Load(form);
+    main.links.bGpsConnected = true;
+    main.frmGps.sGPSPort = form.cboSerialPort = "/dev/ttyS1";
+    form.cboSerialBaud.clear();
+    EXPECT_FALSE(commDialog_Accept(main));
+    main.links.bGpsConnected = false;
+    EXPECT_FALSE(commDialog_Accept(main));
+    form.cboSerialBaud = "fast";
+    EXPECT_FALSE(commDialog_Accept(main));
+    form.cboConnect = 1;
+    for (const char* port : {"", "many", "99999"}) {
+        form.txtSocketPort = port;
+        EXPECT_FALSE(commDialog_Accept(main));
+    }
+    EXPECT_EQ(form.lSerialBaud, 0);
+    const std::string serial = "You must select a serial port and baud rate!";
+    const std::string socket = "You must enter a computer address and socket port number!";
+    EXPECT_THAT(program.prompts.messages,
+                ElementsAre("You are already connected to GPS on /dev/ttyS1!", serial, serial, socket, socket, socket));
+}
+
+// The tick takes effect at once and goes with what cboConnect shows.
+TEST_F(TncLink, ConnectUponStartupOutlastsACancel)
+{
+    program.dialogs.onRun[Form::commDialog] = [this](MainWindow&) {
+        form.cboConnect = 1;
+        commDialog_cboConnect_Click(form);
+        form.chkAuto = true;
+        commDialog_chkAuto_Click(form);
+        EXPECT_FALSE(IsSerialShown(form) || IsTncGpsEnabled(form) || AreGpsListsEnabled(form));
+        form.cboConnect = 0;
+        commDialog_cboConnect_Click(form);
+        EXPECT_FALSE(form.chkAuto);
+        commDialog_Cancel(form);
+    };
+    ConnectTnc(main);
+    EXPECT_TRUE(form.bAutoConnect);
+    EXPECT_FALSE(form.bAutoSerialPort);
+    EXPECT_EQ(program.wires.opened, "");
+    EXPECT_EQ(Panel(), "TNC not connected");
+}
+
+TEST_F(TncLink, TheUpdateRatesAreWhatTheirTextsSay)
+{
+    EXPECT_EQ(UpdateRateText(0), "No Update");
+    EXPECT_EQ(UpdateRateText(1), "Every Second");
+    EXPECT_EQ(UpdateRateText(10), "Every 10 Seconds");
+    EXPECT_EQ(UpdateRateText(11), "Every 20 Seconds");
+    EXPECT_EQ(UpdateRateText(19), "Every 100 Seconds");
+    EXPECT_EQ(UpdateRateText(20), "Every 150 Seconds");
+    EXPECT_EQ(UpdateRateText(23), "Every 300 Seconds");
+    EXPECT_EQ(UpdateRateSeconds(-1), 0);
+    EXPECT_EQ(UpdateRateSeconds(32767), 0);
+}
+
+} // namespace
+} // namespace ruvenmark
