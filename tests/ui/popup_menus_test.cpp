@@ -46,8 +46,9 @@ TEST(PopupMenus, RootsShowTheirOwnForm)
 {
     TestProgram program;
     EXPECT_EQ(Shown(RightClick(program, "RF")),
-              (Names{"Filter RF Reports", "Edit RF Filter...", "Delete RF Reports", "-Hide All Range Circles",
-                     "Show Tracked Stations Only", "Show RF Station Names*", "Hide RF Station Names"}));
+              (Names{"Connect TNC...", "Filter RF Reports", "Edit RF Filter...", "Delete RF Reports",
+                     "-Hide All Range Circles", "Show Tracked Stations Only", "Show RF Station Names*",
+                     "Hide RF Station Names"}));
 
     program.main.Of(Channel::TCP).Filter.bOn = true;
     SetSetting(program.main.Settings, Setting::ShowTCPNames, "0");
