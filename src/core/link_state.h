@@ -27,7 +27,8 @@ struct LinkState {
     bool bSerialConnected = false; // The TNC; never together with the next one.
     bool bSocketConnected = false; // The AGW Packet Engine.
     bool bServerConnected = false;
-    bool bLoginSent = false; // On this connection.
+    bool bLoginSent = false;        // On this connection.
+    bool bPasswordFileTold = false; // The operator was warned of its rights.
     bool bGpsConnected = false;
     bool bWxConnected = false;
     bool FileLoading = false;

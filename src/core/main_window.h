@@ -13,6 +13,7 @@
 #include "links/import_form.h"
 #include "links/monitor_state.h"
 #include "links/server_form.h"
+#include "links/server_status.h"
 #include "links/tnc_form.h"
 #include "links/weather_form.h"
 #include "map/find_form.h"
@@ -52,6 +53,7 @@ struct MainWindow {
     TncForm commDialog;
     ServerForm frmTcp;
     ServerLists serverLists;
+    ServerStatus serverStatus;
     GpsForm frmGps;
     WxForm frmWx;
     GpsState gps;

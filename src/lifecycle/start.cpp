@@ -5,6 +5,7 @@
 #include "intake/station_store.h"
 #include "lifecycle/parts.h"
 #include "links/report_sinks.h"
+#include "links/server_link.h"
 #include "links/tnc_link.h"
 #include "map/map_start.h"
 #include "platform/program_name.h"
@@ -42,6 +43,8 @@ void AutoConnectLinks(MainWindow& main)
 {
     if (main.commDialog.bAutoConnect)
         main.commDialog.bAutoSerialPort ? ConnectSerialTnc(main) : ConnectAgw(main);
+    if (main.frmTcp.bAutoTCP)
+        ConnectServerLink(main);
 }
 
 // What the first Failure skips the rest of.

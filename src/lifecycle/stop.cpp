@@ -4,6 +4,7 @@
 #include "core/notices.h"
 #include "lifecycle/parts.h"
 #include "links/monitors.h"
+#include "links/server_link.h"
 #include "links/tnc_link.h"
 #include "map/documents.h"
 #include "platform/failure.h"
@@ -30,6 +31,7 @@ void EndLinks(MainWindow& main)
     main.links.FileLoading = false;
     main.links.aprsfl.reset();
     CloseTncLink(main);
+    EndServerLink(main);
 }
 
 void ReleaseTracks(MainWindow& main)

@@ -3,13 +3,15 @@
 #include "core/main_window.h"
 #include "intake/report_handlers.h"
 #include "links/monitors.h"
+#include "links/server_link.h"
+#include "links/server_status_rules.h"
 #include "links/tnc_link.h"
 
 namespace ruvenmark {
 
 namespace {
 
-// Messages, GPS data and the events of the server are taken up with those subsystems.
+// Messages and GPS data are taken up with those subsystems.
 class ReportSink final : public IReportSink {
 public:
     ReportSink(MainWindow& main, Channel channel) : m_main(main), m_channel(channel) {}
@@ -31,15 +33,17 @@ public:
     void SocketConnected() override { aprs_SocketConnected(m_main); } // These three are RF's alone.
     void SocketConnectionError() override { aprs_SocketConnectionError(m_main); }
     void SocketConnectionClosed() override { aprs_SocketConnectionClosed(m_main); }
-    void ServerConnectionError() override {}
+    void ServerConnectionError() override { aprstcp_ServerConnectionError(m_main); }
     void ReportObjectItem(const ObjectItemReport& report) override { aprs_ReportObjectItem(m_main, m_channel, report); }
     void ReportGpsData(const GpsReport& /*report*/) override {}
     void ReportRawData(std::string_view packet) override
     {
         if (m_channel == Channel::RF)
             aprs_ReportRawData(m_main, packet);
-        else if (m_channel == Channel::TCP)
+        if (m_channel == Channel::TCP) {
             aprstcp_ReportRawData(m_main, packet);
+            NoteServerLine(m_main, packet);
+        }
     }
 
 private:

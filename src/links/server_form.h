@@ -24,6 +24,12 @@ struct ServerForm {
     bool bBackupBeacon = false;
     bool bAutoTCP = false;
     bool bCancel = true;
+    // What the dialog shows while it is open.
+    std::string cboServer, cboPort, cboFilter;
+    bool chkServerBeacon = false, chkAdd = false, chkAuto = false;
+    bool chkReconnect = false; // While it is ticked the fields below can be used.
+    std::string txtNumber, cboBackupServer, cboBackupPort, cboBackupFilter;
+    bool chkBackupBeacon = false;
 };
 
 // What the lists of the server dialog offer: a text is key and value.

@@ -152,4 +152,11 @@ bool PosixFiles::Exists(std::string_view path)
     return path.find('\0') == std::string_view::npos && ::stat(std::string(path).c_str(), &found) == 0;
 }
 
+bool PosixFiles::IsReadableByOthers(std::string_view path)
+{
+    struct stat found = {};
+    return path.find('\0') == std::string_view::npos && ::stat(std::string(path).c_str(), &found) == 0 &&
+           (found.st_mode & (S_IRGRP | S_IROTH)) != 0;
+}
+
 } // namespace ruvenmark

@@ -38,6 +38,8 @@ public:
     virtual std::unique_ptr<IByteStream> OpenStream(std::string_view path) = 0;
     virtual void Remove(std::string_view path) = 0; // A missing file is no failure.
     virtual bool Exists(std::string_view path) = 0;
+    // Whether anybody but the owner may read it; a missing file, nobody.
+    virtual bool IsReadableByOthers(std::string_view path) = 0;
 };
 
 // The machine's files, by POSIX. No call waits for another program.
@@ -48,6 +50,7 @@ public:
     std::unique_ptr<IByteStream> OpenStream(std::string_view path) override;
     void Remove(std::string_view path) override;
     bool Exists(std::string_view path) override;
+    bool IsReadableByOthers(std::string_view path) override;
 };
 
 // The most bytes that a file of this kind can sensibly have.

@@ -24,6 +24,18 @@ void StatusBar::SetPanel(Panel panel, std::string_view text)
         Changed.Raise();
 }
 
+void StatusBar::SetPanelTip(Panel panel, std::string_view text)
+{
+    if (Renew(m_tips[static_cast<std::size_t>(panel)], text))
+        Changed.Raise();
+}
+
+void StatusBar::SetPanelWarning(Panel panel, bool bWarning)
+{
+    if (Renew(m_warnings[static_cast<std::size_t>(panel)], bWarning))
+        Changed.Raise();
+}
+
 void StatusBar::SetPacketLine(std::string_view text)
 {
     const bool bNoticeEnds = Renew(m_notice, std::string_view());

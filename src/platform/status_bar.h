@@ -18,6 +18,12 @@ public:
     void SetPanel(Panel panel, std::string_view text);
     const std::string& PanelText(Panel panel) const { return m_panels[static_cast<std::size_t>(panel)]; }
 
+    // What is to be known beyond the text, and whether it calls for a look.
+    void SetPanelTip(Panel panel, std::string_view text);
+    const std::string& PanelTip(Panel panel) const { return m_tips[static_cast<std::size_t>(panel)]; }
+    void SetPanelWarning(Panel panel, bool bWarning);
+    bool IsPanelWarning(Panel panel) const { return m_warnings[static_cast<std::size_t>(panel)]; }
+
     void SetPacketLine(std::string_view text);
     const std::string& PacketLine() const { return m_packetLine; }
 
@@ -42,6 +48,8 @@ public:
 
 private:
     std::array<std::string, 5> m_panels;
+    std::array<std::string, 5> m_tips;
+    std::array<bool, 5> m_warnings{};
     std::string m_packetLine;
     std::string m_notice;
     std::string m_coordinates;

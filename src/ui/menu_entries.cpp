@@ -1,4 +1,5 @@
 #include "links/monitors.h"
+#include "links/server_link.h"
 #include "links/station_files.h"
 #include "links/tnc_link.h"
 #include "map/documents.h"
@@ -126,6 +127,8 @@ constexpr std::array kEntries = {
                   rules::TickRegion<kRegionEurope>},
 
     MenuEntryInfo{E::mnuConnect, "mnuConnect", "Connect &TNC...", "", false, ConnectTnc, rules::NameConnectTnc},
+    MenuEntryInfo{E::mnuConnectServer, "mnuConnectServer", "Connect &APRS Server...", "", false, mnuConnectServer_Click,
+                  rules::NameServer},
 
     MenuEntryInfo{E::mnuToolsFilter, "mnuToolsFilter", "&Filters...", "", false, mnuToolsFilter_Click},
     MenuEntryInfo{E::mnuTrackedStations, "mnuTrackedStations", "&Track List...", "", false, mnuTrackedStations_Click},

@@ -64,7 +64,7 @@ constexpr std::array kMapToolbars = {MenuPlace{E::mnuStandardToolbar}, MenuPlace
 
 constexpr std::array kRegionMenu = {MenuPlace{E::mnuRegionNorthAmerica}, MenuPlace{E::mnuRegionEurope}};
 
-constexpr std::array kComm = {MenuPlace{E::mnuConnect}};
+constexpr std::array kComm = {MenuPlace{E::mnuConnect}, MenuPlace{E::mnuConnectServer}};
 
 constexpr std::array kTools = {
     MenuPlace{E::mnuToolsFilter},        MenuPlace{E::mnuTrackedStations}, kLine, MenuPlace{E::mnuToolsStationTracking},
@@ -81,7 +81,7 @@ constexpr std::array kStation = {
     MenuPlace{E::mnuShowRange},        MenuPlace{E::mnuHideRange},   kLine,
     MenuPlace{E::mnuRemoveStation}};
 
-constexpr std::array kRoot = {MenuPlace{E::mnuPopupConnect, Menu::None, kRfRoot},
+constexpr std::array kRoot = {MenuPlace{E::mnuPopupConnect, Menu::None, kRfRoot | kTcpRoot},
                               MenuPlace{E::mnuPopupToggleFilter, Menu::None, kChannelRoots},
                               MenuPlace{E::mnuPopupEditFilter, Menu::None, kChannelRoots},
                               MenuPlace{E::mnuClearReports, Menu::None, kChannelRoots},
@@ -107,7 +107,7 @@ constexpr std::array kMenus = {
     MenuInfo{Menu::File, "&File", kFile},
     MenuInfo{Menu::Edit, "&Edit", kEdit},
     MenuInfo{Menu::View, "&View", kView},
-    MenuInfo{Menu::Comm, "&Communication", kComm},
+    MenuInfo{Menu::Communication, "&Communication", kComm},
     MenuInfo{Menu::Tools, "&Tools", kTools},
     MenuInfo{Menu::Help, "&Help", kHelp},
     MenuInfo{Menu::MapFont, "Map &Font", kMapFont},

@@ -49,6 +49,12 @@ void NameConnectTnc(const MenuContext& at, MenuEntryState& state)
         state.caption = "Disconnect &TNC";
 }
 
+void NameServer(const MenuContext& at, MenuEntryState& state)
+{
+    if (at.main.links.bServerConnected)
+        state.caption = "Disconnect &APRS Server";
+}
+
 void OnTracks(const MenuContext& at, MenuEntryState& state)
 {
     const auto& channels = at.main.channels;

@@ -15,6 +15,7 @@ void OnSelection(const MenuContext& at, MenuEntryState& state);
 void OnPaste(const MenuContext& at, MenuEntryState& state);
 void OnDirectionsText(const MenuContext& at, MenuEntryState& state);
 void OnLoading(const MenuContext& at, MenuEntryState& state);
+void NameServer(const MenuContext& at, MenuEntryState& state);
 void OnTracks(const MenuContext& at, MenuEntryState& state);
 void TickTiles(const MenuContext& at, MenuEntryState& state);
 void TickTileFile(const MenuContext& at, MenuEntryState& state);

@@ -3,6 +3,7 @@
 #include "core/main_window.h"
 #include "core/tree_selection.h"
 #include "intake/station_store.h"
+#include "links/server_link.h"
 #include "links/tnc_link.h"
 #include "map/markers.h"
 #include "map/range_circles.h"
@@ -186,6 +187,8 @@ void mnuPopupConnect_Click(MainWindow& main)
 {
     if (SelectedChannel(main) == Channel::RF)
         ConnectTnc(main);
+    else if (SelectedChannel(main) == Channel::TCP)
+        mnuConnectServer_Click(main);
 }
 
 void mnuPopupToggleFilter_Click(MainWindow& main)

@@ -129,6 +129,7 @@ class MemoryFiles final : public IFiles {
 public:
     std::map<std::string, std::string, std::less<>> texts; // By path.
     std::set<std::string, std::less<>> unreadable;         // Paths that are there but cannot be read.
+    std::set<std::string, std::less<>> open;               // Paths that others may read.
     int writes = 0;                                        // So far, failed ones included.
 
     // The nth write from now on fails and leaves the file as it was; 1 is the next.
@@ -155,6 +156,7 @@ public:
     }
     void Remove(std::string_view path) override { texts.erase(std::string(path)); }
     bool Exists(std::string_view path) override { return texts.contains(path); }
+    bool IsReadableByOthers(std::string_view path) override { return open.contains(path); }
 
 private:
     int m_failingWrite = 0;

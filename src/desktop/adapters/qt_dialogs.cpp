@@ -7,6 +7,7 @@
 #include "desktop/dialogs/frm_filter_dialog.h"
 #include "desktop/dialogs/frm_import_dialog.h"
 #include "desktop/dialogs/frm_region_dialog.h"
+#include "desktop/dialogs/frm_tcp_dialog.h"
 #include "desktop/dialogs/frm_track_list_dialog.h"
 #include "desktop/dialogs/monitor_dialog.h"
 
@@ -57,6 +58,7 @@ std::unique_ptr<FormDialog> QtDialogs::Make(Form form, MainWindow& main) const
         return std::make_unique<MonitorDialog>(main.monitors.txtTCPData, MonitorTexts{"TCP Data", "txtTCPData"},
                                                m_window);
     case Form::frmTcp:
+        return std::make_unique<FrmTcpDialog>(main, m_window);
     case Form::frmGps:
     case Form::frmWx:
     case Form::frmGpsPanel:

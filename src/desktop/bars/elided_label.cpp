@@ -1,6 +1,8 @@
 #include "desktop/bars/elided_label.h"
 
+#include <QColor>
 #include <QPainter>
+#include <QStringList>
 #include <QStyle>
 
 #include <algorithm>
@@ -11,6 +13,8 @@ namespace {
 
 constexpr int kMargin = 6;
 constexpr int kLeastCharacters = 6, kMostCharacters = 32; // Of the width that is asked for.
+
+const QColor kWarningColor(0xE0, 0xA8, 0x3C); // Amber, readable on the dark bar.
 
 } // namespace
 
@@ -30,6 +34,34 @@ void ElidedLabel::SetText(const QString& text)
     update();
 }
 
+void ElidedLabel::SetTip(const QString& tip)
+{
+    if (tip == m_tip)
+        return;
+    m_tip = tip;
+    setAccessibleDescription(tip);
+    RefreshTip();
+}
+
+void ElidedLabel::SetWarning(bool bWarning)
+{
+    if (bWarning == m_bWarning)
+        return;
+    m_bWarning = bWarning;
+    QPalette colors;
+    if (bWarning)
+        colors.setColor(foregroundRole(), kWarningColor);
+    setPalette(colors);
+    RefreshTip();
+    updateGeometry();
+    update();
+}
+
+QString ElidedLabel::Shown() const
+{
+    return m_bWarning ? QStringLiteral("\u26A0 ") + m_text : m_text;
+}
+
 QSize ElidedLabel::sizeHint() const
 {
     const int character = fontMetrics().averageCharWidth();
@@ -47,7 +79,7 @@ void ElidedLabel::paintEvent(QPaintEvent* event)
     QFrame::paintEvent(event);
     QPainter painter(this);
     const QRect inside = contentsRect().adjusted(kMargin, 0, -kMargin, 0);
-    const QString shown = fontMetrics().elidedText(m_text, Qt::ElideRight, inside.width());
+    const QString shown = fontMetrics().elidedText(Shown(), Qt::ElideRight, inside.width());
     style()->drawItemText(&painter, inside, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
                           foregroundRole());
 }
@@ -60,14 +92,20 @@ void ElidedLabel::resizeEvent(QResizeEvent* event)
 
 int ElidedLabel::TextWidth() const
 {
-    return fontMetrics().horizontalAdvance(m_text) + 2; // Advances are rounded.
+    return fontMetrics().horizontalAdvance(Shown()) + 2; // Advances are rounded.
 }
 
-// The whole text where it is cut; escaped, for tips guess whether a text is rich.
+// The whole text where it is cut, and the tip; escaped, for tips guess whether a text is rich.
 void ElidedLabel::RefreshTip()
 {
     const bool bCut = TextWidth() > contentsRect().width() - 2 * kMargin;
-    setToolTip(bCut ? QStringLiteral("<span>") + m_text.toHtmlEscaped() + QStringLiteral("</span>") : QString());
+    QStringList lines;
+    if (bCut)
+        lines << m_text.toHtmlEscaped();
+    if (!m_tip.isEmpty())
+        lines << m_tip.toHtmlEscaped();
+    const QString text = lines.join(QStringLiteral("<br>"));
+    setToolTip(text.isEmpty() ? text : QStringLiteral("<span>") + text + QStringLiteral("</span>"));
 }
 
 } // namespace ruvenmark

@@ -75,8 +75,12 @@ void StatusBarView::OnChanged()
 
 void StatusBarView::Refresh()
 {
-    for (std::size_t i = 0; i < m_panels.size(); ++i)
-        m_panels[i]->SetText(ForDisplay(m_model.PanelText(static_cast<Panel>(i))));
+    for (std::size_t i = 0; i < m_panels.size(); ++i) {
+        const auto panel = static_cast<Panel>(i);
+        m_panels[i]->SetText(ForDisplay(m_model.PanelText(panel)));
+        m_panels[i]->SetTip(ForDisplay(m_model.PanelTip(panel)));
+        m_panels[i]->SetWarning(m_model.IsPanelWarning(panel));
+    }
     const std::string& notice = m_model.Notice();
     m_packet->SetText(ForDisplay(notice.empty() ? m_model.PacketLine() : notice));
     m_progress->setValue(m_model.Progress());

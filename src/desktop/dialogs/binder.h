@@ -43,16 +43,15 @@ public:
         Add([&list, &field] { list.setCurrentIndex(field >= 0 && field < list.count() ? field : -1); });
     }
 
-    // The text of an editable one, chosen or typed.
-    void Bind(QComboBox& box, std::string& field)
+    // The text of an editable list, typed or chosen.
+    void Bind(QComboBox& list, std::string& field)
     {
-        QObject::connect(box.lineEdit(), &QLineEdit::textEdited, &box,
-                         [&field](const QString& text) { field = text.toStdString(); });
-        QObject::connect(&box, &QComboBox::activated, &box,
-                         [&box, &field] { field = box.currentText().toStdString(); });
-        Add([&box, &field] {
-            if (const QString text = ForDisplay(field); box.currentText() != text)
-                box.setEditText(text);
+        const auto take = [&list, &field] { field = list.currentText().toStdString(); };
+        QObject::connect(list.lineEdit(), &QLineEdit::textEdited, &list, take);
+        QObject::connect(&list, &QComboBox::activated, &list, take);
+        Add([&list, &field] {
+            if (const QString text = ForDisplay(field); list.currentText() != text)
+                list.setEditText(text);
         });
     }
 

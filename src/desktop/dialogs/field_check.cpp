@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QFocusEvent>
 #include <QLineEdit>
 
@@ -9,7 +10,18 @@
 
 namespace ruvenmark {
 
-FieldCheck::FieldCheck(QLineEdit& field, QAbstractButton& cancel, std::function<bool()> mayLeave)
+namespace {
+
+void SelectAll(QWidget& field)
+{
+    const auto* list = qobject_cast<QComboBox*>(&field);
+    if (auto* line = list ? list->lineEdit() : qobject_cast<QLineEdit*>(&field))
+        line->selectAll();
+}
+
+} // namespace
+
+FieldCheck::FieldCheck(QWidget& field, QAbstractButton& cancel, std::function<bool()> mayLeave)
     : QObject(&field), m_field(field), m_cancel(cancel), m_mayLeave(std::move(mayLeave))
 {
     field.installEventFilter(this);
@@ -36,7 +48,7 @@ void FieldCheck::Check()
         return;
     if (!m_mayLeave()) {
         m_field.setFocus();
-        m_field.selectAll();
+        SelectAll(m_field);
     }
 }
 

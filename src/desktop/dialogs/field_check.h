@@ -5,7 +5,7 @@
 #include <functional>
 
 class QAbstractButton;
-class QLineEdit;
+class QWidget;
 
 namespace ruvenmark {
 
@@ -14,14 +14,14 @@ namespace ruvenmark {
 class FieldCheck final : public QObject {
 public:
     // `mayLeave` tells what is wrong, if anything, and whether the focus may go on. Lives as long as the field.
-    FieldCheck(QLineEdit& field, QAbstractButton& cancel, std::function<bool()> mayLeave);
+    FieldCheck(QWidget& field, QAbstractButton& cancel, std::function<bool()> mayLeave);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void Check();
 
-    QLineEdit& m_field;
+    QWidget& m_field; // A line, or a list with one.
     QAbstractButton& m_cancel;
     std::function<bool()> m_mayLeave;
 };

@@ -1,0 +1,272 @@
+#include "links/server_form_rules.h"
+#include "links/server_link.h"
+#include "links/server_password.h"
+#include "support/test_program.h"
+#include "ui/menus.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace ruvenmark {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr const char* kClosed = "APRS server connection closed";
+constexpr const char* kFailed = "APRS server connection failed";
+
+class ServerLinkTest : public testing::Test {
+protected:
+    TestProgram program;
+    MainWindow& main = program.main;
+    ServerForm& form = main.frmTcp;
+
+    ServerLinkTest()
+    {
+        SetSetting(main.Settings, Setting::Call, "w1aw-7");
+        form.sServerAddress = "prime";
+        form.iServerPort = 14580;
+        form.sBackupServer = "spare";
+        form.iBackupPort = 10152;
+    }
+    const std::string& Shown() const { return main.sbStatusBar.PanelText(Panel::Server); }
+    const std::string& TipText() const { return main.sbStatusBar.PanelTip(Panel::Server); }
+    // The loss is held back for five seconds after the connect.
+    void Lose()
+    {
+        program.wires.Lose();
+        program.wires.Tick(5s);
+    }
+};
+
+TEST_F(ServerLinkTest, LogsInWithTheExactLine)
+{
+    ConnectServerLink(main);
+    EXPECT_EQ(program.wires.opened, "connect prime 14580 15");
+    EXPECT_EQ(program.wires.Written(), "user w1aw-7 pass -1 vers Ruvenmark 1.0\r\n"); // No blank behind it.
+    EXPECT_EQ(Shown(), "Connected to prime:14580");
+    EXPECT_TRUE(main.links.bLoginSent);
+    EXPECT_FALSE(main.sbStatusBar.IsWaitPointer());
+
+    mnuConnectServer_Click(main);
+    program.files.texts["/program/igatepw.txt"] = "W1AW:25988";
+    form.sServerFilter = " filter r/41/-72/100"; // Not trimmed: what it says is the operator's affair.
+    ConnectServerLink(main);
+    EXPECT_EQ(program.wires.Written(), "user w1aw-7 pass 25988 vers Ruvenmark 1.0  filter r/41/-72/100\r\n");
+}
+
+TEST_F(ServerLinkTest, StaysSilentWithoutACall)
+{
+    SetSetting(main.Settings, Setting::Call, "");
+    ConnectServerLink(main);
+    EXPECT_TRUE(main.links.bServerConnected);
+    EXPECT_FALSE(main.links.bLoginSent);
+    EXPECT_EQ(program.wires.Written(), "");
+}
+
+TEST_F(ServerLinkTest, FindsThePassword)
+{
+    const auto of = [&](const std::string& text, std::string_view call) {
+        program.files.texts["/program/igatepw.txt"] = text;
+        return GetServerPassword(main, call);
+    };
+    EXPECT_EQ(GetServerPassword(main, "W1AW"), "-1"); // No file.
+    EXPECT_EQ(of("k1abc:1\r\nw1aw:aB", "W1aw-15"), "aB");
+    EXPECT_EQ(of("W1AW:1\nW1AW:2:x", "W1AW"), "2");
+    EXPECT_EQ(of("W1AW-7:1", "W1AW-7"), "-1");              // Calls stand without their secondary ID.
+    EXPECT_EQ(of("W1AW:1\nno colon\nW1AW:2", "W1AW"), "1"); // What stands before the broken line holds.
+    EXPECT_EQ(of("no colon\nW1AW:2", "W1AW"), "-1");
+}
+
+TEST_F(ServerLinkTest, WarnsOnceOfAPasswordThatOthersCanRead)
+{
+    program.files.texts["/program/igatepw.txt"] = "W1AW:s3cret";
+    program.files.open.insert("/program/igatepw.txt");
+    program.notices.lines.clear();
+    GetServerPassword(main, "W1AW");
+    GetServerPassword(main, "W1AW");
+    ASSERT_EQ(program.notices.lines.size(), 1U);
+    EXPECT_EQ(program.notices.lines[0].find("s3cret"), std::string::npos);
+}
+
+TEST_F(ServerLinkTest, TogglesByTheDialog)
+{
+    mnuConnectServer_Click(main); // Cancelled.
+    EXPECT_FALSE(main.links.bServerConnected);
+
+    program.dialogs.onRun[Form::frmTcp] = [](MainWindow& at) { EXPECT_TRUE(frmTcp_Accept(at)); };
+    const auto caption = [&] {
+        return FindState(MenuItems(main, Menu::Communication), MenuEntry::mnuConnectServer)->caption;
+    };
+    EXPECT_EQ(caption(), "Connect &APRS Server...");
+    mnuConnectServer_Click(main);
+    EXPECT_TRUE(main.links.bServerConnected);
+    EXPECT_EQ(caption(), "Disconnect &APRS Server");
+
+    main.links.ReconnectCount = 2;
+    mnuConnectServer_Click(main);
+    EXPECT_FALSE(main.links.bServerConnected);
+    EXPECT_FALSE(program.wires.IsKept());
+    EXPECT_EQ(Shown(), kClosed);
+    EXPECT_EQ(main.links.ReconnectCount, 2);
+}
+
+TEST_F(ServerLinkTest, GoesToTheBackupOnTheFourthLossAndStaysThere)
+{
+    form.bReconnectServer = true;
+    form.iReconnectAttempt = 3;
+    form.sBackupFilter = "filter t/m";
+    ConnectServerLink(main);
+    for (const char* mark : {"[1]", "[2]", "[3]"}) {
+        Lose();
+        EXPECT_EQ(Shown(), std::string("Connected to prime:14580 ") + mark);
+        EXPECT_TRUE(program.wires.Written().starts_with("user "));
+    }
+    for (int loss = 4; loss < 6; ++loss) { // A reconnect that went well clears nothing.
+        Lose();
+        EXPECT_EQ(Shown(), "Connected to spare:10152 [B]");
+        EXPECT_TRUE(program.wires.Written().ends_with(" filter t/m\r\n"));
+    }
+    EXPECT_EQ(program.wires.opened, "connect spare 10152 15");
+    EXPECT_EQ(main.links.ReconnectCount, 5);
+
+    mnuConnectServer_Click(main);
+    ConnectServerLink(main);
+    EXPECT_EQ(main.links.ReconnectCount, 0);
+}
+
+TEST_F(ServerLinkTest, EndsWhereNothingIsLeftToTry)
+{
+    ConnectServerLink(main); // Reconnecting is off.
+    Lose();
+    EXPECT_EQ(Shown(), kFailed);
+    EXPECT_EQ(main.links.ReconnectCount, 0);
+    EXPECT_FALSE(main.links.aprstcp);
+
+    form.bReconnectServer = true;
+    form.iBackupPort = -1;
+    ConnectServerLink(main);
+    program.notices.lines.clear();
+    Lose();
+    EXPECT_EQ(Shown(), kFailed);
+    EXPECT_FALSE(main.links.bServerConnected);
+    EXPECT_TRUE(program.notices.lines.empty());
+}
+
+TEST_F(ServerLinkTest, ARefusalEndsTheChain)
+{
+    form.bReconnectServer = true;
+    form.iReconnectAttempt = 3;
+    main.mpCtrl.SetMousePointer(kPointerCross);
+    ConnectServerLink(main);
+    program.wires.bRefuse = true;
+    Lose();
+    program.wires.Tick(60s);
+    EXPECT_EQ(Shown(), kFailed);
+    EXPECT_EQ(main.links.ReconnectCount, 1);
+    EXPECT_FALSE(main.links.bServerConnected);
+    EXPECT_EQ(main.sbStatusBar.Notice(), "APRS server connection failed: refused");
+    EXPECT_FALSE(main.sbStatusBar.IsWaitPointer());
+    EXPECT_EQ(main.mpCtrl.MousePointer(), kPointerCross); // A click is still waited for.
+}
+
+TEST_F(ServerLinkTest, ALoginThatCannotBeSentEndsTheLink)
+{
+    form.sServerFilter = std::string(600, 'x');
+    ConnectServerLink(main);
+    EXPECT_EQ(Shown(), kFailed);
+    EXPECT_FALSE(program.wires.IsKept());
+    EXPECT_EQ(TipText(), "");
+}
+
+TEST_F(ServerLinkTest, TellsWhetherTheServerPassesOnWhatIsSent)
+{
+    ConnectServerLink(main);
+    EXPECT_EQ(TipText(), "Connected since 2026-11-22 20:15:03; 0 lines heard; login not answered yet");
+    program.wires.Say("# logresp w1aw-7 verified, server T2LOOP\r\n");
+    EXPECT_EQ(TipText(), "Connected since 2026-11-22 20:15:03; 1 line heard, the last one at 20:15:03; server T2LOOP; "
+                         "login verified");
+    EXPECT_FALSE(main.sbStatusBar.IsPanelWarning(Panel::Server));
+
+    program.notices.lines.clear();
+    program.wires.Say("# Parse errors on filter spec: 'zz/1'\r\n# Invalid login: user w1aw pass 25988 vers x\r\n");
+    program.wires.Say("# logresp w1aw-7 unverified, server T2LOOP\r\n# logresp w1aw-7 unverified, server T2LOOP\r\n");
+    EXPECT_TRUE(main.sbStatusBar.IsPanelWarning(Panel::Server));
+    EXPECT_EQ(
+        program.notices.lines,
+        (std::vector<std::string>{"The APRS server says: Parse errors on filter spec: 'zz/1'",
+                                  "The APRS server says: Invalid login: user w1aw pass ... vers x",
+                                  "The APRS server has not verified the login: nothing that is sent is passed on"}));
+    EXPECT_EQ(TipText().find("25988"), std::string::npos);
+
+    mnuConnectServer_Click(main);
+    EXPECT_EQ(TipText(), "");
+    EXPECT_FALSE(main.sbStatusBar.IsPanelWarning(Panel::Server));
+}
+
+TEST_F(ServerLinkTest, StopClosesTheLink)
+{
+    ConnectServerLink(main);
+    EXPECT_EQ(StopMainWindow(main, MayAsk::No), StopResult::Stopped);
+    EXPECT_FALSE(program.wires.IsKept());
+    EXPECT_FALSE(main.links.bServerConnected);
+}
+
+TEST_F(ServerLinkTest, DialogShowsAndTakesTheFields)
+{
+    form.sBackupServer = " spare ";
+    form.iReconnectAttempt = 3;
+    frmTcp_Load(form);
+    EXPECT_EQ(form.cboPort, "14580");
+    EXPECT_EQ(form.cboBackupServer, ""); // Only with the tick.
+    form.chkReconnect = true;
+    frmTcp_chkReconnect_Click(form);
+    EXPECT_EQ(form.cboBackupServer, "spare");
+    EXPECT_EQ(form.txtNumber, "3");
+
+    form.cboServer = " prime ";
+    form.cboBackupServer = " other ";
+    form.cboBackupPort = " ";
+    form.txtNumber = "";
+    ASSERT_TRUE(frmTcp_Accept(main));
+    EXPECT_FALSE(form.bCancel);
+    EXPECT_EQ(form.sServerAddress, " prime ");
+    EXPECT_EQ(form.sBackupServer, "other");
+    EXPECT_EQ(form.iBackupPort, -1);
+    EXPECT_EQ(form.iReconnectAttempt, 0);
+    EXPECT_TRUE(main.serverLists.ServerList.Contains(" other "));
+    EXPECT_TRUE(main.serverLists.ServerList.Contains(" prime "));
+    EXPECT_TRUE(main.serverLists.PortList.Contains("14580"));
+}
+
+TEST_F(ServerLinkTest, DialogStaysOpenForWhatIsNoPort)
+{
+    struct Case {
+        std::string ServerForm::*field;
+        const char* text;
+        const char* message;
+    };
+    constexpr const char* kMissing = "You must enter a server address and port number!";
+    constexpr const char* kPort = "Please enter a positive interger port number!";
+    constexpr const char* kBackupPort = "Please enter a positive interger backup port number!";
+    constexpr const char* kNumber = "Please enter a positive interger for number of attempts!";
+    for (const Case& row :
+         {Case{&ServerForm::cboServer, "", kMissing}, Case{&ServerForm::cboPort, "", kMissing},
+          Case{&ServerForm::cboPort, "-1", kPort}, Case{&ServerForm::cboPort, "http", kPort},
+          Case{&ServerForm::cboPort, "40000", kPort}, // No 16-bit number.
+          Case{&ServerForm::cboBackupPort, "x", kBackupPort}, Case{&ServerForm::txtNumber, "-2", kNumber}}) {
+        frmTcp_Load(form);
+        form.chkReconnect = true;
+        form.*row.field = row.text;
+        program.prompts.messages.clear();
+        EXPECT_FALSE(frmTcp_Accept(main));
+        EXPECT_EQ(program.prompts.messages, std::vector<std::string>{row.message}) << row.text;
+        EXPECT_TRUE(form.bCancel);
+        EXPECT_EQ(form.iServerPort, 14580);
+    }
+    EXPECT_EQ(frmTcp_cboPort_LostFocus(form), "");
+}
+
+} // namespace
+} // namespace ruvenmark
