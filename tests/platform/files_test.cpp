@@ -198,6 +198,16 @@ TEST_F(PosixFilesTest, SettingsAreForThisUserAlone)
     EXPECT_EQ(Mode(In("old")), 0600U);
 }
 
+TEST_F(PosixFilesTest, KnowsWhoMayRead)
+{
+    files.WriteText("x", In("secret"), FileKind::List);
+    for (const auto& [rights, bOthers] : {std::pair{0600U, false}, {0640U, true}, {0604U, true}, {0622U, false}}) {
+        ASSERT_EQ(::chmod(In("secret").c_str(), rights), 0);
+        EXPECT_EQ(files.IsReadableByOthers(In("secret")), bOthers) << rights;
+    }
+    EXPECT_FALSE(files.IsReadableByOthers(In("missing")));
+}
+
 TEST_F(PosixFilesTest, OneProgramAtATimeHoldsALock)
 {
     fs::create_symlink("s.ini", In("link"));
