@@ -15,6 +15,7 @@ enum class Part : std::uint8_t {
     ServerLists,
     Filters,
     Comm, // commDialog.
+    Gps,
     UnknownFolders,
     TrackLists,
     FileLoad,

@@ -9,6 +9,7 @@
 #include "core/stored_settings.h"
 #include "core/window_state.h"
 #include "links/gps_form.h"
+#include "links/gps_panel_state.h"
 #include "links/gps_state.h"
 #include "links/import_form.h"
 #include "links/monitor_state.h"
@@ -55,6 +56,7 @@ struct MainWindow {
     ServerLists serverLists;
     ServerStatus serverStatus;
     GpsForm frmGps;
+    GpsPanelState frmGpsPanel;
     WxForm frmWx;
     GpsState gps;
     MonitorState monitors;

@@ -8,16 +8,21 @@ namespace ruvenmark {
 
 std::string StoredSettings::Text(Setting setting)
 {
+    return Readable(setting, DefaultOf(setting));
+}
+
+std::string StoredSettings::Readable(Setting setting, std::string absent)
+{
     const SettingInfo& info = Info(setting);
-    std::string text = m_store.Get(info.key, DefaultOf(setting));
+    std::string text = m_store.Get(info.key, absent);
     if (IsReadable(info.kind, text))
         return text;
     const auto place = static_cast<std::size_t>(setting);
     if (!m_unreadable[place])
-        m_notices.Say("setting " + std::string(info.key) + ": '" + text + "' cannot be used, '" + DefaultOf(setting) +
+        m_notices.Say("setting " + std::string(info.key) + ": '" + text + "' cannot be used, '" + absent +
                       "' is taken");
     m_unreadable.set(place);
-    return DefaultOf(setting);
+    return absent;
 }
 
 bool StoredSettings::Flag(Setting setting)
@@ -28,6 +33,11 @@ bool StoredSettings::Flag(Setting setting)
 std::int16_t StoredSettings::Int16(Setting setting)
 {
     return ToInt16(Text(setting));
+}
+
+std::int16_t StoredSettings::Int16(Setting setting, std::int16_t absent)
+{
+    return ToInt16(Readable(setting, ShortText(std::int64_t{absent})));
 }
 
 std::int32_t StoredSettings::Int32(Setting setting)

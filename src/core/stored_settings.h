@@ -24,6 +24,8 @@ public:
     // The setting's kind promises that these can be read.
     bool Flag(Setting setting);
     std::int16_t Int16(Setting setting);
+    // For a value that its readers share, each with a default of its own.
+    std::int16_t Int16(Setting setting, std::int16_t absent);
     std::int32_t Int32(Setting setting);
     double Number(Setting setting);
 
@@ -35,6 +37,8 @@ public:
     void Flush();
 
 private:
+    std::string Readable(Setting setting, std::string absent);
+
     ISettingsStore& m_store;
     INotices& m_notices;
     std::bitset<kSettingCount> m_unreadable;

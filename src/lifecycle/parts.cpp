@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "core/notices.h"
+#include "links/gps_form_rules.h"
 #include "links/import_form_rules.h"
 #include "links/server_lists.h"
 #include "links/tnc_form_rules.h"
@@ -97,6 +98,7 @@ constexpr std::array kParts = {
     PartInfo{Part::ServerLists, "The lists of servers", LoadServerLists, SaveServerLists},
     PartInfo{Part::Filters, "The filters", LoadFilters, SaveFilters},
     PartInfo{Part::Comm, "The settings of the TNC", LoadCommSettings, SaveCommSettings},
+    PartInfo{Part::Gps, "The settings of the GPS receiver", LoadGpsSettings, SaveGpsSettings},
     PartInfo{Part::UnknownFolders, "The settings of the folders", LoadUnknownFolders, SaveUnknownFolders},
     PartInfo{Part::TrackLists, "The track lists", LoadTrackLists, SaveTrackLists},
     PartInfo{Part::FileLoad, "The settings of file loads", LoadImportSettings, SaveImportSettings},

@@ -4,6 +4,7 @@
 #include "core/notices.h"
 #include "intake/station_store.h"
 #include "lifecycle/parts.h"
+#include "links/gps_link.h"
 #include "links/report_sinks.h"
 #include "links/server_link.h"
 #include "links/tnc_link.h"
@@ -43,6 +44,8 @@ void AutoConnectLinks(MainWindow& main)
 {
     if (main.commDialog.bAutoConnect)
         main.commDialog.bAutoSerialPort ? ConnectSerialTnc(main) : ConnectAgw(main);
+    if (main.frmGps.bAutoGPS)
+        ConnectGps(main);
     if (main.frmTcp.bAutoTCP)
         ConnectServerLink(main);
 }
@@ -56,8 +59,8 @@ void StartSubsystems(MainWindow& main, AutoConnect autoConnect)
     LoadPart(main, Part::Follow);
     main.tracking.NewMarkerBalloon = 1;
     main.sbStatusBar.SetPanel(Panel::Tnc, "TNC not connected");
-    for (const Part part : {Part::ServerLists, Part::Filters, Part::Comm, Part::UnknownFolders, Part::TrackLists,
-                            Part::FileLoad, Part::Tiles})
+    for (const Part part : {Part::ServerLists, Part::Filters, Part::Comm, Part::Gps, Part::UnknownFolders,
+                            Part::TrackLists, Part::FileLoad, Part::Tiles})
         LoadPart(main, part);
     ShowOwnCall(main);
     main.window.caption = kProgramName;

@@ -3,6 +3,7 @@
 #include "core/main_window.h"
 #include "core/notices.h"
 #include "lifecycle/parts.h"
+#include "links/gps_link.h"
 #include "links/monitors.h"
 #include "links/server_link.h"
 #include "links/tnc_link.h"
@@ -28,6 +29,7 @@ bool SettleMap(MainWindow& main)
 
 void EndLinks(MainWindow& main)
 {
+    EndGps(main);
     main.links.FileLoading = false;
     main.links.aprsfl.reset();
     CloseTncLink(main);
@@ -48,8 +50,9 @@ bool SaveParts(MainWindow& main)
 {
     bool bAll = SavePart(main, Part::Geometry);
     ReleaseTracks(main);
-    for (const Part part : {Part::Region, Part::Follow, Part::TrackLists, Part::Filters, Part::Settings,
-                            Part::ServerLists, Part::Comm, Part::UnknownFolders, Part::FileLoad, Part::Tiles})
+    for (const Part part :
+         {Part::Region, Part::Follow, Part::TrackLists, Part::Filters, Part::Settings, Part::ServerLists, Part::Comm,
+          Part::Gps, Part::UnknownFolders, Part::FileLoad, Part::Tiles})
         bAll &= SavePart(main, part);
     bAll &= AttemptAloud(main, "The settings could not be saved", [&] { main.stored.Flush(); });
     return bAll;

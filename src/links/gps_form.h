@@ -13,6 +13,11 @@ struct GpsForm {
     bool bTrackGpsPosition = true; // Keep the map on the own marker.
     bool bAutoGPS = false;
     bool bConnect = false; // The dialog was accepted.
+    // What the dialog shows while it is open.
+    std::string cboPort;
+    std::int32_t cboBaud = -1; // Of kGpsBauds.
+    bool chkTracking = true;
+    bool chkAutoGPS = false;
 };
 
 } // namespace ruvenmark

@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "intake/report_handlers.h"
+#include "links/gps_link.h"
 #include "links/monitors.h"
 #include "links/server_link.h"
 #include "links/server_status_rules.h"
@@ -11,7 +12,7 @@ namespace ruvenmark {
 
 namespace {
 
-// Messages and GPS data are taken up with those subsystems.
+// Messages are counted by the log of the raw data only until somebody reads them.
 class ReportSink final : public IReportSink {
 public:
     ReportSink(MainWindow& main, Channel channel) : m_main(main), m_channel(channel) {}
@@ -35,7 +36,11 @@ public:
     void SocketConnectionClosed() override { aprs_SocketConnectionClosed(m_main); }
     void ServerConnectionError() override { aprstcp_ServerConnectionError(m_main); }
     void ReportObjectItem(const ObjectItemReport& report) override { aprs_ReportObjectItem(m_main, m_channel, report); }
-    void ReportGpsData(const GpsReport& /*report*/) override {}
+    void ReportGpsData(const GpsReport& report) override
+    {
+        if (m_channel == Channel::RF)
+            aprs_ReportGpsData(m_main, report);
+    }
     void ReportRawData(std::string_view packet) override
     {
         if (m_channel == Channel::RF)

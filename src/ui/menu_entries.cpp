@@ -1,7 +1,10 @@
+#include "links/gps_link.h"
+#include "links/gps_panel.h"
 #include "links/monitors.h"
 #include "links/server_link.h"
 #include "links/station_files.h"
 #include "links/tnc_link.h"
+#include "links/weather_link.h"
 #include "map/documents.h"
 #include "map/edit_commands.h"
 #include "map/find.h"
@@ -85,6 +88,8 @@ constexpr std::array kEntries = {
                   rules::TickWindow<&WindowState::bLeftPane>},
     MenuEntryInfo{E::mnuViewMap, "mnuViewMap", "&Map", "", true, mnuViewMap_Click,
                   rules::TickWindow<&WindowState::bMapTicked>},
+    MenuEntryInfo{E::mnuViewGPSPanel, "mnuViewGPSPanel", "GPS &Panel", "", true, mnuViewGPSPanel_Click,
+                  rules::TickForm<Form::frmGpsPanel>},
     MenuEntryInfo{E::mnuOnlineTiles, "mnuOnlineTiles", "&Online Tiles", "", true, mnuOnlineTiles_Click,
                   rules::TickTiles},
     MenuEntryInfo{E::mnuTileFile, "mnuTileFile", "T&ile File...", "", true, mnuTileFile_Click, rules::TickTileFile},
@@ -129,11 +134,16 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuConnect, "mnuConnect", "Connect &TNC...", "", false, ConnectTnc, rules::NameConnectTnc},
     MenuEntryInfo{E::mnuConnectServer, "mnuConnectServer", "Connect &APRS Server...", "", false, mnuConnectServer_Click,
                   rules::NameServer},
+    MenuEntryInfo{E::mnuConnectGps, "mnuConnectGps", "Connect &GPS...", "", false, mnuConnectGps_Click, rules::NameGps},
+    MenuEntryInfo{E::mnuConnectWx, "mnuConnectWx", "Connect W&x Station...", "", false, mnuConnectWx_Click,
+                  rules::NameWx},
 
     MenuEntryInfo{E::mnuToolsFilter, "mnuToolsFilter", "&Filters...", "", false, mnuToolsFilter_Click},
     MenuEntryInfo{E::mnuTrackedStations, "mnuTrackedStations", "&Track List...", "", false, mnuTrackedStations_Click},
     MenuEntryInfo{E::mnuToolsStationTracking, "mnuToolsStationTracking", "&Shift Map to Tracked Stations", "", true,
                   mnuToolsStationTracking_Click, rules::TickFollow},
+    MenuEntryInfo{E::mnuToolsGpsTracking, "mnuToolsGpsTracking", "Shift Map to &GPS Position", "", true,
+                  mnuToolsGpsTracking_Click, rules::TickGpsTracking},
     MenuEntryInfo{E::mnuToolsShowTrackLine, "mnuToolsShowTrackLine", "Show Track &Lines", "", true,
                   mnuToolsShowTrackLine_Click, rules::TickTrackLine},
     MenuEntryInfo{E::mnuRemoveAllTracks, "mnuRemoveAllTracks", "&Remove All Tracks", "", false,

@@ -39,6 +39,7 @@ constexpr std::array kView = {MenuPlace{E::mnuViewToolbar},
                               MenuPlace{E::mnuTreeView},
                               kLine,
                               MenuPlace{E::mnuViewMap},
+                              MenuPlace{E::mnuViewGPSPanel},
                               kLine,
                               MenuPlace{E::None, Menu::MapStyle},
                               MenuPlace{E::None, Menu::MapFont},
@@ -64,11 +65,18 @@ constexpr std::array kMapToolbars = {MenuPlace{E::mnuStandardToolbar}, MenuPlace
 
 constexpr std::array kRegionMenu = {MenuPlace{E::mnuRegionNorthAmerica}, MenuPlace{E::mnuRegionEurope}};
 
-constexpr std::array kComm = {MenuPlace{E::mnuConnect}, MenuPlace{E::mnuConnectServer}};
+constexpr std::array kCommunication = {MenuPlace{E::mnuConnect}, MenuPlace{E::mnuConnectServer},
+                                       MenuPlace{E::mnuConnectGps}, MenuPlace{E::mnuConnectWx}};
 
-constexpr std::array kTools = {
-    MenuPlace{E::mnuToolsFilter},        MenuPlace{E::mnuTrackedStations}, kLine, MenuPlace{E::mnuToolsStationTracking},
-    MenuPlace{E::mnuToolsShowTrackLine}, MenuPlace{E::mnuRemoveAllTracks}, kLine, MenuPlace{E::mnuDirections}};
+constexpr std::array kTools = {MenuPlace{E::mnuToolsFilter},
+                               MenuPlace{E::mnuTrackedStations},
+                               kLine,
+                               MenuPlace{E::mnuToolsStationTracking},
+                               MenuPlace{E::mnuToolsGpsTracking},
+                               MenuPlace{E::mnuToolsShowTrackLine},
+                               MenuPlace{E::mnuRemoveAllTracks},
+                               kLine,
+                               MenuPlace{E::mnuDirections}};
 
 constexpr std::array kHelp = {MenuPlace{E::mnuRuvenmarkHelp}, kLine, MenuPlace{E::mnuHelpAbout}};
 
@@ -107,7 +115,7 @@ constexpr std::array kMenus = {
     MenuInfo{Menu::File, "&File", kFile},
     MenuInfo{Menu::Edit, "&Edit", kEdit},
     MenuInfo{Menu::View, "&View", kView},
-    MenuInfo{Menu::Communication, "&Communication", kComm},
+    MenuInfo{Menu::Communication, "&Communication", kCommunication},
     MenuInfo{Menu::Tools, "&Tools", kTools},
     MenuInfo{Menu::Help, "&Help", kHelp},
     MenuInfo{Menu::MapFont, "Map &Font", kMapFont},

@@ -55,6 +55,18 @@ void NameServer(const MenuContext& at, MenuEntryState& state)
         state.caption = "Disconnect &APRS Server";
 }
 
+void NameGps(const MenuContext& at, MenuEntryState& state)
+{
+    if (at.main.links.bGpsConnected)
+        state.caption = "Disconnect &GPS";
+}
+
+void NameWx(const MenuContext& at, MenuEntryState& state)
+{
+    if (at.main.links.bWxConnected)
+        state.caption = "Disconnect W&x Station";
+}
+
 void OnTracks(const MenuContext& at, MenuEntryState& state)
 {
     const auto& channels = at.main.channels;
@@ -74,6 +86,11 @@ void TickTileFile(const MenuContext& at, MenuEntryState& state)
 void TickFollow(const MenuContext& at, MenuEntryState& state)
 {
     state.bChecked = at.main.tracking.bTrackStationPosition;
+}
+
+void TickGpsTracking(const MenuContext& at, MenuEntryState& state)
+{
+    state.bChecked = at.main.frmGps.bTrackGpsPosition;
 }
 
 void TickTrackLine(const MenuContext& at, MenuEntryState& state)

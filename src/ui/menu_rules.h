@@ -16,10 +16,13 @@ void OnPaste(const MenuContext& at, MenuEntryState& state);
 void OnDirectionsText(const MenuContext& at, MenuEntryState& state);
 void OnLoading(const MenuContext& at, MenuEntryState& state);
 void NameServer(const MenuContext& at, MenuEntryState& state);
+void NameGps(const MenuContext& at, MenuEntryState& state);
+void NameWx(const MenuContext& at, MenuEntryState& state);
 void OnTracks(const MenuContext& at, MenuEntryState& state);
 void TickTiles(const MenuContext& at, MenuEntryState& state);
 void TickTileFile(const MenuContext& at, MenuEntryState& state);
 void TickFollow(const MenuContext& at, MenuEntryState& state);
+void TickGpsTracking(const MenuContext& at, MenuEntryState& state);
 void TickTrackLine(const MenuContext& at, MenuEntryState& state);
 void TickDirections(const MenuContext& at, MenuEntryState& state);
 
@@ -61,6 +64,12 @@ template <bool WindowState::*kFlag>
 void TickWindow(const MenuContext& at, MenuEntryState& state)
 {
     state.bChecked = at.main.window.*kFlag;
+}
+
+template <Form kForm>
+void TickForm(const MenuContext& at, MenuEntryState& state)
+{
+    state.bChecked = at.main.services.dialogs.IsVisible(kForm);
 }
 
 // --- A station's node

@@ -5,10 +5,13 @@
 #include "desktop/dialogs/comm_dialog.h"
 #include "desktop/dialogs/find_dialog.h"
 #include "desktop/dialogs/frm_filter_dialog.h"
+#include "desktop/dialogs/frm_gps_dialog.h"
+#include "desktop/dialogs/frm_gps_panel.h"
 #include "desktop/dialogs/frm_import_dialog.h"
 #include "desktop/dialogs/frm_region_dialog.h"
 #include "desktop/dialogs/frm_tcp_dialog.h"
 #include "desktop/dialogs/frm_track_list_dialog.h"
+#include "desktop/dialogs/frm_wx_dialog.h"
 #include "desktop/dialogs/monitor_dialog.h"
 
 #include <stdexcept>
@@ -49,6 +52,12 @@ std::unique_ptr<FormDialog> QtDialogs::Make(Form form, MainWindow& main) const
         return std::make_unique<FrmFilterDialog>(main, m_window);
     case Form::frmFind:
         return std::make_unique<FindDialog>(main, m_places, m_window);
+    case Form::frmGps:
+        return std::make_unique<FrmGpsDialog>(main, m_window);
+    case Form::frmWx:
+        return std::make_unique<FrmWxDialog>(main, m_window);
+    case Form::frmGpsPanel:
+        return std::make_unique<FrmGpsPanel>(main, m_window);
     case Form::commDialog:
         return std::make_unique<CommDialog>(main, m_window);
     case Form::frmTnc:
@@ -59,9 +68,6 @@ std::unique_ptr<FormDialog> QtDialogs::Make(Form form, MainWindow& main) const
                                                m_window);
     case Form::frmTcp:
         return std::make_unique<FrmTcpDialog>(main, m_window);
-    case Form::frmGps:
-    case Form::frmWx:
-    case Form::frmGpsPanel:
     case Form::frmPosition:
     case Form::frmWeather:
     case Form::frmStatus:

@@ -1,6 +1,9 @@
 #include "desktop/map/widget/map_widget.h"
+#include "links/gps_link.h"
+#include "links/gps_panel.h"
 #include "links/import_form_rules.h"
 #include "links/station_files.h"
+#include "links/weather_link.h"
 #include "map/find.h"
 #include "tracking/filter_form_rules.h"
 #include "tracking/track_list_form_rules.h"
@@ -9,6 +12,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -225,6 +229,54 @@ TEST_F(DialogsTest, FindOffersWhileTypingAndGoesThereOnEnter)
     QTest::keyClick(&text, Qt::Key_Return);
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(text.text(), QStringLiteral("nowhere at all"));
+}
+
+// The ports of this machine are offered, and any other can be typed.
+TEST_F(DialogsTest, SerialLinksTakeATypedPortAndAChosenRate)
+{
+    WhenModal([&](QDialog& dialog) {
+        ExpectAccessible(dialog);
+        auto& port = program.Find<QComboBox>("cboPort", &dialog);
+        EXPECT_EQ(port.itemText(0), QStringLiteral("/dev/ttyS0"));
+        Button(dialog, "OK").click(); // No port is chosen yet.
+        EXPECT_TRUE(dialog.isVisible());
+        QTest::keyClicks(port.lineEdit(), QStringLiteral("/dev/gps"));
+        QTest::keyClick(&program.Find<QComboBox>("cboBaud", &dialog), Qt::Key_Down);
+        program.Find<QCheckBox>("chkTracking", &dialog).click();
+        Button(dialog, "OK").click();
+    });
+    mnuConnectGps_Click(program.main);
+    EXPECT_EQ(program.wires.opened, "serial /dev/gps 9600");
+    EXPECT_EQ(program.prompts.messages.size(), 1U);
+    EXPECT_FALSE(program.main.frmGps.bTrackGpsPosition);
+    WhenModal([&](QDialog& dialog) {
+        ExpectAccessible(dialog);
+        QTest::keyClick(&program.Find<QComboBox>("cboPort", &dialog), Qt::Key_Down);
+        Button(dialog, "OK").click();
+    });
+    mnuConnectWx_Click(program.main);
+    EXPECT_EQ(program.wires.opened, "serial /dev/ttyS0 2400");
+}
+
+TEST_F(DialogsTest, GpsPanelFollowsTheFixesAndIsHiddenByItsFrame)
+{
+    mnuViewGPSPanel_Click(program.main);
+    QDialog& dialog = Modeless("GPS Panel");
+    ExpectAccessible(dialog);
+    program.main.commDialog.bTncGps = true;
+    aprs_ReportGpsData(program.main, {.lat = 40.5, .lon = -90, .bValid = true});
+    EXPECT_EQ(program.Find<QLabel>("lblLat", &dialog).text(), QStringLiteral("40.5"));
+    Button(dialog, "Command1").click();
+    EXPECT_FALSE(dialog.isVisible());
+    QTest::mouseClick(&program.window.Map(), Qt::LeftButton, {}, program.window.Map().rect().center());
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_FALSE(program.Find<QLabel>("lblDestLat", &dialog).text().isEmpty());
+    Button(dialog, "Command2").click();
+    EXPECT_TRUE(program.Find<QLabel>("lblDestLat", &dialog).text().isEmpty());
+    dialog.close();
+    EXPECT_FALSE(program.dialogs.IsVisible(Form::frmGpsPanel));
+    mnuViewGPSPanel_Click(program.main);
+    EXPECT_TRUE(dialog.isVisible());
 }
 
 TEST_F(DialogsTest, AboutOpensAndCloses)

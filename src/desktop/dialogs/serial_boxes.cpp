@@ -1,0 +1,33 @@
+#include "desktop/dialogs/serial_boxes.h"
+
+#include "desktop/named_control.h"
+#include "desktop/shown_text.h"
+
+#include <QComboBox>
+
+namespace ruvenmark {
+
+QComboBox* MakePortBox(QWidget& parent, const std::vector<std::string>& ports)
+{
+    auto* box = new QComboBox(&parent);
+    NameControl(*box, "cboPort", QStringLiteral("Port"));
+    box->setEditable(true);
+    box->setInsertPolicy(QComboBox::NoInsert);
+    box->setCompleter(nullptr); // It would show more than was typed.
+    box->setMinimumContentsLength(20);
+    for (const std::string& port : ports)
+        box->addItem(ForDisplay(port));
+    box->clearEditText();
+    return box;
+}
+
+QComboBox* MakeBaudBox(QWidget& parent, std::span<const std::int32_t> bauds)
+{
+    auto* box = new QComboBox(&parent);
+    NameControl(*box, "cboBaud", QStringLiteral("Baud rate"));
+    for (const std::int32_t baud : bauds)
+        box->addItem(QString::number(baud));
+    return box;
+}
+
+} // namespace ruvenmark
