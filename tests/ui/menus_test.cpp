@@ -85,7 +85,7 @@ TEST(Menus, ViewTicksWhatShows)
               (std::vector<std::string>{"mnuNavigationToolbar", "mnuDrawingToolbar"}));
     EXPECT_EQ(Ticked(program, Menu::Region), std::vector<std::string>{"mnuRegionNorthAmerica"});
     EXPECT_EQ(Ticked(program, Menu::Tools),
-              (std::vector<std::string>{"mnuToolsStationTracking", "mnuToolsShowTrackLine"}));
+              (std::vector<std::string>{"mnuToolsStationTracking", "mnuToolsGpsTracking", "mnuToolsShowTrackLine"}));
     EXPECT_FALSE(FindState(MenuItems(program.main, Menu::Tools), MenuEntry::mnuRemoveAllTracks)->bEnabled);
 
     for (const MenuEntry entry :
@@ -95,7 +95,8 @@ TEST(Menus, ViewTicksWhatShows)
         RunMenuEntry(program.main, entry);
     RunMenuEntry(program.main, MenuEntry::mnuRuvenmarkHelp);
     EXPECT_EQ(Ticked(program, Menu::View), (std::vector<std::string>{"mnuViewStatusBar", "mnuOnlineTiles"}));
-    EXPECT_EQ(Ticked(program, Menu::Tools), (std::vector<std::string>{"mnuToolsStationTracking", "mnuDirections"}));
+    EXPECT_EQ(Ticked(program, Menu::Tools),
+              (std::vector<std::string>{"mnuToolsStationTracking", "mnuToolsGpsTracking", "mnuDirections"}));
     EXPECT_EQ(Ticked(program, Menu::MapFont), std::vector<std::string>{"mnuFontSmallest"});
     EXPECT_EQ(Ticked(program, Menu::MapStyle), std::vector<std::string>{"mnuPoliticalMap"});
     EXPECT_EQ(Ticked(program, Menu::MapToolbars),
