@@ -4,6 +4,7 @@
 #include "desktop/shown_text.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 
 namespace ruvenmark {
 
@@ -17,7 +18,8 @@ QComboBox* MakePortBox(QWidget& parent, const std::vector<std::string>& ports)
     box->setMinimumContentsLength(20);
     for (const std::string& port : ports)
         box->addItem(ForDisplay(port));
-    box->clearEditText();
+    box->setCurrentIndex(-1); // None is chosen, be there only one.
+    box->lineEdit()->setAccessibleName(box->accessibleName());
     return box;
 }
 
