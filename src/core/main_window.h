@@ -21,6 +21,10 @@
 #include "map/map_session.h"
 #include "map/region_form.h"
 #include "outgoing/beacon_state.h"
+#include "outgoing/object_form.h"
+#include "outgoing/position_form.h"
+#include "outgoing/status_form.h"
+#include "outgoing/weather_report_form.h"
 #include "platform/keyed_tree.h"
 #include "platform/map_control.h"
 #include "platform/status_bar.h"
@@ -61,6 +65,10 @@ struct MainWindow {
     GpsState gps;
     MonitorState monitors;
     BeaconState beacons;
+    PositionForm frmPosition;
+    ObjectForm frmObject;
+    WeatherReportForm frmWeather;
+    StatusForm frmStatus;
     RegionForm frmRegion;
     ImportForm frmImport;
     FilterForm frmFilter;

@@ -29,6 +29,8 @@ constexpr std::array kIcons = {
     ActionIcon{E::mnuFind, "find"},
     ActionIcon{E::mnuTreeView, "view-left"},
     ActionIcon{E::mnuViewMap, "view-map"},
+    ActionIcon{E::mnuSendPosition, "send-position"},
+    ActionIcon{E::mnuMyStationSend, "send-position"},
     ActionIcon{E::mnuToolsFilter, "filter"},
     ActionIcon{E::mnuPopupEditFilter, "filter"},
     ActionIcon{E::mnuTrackedStations, "track"},

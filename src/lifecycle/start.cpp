@@ -9,6 +9,7 @@
 #include "links/server_link.h"
 #include "links/tnc_link.h"
 #include "map/map_start.h"
+#include "outgoing/my_station.h"
 #include "platform/program_name.h"
 
 #include <string>
@@ -33,12 +34,6 @@ void BuildStationTree(MainWindow& main)
     main.window.bStationTreeVisible = true;
 }
 
-void ShowOwnCall(MainWindow& main)
-{
-    const std::string& call = SettingText(main.Settings, Setting::Call);
-    main.sbStatusBar.SetPanel(Panel::Call, call.empty() ? "No Call Sign" : call);
-}
-
 // Without any dialog.
 void AutoConnectLinks(MainWindow& main)
 {
@@ -59,6 +54,7 @@ void StartSubsystems(MainWindow& main, AutoConnect autoConnect)
     LoadPart(main, Part::Follow);
     main.tracking.NewMarkerBalloon = 1;
     main.sbStatusBar.SetPanel(Panel::Tnc, "TNC not connected");
+    AddMyStationNode(main);
     for (const Part part : {Part::ServerLists, Part::Filters, Part::Comm, Part::Gps, Part::UnknownFolders,
                             Part::TrackLists, Part::FileLoad, Part::Tiles})
         LoadPart(main, part);

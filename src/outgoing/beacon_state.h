@@ -12,6 +12,10 @@ struct BeaconState {
     std::int32_t weatherInterval = 0;
     std::int32_t positionTicks = 0; // Since the last beacon.
     std::int32_t weatherTicks = 0;
+    bool bInTick = false;
+    bool bTailBoxOpen = false; // For a comment that is too long.
+    bool bTailTold = false;    // In the status line, since a position went through.
+    bool bRoadsTold = false;   // Over which links reports go; once a run.
 };
 
 } // namespace ruvenmark

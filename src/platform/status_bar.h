@@ -41,6 +41,10 @@ public:
     void SetWaitPointer(bool bWait);
     bool IsWaitPointer() const { return m_bWait; }
 
+    // What went out last, and over what.
+    void SetSent(std::string_view text);
+    const std::string& Sent() const { return m_sent; }
+
     void SetCoordinates(std::string_view text);
     const std::string& Coordinates() const { return m_coordinates; }
 
@@ -52,6 +56,7 @@ private:
     std::array<bool, 5> m_warnings{};
     std::string m_packetLine;
     std::string m_notice;
+    std::string m_sent;
     std::string m_coordinates;
     int m_progress = 0;
     bool m_bProgress = false;

@@ -11,6 +11,11 @@
 #include "map/markers.h"
 #include "map/range_circles.h"
 #include "map/tile_settings.h"
+#include "outgoing/my_station.h"
+#include "outgoing/object_report.h"
+#include "outgoing/position_form_rules.h"
+#include "outgoing/status_report.h"
+#include "outgoing/weather_report.h"
 #include "platform/map_style.h"
 #include "tracking/filter_form_rules.h"
 #include "tracking/track_lines.h"
@@ -137,6 +142,10 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuConnectGps, "mnuConnectGps", "Connect &GPS...", "", false, mnuConnectGps_Click, rules::NameGps},
     MenuEntryInfo{E::mnuConnectWx, "mnuConnectWx", "Connect W&x Station...", "", false, mnuConnectWx_Click,
                   rules::NameWx},
+    MenuEntryInfo{E::mnuSendPosition, "mnuSendPosition", "&Position...", "", false, mnuSendPosition_Click},
+    MenuEntryInfo{E::mnuSendWeather, "mnuSendWeather", "&Weather...", "", false, mnuSendWeather_Click},
+    MenuEntryInfo{E::mnuSendStatus, "mnuSendStatus", "&Status...", "", false, mnuSendStatus_Click},
+    MenuEntryInfo{E::mnuSendObject, "mnuSendObject", "&Object...", "", false, mnuSendObject_Click},
 
     MenuEntryInfo{E::mnuToolsFilter, "mnuToolsFilter", "&Filters...", "", false, mnuToolsFilter_Click},
     MenuEntryInfo{E::mnuTrackedStations, "mnuTrackedStations", "&Track List...", "", false, mnuTrackedStations_Click},
@@ -192,6 +201,9 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuLoadStations, "mnuLoadStations", "Load Stations...", "", false, mnuLoadStations_Click,
                   rules::OnTreeLoading},
     MenuEntryInfo{E::mnuUnloadFolder, "mnuUnloadFolder", "Unload", "", false, mnuUnloadFolder_Click, rules::NameUnload},
+
+    MenuEntryInfo{E::mnuMyStationSend, "mnuMyStationSend", "Send Report", "", false, mnuMyStationSend_Click,
+                  rules::NameMySend},
 
     MenuEntryInfo{E::mnuViewMyPosition, "mnuViewMyPosition", "View Position", "", false, mnuViewMyPosition_Click,
                   rules::OnMyPosition},

@@ -67,6 +67,8 @@ constexpr std::array kRegionMenu = {MenuPlace{E::mnuRegionNorthAmerica}, MenuPla
 
 constexpr std::array kCommunication = {MenuPlace{E::mnuConnect}, MenuPlace{E::mnuConnectServer},
                                        MenuPlace{E::mnuConnectGps}, MenuPlace{E::mnuConnectWx}};
+constexpr std::array kSend = {MenuPlace{E::mnuSendPosition}, MenuPlace{E::mnuSendWeather}, MenuPlace{E::mnuSendStatus},
+                              MenuPlace{E::mnuSendObject}};
 
 constexpr std::array kTools = {MenuPlace{E::mnuToolsFilter},
                                MenuPlace{E::mnuTrackedStations},
@@ -106,6 +108,8 @@ constexpr std::array kRoot = {MenuPlace{E::mnuPopupConnect, Menu::None, kRfRoot 
                               MenuPlace{E::mnuLoadStations, Menu::None, kNoNode | kFlRoot},
                               MenuPlace{E::mnuUnloadFolder, Menu::None, kFlRoot | kLoadedRoot}};
 
+constexpr std::array kMyStation = {MenuPlace{E::mnuMyStationSend}};
+
 constexpr std::array kMyRange = {MenuPlace{E::mnuViewMyPosition}, MenuPlace{E::mnuShowMyRange},
                                  MenuPlace{E::mnuHideMyRange}};
 
@@ -116,6 +120,7 @@ constexpr std::array kMenus = {
     MenuInfo{Menu::Edit, "&Edit", kEdit},
     MenuInfo{Menu::View, "&View", kView},
     MenuInfo{Menu::Communication, "&Communication", kCommunication},
+    MenuInfo{Menu::Send, "&Send", kSend},
     MenuInfo{Menu::Tools, "&Tools", kTools},
     MenuInfo{Menu::Help, "&Help", kHelp},
     MenuInfo{Menu::MapFont, "Map &Font", kMapFont},
@@ -124,7 +129,7 @@ constexpr std::array kMenus = {
     MenuInfo{Menu::Region, "Re&gion", kRegionMenu},
     MenuInfo{Menu::mnuStationPopup, "", kStation},
     MenuInfo{Menu::mnuRootPopup, "", kRoot},
-    MenuInfo{Menu::mnuMyStationPopup, "", {}},
+    MenuInfo{Menu::mnuMyStationPopup, "", kMyStation},
     MenuInfo{Menu::mnuMyRangePopup, "", kMyRange},
     MenuInfo{Menu::mnuTcpSortPopup, "", kFolder},
 };

@@ -94,6 +94,9 @@ void TickNoRootNames(const MenuContext& at, MenuEntryState& state);
 void OnTreeLoading(const MenuContext& at, MenuEntryState& state);
 void NameUnload(const MenuContext& at, MenuEntryState& state);
 
+// --- The own station
+void NameMySend(const MenuContext& at, MenuEntryState& state);
+
 // --- The own station's facts
 void OnMyPosition(const MenuContext& at, MenuEntryState& state);
 void OnMyRange(const MenuContext& at, MenuEntryState& state);

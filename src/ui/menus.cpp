@@ -12,7 +12,8 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr std::array kMenuBar = {Menu::File, Menu::Edit, Menu::View, Menu::Communication, Menu::Tools, Menu::Help};
+constexpr std::array kMenuBar = {Menu::File, Menu::Edit,  Menu::View, Menu::Communication,
+                                 Menu::Send, Menu::Tools, Menu::Help};
 
 unsigned FormOf(const TreeNode* node)
 {

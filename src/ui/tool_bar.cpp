@@ -21,6 +21,8 @@ constexpr std::array kToolButtons = {ToolButton{"New", "New map", E::mnuFileNew}
                                      ToolButton{"ViewLeft", "Left pane", E::mnuTreeView},
                                      ToolButton{"ViewMap", "Map", E::mnuViewMap},
                                      ToolButton{"", "", E::None},
+                                     ToolButton{"SendPosition", "Send position", E::mnuSendPosition},
+                                     ToolButton{"", "", E::None},
                                      ToolButton{"Help", "Help", E::mnuRuvenmarkHelp}};
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "core/tree_selection.h"
 #include "map/names_state.h"
+#include "outgoing/my_station.h"
 #include "tracking/track_lists.h"
 #include "ui/menu_rules.h"
 
@@ -185,6 +186,22 @@ void NameUnload(const MenuContext& at, MenuEntryState& state)
 {
     if (at.node && !ChannelAt(at))
         state.caption = "Unload " + FolderName(*at.node);
+}
+
+// --- The own station
+
+void NameMySend(const MenuContext& at, MenuEntryState& state)
+{
+    const std::string key = at.node ? at.node->Key() : std::string();
+    if (key == kMyPosition) {
+        state.caption = "Send Position";
+        state.bEnabled = IsPositionDefined(at.main) && at.main.links.IsAnyOpen();
+    } else if (key == kMyWeather) {
+        state.caption = "Send Weather";
+        state.bEnabled = IsWeatherDefined(at.main) && at.main.links.IsAnyOpen();
+    } else {
+        state.bVisible = false;
+    }
 }
 
 // --- The own station's facts

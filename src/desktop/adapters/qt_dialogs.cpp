@@ -8,9 +8,13 @@
 #include "desktop/dialogs/frm_gps_dialog.h"
 #include "desktop/dialogs/frm_gps_panel.h"
 #include "desktop/dialogs/frm_import_dialog.h"
+#include "desktop/dialogs/frm_object_dialog.h"
+#include "desktop/dialogs/frm_position_dialog.h"
 #include "desktop/dialogs/frm_region_dialog.h"
+#include "desktop/dialogs/frm_status_dialog.h"
 #include "desktop/dialogs/frm_tcp_dialog.h"
 #include "desktop/dialogs/frm_track_list_dialog.h"
+#include "desktop/dialogs/frm_weather_dialog.h"
 #include "desktop/dialogs/frm_wx_dialog.h"
 #include "desktop/dialogs/monitor_dialog.h"
 
@@ -58,6 +62,14 @@ std::unique_ptr<FormDialog> QtDialogs::Make(Form form, MainWindow& main) const
         return std::make_unique<FrmWxDialog>(main, m_window);
     case Form::frmGpsPanel:
         return std::make_unique<FrmGpsPanel>(main, m_window);
+    case Form::frmPosition:
+        return std::make_unique<FrmPositionDialog>(main, m_window);
+    case Form::frmWeather:
+        return std::make_unique<FrmWeatherDialog>(main, m_window);
+    case Form::frmStatus:
+        return std::make_unique<FrmStatusDialog>(main, m_window);
+    case Form::frmObject:
+        return std::make_unique<FrmObjectDialog>(main, m_window);
     case Form::commDialog:
         return std::make_unique<CommDialog>(main, m_window);
     case Form::frmTnc:
@@ -68,10 +80,6 @@ std::unique_ptr<FormDialog> QtDialogs::Make(Form form, MainWindow& main) const
                                                m_window);
     case Form::frmTcp:
         return std::make_unique<FrmTcpDialog>(main, m_window);
-    case Form::frmPosition:
-    case Form::frmWeather:
-    case Form::frmStatus:
-    case Form::frmObject:
     case Form::frmMessage:
     case Form::frmOpenMessage:
     case Form::frmOptions:

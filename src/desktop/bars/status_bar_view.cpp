@@ -26,8 +26,8 @@ constexpr std::array<PanelName, 5> kPanelNames = {{{"panelTnc", "TNC"},
 } // namespace
 
 StatusBarView::StatusBarView(StatusBar& model, QWidget* parent)
-    : QStatusBar(parent), m_model(model), m_place(new QStackedWidget(this)), m_packet(new ElidedLabel(this)),
-      m_progress(new QProgressBar(this))
+    : QStatusBar(parent), m_model(model), m_place(new QStackedWidget(this)), m_sent(new ElidedLabel(this)),
+      m_packet(new ElidedLabel(this)), m_progress(new QProgressBar(this))
 {
     setSizeGripEnabled(false);
     for (std::size_t i = 0; i < m_panels.size(); ++i) {
@@ -46,6 +46,10 @@ StatusBarView::StatusBarView(StatusBar& model, QWidget* parent)
     m_place->addWidget(m_progress);
     m_place->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     addWidget(m_place, 1);
+    m_sent->setObjectName(QStringLiteral("lblSent"));
+    m_sent->setAccessibleName(QStringLiteral("Last sent"));
+    m_sent->setToolTip(QStringLiteral("What this station sent last, and over which links"));
+    addPermanentWidget(m_sent);
     m_refreshTimer.setSingleShot(true);
     m_refreshTimer.setInterval(kIntervalMs);
     connect(&m_refreshTimer, &QTimer::timeout, this, &StatusBarView::Refresh);
@@ -81,6 +85,7 @@ void StatusBarView::Refresh()
         m_panels[i]->SetTip(ForDisplay(m_model.PanelTip(panel)));
         m_panels[i]->SetWarning(m_model.IsPanelWarning(panel));
     }
+    m_sent->SetText(ForDisplay(m_model.Sent()));
     const std::string& notice = m_model.Notice();
     m_packet->SetText(ForDisplay(notice.empty() ? m_model.PacketLine() : notice));
     m_progress->setValue(m_model.Progress());

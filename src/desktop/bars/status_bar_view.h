@@ -32,6 +32,7 @@ private:
     StatusBar& m_model;
     std::array<ElidedLabel*, 5> m_panels{};
     QStackedWidget* m_place;
+    ElidedLabel* m_sent;
     ElidedLabel* m_packet;
     QProgressBar* m_progress;
     QTimer m_refreshTimer;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/number_rule.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace ruvenmark {
+
+struct MainWindow;
+struct PositionForm;
+
+// A box that takes a number, and what it takes.
+struct PositionBox {
+    std::string_view name;
+    std::string PositionForm::*text;
+    NumberRule rule;
+};
+extern const std::array<PositionBox, 7> kPositionBoxes;
+
+void frmPosition_Load(MainWindow& main);
+void frmPosition_Send(MainWindow& main); // Closes the dialog, unless something is missing or wrong.
+void frmPosition_PinPoint(MainWindow& main);
+
+void mnuSendPosition_Click(MainWindow& main); // A dialog that is visible already keeps what was typed.
+
+} // namespace ruvenmark

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string_view>
+
+namespace ruvenmark {
+
+struct MainWindow;
+
+// frmStatus: cancelled until it is accepted.
+void frmStatus_Load(MainWindow& main);
+// The message for what is missing or wrong; empty where it was accepted.
+std::string_view frmStatus_Accept(MainWindow& main);
+
+void mnuSendStatus_Click(MainWindow& main);
+
+} // namespace ruvenmark

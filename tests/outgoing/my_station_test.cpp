@@ -1,0 +1,77 @@
+#include "outgoing/my_station.h"
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+void Set(TestProgram& program, Setting setting, std::string_view text)
+{
+    SetSetting(program.main.Settings, setting, text);
+}
+
+// The branches stand in any case; what hangs under them and their images need a station that is defined.
+TEST(MyStation, ShowsWhatIsSet)
+{
+    TestProgram program;
+    EXPECT_EQ(program.Image("MyPosition"), "Position");
+    EXPECT_EQ(program.ChildTexts("MyPosition"), Texts{});
+    Set(program, Setting::Call, "N0CALL");
+    Set(program, Setting::Lat, "37.5");
+    Set(program, Setting::Lon, "-122.25");
+    Set(program, Setting::Directivity, "0");
+    Set(program, Setting::Comment, "hello");
+    AddMyStationNode(program.main);
+    EXPECT_EQ(program.Image("MyPosition"), "Station");
+    EXPECT_EQ(program.ChildTexts("MyPosition"), (Texts{"Lat: 37.5°", "Lon: -122.25°", "Directivity: Omni", "hello"}));
+    EXPECT_EQ(program.Image("MyPositionLat:"), "Parallel");
+    EXPECT_FALSE(program.Node("MyPositionLat:")->IsBold());
+    EXPECT_EQ(program.Image("MyWeather"), "Letterw");
+    for (const auto& [setting, text] :
+         {std::pair(Setting::WindDir, "220"), std::pair(Setting::WindSpeed, "4"), std::pair(Setting::Gust, "5"),
+          std::pair(Setting::Temperature, "77"), std::pair(Setting::Humidity, "50")})
+        Set(program, setting, text);
+    UpdateMyWeatherNode(program.main);
+    EXPECT_EQ(program.Image("MyWeather"), "Weather");
+    EXPECT_EQ(program.ChildTexts("MyWeather"), (Texts{"Wind Direction: 220°", "Wind Speed: 4 mph", "Gust: 5 mph",
+                                                      "Temperature: 77°F", "Humidity: 50%"}));
+}
+
+TEST(MyStation, UpdatesInPlaceAndReplacesTheComment)
+{
+    TestProgram program;
+    Set(program, Setting::Call, "N0CALL");
+    Set(program, Setting::Lat, "1");
+    Set(program, Setting::Lon, "2");
+    Set(program, Setting::Comment, "old");
+    AddMyStationNode(program.main);
+    const TreeNode* lat = program.Node("MyPositionLat:");
+    Set(program, Setting::Lat, "3");
+    Set(program, Setting::Alt, "9");
+    Set(program, Setting::Comment, "Lat:"); // The key of another row.
+    UpdateMyPositionNode(program.main);
+    EXPECT_EQ(program.Node("MyPositionLat:"), lat);
+    EXPECT_EQ(program.ChildTexts("MyPosition"), (Texts{"Lat: 3°", "Lon: 2°", "Altitude: 9 feet", "Lat:"}));
+    Set(program, Setting::Lat, "");
+    UpdateMyPositionNode(program.main);
+    EXPECT_EQ(program.ChildTexts("MyPosition"), Texts{});
+}
+
+TEST(MyStation, WorksOutTheRange)
+{
+    TestProgram program;
+    Set(program, Setting::Power, "25");
+    Set(program, Setting::Height, "40");
+    Set(program, Setting::Gain, "3");
+    AddMyStationNode(program.main);
+    EXPECT_GT(program.main.map.MyRange, 0);
+}
+
+} // namespace
+} // namespace ruvenmark

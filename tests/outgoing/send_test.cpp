@@ -1,0 +1,300 @@
+#include "outgoing/beacons.h"
+#include "outgoing/my_station.h"
+#include "outgoing/object_report.h"
+#include "outgoing/position_form_rules.h"
+#include "outgoing/position_report.h"
+#include "outgoing/status_report.h"
+#include "outgoing/weather_report.h"
+#include "outgoing/weather_report_form_rules.h"
+#include "support/test_program.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+// A link that writes down what it is told, and fails on demand.
+class NotedSource final : public IReportSource {
+public:
+    NotedSource(Lines& lines, const bool& bFail) : m_lines(lines), m_bFail(bFail) {}
+    void EnterCommandMode() override { Note("command mode"); }
+    void SendCommand(std::string_view line) override { Note(std::string(line)); }
+    void SendFrame(std::string_view source, std::string_view dest, std::string_view via, std::string_view info) override
+    {
+        Note("frame " + std::string(source) + '|' + std::string(dest) + '|' + std::string(via) + '|' +
+             std::string(info));
+    }
+    void SendServerLine(std::string_view line) override { Note("server " + std::string(line)); }
+
+private:
+    void Note(std::string line)
+    {
+        if (m_bFail)
+            throw Failure("lost");
+        m_lines.push_back(std::move(line));
+    }
+    Lines& m_lines;
+    const bool& m_bFail;
+};
+
+class Sending : public testing::Test {
+protected:
+    Sending()
+    {
+        program.main.links.aprs = std::make_unique<NotedSource>(sent, bRfFails);
+        program.main.links.aprstcp = std::make_unique<NotedSource>(sent, bServerFails);
+        for (const auto& [setting, text] :
+             {std::pair(Setting::Call, "N0CALL"), std::pair(Setting::Dest, "APRS"), std::pair(Setting::Path, "WIDE1-1"),
+              std::pair(Setting::Lat, "37.5"), std::pair(Setting::Lon, "-122.25"), std::pair(Setting::Symbol, "9")})
+            Set(setting, text);
+    }
+    void Set(Setting setting, std::string_view text) { SetSetting(program.main.Settings, setting, text); }
+    void Open(bool bTnc, bool bAgw, bool bServer)
+    {
+        program.main.links.bSerialConnected = bTnc;
+        program.main.links.bSocketConnected = bAgw;
+        program.main.links.bServerConnected = bServer;
+    }
+    Lines Take() { return std::exchange(sent, {}); }
+
+    TestProgram program;
+    bool bRfFails = false, bServerFails = false;
+    Lines sent;
+};
+
+constexpr const char* kText = "!3730.00N/12215.00W>";
+
+TEST_F(Sending, TheRoadsInTheirOrder)
+{
+    Open(true, true, true);
+    SendPositionReport(program.main, true);
+    EXPECT_EQ(Take(), (Lines{"command mode", "MYCALL N0CALL", "UNPROTO APRS VIA WIDE1-1", "CONV", kText,
+                             std::string("frame N0CALL|APRS|WIDE1-1|") + kText,
+                             std::string("server N0CALL>APRS,TCPIP*:") + kText}));
+    EXPECT_EQ(program.main.sbStatusBar.Sent(), "Sent over TNC, AGW, server at 20:15:03");
+    Set(Setting::Path, "");
+    Set(Setting::Tactical, "BASE");
+    Set(Setting::BeaconTactical, "True");
+    Open(true, false, true);
+    SendPositionReport(program.main, true);
+    EXPECT_EQ(Take()[2], "UNPROTO APRS");
+    SendPositionReport(program.main, false);
+    EXPECT_EQ(Take(), Lines{std::string("server BASE>APRS,TCPIP*:") + kText});
+    Open(false, false, false);
+    SendPositionReport(program.main, true);
+    EXPECT_EQ(Take(), Lines{});
+}
+
+// An operator must know once, not at each beacon, that the transmitter is keyed.
+TEST_F(Sending, TheFirstOneIsAnnounced)
+{
+    Open(false, true, true);
+    SendPositionReport(program.main, false);
+    SendPositionReport(program.main, false);
+    EXPECT_EQ(program.notices.lines, Lines{"Reports go out over AGW, server"});
+}
+
+TEST_F(Sending, AFailureSkipsTheLaterRoads)
+{
+    Open(true, false, true);
+    bRfFails = true;
+    SendPositionReport(program.main, true);
+    EXPECT_EQ(Take(), Lines{});
+    EXPECT_TRUE(program.prompts.messages.empty());
+    program.dialogs.onRun[Form::frmStatus] = [](MainWindow& main) {
+        main.frmStatus.roads.chkRF = main.frmStatus.roads.chkTCP = true;
+        main.frmStatus.txtStatus = "here";
+        EXPECT_EQ(frmStatus_Accept(main), "");
+    };
+    mnuSendStatus_Click(program.main);
+    EXPECT_EQ(program.prompts.messages, Lines{"Status report not sent correctly, check TNC connection!"});
+    bRfFails = false;
+    bServerFails = true;
+    mnuSendStatus_Click(program.main);
+    EXPECT_EQ(program.main.sbStatusBar.Sent(), "Sent over TNC at 20:15:03"); // What did go out is told.
+}
+
+TEST_F(Sending, NobodySendsWithoutACall)
+{
+    Open(false, false, true);
+    Set(Setting::Call, "");
+    SendPositionReport(program.main, true);
+    EXPECT_EQ(Take(), Lines{});
+}
+
+TEST_F(Sending, MotionTakesThePlaceOfTheAntennaWhileTheFixIsValid)
+{
+    Open(false, false, true);
+    Set(Setting::Power, "6000"); // Out of bounds: as none.
+    Set(Setting::Height, "40");
+    Set(Setting::Speed, "11.5");
+    Set(Setting::Course, "90");
+    SendPositionReport(program.main, false);
+    EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText});
+    program.main.gps.bValidFix = true;
+    SendPositionReport(program.main, false);
+    EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText + "090/010"});
+}
+
+TEST_F(Sending, WeatherOfTheSettingsAndOfTheDialog)
+{
+    Open(false, false, true);
+    Set(Setting::WindDir, "220");
+    Set(Setting::WindSpeed, "4");
+    Set(Setting::Gust, "5");
+    Set(Setting::Temperature, "-10");
+    Set(Setting::Humidity, "100");
+    SendWeatherReport(program.main);
+    EXPECT_EQ(Take(), Lines{"server N0CALL>APRS,TCPIP*:_11230115c220s004g005t-10r000p000P000h00b00000"});
+    Lines refused;
+    program.dialogs.onRun[Form::frmWeather] = [&](MainWindow& main) {
+        auto& boxes = main.frmWeather.boxes;
+        main.frmWeather.roads.chkTCP = true;
+        refused.emplace_back(frmWeather_Accept(main));
+        boxes[0] = "361";
+        boxes[1] = boxes[2] = boxes[3] = "7";
+        refused.emplace_back(frmWeather_Accept(main));
+        boxes[0] = "360";
+        boxes[7] = "100";
+        refused.emplace_back(frmWeather_Accept(main));
+        boxes[7] = "";
+        main.frmWeather.calls.txtFrom = "n1call";
+        refused.emplace_back(frmWeather_Accept(main));
+    };
+    mnuSendWeather_Click(program.main);
+    EXPECT_EQ(refused, (Lines{"Wind direction, speed, gust and temperature are required!",
+                              "Enter an interger between 0 and 360 for wind direction!",
+                              "Enter an interger between 0 and 99 for humidity!", ""}));
+    EXPECT_EQ(Take(), Lines{"server N1CALL>APRS,TCPIP*:_11230115c360s007g007t007r000p000P000h00b00000"});
+    program.dialogs.onRun.clear(); // The window is closed.
+    mnuSendWeather_Click(program.main);
+    EXPECT_EQ(Take(), Lines{});
+}
+
+TEST_F(Sending, TheStatusDialogsLimits)
+{
+    StatusForm& form = program.main.frmStatus;
+    frmStatus_Load(program.main);
+    EXPECT_EQ(form.calls.txtFrom, "N0CALL");
+    EXPECT_EQ(frmStatus_Accept(program.main), "Status field can not be empty!");
+    form.txtStatus.assign(63, 'x');
+    EXPECT_EQ(frmStatus_Accept(program.main), "Status text can not have more than 62 characters!");
+    form.calls.txtTo = "";
+    EXPECT_EQ(frmStatus_Accept(program.main), "You must enter call sign and unproto!");
+    EXPECT_TRUE(form.bCancelled);
+}
+
+TEST_F(Sending, ThePositionDialogKeepsSendsAndRefuses)
+{
+    Open(false, true, false);
+    MainWindow& main = program.main;
+    mnuSendPosition_Click(main);
+    PositionForm& form = main.frmPosition;
+    EXPECT_FALSE(form.roads.CanSend());
+    form.roads.chkTCP = true; // Not enabled.
+    EXPECT_FALSE(form.roads.CanSend());
+    form.roads.chkRF = true;
+    EXPECT_TRUE(form.roads.CanSend());
+    EXPECT_EQ(form.txtLat, "37.5");
+    form.txtLat.clear();
+    frmPosition_Send(main);
+    form.txtLat = "91";
+    frmPosition_Send(main);
+    EXPECT_EQ(form.txtLat, "0.0");
+    form.txtLat = "-1.5";
+    form.txtComment.assign(44, 'x');
+    frmPosition_Send(main);
+    EXPECT_EQ(program.prompts.messages,
+              (Lines{"You must enter latitude and longitude!", "Enter a value between -90 and 90 for latitude!",
+                     "Comment can not be longer than 43 characters!"}));
+    EXPECT_TRUE(program.dialogs.IsVisible(Form::frmPosition));
+    EXPECT_EQ(form.Comment, "");
+    form.txtComment = "hi";
+    form.calls.txtFrom = "n1call";
+    frmPosition_Send(main);
+    EXPECT_EQ(Take(), Lines{"frame N1CALL|APRS|WIDE1-1|!0130.00S/12215.00W)hi"});
+    EXPECT_FALSE(program.dialogs.IsVisible(Form::frmPosition));
+    mnuSendPosition_Click(main);
+    EXPECT_EQ(form.txtLat, "-1.5");
+    EXPECT_EQ(form.txtComment, "hi");
+}
+
+TEST_F(Sending, TheObjectDialogRefusesInItsOrder)
+{
+    Open(false, false, true);
+    MainWindow& main = program.main;
+    mnuSendObject_Click(main);
+    ObjectForm& form = main.frmObject;
+    form.roads.chkTCP = true;
+    frmObject_Send(main);
+    form.shown.txtName = "tencharact";
+    frmObject_Send(main);
+    form.shown.txtName = "flood";
+    frmObject_Send(main);
+    EXPECT_EQ(program.prompts.messages,
+              (Lines{"You must enter the object name!", "Object name can not be longer than 9 characters!",
+                     "You must enter latitude and longitude!"}));
+    form.shown.txtLat = "37.5";
+    form.shown.txtLon = "-122.25";
+    bServerFails = true;
+    frmObject_Send(main);
+    EXPECT_EQ(program.prompts.messages.back(), "Position report not sent correctly, check TNC connection!");
+    EXPECT_FALSE(program.dialogs.IsVisible(Form::frmObject));
+    bServerFails = false;
+    mnuSendObject_Click(main);
+    frmObject_Send(main);
+    EXPECT_EQ(Take(), Lines{"server N0CALL>APRS,TCPIP*:;FLOOD    *230115z3730.00N\\12215.00W)"});
+}
+
+// The counts stand still with nothing open and outlast a change of the interval.
+TEST_F(Sending, BeaconsCountTheirTicks)
+{
+    MainWindow& main = program.main;
+    Set(Setting::PositionInt, "3");
+    AddMyStationNode(main);
+    intervalTimer_Timer(main);
+    EXPECT_EQ(main.beacons.positionTicks, 0);
+    Open(false, false, true);
+    for (int i = 0; i < 8; ++i)
+        intervalTimer_Timer(main);
+    EXPECT_EQ(Take().size(), 2U);
+    intervalTimer_Timer(main);
+    intervalTimer_Timer(main);
+    intervalTimer_Timer(main);
+    Set(Setting::PositionInt, "2");
+    AddMyStationNode(main);
+    intervalTimer_Timer(main);
+    EXPECT_EQ(Take().size(), 1U);
+    Set(Setting::Lat, "");
+    for (int i = 0; i < 8; ++i)
+        intervalTimer_Timer(main);
+    EXPECT_EQ(Take(), Lines{});
+    for (const char* index : {"0", "12", "-1", "x"}) {
+        Set(Setting::PositionInt, index);
+        AddMyStationNode(main);
+        EXPECT_EQ(main.beacons.positionInterval, 0) << index;
+    }
+}
+
+TEST_F(Sending, ABeaconWithTooLongACommentIsTold)
+{
+    Open(false, false, true);
+    Set(Setting::PositionInt, "1");
+    Set(Setting::Comment, std::string(44, 'x'));
+    AddMyStationNode(program.main);
+    intervalTimer_Timer(program.main);
+    program.main.beacons.bTailBoxOpen = true; // It still stands.
+    intervalTimer_Timer(program.main);
+    EXPECT_EQ(program.prompts.messages, Lines{"Comment can not be longer than 43 characters!"});
+    EXPECT_EQ(program.notices.lines, Lines{"The position is not reported: its comment is too long"});
+    EXPECT_EQ(Take(), Lines{});
+}
+
+} // namespace
+} // namespace ruvenmark
