@@ -29,7 +29,8 @@ TEST(MyStation, ShowsWhatIsSet)
     Set(program, Setting::Comment, "hello");
     AddMyStationNode(program.main);
     EXPECT_EQ(program.Image("MyPosition"), "Station");
-    EXPECT_EQ(program.ChildTexts("MyPosition"), (Texts{"Lat: 37.5°", "Lon: -122.25°", "Directivity: Omni", "hello"}));
+    EXPECT_EQ(program.ChildTexts("MyPosition"),
+              (Texts{"Lat: 37.5°", "Lon: -122.25°", "Directivity: Omni", "Path: WIDE2-2", "hello"}));
     EXPECT_EQ(program.Image("MyPositionLat:"), "Parallel");
     EXPECT_FALSE(program.Node("MyPositionLat:")->IsBold());
     EXPECT_EQ(program.Image("MyWeather"), "Letterw");
@@ -57,7 +58,8 @@ TEST(MyStation, UpdatesInPlaceAndReplacesTheComment)
     Set(program, Setting::Comment, "Lat:"); // The key of another row.
     UpdateMyPositionNode(program.main);
     EXPECT_EQ(program.Node("MyPositionLat:"), lat);
-    EXPECT_EQ(program.ChildTexts("MyPosition"), (Texts{"Lat: 3°", "Lon: 2°", "Altitude: 9 feet", "Lat:"}));
+    EXPECT_EQ(program.ChildTexts("MyPosition"),
+              (Texts{"Lat: 3°", "Lon: 2°", "Path: WIDE2-2", "Altitude: 9 feet", "Lat:"}));
     Set(program, Setting::Lat, "");
     UpdateMyPositionNode(program.main);
     EXPECT_EQ(program.ChildTexts("MyPosition"), Texts{});
