@@ -129,7 +129,7 @@ TEST(PopupMenus, FactsHaveNoneAndTheOwnStationsFactsHaveTheirs)
     program.Hear(Channel::TCP, "N0CALL>APRS:!4000.00N/08000.00W>");
     EXPECT_FALSE(RightClick(program, "TCPPositionsN0CALLLat"));
     EXPECT_FALSE(RightClick(program, "My"));
-    EXPECT_FALSE(RightClick(program, "MyPosition"));
+    EXPECT_EQ(Shown(RightClick(program, "MyPosition")), Names{"-Send Position"});
 
     program.Tree().Add(*program.Node("MyPosition"), "Lat", "Lat: 40");
     EXPECT_EQ(Shown(RightClick(program, "MyPositionLat")),
