@@ -1,5 +1,6 @@
 #include "app/headless.h"
 
+#include "app/followed_sources.h"
 #include "app/print_state.h"
 #include "app/program_settings.h"
 #include "core/bare_surface.h"
@@ -11,9 +12,18 @@
 #include "lifecycle/stop.h"
 #include "links/station_files.h"
 #include "platform/headless.h"
+#ifdef RUVENMARK_DESKTOP
+#include "app/link_run.h"
+#include "ports/qt_byte_links.h"
 
+#include <QCoreApplication>
+#endif
+
+#include <array>
 #include <memory>
+#include <optional>
 #include <ostream>
+#include <string>
 
 namespace ruvenmark {
 
@@ -25,8 +35,43 @@ bool FlushOutput(std::ostream& out, std::ostream& err)
     return static_cast<bool>(out);
 }
 
+namespace {
+
+#ifdef RUVENMARK_DESKTOP
+// Sockets and serial ports are told of by an event loop, without a screen.
+struct Wiring {
+    explicit Wiring(const ProgramOptions& options)
+    {
+        if (!options.connect.empty())
+            application.emplace(argc, argv.data());
+    }
+
+    std::string name{"ruvenmark"};
+    int argc = 1;
+    std::array<char*, 2> argv = {name.data(), nullptr};
+    std::optional<QCoreApplication> application;
+    QtByteLinks links;
+};
+#else
+struct Wiring {
+    explicit Wiring(const ProgramOptions& options)
+    {
+        if (!options.connect.empty())
+            throw UsageError("this program was built without links");
+    }
+    BareByteLinks links;
+};
+bool RunLinks(MainWindow& /*main*/, const ProgramOptions& /*options*/, std::ostream& /*err*/)
+{
+    return false;
+}
+#endif
+
+} // namespace
+
 int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& err)
 {
+    Wiring wiring(options);
     PosixFiles files;
     std::unique_ptr<IByteStream> load = OpenLoad(files, options);
     ProgramSettings settings(files, options);
@@ -40,8 +85,10 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
         notices.Say("another program uses these settings: nothing will be saved");
     BareDialogs dialogs;
     BareDesktop desktop;
-    BareByteLinks wires;
-    ReportSources sources{wires};
+    IByteLinks& wires = wiring.links;
+    ReportSources plainSources{wires};
+    FollowedSources followedSources{plainSources, out};
+    IReportSources& sources = options.bFollow ? static_cast<IReportSources&>(followedSources) : plainSources;
     GpsServers gpsServers{wires};
     WeatherServers weatherServers{wires};
     MainWindow main({.store = settings.Store(),
@@ -64,7 +111,8 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
     if (load)
         LoadStationFile(main, *load);
     load.reset();
-    const RunState state{main, sources.Counts(), prompts.Messages()};
+    const bool bConnected = options.connect.empty() || RunLinks(main, options, err);
+    const RunState state{main, plainSources.Counts(), prompts.Messages()};
     if (options.bJson)
         PrintJson(out, state);
     else
@@ -72,7 +120,7 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
     const bool bPrinted = FlushOutput(out, err);
     // Nobody is there to be asked, and the map was only wanted for the print.
     const StopResult result = StopMainWindow(main, MayAsk::No);
-    return bPrinted && result == StopResult::Stopped ? kEndedWell : kCannotWrite;
+    return bPrinted && bConnected && result == StopResult::Stopped ? kEndedWell : kCannotWrite;
 }
 
 } // namespace ruvenmark

@@ -8,7 +8,7 @@ namespace ruvenmark {
 
 // The statuses that the program ends with.
 inline constexpr int kEndedWell = 0;
-inline constexpr int kCannotWrite = 1; // The output, the settings or a list; memory that ran out.
+inline constexpr int kCannotWrite = 1; // The output, the settings or a list; a link; memory that ran out.
 inline constexpr int kCannotRun = 2;   // Wrong options, and missing or unreadable files.
 
 // False, and a line on `err`, where what was printed could not be written.

@@ -7,6 +7,7 @@
 #include "platform/text.h"
 #include "tracking/track_lists.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -14,30 +15,36 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr std::string_view kHelp = "Usage: ruvenmark [OPTION...] [FILE]\n"
-                                   "Desktop station client for the Automatic Packet Reporting System (APRS).\n"
-                                   "FILE, a saved packet file, is loaded at start.\n"
-                                   "\n"
-                                   "  --load FILE           load a saved packet file\n"
-                                   "  --track CALL[,CALL]   put calls on the track list of loaded files\n"
-                                   "  --settings FILE       use this settings file\n"
-                                   "  --folder DIR          use this program folder\n"
-                                   "  --set KEY=VALUE       a setting for this run\n"
-                                   "  --region 1|2          map of North America or Europe, for this run\n"
-                                   "\n"
-                                   "Without a window:\n"
-                                   "  --headless            start, load, print and stop\n"
-                                   "  --print WHAT[,WHAT]   tree (default), markers, records, messages, counts\n"
-                                   "  --json                print one JSON object\n"
-                                   "\n"
-                                   "A picture of the window:\n"
-                                   "  --screenshot FILE.png draw the window into a file and end\n"
-                                   "  --size WxH            its size in pixels (default 1280x800)\n"
-                                   "  --view LAT,LON,ZOOM   what the map shows\n"
-                                   "  --dark                dark colours\n"
-                                   "  --scale FACTOR        device pixels a pixel, 1 to 4\n"
-                                   "\n"
-                                   "  --help, --version\n";
+constexpr std::string_view kHelp =
+    "Usage: ruvenmark [OPTION...] [FILE]\n"
+    "Desktop station client for the Automatic Packet Reporting System (APRS).\n"
+    "FILE, a saved packet file, is loaded at start.\n"
+    "\n"
+    "  --load FILE           load a saved packet file\n"
+    "  --track CALL[,CALL]   put calls on the track list of loaded files\n"
+    "  --settings FILE       use this settings file\n"
+    "  --folder DIR          use this program folder\n"
+    "  --set KEY=VALUE       a setting for this run\n"
+    "  --region 1|2          map of North America or Europe, for this run\n"
+    "\n"
+    "Without a window:\n"
+    "  --headless            start, load, print and stop\n"
+    "  --print WHAT[,WHAT]   tree (default), markers, records, messages, counts\n"
+    "  --json                print one JSON object\n"
+    "  --connect LINK[,LINK] connect before the print, until a signal; a LINK is tnc, agw,\n"
+    "                        server or gps as the settings say, or tnc=PORT:BAUD,\n"
+    "                        agw=HOST:PORT, server=HOST:PORT, gps=PORT:BAUD, wx=PORT:BAUD\n"
+    "  --for SECONDS         stay connected so long\n"
+    "  --follow              print each line that is heard\n"
+    "\n"
+    "A picture of the window:\n"
+    "  --screenshot FILE.png draw the window into a file and end\n"
+    "  --size WxH            its size in pixels (default 1280x800)\n"
+    "  --view LAT,LON,ZOOM   what the map shows\n"
+    "  --dark                dark colours\n"
+    "  --scale FACTOR        device pixels a pixel, 1 to 4\n"
+    "\n"
+    "  --help, --version\n";
 
 [[noreturn]] void Refuse(const std::string& option, std::string_view value, std::string_view wanted)
 {
@@ -128,6 +135,63 @@ void ReadTrack(ProgramOptions& options, const std::string& /*option*/, std::stri
     }
 }
 
+struct LinkRow {
+    std::string_view name;
+    LinkName link;
+    bool bIsSerial;
+};
+constexpr std::array<LinkRow, 5> kLinks = {{{"tnc", LinkName::Tnc, true},
+                                            {"agw", LinkName::Agw, false},
+                                            {"server", LinkName::Server, false},
+                                            {"gps", LinkName::Gps, true},
+                                            {"wx", LinkName::Wx, true}}};
+
+// "gps", "gps=/dev/ttyS0:4800"; a host may itself hold colons.
+std::optional<LinkOption> ReadLink(std::string_view word)
+{
+    constexpr std::int32_t kMostPort = 32767, kMostBaud = 4'000'000;
+    const auto sign = word.find('=');
+    const auto row = std::find_if(kLinks.begin(), kLinks.end(),
+                                  [&](const LinkRow& known) { return known.name == word.substr(0, sign); });
+    if (row == kLinks.end())
+        return std::nullopt;
+    if (sign == std::string_view::npos)
+        return row->link == LinkName::Wx ? std::nullopt : std::optional(LinkOption{row->link, {}, 0});
+    const std::string_view address = word.substr(sign + 1);
+    const auto colon = address.rfind(':');
+    if (colon == std::string_view::npos || colon == 0)
+        return std::nullopt;
+    const auto number = ReadNumber(address.substr(colon + 1));
+    if (!number || !(*number >= 1 && *number <= (row->bIsSerial ? kMostBaud : kMostPort)))
+        return std::nullopt;
+    return LinkOption{row->link, std::string(address.substr(0, colon)), static_cast<std::int32_t>(*number)};
+}
+
+void ReadConnect(ProgramOptions& options, const std::string& option, std::string_view value)
+{
+    for (const std::string_view word : Split(value, ',')) {
+        const auto link = ReadLink(word);
+        if (!link)
+            Refuse(option, word, "tnc, agw, server, gps or wx with PORT:BAUD or HOST:PORT, as --help tells");
+        const auto isSame = [&](const LinkOption& other) {
+            return (other.link == LinkName::Agw ? LinkName::Tnc : other.link) ==
+                   (link->link == LinkName::Agw ? LinkName::Tnc : link->link);
+        };
+        if (std::any_of(options.connect.begin(), options.connect.end(), isSame))
+            throw UsageError(option + ": one of each link, and tnc or agw");
+        options.connect.push_back(*link);
+    }
+}
+
+void ReadFor(ProgramOptions& options, const std::string& option, std::string_view value)
+{
+    constexpr std::int32_t kMost = 1'000'000;
+    const auto seconds = ReadNumber(value);
+    if (!seconds || !(*seconds >= 0 && *seconds <= kMost))
+        Refuse(option, value, "a number of seconds up to " + std::to_string(kMost));
+    options.seconds = static_cast<std::int32_t>(*seconds);
+}
+
 struct Switch {
     std::string_view name;
     bool ProgramOptions::*flag;
@@ -140,22 +204,25 @@ struct ValueOption {
     std::string_view name;
     void (*read)(ProgramOptions&, const std::string& option, std::string_view value);
 };
-constexpr std::array<Switch, 5> kSwitches = {{{"--help", &ProgramOptions::bHelp},
+constexpr std::array<Switch, 6> kSwitches = {{{"--help", &ProgramOptions::bHelp},
                                               {"--version", &ProgramOptions::bVersion},
                                               {"--headless", &ProgramOptions::bHeadless},
                                               {"--json", &ProgramOptions::bJson},
+                                              {"--follow", &ProgramOptions::bFollow},
                                               {"--dark", &ProgramOptions::bDark}}};
 constexpr std::array<TextOption, 4> kTexts = {{{"--load", &ProgramOptions::loadFile},
                                                {"--settings", &ProgramOptions::settingsFile},
                                                {"--folder", &ProgramOptions::folder},
                                                {"--screenshot", &ProgramOptions::screenshot}}};
-constexpr std::array<ValueOption, 7> kValues = {{{"--print", ReadPrint},
+constexpr std::array<ValueOption, 9> kValues = {{{"--print", ReadPrint},
                                                  {"--set", ReadSetting},
                                                  {"--region", ReadRegion},
                                                  {"--size", ReadSize},
                                                  {"--view", ReadView},
                                                  {"--scale", ReadScale},
-                                                 {"--track", ReadTrack}}};
+                                                 {"--track", ReadTrack},
+                                                 {"--connect", ReadConnect},
+                                                 {"--for", ReadFor}}};
 
 // Walks the words of the command line; a value stands behind its option, or in it behind "=".
 class ArgumentWalk {
@@ -227,6 +294,10 @@ void CheckTogether(ProgramOptions& options)
 {
     if ((options.bJson || !options.print.empty()) && !options.bHeadless)
         throw UsageError("--print and --json go with --headless");
+    if (!options.connect.empty() && !options.bHeadless)
+        throw UsageError("--connect goes with --headless");
+    if ((options.bFollow || options.seconds) && options.connect.empty())
+        throw UsageError("--for and --follow go with --connect");
     if (options.bHeadless && options.screenshot)
         throw UsageError("--screenshot and --headless do not go together");
     if (options.print.empty())

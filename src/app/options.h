@@ -15,6 +15,14 @@ enum class PrintPart : std::uint8_t { Tree, Markers, Records, Messages, Counts }
 struct ViewOption {
     double lat, lon, zoom;
 };
+enum class LinkName : std::uint8_t { Tnc, Agw, Server, Gps, Wx };
+
+// A link to connect. Without an address it is connected as the settings say.
+struct LinkOption {
+    LinkName link;
+    std::string address;     // A serial port or a host.
+    std::int32_t number = 0; // The port's baud, or the host's port.
+};
 struct SizeOption {
     int width = 1280, height = 800; // Pixels at scale 1.
 };
@@ -31,6 +39,10 @@ struct ProgramOptions {
     std::vector<PrintPart> print;                              // In the order asked for.
     std::string track;                                         // Calls, blanks between.
     std::vector<std::pair<std::string, std::string>> settings; // For this run.
+
+    std::vector<LinkOption> connect;     // Without a window.
+    std::optional<std::int32_t> seconds; // How long they are used; else until a signal.
+    bool bFollow = false;
 
     std::optional<std::string> screenshot; // A file name.
     std::optional<SizeOption> size;

@@ -32,6 +32,24 @@ TEST(Options, ReadWhatIsAsked)
     EXPECT_TRUE(ReadOptions({"--print", "tree", "--help"}).bHelp); // Help is given whatever else is wrong.
 }
 
+TEST(Options, ReadLinks)
+{
+    const auto options = ReadOptions(
+        {"--headless", "--connect", "tnc=/dev/serial/by-path/a:b:9600,server", "--connect=gps", "--for=5", "--follow"});
+    ASSERT_EQ(options.connect.size(), 3U);
+    EXPECT_EQ(options.connect[0].link, LinkName::Tnc);
+    EXPECT_EQ(options.connect[0].address, "/dev/serial/by-path/a:b"); // A name may hold colons.
+    EXPECT_EQ(options.connect[0].number, 9600);
+    EXPECT_EQ(options.connect[1].link, LinkName::Server);
+    EXPECT_EQ(options.connect[1].address, "");
+    EXPECT_EQ(options.seconds, 5);
+    EXPECT_TRUE(options.bFollow);
+
+    for (const char* wrong : {"modem", "wx", "agw=localhost", "agw=:8000", "server=h:99999", "gps=/dev/x:fast",
+                              "gps,gps", "tnc,agw", "gps,,tnc"})
+        EXPECT_THROW(ReadOptions({"--headless", "--connect", wrong}), UsageError) << wrong;
+}
+
 TEST(Options, RefuseInOneClearLine)
 {
     const std::vector<std::pair<std::vector<std::string>, const char*>> cases = {
@@ -43,6 +61,9 @@ TEST(Options, RefuseInOneClearLine)
         {{"--headless", "--screenshot", "a.png"}, "--screenshot and --headless do not go together"},
         {{"--region", "3"}, "--region: '3' is not 1 (North America) or 2 (Europe)"},
         {{"--set", "Call"}, "--set: 'Call' is not KEY=VALUE"},
+        {{"--connect", "gps"}, "--connect goes with --headless"},
+        {{"--headless", "--follow"}, "--for and --follow go with --connect"},
+        {{"--headless", "--connect", "gps", "--for", "-1"}, "--for: '-1' is not a number of seconds up to 1000000"},
         {{"a.txt", "b.txt"}, "one file at a time: 'b.txt' is one too many"},
         {{"--size", "800"}, "--size: '800' is not WIDTHxHEIGHT between 200x200 and 10000x10000"},
         {{"--view", "91,0,4"}, "--view: '91,0,4' is not LAT,LON,ZOOM with a zoom from 1 to 19"},

@@ -1,0 +1,86 @@
+#include "app/link_run.h"
+
+#include "core/main_window.h"
+#include "core/notices.h"
+#include "desktop/termination.h"
+#include "platform/headless.h"
+
+#include <QEventLoop>
+#include <QTimer>
+
+#include <array>
+#include <cstddef>
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace ruvenmark {
+
+namespace {
+
+// The panels that speak of links, printed as they change.
+class PrintedPanels {
+public:
+    PrintedPanels(MainWindow& main, std::ostream& err)
+        : m_main(main), m_notices(err), m_changed(main.sbStatusBar.Changed.Observe([this] { Print(); }))
+    {
+        for (std::size_t i = 0; i < kPanels.size(); ++i)
+            m_shown[i] = m_main.sbStatusBar.PanelText(kPanels[i]);
+    }
+
+private:
+    static constexpr std::array kPanels = {Panel::Tnc, Panel::Server, Panel::Gps};
+
+    void Print()
+    {
+        for (std::size_t i = 0; i < kPanels.size(); ++i) {
+            const std::string& text = m_main.sbStatusBar.PanelText(kPanels[i]);
+            if (m_shown[i] == text)
+                continue;
+            m_shown[i] = text;
+            if (!text.empty())
+                m_notices.Say(text);
+        }
+    }
+
+    MainWindow& m_main;
+    PrintedNotices m_notices;
+    std::array<std::string, kPanels.size()> m_shown;
+    Subscription m_changed;
+};
+
+} // namespace
+
+bool RunLinks(MainWindow& main, const ProgramOptions& options, std::ostream& err)
+{
+    constexpr std::chrono::milliseconds kLook{100};
+    QEventLoop loop;
+    bool bEnd = false;
+    const auto end = [&] {
+        bEnd = true;
+        loop.quit();
+    };
+    const Termination termination(end);
+    const PrintedPanels panels(main, err);
+
+    std::vector<const LinkConnect*> waiting;
+    for (const LinkOption& option : options.connect) {
+        const LinkConnect& link = *waiting.emplace_back(&ConnectOf(option.link));
+        link.use(main, option);
+        AttemptAloud(main, "A link could not be connected", [&] { link.connect(main); });
+    }
+    // A link may be connected later than it is asked for.
+    const auto look = [&] { std::erase_if(waiting, [&](const LinkConnect* link) { return link->isConnected(main); }); };
+    QTimer looking;
+    QObject::connect(&looking, &QTimer::timeout, &loop, look);
+    looking.start(kLook);
+    look();
+    if (options.seconds)
+        QTimer::singleShot(std::chrono::seconds(*options.seconds), &loop, end);
+    if (!bEnd)
+        loop.exec();
+    look();
+    return waiting.empty();
+}
+
+} // namespace ruvenmark

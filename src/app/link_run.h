@@ -1,0 +1,25 @@
+#pragma once
+
+#include "app/options.h"
+
+#include <iosfwd>
+#include <vector>
+
+namespace ruvenmark {
+
+struct MainWindow;
+
+// How a link is connected without its dialog.
+struct LinkConnect {
+    LinkName link;
+    void (*use)(MainWindow& main, const LinkOption& option); // Takes the address into the link's fields.
+    void (*connect)(MainWindow& main);
+    bool (*isConnected)(const MainWindow& main);
+};
+const LinkConnect& ConnectOf(LinkName link);
+
+// Connects the links and lets the event loop run for the time, or until a signal. What the status panels say goes to
+// `err`. False where a link was never connected.
+bool RunLinks(MainWindow& main, const ProgramOptions& options, std::ostream& err);
+
+} // namespace ruvenmark
