@@ -1,6 +1,7 @@
 #include "app/desktop_program.h"
 
 #include "app/headless.h"
+#include "app/logic_timers.h"
 #include "app/options.h"
 #include "app/program_settings.h"
 #include "core/bare_surface.h"
@@ -191,6 +192,7 @@ int RunDesktop(int argc, char** argv, const ProgramOptions& options)
             run.window.LoadFile(*load);
             load.reset();
         });
+    const LogicTimers timers(run.main);
     const Termination termination([&] { run.window.CloseUnasked(); });
     return QApplication::exec();
 }

@@ -1,5 +1,6 @@
 #include "app/link_run.h"
 
+#include "app/logic_timers.h"
 #include "core/main_window.h"
 #include "core/notices.h"
 #include "desktop/termination.h"
@@ -62,6 +63,7 @@ bool RunLinks(MainWindow& main, const ProgramOptions& options, std::ostream& err
     };
     const Termination termination(end);
     const PrintedPanels panels(main, err);
+    const LogicTimers timers(main);
 
     std::vector<const LinkConnect*> waiting;
     for (const LinkOption& option : options.connect) {

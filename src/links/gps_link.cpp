@@ -4,6 +4,7 @@
 #include "links/gps_form_rules.h"
 #include "links/gps_panel.h"
 #include "map/symbols.h"
+#include "outgoing/my_station.h"
 #include "platform/numbers.h"
 
 #include <cmath>
@@ -85,7 +86,7 @@ void FollowFix(MainWindow& main, const GpsReport& fix)
     gps.bSameLatLon = fix.lat == gps.currentLat && fix.lon == gps.currentLon;
     if (gps.bSameLatLon)
         return;
-    // UpdateMyPositionNode(main) belongs here.
+    UpdateMyPositionNode(main);
     const Pushpin pin = MoveMarker(main, fix);
     if (main.frmGps.bTrackGpsPosition)
         KeepInView(main.mpCtrl.RequireMap(), pin.Location());

@@ -5,6 +5,7 @@
 #include "links/server_form_rules.h"
 #include "links/server_password.h"
 #include "links/server_status_rules.h"
+#include "outgoing/position_report.h"
 #include "platform/numbers.h"
 #include "platform/program_name.h"
 #include "platform/text.h"
@@ -91,9 +92,8 @@ std::string LoginLine(MainWindow& main, const std::string& call, const std::stri
 
 void BeaconAfterLogin(MainWindow& main, bool bBeacon)
 {
-    if (bBeacon && main.beacons.PositionDefined) {
-        // The position report to the server alone.
-    }
+    if (bBeacon && main.beacons.PositionDefined)
+        SendPositionReport(main, false);
 }
 
 // Without a call sign the connection stays open and only listens.

@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "links/weather_form_rules.h"
+#include "outgoing/my_station.h"
 #include "platform/numbers.h"
 
 #include <array>
@@ -47,7 +48,7 @@ public:
     void UpdateWeather(const WeatherUpdate& update) override
     {
         KeepValues(m_main.Settings, update);
-        // UpdateMyWeatherNode(m_main) belongs here.
+        UpdateMyWeatherNode(m_main);
     }
     void ConnectionError() override { DropWx(m_main); }
 

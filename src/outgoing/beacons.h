@@ -37,7 +37,9 @@ inline constexpr std::array<BeaconInterval, 8> kWeatherIntervals = {{{"Manual", 
 // From the settings; the counts go on.
 void WorkOutIntervals(MainWindow& main);
 
-// Every 15 seconds. One inside another, as while a box stands, is ignored.
+inline constexpr int kBeaconTickMs = 15000;
+
+// Every kBeaconTickMs. One inside another, as while a box stands, is ignored.
 void intervalTimer_Timer(MainWindow& main);
 
 } // namespace ruvenmark

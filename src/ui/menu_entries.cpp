@@ -93,7 +93,7 @@ constexpr std::array kEntries = {
                   rules::TickWindow<&WindowState::bLeftPane>},
     MenuEntryInfo{E::mnuViewMap, "mnuViewMap", "&Map", "", true, mnuViewMap_Click,
                   rules::TickWindow<&WindowState::bMapTicked>},
-    MenuEntryInfo{E::mnuViewGPSPanel, "mnuViewGPSPanel", "GPS &Panel", "", true, mnuViewGPSPanel_Click,
+    MenuEntryInfo{E::mnuViewGPSPanel, "mnuViewGPSPanel", "GPS Pan&el", "", true, mnuViewGPSPanel_Click,
                   rules::TickForm<Form::frmGpsPanel>},
     MenuEntryInfo{E::mnuOnlineTiles, "mnuOnlineTiles", "&Online Tiles", "", true, mnuOnlineTiles_Click,
                   rules::TickTiles},

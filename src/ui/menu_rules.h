@@ -28,12 +28,6 @@ void TickDirections(const MenuContext& at, MenuEntryState& state);
 
 void NameConnectTnc(const MenuContext& at, MenuEntryState& state);
 
-template <Form kForm>
-void TickForm(const MenuContext& at, MenuEntryState& state)
-{
-    state.bChecked = at.main.services.dialogs.IsVisible(kForm);
-}
-
 template <std::int32_t kFont>
 void TickFont(const MenuContext& at, MenuEntryState& state)
 {
