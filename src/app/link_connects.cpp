@@ -17,11 +17,10 @@ constexpr std::array<LinkConnect, 5> kConnects = {{
     {LinkName::Tnc,
      [](MainWindow& main, const LinkOption& option) {
          main.commDialog.bConnectSocket = false;
-         main.commDialog.lSerialBaud = main.commDialog.lLastBaudRate;
          if (option.address.empty())
              return;
          main.commDialog.sSerialPort = option.address;
-         main.commDialog.lSerialBaud = option.number;
+         main.commDialog.lLastBaudRate = option.number;
      },
      ConnectSerialTnc, [](const MainWindow& main) { return main.links.bSerialConnected; }},
     {LinkName::Agw,

@@ -1,6 +1,7 @@
 #include "links/gps_link.h"
 
 #include "core/main_window.h"
+#include "core/notices.h"
 #include "links/gps_form_rules.h"
 #include "links/gps_panel.h"
 #include "map/symbols.h"
@@ -162,7 +163,7 @@ void ConnectGps(MainWindow& main)
 {
     if (!main.frmGps.bConnect)
         return;
-    const bool bOpen = Attempt(main.abandoned, "ConnectGps", [&] {
+    const bool bOpen = AttemptAloud(main, "GPS connection failed", [&] {
         LinkState& links = main.links;
         main.gps.GpsUpdateSeconds = 1;
         if (!links.gpsSink)

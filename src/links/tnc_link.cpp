@@ -1,6 +1,7 @@
 #include "links/tnc_link.h"
 
 #include "core/main_window.h"
+#include "core/notices.h"
 #include "links/tnc_form_rules.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
@@ -13,6 +14,8 @@
 namespace ruvenmark {
 
 namespace {
+
+constexpr std::string_view kFailed = "TNC connection failed";
 
 void Show(MainWindow& main, std::string_view text)
 {
@@ -101,15 +104,15 @@ void Toggle(MainWindow& main)
 
 void ConnectTnc(MainWindow& main)
 {
-    if (!Attempt(main.abandoned, "ConnectTnc", [&] { Toggle(main); }))
-        Drop(main, "TNC connection failed");
+    if (!AttemptAloud(main, kFailed, [&] { Toggle(main); }))
+        Drop(main, kFailed);
 }
 
 void ConnectSerialTnc(MainWindow& main)
 {
     const TncForm& form = main.commDialog;
     main.links.aprs.reset(); // One that is still connecting.
-    const bool bWell = Attempt(main.abandoned, "ConnectSerialTnc", [&] {
+    const bool bWell = AttemptAloud(main, kFailed, [&] {
         main.links.aprs = main.services.sources.CreateTnc(main.links.SinkOf(Channel::RF));
         Source(main).OpenPort(form.sSerialPort, form.lLastBaudRate, kAccessToken);
         main.links.bSerialConnected = true;
@@ -120,20 +123,20 @@ void ConnectSerialTnc(MainWindow& main)
              "Connected to port " + form.sSerialPort + " at " + ShortText(std::int64_t{form.lLastBaudRate}) + "bps");
     });
     if (!bWell)
-        Drop(main, "TNC connection failed");
+        Drop(main, kFailed);
 }
 
 void ConnectAgw(MainWindow& main)
 {
     const TncForm& form = main.commDialog;
     main.links.aprs.reset(); // One that is still connecting.
-    const bool bWell = Attempt(main.abandoned, "ConnectAgw", [&] {
+    const bool bWell = AttemptAloud(main, kFailed, [&] {
         main.links.aprs = main.services.sources.CreateAgw(main.links.SinkOf(Channel::RF));
         Source(main).ConnectSocket(form.sSocketAddress, form.iSocketPort, kAccessToken);
         Show(main, "Connecting to AGW Packet Engine");
     });
     if (!bWell)
-        Drop(main, "TNC connection failed");
+        Drop(main, kFailed);
 }
 
 void SendTncSettings(MainWindow& main)

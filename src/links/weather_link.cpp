@@ -1,6 +1,7 @@
 #include "links/weather_link.h"
 
 #include "core/main_window.h"
+#include "core/notices.h"
 #include "links/weather_form_rules.h"
 #include "outgoing/my_station.h"
 #include "platform/numbers.h"
@@ -72,7 +73,7 @@ void Toggle(MainWindow& main)
 
 void mnuConnectWx_Click(MainWindow& main)
 {
-    if (Attempt(main.abandoned, "mnuConnectWx", [&] { Toggle(main); }))
+    if (AttemptAloud(main, "Weather station connect failed", [&] { Toggle(main); }))
         return;
     DropWx(main);
     main.services.prompts.Message("Weather station connect failed.");

@@ -81,14 +81,14 @@ std::optional<std::string> PositionReportText(const PositionReportData& data)
            tail;
 }
 
-void SendPositionReport(MainWindow& main, bool SendOnRf)
+void SendPositionReport(MainWindow& main, bool sendOnRf)
 {
     Attempt(main.abandoned, "SendPositionReport", [&] {
         const auto text = PositionReportText(DataOfSettings(main));
         if (!text)
             return TellTail(main);
         main.beacons.bTailTold = false;
-        SendOwnReport(main, *text, OpenRoads(main.links, SendOnRf, true));
+        SendOwnReport(main, *text, OpenRoads(main.links, sendOnRf, true));
     });
 }
 

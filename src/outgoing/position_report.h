@@ -25,6 +25,6 @@ std::optional<std::string> PositionReportText(const PositionReportData& data);
 
 // From the settings, over the server and, where it is wanted, on the air. A Failure ends it without a word; a comment
 // that is too long is told in a box.
-void SendPositionReport(MainWindow& main, bool SendOnRf);
+void SendPositionReport(MainWindow& main, bool sendOnRf);
 
 } // namespace ruvenmark

@@ -53,8 +53,9 @@ TEST(PopupMenus, RootsShowTheirOwnForm)
     program.main.Of(Channel::TCP).Filter.bOn = true;
     SetSetting(program.main.Settings, Setting::ShowTCPNames, "0");
     EXPECT_EQ(Shown(RightClick(program, "TCP")),
-              (Names{"Filter TCP Reports*", "Edit TCP Filter...", "Delete TCP Reports", "-Hide All Range Circles",
-                     "Show Tracked Stations Only", "Show TCP Station Names", "Hide TCP Station Names*"}));
+              (Names{"Connect APRS Server...", "Filter TCP Reports*", "Edit TCP Filter...", "Delete TCP Reports",
+                     "-Hide All Range Circles", "Show Tracked Stations Only", "Show TCP Station Names",
+                     "Hide TCP Station Names*"}));
 
     program.Hear("N0CALL>APRS:!4000.00N/08000.00W>");
     program.main.links.FileLoading = true;
