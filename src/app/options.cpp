@@ -172,7 +172,8 @@ void ReadConnect(ProgramOptions& options, const std::string& option, std::string
     for (const std::string_view word : Split(value, ',')) {
         const auto link = ReadLink(word);
         if (!link)
-            Refuse(option, word, "tnc, agw, server, gps or wx with PORT:BAUD or HOST:PORT (1 to 32767), as --help tells");
+            Refuse(option, word,
+                   "tnc, agw, server, gps or wx with PORT:BAUD or HOST:PORT (1 to 32767), as --help tells");
         const auto isSame = [&](const LinkOption& other) {
             return (other.link == LinkName::Agw ? LinkName::Tnc : other.link) ==
                    (link->link == LinkName::Agw ? LinkName::Tnc : link->link);
