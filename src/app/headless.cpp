@@ -21,7 +21,6 @@
 
 #include <array>
 #include <memory>
-#include <optional>
 #include <ostream>
 #include <string>
 
@@ -43,13 +42,13 @@ struct Wiring {
     explicit Wiring(const ProgramOptions& options)
     {
         if (!options.connect.empty())
-            application.emplace(argc, argv.data());
+            application = std::make_unique<QCoreApplication>(argc, argv.data());
     }
 
     std::string name{"ruvenmark"};
     int argc = 1;
     std::array<char*, 2> argv = {name.data(), nullptr};
-    std::optional<QCoreApplication> application;
+    std::unique_ptr<QCoreApplication> application;
     QtByteLinks links;
 };
 #else
