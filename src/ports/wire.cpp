@@ -13,8 +13,8 @@ namespace ruvenmark {
 namespace {
 
 constexpr std::chrono::milliseconds kTick{250};
-constexpr std::size_t kPiece = std::size_t{64} * 1024;          // Told at once; between two of them the window gets its turn.
-constexpr qint64 kMostUnsent = 16ll * 1024 * 1024; // An other end that takes less is as good as gone.
+constexpr std::size_t kPiece = std::size_t{64} * 1024; // Told at once; between two of them the window gets its turn.
+constexpr qint64 kMostUnsent = 16ll * 1024 * 1024;     // An other end that takes less is as good as gone.
 
 } // namespace
 
