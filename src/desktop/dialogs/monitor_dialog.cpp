@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kShownLines = 5000;
 constexpr std::size_t kMostBytes = std::size_t{512} * 1024; // That many lines, and no more than can be drawn at once.
-constexpr int kPauseMs = 100;                  // Between two updates, however fast lines come.
+constexpr int kPauseMs = 100;                               // Between two updates, however fast lines come.
 constexpr int kWidth = 640, kHeight = 400, kMargin = 20;
 
 } // namespace
