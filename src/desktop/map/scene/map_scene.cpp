@@ -54,7 +54,7 @@ MapLook MapScene::Paint(QPainter& painter, const Map& map, const MapView& view, 
     Arrange(map, view, how.selection);
     const ViewFrame frame(view);
     const bool bDark = IsDark(how.palette) && !m_ground.ShowsTiles(map.MapStyle());
-    const MapLook look(how.palette, how.font, map.MapFont(), bDark);
+    MapLook look(how.palette, how.font, map.MapFont(), bDark);
     const auto selectedPin = SelectedIn<Pushpin>(map.Pins(), how.selection);
     const MapGround::How ground{map.MapStyle(), map.MapFont(), bDark, how.ratio, how.bVector, how.bWait};
     const QString credits = m_ground.Credits(map.MapStyle());
