@@ -6,13 +6,13 @@ namespace ruvenmark {
 
 struct MainWindow;
 
-// The program's event loop calls the two timers of the logic: the beacons' and the GPS panel's.
+// The program's event loop calls the timers of the logic: the beacons', the GPS panel's and that which saves boxes.
 class LogicTimers {
 public:
     explicit LogicTimers(MainWindow& main); // Outlives them.
 
 private:
-    QTimer m_interval, m_panel;
+    QTimer m_interval, m_panel, m_boxes;
 };
 
 } // namespace ruvenmark

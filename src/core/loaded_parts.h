@@ -18,6 +18,7 @@ enum class Part : std::uint8_t {
     Gps,
     UnknownFolders,
     TrackLists,
+    MessageBoxes,
     FileLoad,
     Tiles
 };

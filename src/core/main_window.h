@@ -20,6 +20,9 @@
 #include "map/find_form.h"
 #include "map/map_session.h"
 #include "map/region_form.h"
+#include "messaging/message_form.h"
+#include "messaging/message_state.h"
+#include "messaging/open_message_form.h"
 #include "outgoing/beacon_state.h"
 #include "outgoing/object_form.h"
 #include "outgoing/position_form.h"
@@ -69,6 +72,9 @@ struct MainWindow {
     ObjectForm frmObject;
     WeatherReportForm frmWeather;
     StatusForm frmStatus;
+    MessageState messages;
+    MessageForm frmMessage;
+    OpenMessageForm frmOpenMessage;
     RegionForm frmRegion;
     ImportForm frmImport;
     FilterForm frmFilter;

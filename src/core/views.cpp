@@ -15,4 +15,13 @@ void ShowMapView(WindowState& window)
     window.Changed.Raise();
 }
 
+void ShowMessageView(WindowState& window, RightView list)
+{
+    window.rightView = list;
+    window.leftTree = LeftTree::Messages;
+    window.bMapTicked = false;
+    window.bMessagesTicked = true;
+    window.Changed.Raise();
+}
+
 } // namespace ruvenmark

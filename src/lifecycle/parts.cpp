@@ -8,6 +8,7 @@
 #include "links/tnc_form_rules.h"
 #include "map/map_start.h"
 #include "map/tile_settings.h"
+#include "messaging/message_files.h"
 #include "tracking/filters.h"
 #include "tracking/track_lists.h"
 
@@ -101,6 +102,7 @@ constexpr std::array kParts = {
     PartInfo{Part::Gps, "The settings of the GPS receiver", LoadGpsSettings, SaveGpsSettings},
     PartInfo{Part::UnknownFolders, "The settings of the folders", LoadUnknownFolders, SaveUnknownFolders},
     PartInfo{Part::TrackLists, "The track lists", LoadTrackLists, SaveTrackLists},
+    PartInfo{Part::MessageBoxes, "The messages", LoadMessageBoxes, SaveMessageBoxes},
     PartInfo{Part::FileLoad, "The settings of file loads", LoadImportSettings, SaveImportSettings},
     PartInfo{Part::Tiles, "The settings of tiles", LoadTileSettings, SaveTileSettings},
 };

@@ -54,6 +54,7 @@ void StartSubsystems(MainWindow& main, AutoConnect autoConnect)
     LoadPart(main, Part::Follow);
     main.tracking.NewMarkerBalloon = 1;
     main.sbStatusBar.SetPanel(Panel::Tnc, "TNC not connected");
+    LoadPart(main, Part::MessageBoxes);
     AddMyStationNode(main);
     for (const Part part : {Part::ServerLists, Part::Filters, Part::Comm, Part::Gps, Part::UnknownFolders,
                             Part::TrackLists, Part::FileLoad, Part::Tiles})

@@ -7,12 +7,12 @@
 #include "links/server_link.h"
 #include "links/server_status_rules.h"
 #include "links/tnc_link.h"
+#include "messaging/receive_message.h"
 
 namespace ruvenmark {
 
 namespace {
 
-// Messages are counted by the log of the raw data only until somebody reads them.
 class ReportSink final : public IReportSink {
 public:
     ReportSink(MainWindow& main, Channel channel) : m_main(main), m_channel(channel) {}
@@ -30,7 +30,7 @@ public:
     {
         aprs_ReportCapabilities(m_main, m_channel, report);
     }
-    void ReportAprsMsg(const MessageReport& /*report*/) override {}
+    void ReportAprsMsg(const MessageReport& report) override { aprs_ReportAprsMsg(m_main, m_channel, report); }
     void SocketConnected() override { aprs_SocketConnected(m_main); } // These three are RF's alone.
     void SocketConnectionError() override { aprs_SocketConnectionError(m_main); }
     void SocketConnectionClosed() override { aprs_SocketConnectionClosed(m_main); }

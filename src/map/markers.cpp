@@ -60,12 +60,18 @@ void WalkMarkers(MainWindow& main, const std::function<void(Pushpin&)>& work)
 
 Pushpin ShowStationMarker(MainWindow& main, const StationNode& station, const Record& record, GeoPoint point)
 {
+    return ShowMarkerOfStation(main, station.rootKey, station.node->Text(), record, point);
+}
+
+Pushpin ShowMarkerOfStation(MainWindow& main, std::string_view channelWord, std::string_view call, const Record& record,
+                            GeoPoint point)
+{
     Map& map = main.mpCtrl.RequireMap();
-    const std::string name = MarkerName(station.rootKey, station.node->Text());
+    const std::string name = MarkerName(channelWord, call);
     auto [pin, bNew] = MarkerAt(map, name, map.GetLocation(point.lat, point.lon));
     if (bNew)
         pin.SetBalloonState(1);
-    pin.SetNote(MarkerNote(station.rootKey, record));
+    pin.SetNote(MarkerNote(channelWord, record));
     return pin;
 }
 

@@ -28,6 +28,8 @@ void WalkMarkers(MainWindow& main, const std::function<void(Pushpin&)>& work);
 // Put the marker of a station of the tree, and that of the own station, where it is known to be: made, with its name
 // shown, or moved. Raise Failure.
 Pushpin ShowStationMarker(MainWindow& main, const StationNode& station, const Record& record, GeoPoint point);
+Pushpin ShowMarkerOfStation(MainWindow& main, std::string_view channelWord, std::string_view call, const Record& record,
+                            GeoPoint point);
 Pushpin ShowMyMarker(MainWindow& main);
 
 // Does the work on the markers of a folder root: over its stations or over all markers, whichever walk is shorter.

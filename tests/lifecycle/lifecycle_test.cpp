@@ -213,6 +213,20 @@ TEST(Stop, AMapThatCannotBeSavedSaysSoAndEverythingGoesOn)
     EXPECT_EQ(p.Text("RF"), "RF reports (2)");
 }
 
+// The order in which a crash in the midst of the stop would cost least: the lists of servers, then the messages.
+TEST(Stop, TheMessagesAreSavedBehindTheServersAndTheirFailureCostsNothingElse)
+{
+    Stored p{};
+    p.Start();
+    p.main.serverLists.PortList.Set("14580", "14580");
+    p.Sink(Channel::RF).ReportAprsMsg({"W1AW", "APRS", "", "BLN1", "net", ""});
+    p.files.FailWrite(2);
+    EXPECT_EQ(StopMainWindow(p.main), StopResult::StoppedWithLoss);
+    EXPECT_TRUE(p.files.texts.contains("/program/ports.txt"));
+    EXPECT_FALSE(p.files.texts.contains("/program/Inbox.txt"));
+    EXPECT_EQ(p.store.Lasting("FLDelay"), "0");
+}
+
 // On a signal nobody is there to be asked: the map's changes are lost, the rest is kept.
 TEST(Stop, UnaskedItKeepsAllButTheMap)
 {

@@ -1,0 +1,192 @@
+#include "messaging/message_files.h"
+
+#include "core/main_window.h"
+#include "core/notices.h"
+#include "messaging/message_boxes.h"
+#include "platform/failure.h"
+#include "platform/records.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr std::string_view kDelimiter = "#####";
+constexpr std::string_view kBold = "bold", kNotBold = "notbold";
+constexpr std::size_t kColumns = std::tuple_size_v<ListRow::Texts>;
+
+struct Box {
+    std::string_view name, complaint;
+    RowList MessageState::*list;
+    BoxState MessageState::*state;
+    bool bBoldKept; // In a seventh field.
+};
+constexpr std::array<Box, 2> kBoxes = {
+    {{"Inbox.txt", "The Inbox could not be saved", &MessageState::lvMessageList, &MessageState::inbox, false},
+     {"Sent.txt", "The sent items could not be saved", &MessageState::lvSentList, &MessageState::sent, true}}};
+
+// False where the rest of the file cannot be used.
+bool AddRow(RowList& list, TextRecord& record, std::size_t fields)
+{
+    if (record.size() < fields)
+        return false;
+    ListRow::Texts texts;
+    std::move(record.begin(), record.begin() + kColumns, texts.begin());
+    list.Add(std::move(texts), fields > kColumns && record[kColumns] == kBold);
+    return true;
+}
+
+BoxFile LoadRows(RowList& list, const std::string& text, std::size_t fields)
+{
+    BoxFile found = text.find('\0') == std::string::npos ? BoxFile::Whole : BoxFile::Damaged;
+    for (TextRecord& record : SplitRecords(text, kDelimiter)) {
+        if (record.size() != fields)
+            found = BoxFile::Damaged;
+        if (!AddRow(list, record, fields))
+            break;
+    }
+    return found;
+}
+
+void LoadBox(MainWindow& main, const Box& box)
+{
+    IFiles& files = main.services.files;
+    const std::string path = JoinPath(main.services.programFolder, box.name);
+    BoxState& state = main.messages.*box.state;
+    RowList& list = main.messages.*box.list;
+    list.Clear();
+    state = {};
+    if (!files.Exists(path))
+        return;
+    try {
+        state.file = LoadRows(list, files.ReadText(path, FileKind::List), kColumns + (box.bBoldKept ? 1 : 0));
+    } catch (const Failure&) {
+        state.file = BoxFile::Unreadable;
+    }
+    if (state.file == BoxFile::Damaged)
+        Tell(main, path + " could not be read whole; it is kept as " + path + ".bak before it is written anew");
+    else if (state.file == BoxFile::Unreadable)
+        Tell(main, path + " could not be read");
+}
+
+// A copy under the first free name; raises Failure.
+void KeepCopy(IFiles& files, const std::string& path)
+{
+    const std::string text = files.ReadText(path, FileKind::List);
+    std::string copy = path + ".bak";
+    for (int i = 2; files.Exists(copy); ++i)
+        copy = path + ".bak" + std::to_string(i);
+    files.WriteText(text, copy, FileKind::List);
+}
+
+TextTable Table(const RowList& list, bool bBoldKept)
+{
+    TextTable table;
+    table.reserve(list.Count());
+    for (std::size_t i = 0; i < list.Count(); ++i) {
+        const ListRow& row = list.At(i);
+        TextRecord& record = table.emplace_back();
+        for (std::size_t column = 0; column < kColumns; ++column)
+            record.push_back(row.Text(column));
+        if (bBoldKept)
+            record.emplace_back(row.IsBold() ? kBold : kNotBold);
+    }
+    return table;
+}
+
+// Raises Failure.
+void SaveBox(MainWindow& main, const Box& box)
+{
+    IFiles& files = main.services.files;
+    const std::string path = JoinPath(main.services.programFolder, box.name);
+    const RowList& list = main.messages.*box.list;
+    BoxState& state = main.messages.*box.state;
+    if (state.file == BoxFile::Unreadable && files.Exists(path)) {
+        if (!list.IsEmpty()) {
+            WriteRecords(files, Table(list, box.bBoldKept), path + ".new", kDelimiter);
+            throw Failure(path + " could not be read; what came since is in " + path + ".new");
+        }
+    } else {
+        if (state.file == BoxFile::Damaged && state.bChanged && files.Exists(path))
+            KeepCopy(files, path);
+        if (state.file != BoxFile::Damaged || state.bChanged) {
+            if (list.IsEmpty())
+                files.Remove(path);
+            else
+                WriteRecords(files, Table(list, box.bBoldKept), path, kDelimiter);
+            state.file = BoxFile::Whole;
+        }
+    }
+    state.bChanged = state.bFailureTold = false;
+}
+
+} // namespace
+
+void LoadMessageBoxes(MainWindow& main)
+{
+    BuildBoxTree(main.messages.tvMessageBoxes);
+    for (const Box& box : kBoxes)
+        LoadBox(main, box);
+    if (!main.messages.lvSentList.IsEmpty())
+        ShowSentCount(main.messages);
+}
+
+void SaveMessageBoxes(MainWindow& main)
+{
+    std::string unsaved;
+    for (const Box& box : kBoxes) {
+        if (!main.services.store.IsKept())
+            continue;
+        try {
+            SaveBox(main, box);
+        } catch (const Failure& failure) { // The other box can be saved all the same.
+            unsaved += unsaved.empty() ? "" : "; ";
+            unsaved += failure.what();
+        }
+    }
+    if (!unsaved.empty())
+        throw Failure(unsaved);
+}
+
+void SaveChangedBoxes(MainWindow& main)
+{
+    if (main.links.FileLoading || !main.loaded.Has(Part::MessageBoxes) || !main.services.store.IsKept())
+        return;
+    for (const Box& box : kBoxes) {
+        BoxState& state = main.messages.*box.state;
+        if (!state.bChanged)
+            continue;
+        if (state.bFailureTold)
+            Attempt(main.abandoned, box.complaint, [&] { SaveBox(main, box); });
+        else
+            state.bFailureTold = !AttemptAloud(main, box.complaint, [&] { SaveBox(main, box); });
+    }
+}
+
+bool BreaksBoxFile(std::string_view text)
+{
+    return text.find(kDelimiter) != std::string_view::npos || text.find_first_of("\r\n") != std::string_view::npos ||
+           text.find('\0') != std::string_view::npos;
+}
+
+std::string CarriedText(std::string_view text)
+{
+    std::string carried;
+    std::size_t run = 0; // Of what a delimiter is made of.
+    for (const char c : text) {
+        run = c == kDelimiter.front() ? run + 1 : 0;
+        if (run == kDelimiter.size()) {
+            carried += ' ';
+            run = 1;
+        }
+        carried += c == '\r' || c == '\n' || c == '\0' ? ' ' : c;
+    }
+    if (run > 0) // The delimiter behind the field would be found a character early.
+        carried += ' ';
+    return carried;
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,222 @@
+#include "messaging/box_commands.h"
+#include "messaging/message_boxes.h"
+#include "messaging/message_files.h"
+#include "messaging/message_fixture.h"
+
+namespace ruvenmark {
+namespace {
+
+constexpr const char *kInbox = "/program/Inbox.txt", *kSent = "/program/Sent.txt";
+
+// A program that starts over these files.
+struct Kept : TestProgram {
+    Kept(std::initializer_list<std::pair<const char* const, std::string>> stored) : TestProgram(false)
+    {
+        for (const auto& [path, text] : stored)
+            files.texts[path] = text;
+    }
+    MessageState& Start()
+    {
+        StartMainWindow(main, AutoConnect::No);
+        return main.messages;
+    }
+    std::string File(const char* path)
+    {
+        const auto found = files.texts.find(path);
+        return found == files.texts.end() ? "(no file)" : found->second;
+    }
+};
+
+TEST_F(MessageTest, TheBoxesComeBackAsTheyWere)
+{
+    SendAprsMessage(main, "N0CALL", "W1AW", "", " blanks around ", "3");
+    SendAprsMessage(main, "N0CALL", "BLN1", "WIDE1-1", "net", "");
+    Hear(Channel::RF, "N0CALL", "hi");
+    ASSERT_EQ(StopMainWindow(main), StopResult::Stopped);
+    EXPECT_EQ(program.files.texts[kSent],
+              "W1AW#####N0CALL##########2026-11-22 20:15:03##### blanks around #####3#####bold\r\n"
+              "BLN1#####N0CALL#####WIDE1-1#####2026-11-22 20:15:03#####net##########notbold");
+    EXPECT_EQ(program.files.texts[kInbox], "W1AW#####N0CALL#####WIDE2-1#####2026-11-22 20:15:03#####hi#####");
+
+    Kept next({{kSent, program.files.texts[kSent]}, {kInbox, program.files.texts[kInbox]}});
+    const MessageState& state = next.Start();
+    EXPECT_EQ(RowsOf(state.lvSentList), RowsOf(SentList()));
+    EXPECT_EQ(RowsOf(state.lvMessageList), Texts{"W1AW|N0CALL|WIDE2-1|2026-11-22 20:15:03|hi|"}); // Plain.
+    EXPECT_EQ(state.lvSentList.At(1).Icon(), RowIcon::None);
+    EXPECT_EQ(state.tvMessageBoxes.Find("MessagesSent")->Text(), "Sent Items (2)");
+    next.Sink(Channel::RF).ReportAprsMsg({"W1AW", "APRS", "", "N0CALL", "ack3", ""});
+    EXPECT_EQ(state.lvSentList.CountBold(), 0U);
+}
+
+// What is empty leaves no file; what was not read whole is kept aside once, and not touched while nothing changed.
+TEST(MessageFiles, NothingThatWasNotReadIsLost)
+{
+    const std::string damaged =
+        "a#####b#####c#####d#####e#####f\r\nshort#####row\r\nlost#####b#####c#####d#####e#####f";
+    Kept program({{kInbox, damaged}, {kSent, "unread"}});
+    program.files.unreadable.insert(kSent);
+    MessageState& state = program.Start();
+    EXPECT_EQ(RowsOf(state.lvMessageList), Texts{"a|b|c|d|e|f"});
+    SaveChangedBoxes(program.main);
+    EXPECT_EQ(program.File(kInbox), damaged);
+
+    state.lvMessageList.Clear();
+    state.inbox.bChanged = true;
+    SendAprsMessage(program.main, "N0CALL", "W1AW", "", "hello", "3");
+    EXPECT_EQ(StopMainWindow(program.main), StopResult::StoppedWithLoss); // The sent items are beside their file.
+    EXPECT_EQ(program.File(kInbox), "(no file)");
+    EXPECT_EQ(program.File("/program/Inbox.txt.bak"), damaged);
+    EXPECT_EQ(program.File(kSent), "unread");
+    EXPECT_EQ(program.File("/program/Sent.txt.new").substr(0, 19), "W1AW#####N0CALL####");
+}
+
+TEST(MessageFiles, AnEmptyBoxHasNoFile)
+{
+    Kept program({{kInbox, "a#####b#####c#####d#####e#####f"}});
+    program.Start().lvMessageList.Clear();
+    EXPECT_EQ(StopMainWindow(program.main), StopResult::Stopped);
+    EXPECT_EQ(program.File(kInbox), "(no file)");
+    EXPECT_EQ(program.File(kSent), "(no file)");
+}
+
+// One full disk costs one box, one line and no more; what changed is tried again.
+TEST_F(MessageTest, ChangesAreSavedBetweenTimesOnceEach)
+{
+    Hear(Channel::RF, "N0CALL", "hi");
+    SendAprsMessage(main, "N0CALL", "W1AW", "", "hello", "3");
+    main.links.FileLoading = true;
+    SaveChangedBoxes(main);
+    EXPECT_EQ(program.files.writes, 0);
+    main.links.FileLoading = false;
+    program.files.FailWrite(1);
+    SaveChangedBoxes(main);
+    EXPECT_FALSE(program.files.texts.contains(kInbox));
+    EXPECT_TRUE(program.files.texts.contains(kSent));
+    EXPECT_EQ(program.notices.lines.size(), 1U);
+    SaveChangedBoxes(main);
+    EXPECT_TRUE(program.files.texts.contains(kInbox));
+    SaveChangedBoxes(main);
+    EXPECT_EQ(program.files.writes, 3);
+    Hear(Channel::RF, "N0CALL", "ack3");
+    SaveChangedBoxes(main);
+    EXPECT_TRUE(program.files.texts[kSent].ends_with("#####notbold"));
+}
+
+// A text off the air can hold anything but line ends.
+TEST_F(MessageTest, NoTextCanBreakABox)
+{
+    for (const char* text : {"a#####b", "##########", "ends with #", "#"})
+        Hear(Channel::RF, "N0CALL", text);
+    SaveChangedBoxes(main);
+    Kept next({{kInbox, program.files.texts[kInbox]}});
+    EXPECT_EQ(next.Start().lvMessageList.Count(), 4U);
+    for (std::size_t i = 0; i < 4; ++i)
+        for (std::size_t column = 0; column < 6; ++column)
+            EXPECT_EQ(next.main.messages.lvMessageList.At(i).Text(column), Inbox().At(i).Text(column));
+}
+
+TEST_F(MessageTest, AClickOnABoxShowsItsList)
+{
+    KeyedTree& boxes = main.messages.tvMessageBoxes;
+    Hear(Channel::RF, "N0CALL", "hi");
+    mnuViewMessages_Click(main);
+    EXPECT_EQ(main.sbStatusBar.PanelText(Panel::NewMessage), "");
+    EXPECT_EQ(main.window.rightView, RightView::Inbox);
+    EXPECT_EQ(main.window.leftTree, LeftTree::Messages);
+    EXPECT_TRUE(main.window.bMessagesTicked && !main.window.bMapTicked);
+    tvMessageBoxes_NodeClick(main, *boxes.Find("MessagesSent"));
+    EXPECT_EQ(main.window.rightView, RightView::Sent);
+    Hear(Channel::RF, "N0CALL", "more");
+    EXPECT_EQ(main.sbStatusBar.PanelText(Panel::NewMessage), "New Message");
+    tvMessageBoxes_NodeClick(main, *boxes.Find("Messages"));
+    EXPECT_EQ(main.window.rightView, RightView::Sent);
+    tvMessageBoxes_NodeClick(main, *boxes.Find("MessagesInbox"));
+    EXPECT_EQ(main.window.rightView, RightView::Inbox);
+    EXPECT_EQ(main.sbStatusBar.PanelText(Panel::NewMessage), "");
+    Hear(Channel::RF, "N0CALL", "seen at once"); // The list is in front.
+    EXPECT_EQ(main.sbStatusBar.PanelText(Panel::NewMessage), "");
+    EXPECT_EQ(Inbox().CountBold(), 3U);
+    lvMessageList_LostFocus(main);
+    EXPECT_EQ(Inbox().CountBold(), 0U);
+    EXPECT_EQ(BoxText("MessagesInbox"), "Inbox");
+}
+
+TEST_F(MessageTest, DeletingCountsAnew)
+{
+    for (const char* text : {"one", "two", "three"})
+        Hear(Channel::RF, "N0CALL", text);
+    mnuMsgDelete_Click(main); // No list shows.
+    mnuViewMessages_Click(main);
+    main.messages.lvMessageList.Select(0, true);
+    main.messages.lvMessageList.Select(2, true);
+    mnuMsgDelete_Click(main); // No.
+    EXPECT_EQ(Inbox().Count(), 3U);
+    program.prompts.answers = {Answer::Yes};
+    mnuMsgDelete_Click(main);
+    EXPECT_EQ(Inbox().Count(), 1U);
+    EXPECT_EQ(Inbox().At(0).Text(message_column::kText), "two");
+    EXPECT_EQ(BoxText("MessagesInbox"), "Inbox (1)");
+    SendAprsMessage(main, "N0CALL", "W1AW", "", "hello", "3");
+    program.prompts.answers = {Answer::Yes, Answer::Yes};
+    mnuMsgDeleteAll_Click(main);
+    EXPECT_EQ(BoxText("MessagesInbox"), "Inbox");
+    EXPECT_EQ(main.messages.UnreadCount, 0);
+    tvMessageBoxes_NodeClick(main, *main.messages.tvMessageBoxes.Find("MessagesSent"));
+    mnuMsgDeleteAll_Click(main);
+    EXPECT_EQ(BoxText("MessagesSent"), "Sent Items");
+    const std::string selected = "Are you sure you want to delete the selected message(s)?";
+    EXPECT_EQ(program.prompts.questions,
+              (Texts{selected, selected, "Are you sure you want to delete all received messages?",
+                     "Are you sure you want to delete all sent messages?"}));
+}
+
+TEST_F(MessageTest, AMessageIsOpenedAndAnswered)
+{
+    Open(false, false, true);
+    Hear(Channel::RF, "N0CALL", "hi", "7");
+    Take();
+    Hear(Channel::RF, "BLN1", "net");
+    mnuViewMessages_Click(main);
+    Texts captions;
+    program.dialogs.onRun[Form::frmOpenMessage] = [&](MainWindow& opened) {
+        captions.push_back(opened.frmOpenMessage.caption);
+        opened.frmOpenMessage.bReply = captions.size() == 1;
+    };
+    std::string to;
+    program.dialogs.onRun[Form::frmMessage] = [&](MainWindow& opened) {
+        to = opened.frmMessage.txtTo;
+        opened.frmMessage.roads.chkTCP = true;
+        opened.frmMessage.txtMessage = "here";
+        EXPECT_EQ(frmMessage_Send(opened.frmMessage), "");
+    };
+    for (const std::size_t row : {0U, 1U}) {
+        main.messages.lvMessageList.SelectOnly(row);
+        mnuMsgOpen_Click(main);
+    }
+    EXPECT_EQ(captions, (Texts{"Message 7", "Bulletin "}));
+    EXPECT_EQ(to, "W1AW");
+    EXPECT_EQ(Take(), Texts{"server N0CALL>APRS,TCPIP*::W1AW     :here{1"});
+}
+
+// By a marker or by the record; stations of a file are not where the sender is now.
+TEST_F(MessageTest, TheSenderIsLocated)
+{
+    program.Position(Channel::TCP, "N2CALL", 40, -80);
+    program.Position(Channel::FL, "N3CALL", 10, 10);
+    program.Position(Channel::RF, "N4CALL", 20, 20);
+    program.Marker("N4CALL(r)")->Delete();
+    for (const char* source : {"N2CALL", "N3CALL", "N4CALL"})
+        Hear(Channel::RF, "N0CALL", "hi", "", source);
+    for (std::size_t row = 0; row < 3; ++row) {
+        mnuViewMessages_Click(main);
+        main.messages.lvMessageList.SelectOnly(row);
+        mnuMsgLocate_Click(main);
+        EXPECT_EQ(main.window.rightView, row == 1 ? RightView::Inbox : RightView::Map);
+    }
+    EXPECT_EQ(program.prompts.messages, Texts{"No position report available for station N3CALL"});
+    ASSERT_TRUE(program.Marker("N4CALL(r)"));
+    EXPECT_EQ(program.Marker("N4CALL(r)")->BalloonState(), 1);
+}
+
+} // namespace
+} // namespace ruvenmark
