@@ -7,8 +7,10 @@
 #include "desktop/icons/icon_set.h"
 #include "desktop/map/tiles/tile_choice.h"
 #include "desktop/map/widget/map_widget.h"
+#include "desktop/named_control.h"
 #include "desktop/panes/help_view.h"
 #include "desktop/panes/map_pane.h"
+#include "desktop/panes/message_panes.h"
 #include "desktop/panes/panes.h"
 #include "desktop/shown_text.h"
 #include "desktop/tree/tree_model.h"
@@ -51,17 +53,17 @@ MainWindowView::MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* 
       m_tree(new TreeView(main.tvStationList, *m_treeModel, this)),
       m_toolBar(new MainToolBar(
           main, icons, [this](MenuEntry entry) { Run(entry); }, this)),
-      m_statusBar(new StatusBarView(main.sbStatusBar, this)), m_right(new QStackedWidget(this)),
-      m_panes(new Panes(main, this)), m_placement(main, *this)
+      m_statusBar(new StatusBarView(main.sbStatusBar, this)), m_left(new QStackedWidget(this)),
+      m_right(new QStackedWidget(this)), m_panes(new Panes(main, this)), m_placement(main, *this)
 {
     setWindowIcon(icons.Program());
     setMinimumWidth(PixelsOfTwips(kMinWindowWidth));
     setAcceptDrops(true);
-    m_tree->setObjectName(QStringLiteral("tvStationList"));
-    m_tree->setAccessibleName(QStringLiteral("Stations"));
+    NameControl(*m_tree, "tvStationList", QStringLiteral("Stations"));
+    m_left->addWidget(m_tree);
     MakeRightPane(base);
     m_menus.Fill(*menuBar());
-    m_panes->SetControls({m_toolBar, m_tree, m_right, m_statusBar});
+    m_panes->SetControls({m_toolBar, m_left, m_right, m_statusBar});
     setCentralWidget(m_panes);
     ConnectMap();
     ConnectTree();
@@ -90,6 +92,10 @@ void MainWindowView::MakeRightPane(const BaseMap* base)
     m_help = new HelpView(m_main.services.desktop, m_right);
     m_right->addWidget(m_mapPane);
     m_right->addWidget(m_help);
+    m_messages = new MessagePanes(m_main, m_icons,
+                                  {[this](MenuEntry entry) { Run(entry); },
+                                   [this](QPoint place, const std::vector<MenuItem>& items) { PopUp(place, items); }},
+                                  *m_left, *m_right);
 }
 
 void MainWindowView::ConnectMap()
@@ -108,8 +114,10 @@ void MainWindowView::ConnectMap()
 
 void MainWindowView::ConnectTree()
 {
-    connect(m_tree, &TreeView::MenuWanted, this,
-            [this](TreeNode* node, QPoint place) { PopUp(place, kRightButton, node); });
+    connect(m_tree, &TreeView::MenuWanted, this, [this](TreeNode* node, QPoint place) {
+        if (const auto popup = tvStationList_MouseUp(m_main, kRightButton, node))
+            PopUp(place, popup->items);
+    });
     connect(m_tree, &TreeView::NodeExpanded, this, [this](TreeNode* node) { tvStationList_Expand(m_main, *node); });
 }
 
@@ -147,8 +155,12 @@ void MainWindowView::ShowState()
     setWindowTitle(window.caption.empty() ? QStringLiteral("Ruvenmark") : ForDisplay(window.caption));
     if (window.rightView == RightView::Web)
         m_help->Show(window.webAddress);
-    m_right->setCurrentWidget(window.rightView == RightView::Web ? static_cast<QWidget*>(m_help) : m_mapPane);
-    m_right->setFocusProxy(m_right->currentWidget());
+    QWidget* other = window.rightView == RightView::Web ? static_cast<QWidget*>(m_help) : m_mapPane;
+    QWidget* list = m_messages->List(window.rightView);
+    m_right->setCurrentWidget(list ? list : other);
+    m_left->setCurrentWidget(window.leftTree == LeftTree::Messages ? m_messages->Boxes() : m_tree);
+    for (QStackedWidget* stack : {m_left, m_right})
+        stack->setFocusProxy(stack->currentWidget());
     m_placement.Apply();
     m_panes->ApplyLayout();
 }
@@ -171,12 +183,9 @@ void MainWindowView::ShowTiles()
     m_map->Tiles().Choose(TileChoiceOf(m_main.map.tiles));
 }
 
-void MainWindowView::PopUp(QPoint place, int button, TreeNode* node)
+void MainWindowView::PopUp(QPoint place, const std::vector<MenuItem>& items)
 {
-    const auto popup = tvStationList_MouseUp(m_main, button, node);
-    if (!popup)
-        return;
-    QMenu* menu = m_menus.MakePopup(popup->items, m_tree);
+    QMenu* menu = m_menus.MakePopup(items, this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->popup(place);
 }

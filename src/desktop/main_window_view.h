@@ -22,6 +22,7 @@ class IconSet;
 class MainToolBar;
 class MapPane;
 class MapWidget;
+class MessagePanes;
 class Panes;
 class StatusBarView;
 class TreeModel;
@@ -66,7 +67,7 @@ private:
     void RefreshStates();
     void RefreshIcons();
     void ShowTiles();
-    void PopUp(QPoint place, int button, TreeNode* node);
+    void PopUp(QPoint place, const std::vector<MenuItem>& items);
     void RunLoad(const std::function<void()>& load);
     void AfterCommand();
 
@@ -77,10 +78,11 @@ private:
     TreeView* m_tree;
     MainToolBar* m_toolBar;
     StatusBarView* m_statusBar;
-    QStackedWidget* m_right;
+    QStackedWidget *m_left, *m_right;
     MapWidget* m_map = nullptr;
     MapPane* m_mapPane = nullptr;
     HelpView* m_help = nullptr;
+    MessagePanes* m_messages = nullptr;
     Panes* m_panes;
     WindowPlacement m_placement;
     QTimer m_stateTimer, m_pointerTimer;

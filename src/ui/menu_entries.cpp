@@ -11,6 +11,9 @@
 #include "map/markers.h"
 #include "map/range_circles.h"
 #include "map/tile_settings.h"
+#include "messaging/box_commands.h"
+#include "messaging/message_boxes.h"
+#include "messaging/send_message.h"
 #include "outgoing/my_station.h"
 #include "outgoing/object_report.h"
 #include "outgoing/position_form_rules.h"
@@ -93,6 +96,8 @@ constexpr std::array kEntries = {
                   rules::TickWindow<&WindowState::bLeftPane>},
     MenuEntryInfo{E::mnuViewMap, "mnuViewMap", "&Map", "", true, mnuViewMap_Click,
                   rules::TickWindow<&WindowState::bMapTicked>},
+    MenuEntryInfo{E::mnuViewMessages, "mnuViewMessages", "Mess&ages", "", true, mnuViewMessages_Click,
+                  rules::TickWindow<&WindowState::bMessagesTicked>},
     MenuEntryInfo{E::mnuViewGPSPanel, "mnuViewGPSPanel", "GPS Pan&el", "", true, mnuViewGPSPanel_Click,
                   rules::TickForm<Form::frmGpsPanel>},
     MenuEntryInfo{E::mnuOnlineTiles, "mnuOnlineTiles", "&Online Tiles", "", true, mnuOnlineTiles_Click,
@@ -146,6 +151,7 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuSendWeather, "mnuSendWeather", "&Weather...", "", false, mnuSendWeather_Click},
     MenuEntryInfo{E::mnuSendStatus, "mnuSendStatus", "&Status...", "", false, mnuSendStatus_Click},
     MenuEntryInfo{E::mnuSendObject, "mnuSendObject", "&Object...", "", false, mnuSendObject_Click},
+    MenuEntryInfo{E::mnuSendMessage, "mnuSendMessage", "&Message...", "", false, mnuSendMessage_Click},
 
     MenuEntryInfo{E::mnuToolsFilter, "mnuToolsFilter", "&Filters...", "", false, mnuToolsFilter_Click},
     MenuEntryInfo{E::mnuTrackedStations, "mnuTrackedStations", "&Track List...", "", false, mnuTrackedStations_Click},
@@ -163,6 +169,7 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuHelpAbout, "mnuHelpAbout", "&About Ruvenmark", "", false, mnuHelpAbout_Click},
 
     MenuEntryInfo{E::mnuViewPosition, "mnuViewPosition", "View Position", "", false, mnuViewPosition_Click},
+    MenuEntryInfo{E::mnuPop1SendMsg, "mnuPop1SendMsg", "Send Message...", "", false, mnuPop1SendMsg_Click},
     MenuEntryInfo{E::mnuInfo, "mnuInfo", "Operator Info", "", false, mnuInfo_Click},
     MenuEntryInfo{E::mnuStartTrack, "mnuStartTrack", "Start Tracking", "", false, mnuStartTrack_Click,
                   rules::OnUntracked},
@@ -216,6 +223,20 @@ constexpr std::array kEntries = {
                   rules::OnSortable},
     MenuEntryInfo{E::mnuShowUnknown, "mnuShowUnknown", "Catch Rejected Packets", "", true, mnuShowUnknown_Click,
                   rules::TickUnknown},
+
+    MenuEntryInfo{E::mnuMsgOpen, "mnuMsgOpen", "Open", "", false, mnuMsgOpen_Click, rules::OnReceived},
+    MenuEntryInfo{E::mnuMsgReply, "mnuMsgReply", "Reply...", "", false, mnuMsgReply_Click, rules::OnReceived},
+    MenuEntryInfo{E::mnuMsgForward, "mnuMsgForward", "Forward...", "", false, mnuMsgForward_Click, rules::OnReceived},
+    MenuEntryInfo{E::mnuMsgSendAgain, "mnuMsgSendAgain", "Send Again", "", false, mnuMsgSendAgain_Click, rules::OnSent},
+    MenuEntryInfo{E::mnuMsgDelete, "mnuMsgDelete", "Delete", "", false, mnuMsgDelete_Click, rules::OnSelectedMessage},
+    MenuEntryInfo{E::mnuMsgDeleteAll, "mnuMsgDeleteAll", "Delete All", "", false, mnuMsgDeleteAll_Click,
+                  rules::OnAnyMessage},
+    MenuEntryInfo{E::mnuMsgLocate, "mnuMsgLocate", "Locate Sender", "", false, mnuMsgLocate_Click, rules::NameLocate},
+    MenuEntryInfo{E::mnuMsgNew, "mnuMsgNew", "New Message...", "", false, mnuSendMessage_Click},
+
+    MenuEntryInfo{E::mnuMsgboxNewMsg, "mnuMsgboxNewMsg", "New Message...", "", false, mnuSendMessage_Click},
+    MenuEntryInfo{E::mnuMsgboxClear, "mnuMsgboxClear", "Clear Inbox", "", false, mnuMsgDeleteAll_Click,
+                  rules::NameClear},
 };
 
 constexpr bool StandInOrder()
@@ -226,7 +247,7 @@ constexpr bool StandInOrder()
     return true;
 }
 static_assert(StandInOrder());
-static_assert(kEntries.size() == static_cast<std::size_t>(E::mnuShowUnknown) + 1);
+static_assert(kEntries.size() == static_cast<std::size_t>(E::mnuMsgboxClear) + 1);
 
 } // namespace
 

@@ -39,6 +39,7 @@ constexpr std::array kView = {MenuPlace{E::mnuViewToolbar},
                               MenuPlace{E::mnuTreeView},
                               kLine,
                               MenuPlace{E::mnuViewMap},
+                              MenuPlace{E::mnuViewMessages},
                               MenuPlace{E::mnuViewGPSPanel},
                               kLine,
                               MenuPlace{E::None, Menu::MapStyle},
@@ -68,7 +69,7 @@ constexpr std::array kRegionMenu = {MenuPlace{E::mnuRegionNorthAmerica}, MenuPla
 constexpr std::array kCommunication = {MenuPlace{E::mnuConnect}, MenuPlace{E::mnuConnectServer},
                                        MenuPlace{E::mnuConnectGps}, MenuPlace{E::mnuConnectWx}};
 constexpr std::array kSend = {MenuPlace{E::mnuSendPosition}, MenuPlace{E::mnuSendWeather}, MenuPlace{E::mnuSendStatus},
-                              MenuPlace{E::mnuSendObject}};
+                              MenuPlace{E::mnuSendObject}, MenuPlace{E::mnuSendMessage}};
 
 constexpr std::array kTools = {MenuPlace{E::mnuToolsFilter},
                                MenuPlace{E::mnuTrackedStations},
@@ -84,12 +85,20 @@ constexpr std::array kHelp = {MenuPlace{E::mnuRuvenmarkHelp}, kLine, MenuPlace{E
 
 // --- The station tree's pop-up menus: a station, a root or nothing, the own station's facts, a folder
 
-constexpr std::array kStation = {
-    MenuPlace{E::mnuViewPosition},     MenuPlace{E::mnuInfo},        kLine,
-    MenuPlace{E::mnuStartTrack},       MenuPlace{E::mnuStopTrack},   MenuPlace{E::mnuShowStationTrack},
-    MenuPlace{E::mnuHideStationTrack}, MenuPlace{E::mnuRemoveTrack}, kLine,
-    MenuPlace{E::mnuShowRange},        MenuPlace{E::mnuHideRange},   kLine,
-    MenuPlace{E::mnuRemoveStation}};
+constexpr std::array kStation = {MenuPlace{E::mnuViewPosition},
+                                 MenuPlace{E::mnuPop1SendMsg},
+                                 MenuPlace{E::mnuInfo},
+                                 kLine,
+                                 MenuPlace{E::mnuStartTrack},
+                                 MenuPlace{E::mnuStopTrack},
+                                 MenuPlace{E::mnuShowStationTrack},
+                                 MenuPlace{E::mnuHideStationTrack},
+                                 MenuPlace{E::mnuRemoveTrack},
+                                 kLine,
+                                 MenuPlace{E::mnuShowRange},
+                                 MenuPlace{E::mnuHideRange},
+                                 kLine,
+                                 MenuPlace{E::mnuRemoveStation}};
 
 constexpr std::array kRoot = {MenuPlace{E::mnuPopupConnect, Menu::None, kRfRoot | kTcpRoot},
                               MenuPlace{E::mnuPopupToggleFilter, Menu::None, kChannelRoots},
@@ -115,6 +124,22 @@ constexpr std::array kMyRange = {MenuPlace{E::mnuViewMyPosition}, MenuPlace{E::m
 
 constexpr std::array kFolder = {MenuPlace{E::mnuTcpSort}, MenuPlace{E::mnuShowUnknown}};
 
+// --- The lists of messages, each with what goes with it, and the box tree
+
+constexpr std::array kMessageList = {MenuPlace{E::mnuMsgOpen},
+                                     MenuPlace{E::mnuMsgReply},
+                                     MenuPlace{E::mnuMsgForward},
+                                     MenuPlace{E::mnuMsgSendAgain},
+                                     kLine,
+                                     MenuPlace{E::mnuMsgDelete},
+                                     MenuPlace{E::mnuMsgDeleteAll},
+                                     kLine,
+                                     MenuPlace{E::mnuMsgLocate},
+                                     kLine,
+                                     MenuPlace{E::mnuMsgNew}};
+
+constexpr std::array kBoxTree = {MenuPlace{E::mnuMsgboxNewMsg}, MenuPlace{E::mnuMsgboxClear}};
+
 constexpr std::array kMenus = {
     MenuInfo{Menu::File, "&File", kFile},
     MenuInfo{Menu::Edit, "&Edit", kEdit},
@@ -132,6 +157,8 @@ constexpr std::array kMenus = {
     MenuInfo{Menu::mnuMyStationPopup, "", kMyStation},
     MenuInfo{Menu::mnuMyRangePopup, "", kMyRange},
     MenuInfo{Menu::mnuTcpSortPopup, "", kFolder},
+    MenuInfo{Menu::mnuMsgPopup, "", kMessageList},
+    MenuInfo{Menu::mnuMsgBoxPopup, "", kBoxTree},
 };
 
 } // namespace

@@ -100,4 +100,14 @@ void OnMyCircle(const MenuContext& at, MenuEntryState& state);
 void OnSortable(const MenuContext& at, MenuEntryState& state);
 void TickUnknown(const MenuContext& at, MenuEntryState& state);
 
+// --- The list of messages that the right pane shows
+void OnReceived(const MenuContext& at, MenuEntryState& state);
+void OnSent(const MenuContext& at, MenuEntryState& state);
+void OnSelectedMessage(const MenuContext& at, MenuEntryState& state);
+void OnAnyMessage(const MenuContext& at, MenuEntryState& state);
+void NameLocate(const MenuContext& at, MenuEntryState& state);
+
+// --- A box
+void NameClear(const MenuContext& at, MenuEntryState& state);
+
 } // namespace ruvenmark::menu_rules

@@ -32,6 +32,7 @@ enum class MenuEntry : std::uint8_t {
     mnuViewStatusBar,
     mnuTreeView,
     mnuViewMap,
+    mnuViewMessages,
     mnuViewGPSPanel,
     mnuOnlineTiles,
     mnuTileFile,
@@ -62,6 +63,7 @@ enum class MenuEntry : std::uint8_t {
     mnuSendWeather,
     mnuSendStatus,
     mnuSendObject,
+    mnuSendMessage,
     mnuToolsFilter,
     mnuTrackedStations,
     mnuToolsStationTracking,
@@ -72,6 +74,7 @@ enum class MenuEntry : std::uint8_t {
     mnuRuvenmarkHelp,
     mnuHelpAbout,
     mnuViewPosition,
+    mnuPop1SendMsg,
     mnuInfo,
     mnuStartTrack,
     mnuStopTrack,
@@ -100,10 +103,21 @@ enum class MenuEntry : std::uint8_t {
     mnuShowMyRange,
     mnuHideMyRange,
     mnuTcpSort,
-    mnuShowUnknown
+    mnuShowUnknown,
+    mnuMsgOpen,
+    mnuMsgReply,
+    mnuMsgForward,
+    mnuMsgSendAgain,
+    mnuMsgDelete,
+    mnuMsgDeleteAll,
+    mnuMsgLocate,
+    mnuMsgNew,
+    mnuMsgboxNewMsg,
+    mnuMsgboxClear
 };
 
-// The menus of the menu bar, those that open inside View, and the station tree's five pop-up menus.
+// The menus of the menu bar, those that open inside View, the station tree's five pop-up menus, and those of the lists
+// of messages and of the box tree.
 enum class Menu : std::uint8_t {
     None,
     File,
@@ -121,7 +135,9 @@ enum class Menu : std::uint8_t {
     mnuRootPopup,
     mnuMyStationPopup,
     mnuMyRangePopup,
-    mnuTcpSortPopup
+    mnuTcpSortPopup,
+    mnuMsgPopup,
+    mnuMsgBoxPopup
 };
 
 // In order; one without entries is left out.
@@ -137,7 +153,7 @@ struct MenuEntryState {
 // What the state of an entry depends on: the program and, in a pop-up menu of the tree, the node under it.
 struct MenuContext {
     const MainWindow& main;
-    const TreeNode* node; // Null for nothing, and everywhere else.
+    const TreeNode* node; // Of the station tree or the box tree; null for nothing, and everywhere else.
 };
 
 // What an entry is, wherever it stands.

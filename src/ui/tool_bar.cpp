@@ -19,9 +19,11 @@ constexpr std::array kToolButtons = {ToolButton{"New", "New map", E::mnuFileNew}
                                      ToolButton{"Delete", "Delete", E::mnuEditDelete},
                                      ToolButton{"", "", E::None},
                                      ToolButton{"ViewLeft", "Left pane", E::mnuTreeView},
+                                     ToolButton{"ViewMsgs", "Messages", E::mnuViewMessages},
                                      ToolButton{"ViewMap", "Map", E::mnuViewMap},
                                      ToolButton{"", "", E::None},
                                      ToolButton{"SendPosition", "Send position", E::mnuSendPosition},
+                                     ToolButton{"SendMessage", "Send message", E::mnuSendMessage},
                                      ToolButton{"", "", E::None},
                                      ToolButton{"Help", "Help", E::mnuRuvenmarkHelp}};
 

@@ -79,6 +79,10 @@ TEST(Menus, ViewTicksWhatShows)
     TestProgram program;
     EXPECT_EQ(Ticked(program, Menu::View),
               (std::vector<std::string>{"mnuViewToolbar", "mnuViewStatusBar", "mnuTreeView", "mnuViewMap"}));
+    RunMenuEntry(program.main, MenuEntry::mnuViewMessages);
+    EXPECT_EQ(Ticked(program, Menu::View).back(), "mnuViewMessages");
+    RunMenuEntry(program.main, MenuEntry::mnuViewMap);
+    EXPECT_EQ(Ticked(program, Menu::View).back(), "mnuViewMap");
     EXPECT_EQ(Ticked(program, Menu::MapFont), std::vector<std::string>{"mnuFontMedium"});
     EXPECT_EQ(Ticked(program, Menu::MapStyle), std::vector<std::string>{"mnuRoadMap"});
     EXPECT_EQ(Ticked(program, Menu::MapToolbars),

@@ -1,4 +1,6 @@
+#include "messaging/send_message.h"
 #include "support/test_program.h"
+#include "ui/message_popups.h"
 #include "ui/station_tree_commands.h"
 
 #include <gtest/gtest.h>
@@ -18,17 +20,19 @@ std::optional<PopupMenu> RightClick(TestProgram& program, std::string_view key)
 }
 
 // What the menu shows: captions, those that are ticked with "*", those that are not enabled with "-".
-Names Shown(const std::optional<PopupMenu>& popup)
+Names Shown(const std::vector<MenuItem>& items)
 {
     Names shown;
-    if (!popup)
-        return shown;
-    for (const MenuItem& item : popup->items) {
+    for (const MenuItem& item : items) {
         if (item.IsLine() || !item.state.bVisible)
             continue;
         shown.push_back((item.state.bEnabled ? "" : "-") + item.state.caption + (item.state.bChecked ? "*" : ""));
     }
     return shown;
+}
+Names Shown(const std::optional<PopupMenu>& popup)
+{
+    return popup ? Shown(popup->items) : Names();
 }
 
 TEST(PopupMenus, OnlyTheRightButtonOpensOneAndItSelectsFirst)
@@ -69,7 +73,7 @@ TEST(PopupMenus, RootsShowTheirOwnForm)
               (Names{"-Hide All Range Circles", "Show Tracked Stations Only", "Show My Q&&A Stations",
                      "Hide My Q&&A Stations", "Unload My Q&&A"}));
     program.Tree().Add(program.Tree().Add(club, "Positions", "Positions"), "N0CALL", "N0CALL");
-    EXPECT_EQ(Shown(RightClick(program, "ClubPositionsN0CALL"))[2], "-Start Tracking");
+    EXPECT_EQ(Shown(RightClick(program, "ClubPositionsN0CALL"))[3], "-Start Tracking");
 }
 
 TEST(PopupMenus, NothingUnderThePointerOffersWhatIsForAll)
@@ -92,22 +96,24 @@ TEST(PopupMenus, AStationsEntriesFollowItsChannel)
     program.Hear(Channel::TCP, "n0call-9>APRS:!4000.00N/08000.00W>PHG5130");
     program.main.Of(Channel::RF).Tracked.Set("N0CALL-9", "N0CALL-9");
 
-    EXPECT_EQ(Shown(RightClick(program, "RFPositionsn0call-9")),
-              (Names{"View Position", "Operator Info", "-Start Tracking", "Stop Tracking", "Show Track*", "Hide Track",
-                     "-Remove Track", "-Show Signal Range", "-Hide Signal Range", "Delete Report"}));
+    EXPECT_EQ(
+        Shown(RightClick(program, "RFPositionsn0call-9")),
+        (Names{"View Position", "Send Message...", "Operator Info", "-Start Tracking", "Stop Tracking", "Show Track*",
+               "Hide Track", "-Remove Track", "-Show Signal Range", "-Hide Signal Range", "Delete Report"}));
     program.main.Of(Channel::RF).TrackVisible.Set("N0CALL-9", false);
     program.main.tracking.bShowTrackLine = false; // Points alone can be removed too.
     program.Position(Channel::RF, "n0call-9", 41, -80);
     auto captions = Shown(RightClick(program, "RFPositionsn0call-9"));
-    EXPECT_EQ(captions[4], "Show Track");
-    EXPECT_EQ(captions[5], "Hide Track*");
-    EXPECT_EQ(captions[6], "Remove Track");
+    EXPECT_EQ(captions[5], "Show Track");
+    EXPECT_EQ(captions[6], "Hide Track*");
+    EXPECT_EQ(captions[7], "Remove Track");
 
-    EXPECT_EQ(Shown(RightClick(program, "TCPPositionsn0call-9")),
-              (Names{"View Position", "Operator Info", "Start Tracking", "-Stop Tracking", "-Show Track", "-Hide Track",
-                     "-Remove Track", "Show Signal Range", "-Hide Signal Range", "Delete Report"}));
+    EXPECT_EQ(
+        Shown(RightClick(program, "TCPPositionsn0call-9")),
+        (Names{"View Position", "Send Message...", "Operator Info", "Start Tracking", "-Stop Tracking", "-Show Track",
+               "-Hide Track", "-Remove Track", "Show Signal Range", "-Hide Signal Range", "Delete Report"}));
     RunMenuEntry(program.main, MenuEntry::mnuShowRange);
-    EXPECT_EQ(Shown(RightClick(program, "TCPPositionsn0call-9"))[8], "Hide Signal Range");
+    EXPECT_EQ(Shown(RightClick(program, "TCPPositionsn0call-9"))[9], "Hide Signal Range");
     EXPECT_EQ(Shown(RightClick(program, ""))[3], "Hide All Range Circles");
 }
 
@@ -140,6 +146,34 @@ TEST(PopupMenus, FactsHaveNoneAndTheOwnStationsFactsHaveTheirs)
     program.main.map.MyRange = 9.5;
     EXPECT_EQ(Shown(RightClick(program, "MyPositionLat")),
               (Names{"View Position", "Show Signal Range", "-Hide Signal Range"}));
+}
+
+// A command on a list that is not in front would act on what nobody sees.
+TEST(PopupMenus, MessagesOfferWhatGoesWithTheListInFront)
+{
+    TestProgram program;
+    MainWindow& main = program.main;
+    const auto shown = [&] { return Shown(MenuItems(main, Menu::mnuMsgPopup)); };
+    const auto click = [&](const char* box) {
+        return Shown(tvMessageBoxes_MouseUp(main, kRightButton, main.messages.tvMessageBoxes.Find(box)));
+    };
+    RunMenuEntry(main, MenuEntry::mnuViewMessages);
+    EXPECT_EQ(shown(), (Names{"-Open", "-Reply...", "-Forward...", "-Delete", "-Delete All", "-Locate Sender",
+                              "New Message..."}));
+    program.Sink(Channel::RF).ReportAprsMsg({"W1AW", "APRS", "", "BLN1", "net", ""});
+    SendAprsMessage(main, "N0CALL", "W1AW", "", "hello", "3");
+    main.messages.lvMessageList.SelectOnly(0);
+    main.messages.lvSentList.SelectOnly(0);
+    EXPECT_EQ(shown(),
+              (Names{"Open", "Reply...", "Forward...", "Delete", "Delete All", "Locate Sender", "New Message..."}));
+    EXPECT_EQ(click("MessagesInbox"), (Names{"New Message...", "Clear Inbox"}));
+    EXPECT_EQ(click("MessagesSent"), (Names{"New Message...", "Clear Sent Items"}));
+    EXPECT_EQ(main.window.rightView, RightView::Sent);
+    EXPECT_EQ(shown(), (Names{"-Send Again", "Delete", "Delete All", "Locate Recipient", "New Message..."}));
+    main.links.bServerConnected = true;
+    EXPECT_EQ(shown().front(), "Send Again");
+    EXPECT_EQ(click("Messages"), Names{"New Message..."});
+    EXPECT_EQ(click("MessagesNone"), Names{});
 }
 
 } // namespace

@@ -8,7 +8,9 @@
 #include "desktop/dialogs/frm_gps_dialog.h"
 #include "desktop/dialogs/frm_gps_panel.h"
 #include "desktop/dialogs/frm_import_dialog.h"
+#include "desktop/dialogs/frm_message_dialog.h"
 #include "desktop/dialogs/frm_object_dialog.h"
+#include "desktop/dialogs/frm_open_message_dialog.h"
 #include "desktop/dialogs/frm_position_dialog.h"
 #include "desktop/dialogs/frm_region_dialog.h"
 #include "desktop/dialogs/frm_status_dialog.h"
@@ -81,7 +83,9 @@ std::unique_ptr<FormDialog> QtDialogs::Make(Form form, MainWindow& main) const
     case Form::frmTcp:
         return std::make_unique<FrmTcpDialog>(main, m_window);
     case Form::frmMessage:
+        return std::make_unique<FrmMessageDialog>(main, m_window);
     case Form::frmOpenMessage:
+        return std::make_unique<FrmOpenMessageDialog>(main.frmOpenMessage, m_window);
     case Form::frmOptions:
         break;
     }

@@ -8,6 +8,8 @@
 #include <QStatusBar>
 #include <QToolBar>
 
+#include <utility>
+
 namespace ruvenmark {
 
 namespace {
@@ -40,7 +42,10 @@ void Panes::SetControls(const Controls& controls)
     for (QWidget* widget : {static_cast<QWidget*>(controls.toolBar), controls.leftPane, controls.rightPane,
                             static_cast<QWidget*>(controls.statusBar)})
         widget->setParent(this);
-    setTabOrder(controls.leftPane, m_grip);
+    QWidget* before = controls.leftPane;
+    for (QWidget* page : controls.leftPane->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        setTabOrder(std::exchange(before, page), page);
+    setTabOrder(before, m_grip);
     setTabOrder(m_grip, controls.rightPane);
     m_grip->raise();
     m_bar->raise();

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/event.h"
+
+#include <QTreeView>
+
+#include <vector>
+
+namespace ruvenmark {
+
+class RowList;
+class RowModel;
+
+// A RowList on the screen, with its columns under headers. What is selected here is selected there.
+class RowListView final : public QTreeView {
+    Q_OBJECT
+
+public:
+    RowListView(RowList& list, RowModel& model, QWidget* parent = nullptr);
+
+    void reset() override;
+
+signals:
+    void MenuWanted(QPoint place); // Where it belongs, on the screen.
+    void OpenWanted();             // A double click on a row, or Enter.
+    void ReplyWanted();            // F9.
+    void DeleteWanted();
+    void Left(); // The operator went elsewhere in the window.
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    bool event(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+private:
+    void SortBy(int column);
+    void ShowSelection();
+
+    RowList& m_list;
+    RowModel& m_model;
+};
+
+} // namespace ruvenmark
