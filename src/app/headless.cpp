@@ -3,6 +3,7 @@
 #include "app/followed_sources.h"
 #include "app/print_state.h"
 #include "app/program_settings.h"
+#include "app/send_run.h"
 #include "core/bare_surface.h"
 #include "core/main_window.h"
 #include "devices/gps_server.h"
@@ -60,7 +61,7 @@ struct Wiring {
     }
     BareByteLinks links;
 };
-bool RunLinks(MainWindow& /*main*/, const ProgramOptions& /*options*/, std::ostream& /*err*/)
+bool RunLinks(MainWindow& /*main*/, const ProgramOptions& /*options*/, SendRun& /*sends*/, std::ostream& /*err*/)
 {
     return false;
 }
@@ -82,12 +83,13 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
     PrintedNotices notices(err);
     if (settings.IsElsewhere())
         notices.Say("another program uses these settings: nothing will be saved");
-    BareDialogs dialogs;
+    SendDialogs dialogs;
     BareDesktop desktop;
     IByteLinks& wires = wiring.links;
     ReportSources plainSources{wires};
     FollowedSources followedSources{plainSources, out};
     IReportSources& sources = options.bFollow ? static_cast<IReportSources&>(followedSources) : plainSources;
+    SendRun sends(plainSources.Events(), dialogs, prompts, err);
     GpsServers gpsServers{wires};
     WeatherServers weatherServers{wires};
     MainWindow main({.store = settings.Store(),
@@ -110,7 +112,7 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
     if (load)
         LoadStationFile(main, *load);
     load.reset();
-    const bool bConnected = options.connect.empty() || RunLinks(main, options, err);
+    const bool bConnected = options.connect.empty() || RunLinks(main, options, sends, err);
     const RunState state{main, plainSources.Counts(), prompts.Messages()};
     if (options.bJson)
         PrintJson(out, state);

@@ -1,18 +1,22 @@
 #include "app/link_run.h"
 
 #include "app/logic_timers.h"
+#include "app/send_run.h"
 #include "core/main_window.h"
 #include "core/notices.h"
 #include "desktop/termination.h"
 #include "platform/headless.h"
 
+#include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QTimer>
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ruvenmark {
@@ -50,9 +54,35 @@ private:
     Subscription m_changed;
 };
 
+// Sends as soon as the links are ready, or when they have had their time, and calls `end` once all is written and had
+// time to leave.
+class SendTimer {
+public:
+    SendTimer(MainWindow& main, const ProgramOptions& options, SendRun& sends, std::function<void()> end)
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this, &main, &options, &sends, end = std::move(end)] {
+            if (!sends.IsBegun() && (sends.IsReady(main) || m_ready.hasExpired()))
+                sends.SendAll(main, options.send);
+            if (!sends.IsDone(main))
+                return;
+            m_timer.stop();
+            if (!options.seconds)
+                QTimer::singleShot(kLeave, &m_timer, end);
+        });
+    }
+    void Start() { m_timer.start(kLook); }
+
+private:
+    static constexpr std::chrono::milliseconds kLook{50}, kLeave{500};
+    static constexpr std::chrono::seconds kReady{16}; // The longest connect has failed by then.
+
+    QTimer m_timer;
+    QDeadlineTimer m_ready{kReady};
+};
+
 } // namespace
 
-bool RunLinks(MainWindow& main, const ProgramOptions& options, std::ostream& err)
+bool RunLinks(MainWindow& main, const ProgramOptions& options, SendRun& sends, std::ostream& err)
 {
     constexpr std::chrono::milliseconds kLook{100};
     QEventLoop loop;
@@ -77,12 +107,15 @@ bool RunLinks(MainWindow& main, const ProgramOptions& options, std::ostream& err
     QObject::connect(&looking, &QTimer::timeout, &loop, look);
     looking.start(kLook);
     look();
+    SendTimer sending(main, options, sends, end);
+    if (!options.send.empty())
+        sending.Start();
     if (options.seconds)
         QTimer::singleShot(std::chrono::seconds(*options.seconds), &loop, end);
     if (!bEnd)
         loop.exec();
     look();
-    return waiting.empty();
+    return (options.send.empty() || sends.End()) && waiting.empty();
 }
 
 } // namespace ruvenmark

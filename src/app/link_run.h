@@ -7,6 +7,7 @@
 
 namespace ruvenmark {
 
+class SendRun;
 struct MainWindow;
 
 // How a link is connected without its dialog.
@@ -18,8 +19,8 @@ struct LinkConnect {
 };
 const LinkConnect& ConnectOf(LinkName link);
 
-// Connects the links and lets the event loop run for the time, or until a signal. What the status panels say goes to
-// `err`. False where a link was never connected.
-bool RunLinks(MainWindow& main, const ProgramOptions& options, std::ostream& err);
+// Connects the links, sends what is to be sent, and lets the event loop run for the time, or until all is sent, or else
+// until a signal. What the status panels say goes to `err`. False where a link was never connected.
+bool RunLinks(MainWindow& main, const ProgramOptions& options, SendRun& sends, std::ostream& err);
 
 } // namespace ruvenmark

@@ -36,6 +36,9 @@ constexpr std::string_view kHelp =
     "                        agw=HOST:PORT, server=HOST:PORT, gps=PORT:BAUD, wx=PORT:BAUD\n"
     "  --for SECONDS         stay connected so long\n"
     "  --follow              print each line that is heard\n"
+    "  --send REPORT         send once over what is connected, then end unless --for is given;\n"
+    "                        a REPORT is position, weather, status:TEXT, message:TO:TEXT or\n"
+    "                        object:NAME:LAT,LON:TEXT; may be given several times\n"
     "\n"
     "A picture of the window:\n"
     "  --screenshot FILE.png draw the window into a file and end\n"
@@ -193,6 +196,40 @@ void ReadFor(ProgramOptions& options, const std::string& option, std::string_vie
     options.seconds = static_cast<std::int32_t>(*seconds);
 }
 
+// "message:W1AW:at 12:30": only the last field may hold colons.
+std::optional<SendOption> ReadReport(std::string_view word)
+{
+    using Kind = SendOption::Kind;
+    if (word == "position" || word == "weather")
+        return SendOption{word == "position" ? Kind::Position : Kind::Weather, {}, {}, {}, {}};
+    const auto cut = [&word](char sign) {
+        const auto at = word.find(sign);
+        const std::optional<std::string> field =
+            at == std::string_view::npos ? std::nullopt : std::optional(std::string(word.substr(0, at)));
+        word.remove_prefix(field ? at + 1 : 0);
+        return field;
+    };
+    const auto name = cut(':');
+    if (name == "status")
+        return SendOption{Kind::Status, {}, {}, {}, std::string(word)};
+    const auto to = name ? cut(':') : std::nullopt;
+    if (name == "message" && to)
+        return SendOption{Kind::Message, *to, {}, {}, std::string(word)};
+    const auto lat = to ? cut(',') : std::nullopt;
+    const auto lon = lat ? cut(':') : std::nullopt;
+    if (name == "object" && lon)
+        return SendOption{Kind::Object, *to, *lat, *lon, std::string(word)};
+    return std::nullopt;
+}
+
+void ReadSend(ProgramOptions& options, const std::string& option, std::string_view value)
+{
+    const auto report = ReadReport(value);
+    if (!report)
+        Refuse(option, value, "position, weather, status:TEXT, message:TO:TEXT or object:NAME:LAT,LON:TEXT");
+    options.send.push_back(*report);
+}
+
 struct Switch {
     std::string_view name;
     bool ProgramOptions::*flag;
@@ -215,7 +252,7 @@ constexpr std::array<TextOption, 4> kTexts = {{{"--load", &ProgramOptions::loadF
                                                {"--settings", &ProgramOptions::settingsFile},
                                                {"--folder", &ProgramOptions::folder},
                                                {"--screenshot", &ProgramOptions::screenshot}}};
-constexpr std::array<ValueOption, 9> kValues = {{{"--print", ReadPrint},
+constexpr std::array<ValueOption, 10> kValues = {{{"--print", ReadPrint},
                                                  {"--set", ReadSetting},
                                                  {"--region", ReadRegion},
                                                  {"--size", ReadSize},
@@ -223,7 +260,8 @@ constexpr std::array<ValueOption, 9> kValues = {{{"--print", ReadPrint},
                                                  {"--scale", ReadScale},
                                                  {"--track", ReadTrack},
                                                  {"--connect", ReadConnect},
-                                                 {"--for", ReadFor}}};
+                                                 {"--for", ReadFor},
+                                                 {"--send", ReadSend}}};
 
 // Walks the words of the command line; a value stands behind its option, or in it behind "=".
 class ArgumentWalk {
@@ -297,8 +335,8 @@ void CheckTogether(ProgramOptions& options)
         throw UsageError("--print and --json go with --headless");
     if (!options.connect.empty() && !options.bHeadless)
         throw UsageError("--connect goes with --headless");
-    if ((options.bFollow || options.seconds) && options.connect.empty())
-        throw UsageError("--for and --follow go with --connect");
+    if ((options.bFollow || options.seconds || !options.send.empty()) && options.connect.empty())
+        throw UsageError("--for, --follow and --send go with --connect");
     if (options.bHeadless && options.screenshot)
         throw UsageError("--screenshot and --headless do not go together");
     if (options.print.empty())

@@ -23,6 +23,15 @@ struct LinkOption {
     std::string address;     // A serial port or a host.
     std::int32_t number = 0; // The port's baud, or the host's port.
 };
+
+// A report to send, in the order of the command line. What is missing in it the report's own rules tell.
+struct SendOption {
+    enum class Kind : std::uint8_t { Position, Weather, Status, Message, Object };
+    Kind kind;
+    std::string to;       // Of a message its recipient, of an object its name.
+    std::string lat, lon; // Of an object.
+    std::string text;
+};
 struct SizeOption {
     int width = 1280, height = 800; // Pixels at scale 1.
 };
@@ -43,6 +52,7 @@ struct ProgramOptions {
     std::vector<LinkOption> connect;     // Without a window.
     std::optional<std::int32_t> seconds; // How long they are used; else until a signal.
     bool bFollow = false;
+    std::vector<SendOption> send;
 
     std::optional<std::string> screenshot; // A file name.
     std::optional<SizeOption> size;

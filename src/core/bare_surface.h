@@ -9,7 +9,7 @@
 namespace ruvenmark {
 
 // Every dialog is closed at once: cancelled.
-class BareDialogs final : public IDialogs {
+class BareDialogs : public IDialogs {
 public:
     void Run(Form /*form*/, MainWindow& /*main*/) override {}
     void Show(Form /*form*/, MainWindow& /*main*/) override {}

@@ -16,6 +16,13 @@ constexpr char kRawFrame = 'K';      // Its data: a byte 0 and the frame, both w
 constexpr auto kAnswerLimit = 15s;
 constexpr auto kQuiet = 60s; // Engines speak only when somebody does on the air: asked now and then.
 
+std::string PacketLine(std::string_view source, std::string_view dest, std::string_view via, std::string_view info)
+{
+    std::string line(source);
+    line.append(">").append(dest).append(via.empty() ? "" : ",").append(via).append(":").append(info);
+    return line;
+}
+
 } // namespace
 
 void AgwSource::ConnectSocket(std::string_view host, std::int32_t port, std::string_view token)
@@ -47,6 +54,8 @@ void AgwSource::SendFrame(std::string_view source, std::string_view dest, std::s
     frame.to = dest;
     frame.data = std::string(1, '\0') + MakeUiFrame(source, dest, via, info);
     m_link->Write(AgwBytes(frame));
+    if (m_listener && m_listener->onSent)
+        m_listener->onSent({SentReport::Road::Agw, true, PacketLine(source, dest, via, info)});
 }
 
 std::int32_t AgwSource::GetUtcOffset()
@@ -92,6 +101,8 @@ void AgwSource::Take(const AgwFrame& frame, const bool& bDropped)
 {
     if (frame.kind == kPorts) {
         m_ports = AgwPortCount(frame.data);
+        if (m_listener && m_listener->onAgwPorts)
+            m_listener->onAgwPorts();
     } else if (frame.kind == kRawFrame && !frame.data.empty()) {
         if (const auto line = ReadUiFrame(std::string_view(frame.data).substr(1)))
             RaiseLiveLine(*line, m_counts, m_sink, bDropped);

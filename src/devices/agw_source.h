@@ -4,6 +4,7 @@
 #include "contracts/report_source.h"
 #include "devices/agw_frames.h"
 #include "devices/line_counts.h"
+#include "devices/link_events.h"
 #include "devices/own_events.h"
 
 namespace ruvenmark {
@@ -13,7 +14,8 @@ namespace ruvenmark {
 class AgwSource final : public IReportSource, private IByteSink {
 public:
     // All must outlive the source.
-    AgwSource(IByteLinks& links, IReportSink& sink, LineCounts& counts) : m_links(links), m_sink(sink), m_counts(counts)
+    AgwSource(IByteLinks& links, IReportSink& sink, LineCounts& counts, const LinkEvents* events = nullptr)
+        : m_links(links), m_sink(sink), m_counts(counts), m_listener(events)
     {
     }
 
@@ -37,6 +39,7 @@ private:
     IByteLinks& m_links;
     IReportSink& m_sink;
     LineCounts& m_counts;
+    const LinkEvents* m_listener;
     AgwReader m_reader;
     bool m_bOpen = false;
     bool m_bAsked = false; // A question, or the connect, is not answered yet.

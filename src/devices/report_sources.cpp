@@ -9,17 +9,17 @@ namespace ruvenmark {
 
 std::unique_ptr<IReportSource> ReportSources::CreateTnc(IReportSink& sink)
 {
-    return std::make_unique<TncSource>(m_links, sink, m_counts);
+    return std::make_unique<TncSource>(m_links, sink, m_counts, &m_events);
 }
 
 std::unique_ptr<IReportSource> ReportSources::CreateAgw(IReportSink& sink)
 {
-    return std::make_unique<AgwSource>(m_links, sink, m_counts);
+    return std::make_unique<AgwSource>(m_links, sink, m_counts, &m_events);
 }
 
 std::unique_ptr<IReportSource> ReportSources::CreateServer(IReportSink& sink)
 {
-    return std::make_unique<ServerSource>(m_links, sink, m_counts);
+    return std::make_unique<ServerSource>(m_links, sink, m_counts, &m_events);
 }
 
 std::unique_ptr<IReportSource> ReportSources::CreateFile(IReportSink& sink)

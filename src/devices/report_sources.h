@@ -3,6 +3,7 @@
 #include "contracts/byte_link.h"
 #include "contracts/report_source.h"
 #include "devices/line_counts.h"
+#include "devices/link_events.h"
 
 #include <memory>
 
@@ -20,10 +21,12 @@ public:
     std::unique_ptr<IReportSource> CreateFile(IReportSink& sink) override;
 
     const LineCounts& Counts() const { return m_counts; }
+    LinkEvents& Events() { return m_events; }
 
 private:
     IByteLinks& m_links;
     LineCounts m_counts;
+    LinkEvents m_events;
 };
 
 } // namespace ruvenmark

@@ -8,6 +8,7 @@ namespace ruvenmark {
 namespace {
 
 constexpr std::chrono::seconds kConnectLimit{15};
+constexpr std::string_view kLogin = "user "; // No call holds a blank.
 
 } // namespace
 
@@ -30,6 +31,8 @@ void ServerSource::SendServerLine(std::string_view line)
 {
     CheckOpen();
     m_link->Write(ServerBytes(line));
+    if (m_listener && m_listener->onSent && !line.starts_with(kLogin))
+        m_listener->onSent({SentReport::Road::Server, true, line});
 }
 
 std::int32_t ServerSource::GetUtcOffset()

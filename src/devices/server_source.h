@@ -3,6 +3,7 @@
 #include "contracts/byte_link.h"
 #include "contracts/report_source.h"
 #include "devices/line_counts.h"
+#include "devices/link_events.h"
 #include "devices/own_events.h"
 #include "devices/server_session.h"
 
@@ -15,8 +16,8 @@ namespace ruvenmark {
 class ServerSource final : public IReportSource, private IByteSink {
 public:
     // All must outlive the source.
-    ServerSource(IByteLinks& links, IReportSink& sink, LineCounts& counts)
-        : m_links(links), m_sink(sink), m_counts(counts)
+    ServerSource(IByteLinks& links, IReportSink& sink, LineCounts& counts, const LinkEvents* events = nullptr)
+        : m_links(links), m_sink(sink), m_counts(counts), m_listener(events)
     {
     }
 
@@ -38,6 +39,7 @@ private:
     IByteLinks& m_links;
     IReportSink& m_sink;
     LineCounts& m_counts;
+    const LinkEvents* m_listener;
     std::optional<ServerSession> m_session;
     OwnEvents m_events;
     std::unique_ptr<IByteLink> m_link; // Last, so that it falls silent first.

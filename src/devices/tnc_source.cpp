@@ -148,6 +148,14 @@ void TncSource::Write(Moment now)
 {
     if (const std::string bytes = m_terminal.ToWrite(now); !bytes.empty())
         m_link->Write(bytes);
+    TellFates();
+}
+
+void TncSource::TellFates()
+{
+    for (const TncTerminal::Fate& fate : m_terminal.TakeFates())
+        if (m_listener && m_listener->onSent)
+            m_listener->onSent({SentReport::Road::Tnc, fate.bTyped, fate.text});
 }
 
 // From the event loop: a port that fails tells its loss itself.

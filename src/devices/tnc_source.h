@@ -3,6 +3,7 @@
 #include "contracts/byte_link.h"
 #include "contracts/report_source.h"
 #include "devices/line_counts.h"
+#include "devices/link_events.h"
 #include "devices/nmea_fixes.h"
 #include "devices/own_events.h"
 #include "devices/tnc_terminal.h"
@@ -15,8 +16,8 @@ namespace ruvenmark {
 class TncSource final : public IReportSource, private IByteSink {
 public:
     // All must outlive the source.
-    TncSource(IByteLinks& links, IReportSink& sink, LineCounts& counts)
-        : m_links(links), m_sink(sink), m_counts(counts), m_fixes(links.Now())
+    TncSource(IByteLinks& links, IReportSink& sink, LineCounts& counts, const LinkEvents* events = nullptr)
+        : m_links(links), m_sink(sink), m_counts(counts), m_listener(events), m_fixes(links.Now())
     {
     }
 
@@ -39,11 +40,13 @@ private:
     void RaiseFix(const bool& bDropped);
     void Write(Moment now);
     void TryWrite(Moment now);
+    void TellFates();
     void Finish();
 
     IByteLinks& m_links;
     IReportSink& m_sink;
     LineCounts& m_counts;
+    const LinkEvents* m_listener;
     TncTerminal m_terminal;
     NmeaFixes m_fixes;
     OwnEvents m_events;

@@ -232,6 +232,8 @@ void TncTerminal::Type(Item item, Moment now)
     if (item.typing == Typing::CtrlC)
         m_bRefused = false;
     if (m_bRefused && item.typing != Typing::Command) {
+        if (item.typing == Typing::Text)
+            m_fates.push_back({std::move(item.text), false});
         DropRun();
         return;
     }
@@ -251,10 +253,16 @@ void TncTerminal::Type(Item item, Moment now)
         m_stage = Stage::Converse;
         break;
     case Typing::Text:
+        m_fates.push_back({item.text, true});
         break;
     }
     m_typed += '\r';
     m_echo = std::move(item.text);
+}
+
+std::vector<TncTerminal::Fate> TncTerminal::TakeFates()
+{
+    return m_typed.empty() ? std::exchange(m_fates, {}) : std::vector<Fate>();
 }
 
 void TncTerminal::GiveUp()
@@ -267,8 +275,9 @@ void TncTerminal::GiveUp()
 
 void TncTerminal::DropRun()
 {
-    while (!m_queue.empty() && m_queue.front().typing != Typing::CtrlC)
-        m_queue.pop_front();
+    for (; !m_queue.empty() && m_queue.front().typing != Typing::CtrlC; m_queue.pop_front())
+        if (m_queue.front().typing == Typing::Text)
+            m_fates.push_back({std::move(m_queue.front().text), false});
     if (m_queue.empty())
         m_bInRun = false;
 }

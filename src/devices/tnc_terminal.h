@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ruvenmark {
 
@@ -46,6 +47,13 @@ public:
     // The last run was given up, and no prompt has been seen since.
     bool IsMute() const { return m_bMute; }
 
+    // What became of the texts for the air since it was asked last. One that the TNC holds up counts once it is written.
+    struct Fate {
+        std::string text;
+        bool bTyped;
+    };
+    std::vector<Fate> TakeFates();
+
 private:
     enum class Typing : std::uint8_t { CtrlC, Command, Converse, Text };
     struct Item {
@@ -80,6 +88,7 @@ private:
     bool m_bMute = false;
 
     std::string m_typed; // Not written yet.
+    std::vector<Fate> m_fates;
     bool m_bHeld = false;
     Moment m_heldSince{};
     std::string m_echo; // What the TNC may still repeat of what was typed.

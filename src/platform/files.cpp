@@ -25,7 +25,7 @@ struct KindTraits {
 // In the order of FileKind.
 constexpr std::array<KindTraits, 3> kKinds = {{
     {4 * kMegabyte, FileAccess::Private},  // Some hundred keys; track lists and filters typed by hand. Holds passcodes.
-    {16 * kMegabyte, FileAccess::Shared},  // Servers typed by hand, and years of messages.
+    {256 * kMegabyte, FileAccess::Shared}, // Servers typed by hand; messages, of a full feed some MB a day.
     {512 * kMegabyte, FileAccess::Shared}, // Some 250 bytes a marker: two million of them.
 }};
 
