@@ -253,15 +253,15 @@ constexpr std::array<TextOption, 4> kTexts = {{{"--load", &ProgramOptions::loadF
                                                {"--folder", &ProgramOptions::folder},
                                                {"--screenshot", &ProgramOptions::screenshot}}};
 constexpr std::array<ValueOption, 10> kValues = {{{"--print", ReadPrint},
-                                                 {"--set", ReadSetting},
-                                                 {"--region", ReadRegion},
-                                                 {"--size", ReadSize},
-                                                 {"--view", ReadView},
-                                                 {"--scale", ReadScale},
-                                                 {"--track", ReadTrack},
-                                                 {"--connect", ReadConnect},
-                                                 {"--for", ReadFor},
-                                                 {"--send", ReadSend}}};
+                                                  {"--set", ReadSetting},
+                                                  {"--region", ReadRegion},
+                                                  {"--size", ReadSize},
+                                                  {"--view", ReadView},
+                                                  {"--scale", ReadScale},
+                                                  {"--track", ReadTrack},
+                                                  {"--connect", ReadConnect},
+                                                  {"--for", ReadFor},
+                                                  {"--send", ReadSend}}};
 
 // Walks the words of the command line; a value stands behind its option, or in it behind "=".
 class ArgumentWalk {

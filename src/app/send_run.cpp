@@ -158,7 +158,8 @@ bool SendRun::End()
         m_notices.Say("Nothing was sent: the time was over before the links were ready");
     if (!m_atTnc.empty())
         m_notices.Say("Not sent over TNC: the link ended first");
-    return m_bBegun && m_bWell && std::all_of(m_atTnc.begin(), m_atTnc.end(), [](bool bElsewhere) { return bElsewhere; });
+    return m_bBegun && m_bWell &&
+           std::all_of(m_atTnc.begin(), m_atTnc.end(), [](bool bElsewhere) { return bElsewhere; });
 }
 
 void SendRun::Note(const SentReport& report)
@@ -168,8 +169,9 @@ void SendRun::Note(const SentReport& report)
         m_atTnc.pop_front();
     }
     const std::string road(NameOf(report.road));
-    m_notices.Say((report.bWent ? "Sent over " + road + ": " : "Not sent over " + road + ", which refused or was silent: ") +
-                  std::string(report.text));
+    m_notices.Say(
+        (report.bWent ? "Sent over " + road + ": " : "Not sent over " + road + ", which refused or was silent: ") +
+        std::string(report.text));
 }
 
 void SendRun::Send(MainWindow& main, const SendOption& report)
@@ -186,7 +188,7 @@ void SendRun::Send(MainWindow& main, const SendOption& report)
     const std::string& sent = main.sbStatusBar.Sent();
     if (sent.empty())
         return SayNothingWent(report, reason.empty() && m_prompts.Messages().size() > told ? m_prompts.Messages().back()
-                                                                                          : reason);
+                                                                                           : reason);
     if (!reason.empty())
         m_notices.Say(NameOf(report) + " did not go out over every link: " + reason);
     if (sent.find("TNC") != std::string::npos)

@@ -47,7 +47,8 @@ public:
     // The last run was given up, and no prompt has been seen since.
     bool IsMute() const { return m_bMute; }
 
-    // What became of the texts for the air since it was asked last. One that the TNC holds up counts once it is written.
+    // What became of the texts for the air since it was asked last. One that the TNC holds up counts once it is
+    // written.
     struct Fate {
         std::string text;
         bool bTyped;

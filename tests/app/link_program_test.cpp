@@ -1,40 +1,12 @@
 // The real program and a server of the test's making, over real sockets. What only the whole can show: that bytes reach
 // the print, that nothing of a flood is lost, that a loss leads to the backup server, and that a signal ends it well.
 
-#include <QCoreApplication>
-#include <QProcess>
-#include <QTcpServer>
+#include "station_program.h"
+
 #include <QTcpSocket>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-#include <csignal>
-#include <functional>
 
 namespace ruvenmark {
 namespace {
-
-constexpr std::chrono::seconds kLimit{60};
-
-bool RunUntil(const std::function<bool()>& isDone)
-{
-    const auto end = std::chrono::steady_clock::now() + kLimit;
-    while (!isDone()) {
-        if (std::chrono::steady_clock::now() > end)
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
-    }
-    return true;
-}
-
-// The stored port has 16 bits: no port that the system chooses.
-void Listen(QTcpServer& server)
-{
-    for (quint16 port = 23000; port < 32000 && !server.isListening(); port += 7)
-        server.listen(QHostAddress::LocalHost, port);
-    ASSERT_TRUE(server.isListening());
-}
 
 class LinkProgram : public testing::Test {
 protected:

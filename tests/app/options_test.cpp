@@ -50,6 +50,26 @@ TEST(Options, ReadLinks)
         EXPECT_THROW(ReadOptions({"--headless", "--connect", wrong}), UsageError) << wrong;
 }
 
+TEST(Options, ReadReports)
+{
+    using Kind = SendOption::Kind;
+    const auto options =
+        ReadOptions({"--headless", "--connect", "tnc", "--send", "position", "--send=status:a:b=c", "--send",
+                     "message:W1AW-7: at 12:30", "--send", "object:A B:-33.5,8.25:up, or: not", "--send", "status:"});
+    ASSERT_EQ(options.send.size(), 5U);
+    EXPECT_EQ(options.send[0].kind, Kind::Position);
+    EXPECT_EQ(options.send[1].text, "a:b=c");
+    EXPECT_EQ(options.send[2].kind, Kind::Message);
+    EXPECT_EQ(options.send[2].to + "|" + options.send[2].text, "W1AW-7| at 12:30");
+    const SendOption& object = options.send[3];
+    EXPECT_EQ(object.to + "|" + object.lat + "|" + object.lon + "|" + object.text, "A B|-33.5|8.25|up, or: not");
+    EXPECT_EQ(options.send[4].kind, Kind::Status); // Its emptiness is the dialog's to refuse.
+
+    for (const char* wrong :
+         {"beacon", "status", "message:W1AW", "object:A:1,2", "object:A:1:2", "positions", "Position"})
+        EXPECT_THROW(ReadOptions({"--headless", "--connect", "tnc", "--send", wrong}), UsageError) << wrong;
+}
+
 TEST(Options, RefuseInOneClearLine)
 {
     const std::vector<std::pair<std::vector<std::string>, const char*>> cases = {
@@ -62,7 +82,10 @@ TEST(Options, RefuseInOneClearLine)
         {{"--region", "3"}, "--region: '3' is not 1 (North America) or 2 (Europe)"},
         {{"--set", "Call"}, "--set: 'Call' is not KEY=VALUE"},
         {{"--connect", "gps"}, "--connect goes with --headless"},
-        {{"--headless", "--follow"}, "--for and --follow go with --connect"},
+        {{"--headless", "--follow"}, "--for, --follow and --send go with --connect"},
+        {{"--headless", "--send", "position"}, "--for, --follow and --send go with --connect"},
+        {{"--headless", "--connect", "tnc", "--send", "beacon"},
+         "--send: 'beacon' is not position, weather, status:TEXT, message:TO:TEXT or object:NAME:LAT,LON:TEXT"},
         {{"--headless", "--connect", "gps", "--for", "-1"}, "--for: '-1' is not a number of seconds up to 1000000"},
         {{"a.txt", "b.txt"}, "one file at a time: 'b.txt' is one too many"},
         {{"--size", "800"}, "--size: '800' is not WIDTHxHEIGHT between 200x200 and 10000x10000"},

@@ -70,6 +70,48 @@ TEST(MessageFiles, NothingThatWasNotReadIsLost)
     EXPECT_EQ(program.File("/program/Sent.txt.new").substr(0, 19), "W1AW#####N0CALL####");
 }
 
+// What another program, a full disk or a fault of the disk made of it: the rows that can be read come, the file stays
+// until something changes, and then a copy of it stays for good.
+TEST(MessageFiles, ADamagedBoxComesAsFarAsItGoes)
+{
+    using namespace std::string_literals;
+    const std::string row = "a#####b#####c#####d#####e#####f";
+    struct Damage {
+        const char* why;
+        std::string text;
+        std::size_t rows;
+        bool bCopied;
+    };
+    const Damage cases[] = {
+        {"bare line feeds", row + "\n" + row + "\n", 2, false},
+        {"blank lines", "\r\n" + row + "\r\n\r\n", 1, false},
+        {"a NUL", row + "\r\na\0b#####c\r\n"s + row, 2, true},
+        {"zeros at the end, as after a power cut", row + "\r\n" + std::string(4096, '\0'), 1, true},
+        {"one field more", row + "#####g\r\n" + row, 2, true},
+        {"cut off", row + "\r\na#####b#####c", 1, true},
+        {"a megabyte in one field", std::string(1'000'000, 'x') + row.substr(1) + "\r\n" + row, 2, false},
+        {"a megabyte without fields", row + "\r\n" + std::string(1'000'000, 'x'), 1, true},
+        {"no box at all", "\x7f"s + "ELF\x01\r\xff\n\x80", 0, true},
+    };
+    for (const Damage& damage : cases) {
+        Kept program({{kInbox, damage.text}, {"/program/Inbox.txt.bak", "an older one"}});
+        MessageState& state = program.Start();
+        EXPECT_EQ(state.lvMessageList.Count(), damage.rows) << damage.why;
+        EXPECT_EQ(program.notices.lines.size(), damage.bCopied ? 1U : 0U) << damage.why;
+        SetSetting(program.main.Settings, Setting::Call, "N0CALL");
+        program.Sink(Channel::RF).ReportAprsMsg({"W1AW", "APRS", "", "N0CALL", "new", ""});
+        SaveChangedBoxes(program.main);
+        EXPECT_EQ(program.File("/program/Inbox.txt.bak"), "an older one") << damage.why;
+        EXPECT_EQ(program.File("/program/Inbox.txt.bak2"), damage.bCopied ? damage.text : "(no file)") << damage.why;
+        const std::string kept = program.File(kInbox);
+        Kept next({{kInbox, kept}});
+        EXPECT_EQ(RowsOf(next.Start().lvMessageList).size(), damage.rows + 1) << damage.why;
+        EXPECT_TRUE(next.notices.lines.empty()) << damage.why;
+        SaveChangedBoxes(program.main);
+        EXPECT_EQ(program.File("/program/Inbox.txt.bak3"), "(no file)") << damage.why; // One copy is enough.
+    }
+}
+
 TEST(MessageFiles, AnEmptyBoxHasNoFile)
 {
     Kept program({{kInbox, "a#####b#####c#####d#####e#####f"}});

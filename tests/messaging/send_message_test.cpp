@@ -1,4 +1,8 @@
+#include "aprs/decode.h"
 #include "messaging/message_fixture.h"
+#include "outgoing/status_report.h"
+
+#include <random>
 
 namespace ruvenmark {
 namespace {
@@ -19,6 +23,44 @@ TEST_F(MessageTest, AMessageGoesOutOverEveryRoadToTheLetterAndIsFiled)
     EXPECT_EQ(main.sbStatusBar.PanelText(Panel::Call), "N0CALL");
     mnuSendMessage_Click(main); // Closed: nothing goes out.
     EXPECT_EQ(SentList().Count(), 2U);
+}
+
+// What the addressee's decoder makes of it, whatever is written; and of a status as well.
+TEST_F(MessageTest, OurDecoderReadsBackWhatIsSent)
+{
+    std::mt19937 random(4711); // NOLINT: the same every time.
+    const auto text = [&](std::size_t most, char first, char last) {
+        std::string made(1 + random() % most, ' ');
+        for (char& c : made)
+            c = static_cast<char>(first + static_cast<char>(random() % static_cast<unsigned>(last - first + 1)));
+        return made;
+    };
+    Open(false, false, true);
+    main.frmMessage.roads.chkTCP = true;
+    for (int i = 0; i < 3000; ++i) {
+        const std::string to = text(9, 'A', 'Z'), body = text(67, '!', 'z'), number = std::to_string(random() % 100000);
+        SendAprsMessage(main, "N0CALL", to, "", "x" + body.substr(1), number);
+        const std::string line = Take().at(0).substr(7);
+        const aprs::Packet packet = aprs::Decode(line);
+        const auto* message = std::get_if<aprs::Message>(&packet.body);
+        if (to.starts_with("BLN") || to.starts_with("NWS"))
+            continue;
+        ASSERT_NE(message, nullptr) << line;
+        EXPECT_EQ(message->addressee, to) << line;
+        EXPECT_EQ(message->text, "x" + body.substr(1)) << line;
+        EXPECT_EQ(message->id, number) << line;
+        program.dialogs.onRun[Form::frmStatus] = [&](MainWindow& shown) {
+            shown.frmStatus.roads.chkTCP = true;
+            shown.frmStatus.txtStatus = "x" + body.substr(0, 61);
+            EXPECT_EQ(frmStatus_Accept(shown), "");
+        };
+        mnuSendStatus_Click(main);
+        const std::string statusLine = Take().at(0).substr(7);
+        const aprs::Packet statusPacket = aprs::Decode(statusLine);
+        const auto* status = std::get_if<aprs::StatusReport>(&statusPacket.body);
+        ASSERT_NE(status, nullptr) << statusLine;
+        EXPECT_EQ(status->text, "x" + body.substr(0, 61)) << statusLine;
+    }
 }
 
 // The ticks say over what; a message without any open link still gets its number and its row, and no box.

@@ -1,0 +1,125 @@
+// Reports that the command line asks for, over real wires: what went out, what is said of it, and the status.
+
+#include "hubs.h"
+
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <array>
+#include <fcntl.h>
+#include <stdlib.h>
+#include <unistd.h>
+
+namespace ruvenmark {
+namespace {
+
+const QStringList kPlace = {"--set", "Lat=47.5", "--set", "Lon=8.25"};
+
+TEST(SendOption, SendsInItsOrderOverTheServerAndSaysSo)
+{
+    ServerHub hub;
+    hub.Open();
+    StationProgram station;
+    station.Start("W1AW-7", hub.Link(),
+                  kPlace + QStringList{"--send", "position", "--send", "status:on the hill", "--send",
+                                       "message:bln1:net: 9", "--send", "object:FLOOD:47.1,-8.2:"});
+    EXPECT_EQ(station.Status(), 0);
+    for (const char* line : {"W1AW-7>APRS,TCPIP*:!4730.00N/00815.00E)", "W1AW-7>APRS,TCPIP*:>on the hill",
+                             "W1AW-7>APRS,TCPIP*::BLN1     :net: 9"}) {
+        EXPECT_TRUE(station.err.contains(QByteArray("ruvenmark: Sent over server: ") + line + "\n"))
+            << station.err.toStdString();
+        EXPECT_TRUE(RunUntil([&] { return hub.Count(QByteArray(line) + "\r\n") > 0; })) << line;
+    }
+    EXPECT_TRUE(RunUntil([&] { return hub.Count("z4706.00N\\00812.00W)\r\n") == 1; }));
+}
+
+// A script must learn that a report went nowhere, and why; the others go all the same.
+TEST(SendOption, WhatGoesNowhereMakesTheStatusOne)
+{
+    ServerHub hub;
+    hub.Open();
+    StationProgram refused;
+    refused.Start("W1AW-7", hub.Link(),
+                  {"--send", "position", "--send", "weather", "--send", "status:", "--send", "message:TENLETTERS:hi",
+                   "--send", "object:FLOOD:91,8:x", "--send", "status:this one goes"});
+    EXPECT_EQ(refused.Status(), 1);
+    for (const char* reason :
+         {"position was not sent: the settings Call, Lat and Lon are needed",
+          "weather was not sent: the settings Call, WindDir, WindSpeed, Gust and Temperature are needed",
+          "status was not sent: Status field can not be empty!",
+          "message to TENLETTERS was not sent: Recipient call sign can not be longer than 9 characters!",
+          "object FLOOD was not sent: Enter a value between -90 and 90 for latitude!"})
+        EXPECT_TRUE(refused.err.contains(reason)) << reason << "\n" << refused.err.toStdString();
+    EXPECT_TRUE(RunUntil([&] { return hub.Count(":>this one goes\r\n") == 1; }));
+    EXPECT_EQ(hub.Count(""), 1U);
+
+    StationProgram alone;
+    alone.Start("W1AW-7", "server=127.0.0.1:1", {"--send", "status:hi"});
+    EXPECT_EQ(alone.Status(), 1);
+    EXPECT_TRUE(alone.err.contains("status was not sent: nothing is connected")) << alone.err.toStdString();
+    EXPECT_EQ(alone.File("Sent.txt"), "(no file)");
+}
+
+// A TNC at the other end of a pseudo terminal that answers each line.
+class TncAtAPort {
+public:
+    explicit TncAtAPort(QByteArray answer)
+        : m_answer(std::move(answer)), m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
+    {
+        if (grantpt(m_master) != 0 || unlockpt(m_master) != 0)
+            ADD_FAILURE() << "no pseudo terminal";
+        m_held = ::open(ptsname(m_master), O_RDWR | O_NOCTTY); // Nothing is lost between two who open it.
+        m_notifier = std::make_unique<QSocketNotifier>(m_master, QSocketNotifier::Read);
+        QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { Read(); });
+    }
+    TncAtAPort(const TncAtAPort&) = delete;
+    TncAtAPort& operator=(const TncAtAPort&) = delete;
+    ~TncAtAPort()
+    {
+        m_notifier.reset();
+        ::close(m_held);
+        ::close(m_master);
+    }
+    QString Link() const { return QStringLiteral("tnc=%1:9600").arg(ptsname(m_master)); }
+
+    QByteArray typed;
+
+private:
+    void Read()
+    {
+        std::array<char, 256> bytes{};
+        const ssize_t count = ::read(m_master, bytes.data(), bytes.size());
+        for (ssize_t i = 0; i < count; ++i) {
+            typed += bytes[static_cast<std::size_t>(i)];
+            if (typed.endsWith('\x03') || typed.endsWith('\r')) {
+                const QByteArray said = typed.endsWith('\x03') ? QByteArray("\r\ncmd:") : m_answer;
+                EXPECT_EQ(::write(m_master, said.data(), static_cast<std::size_t>(said.size())), said.size());
+            }
+        }
+    }
+
+    QByteArray m_answer;
+    int m_master, m_held = -1;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+};
+
+TEST(SendOption, WaitsForTheTncsPrompt)
+{
+    TncAtAPort tnc("\r\ncmd:");
+    StationProgram station;
+    station.Start("W1AW-7", tnc.Link(), {"--send", "status:here"});
+    EXPECT_EQ(station.Status(), 0);
+    EXPECT_TRUE(station.err.contains("Sent over TNC: >here\n")) << station.err.toStdString();
+    EXPECT_TRUE(tnc.typed.contains("MYCALL W1AW-7\rUNPROTO APRS VIA WIDE2-2\rCONV\r>here\r"))
+        << tnc.typed.toStdString();
+
+    TncAtAPort stubborn("\r\n?EH\r\ncmd:"); // It would send under another call.
+    StationProgram other;
+    other.Start("W1AW-7", stubborn.Link(), {"--send", "status:here"});
+    EXPECT_EQ(other.Status(), 1);
+    EXPECT_TRUE(other.err.contains("Not sent over TNC")) << other.err.toStdString();
+    EXPECT_FALSE(stubborn.typed.contains(">here"));
+}
+
+} // namespace
+} // namespace ruvenmark

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <QStringList>
+#include <QTcpServer>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <functional>
+
+namespace ruvenmark {
+
+// Lets events in until it is so; false after a minute.
+inline bool RunUntil(const std::function<bool()>& isDone)
+{
+    constexpr std::chrono::seconds kLimit{60};
+    const auto end = std::chrono::steady_clock::now() + kLimit;
+    while (!isDone()) {
+        if (std::chrono::steady_clock::now() > end)
+            return false;
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
+    }
+    return true;
+}
+
+// The stored port has 16 bits: no port that the system chooses.
+inline void Listen(QTcpServer& server)
+{
+    for (quint16 port = 23000; port < 32000 && !server.isListening(); port += 7)
+        server.listen(QHostAddress::LocalHost, port);
+    ASSERT_TRUE(server.isListening());
+}
+
+// The real program as a station without a window, in a folder of its own.
+class StationProgram {
+public:
+    ~StationProgram()
+    {
+        program.kill();
+        program.waitForFinished();
+    }
+
+    void Start(const QString& call, const QString& connect, const QStringList& more)
+    {
+        const QStringList always = {"--headless", "--settings",  folder.filePath("settings.ini"),
+                                    "--folder",   folder.path(), "--region",
+                                    "2",          "--set",       "Call=" + call,
+                                    "--set",      "Dest=APRS",   "--connect",
+                                    connect,      "--print",     "counts"};
+        program.start(QStringLiteral(RUVENMARK_PROGRAM), always + more);
+        ASSERT_TRUE(program.waitForStarted());
+    }
+    bool Says(const QByteArray& text)
+    {
+        return RunUntil([&] { return (err += program.readAllStandardError()).contains(text); });
+    }
+    // The status, once it has ended.
+    int Status()
+    {
+        RunUntil([&] { return program.state() == QProcess::NotRunning; });
+        err += program.readAllStandardError();
+        return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+    }
+    int End()
+    {
+        ::kill(static_cast<pid_t>(program.processId()), SIGTERM);
+        return Status();
+    }
+    QByteArray File(const QString& name) const
+    {
+        QFile file(folder.filePath(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(no file)");
+    }
+
+    QTemporaryDir folder;
+    QProcess program;
+    QByteArray err; // So far.
+};
+
+} // namespace ruvenmark
