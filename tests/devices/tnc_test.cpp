@@ -47,7 +47,12 @@ struct Tnc : testing::Test {
     FakeByteLinks links;
     LineCounts counts;
     RecordedEvents recorded;
-    std::unique_ptr<TncSource> source = std::make_unique<TncSource>(links, recorded.sink, counts);
+    std::vector<std::string> fates; // Of texts for the air.
+    LinkEvents events{[this](const SentReport& sent) {
+                          fates.push_back((sent.bWent ? "typed " : "given up ") + std::string(sent.text));
+                      },
+                      {}};
+    std::unique_ptr<TncSource> source = std::make_unique<TncSource>(links, recorded.sink, counts, &events);
 
     void Open() { source->OpenPort("/dev/ttyS0", 9600, kAccessToken); }
     // Open, at the prompt, with nothing under way.
@@ -149,6 +154,7 @@ TEST_F(Tnc, GivesUpARunWhosePromptDoesNotComeAndSaysSoAtTheNext)
     links.Say("cmd:");
     EXPECT_EQ(links.Written(), ">two\r\x03MYCALL W1AW\r");
     links.Tick(6s); // Silent in the middle.
+    EXPECT_THAT(fates, ElementsAre("given up >one", "typed >two", "given up >three"));
     EXPECT_THROW(source->SendCommand("CONV"), Failure);
     links.Say("cmd:");
     links.Tick(1s);
