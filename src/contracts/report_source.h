@@ -2,6 +2,7 @@
 
 #include "platform/failure.h"
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 #include <string_view>
@@ -151,6 +152,9 @@ public:
     }
     virtual void CloseServer() { Refuse(); }
     virtual void SendServerLine(std::string_view /*line*/) { Refuse(); }
+
+    // How long the other end has given no sign of life; zero for a link on which silence means nothing.
+    virtual std::chrono::milliseconds SilentFor() const { return {}; }
 
     // Of any live link: minutes to add to local time to get UTC.
     virtual std::int32_t GetUtcOffset() { Refuse(); }

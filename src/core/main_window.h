@@ -12,6 +12,7 @@
 #include "links/gps_panel_state.h"
 #include "links/gps_state.h"
 #include "links/import_form.h"
+#include "links/link_status.h"
 #include "links/monitor_state.h"
 #include "links/server_form.h"
 #include "links/server_status.h"
@@ -62,6 +63,7 @@ struct MainWindow {
     ServerForm frmTcp;
     ServerLists serverLists;
     ServerStatus serverStatus;
+    LinkStatus radioStatus;
     GpsForm frmGps;
     GpsPanelState frmGpsPanel;
     WxForm frmWx;

@@ -16,6 +16,7 @@
 #include "desktop/tree/tree_model.h"
 #include "desktop/tree/tree_view.h"
 #include "lifecycle/stop.h"
+#include "links/link_status_rules.h"
 #include "links/station_files.h"
 #include "map/pointer_tools.h"
 #include "ui/layout.h"
@@ -53,8 +54,10 @@ MainWindowView::MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* 
       m_tree(new TreeView(main.tvStationList, *m_treeModel, this)),
       m_toolBar(new MainToolBar(
           main, icons, [this](MenuEntry entry) { Run(entry); }, this)),
-      m_statusBar(new StatusBarView(main.sbStatusBar, this)), m_left(new QStackedWidget(this)),
-      m_right(new QStackedWidget(this)), m_panes(new Panes(main, this)), m_placement(main, *this)
+      m_statusBar(new StatusBarView(
+          main.sbStatusBar, [this] { ShowLinkStatus(m_main); }, this)),
+      m_left(new QStackedWidget(this)), m_right(new QStackedWidget(this)), m_panes(new Panes(main, this)),
+      m_placement(main, *this)
 {
     setWindowIcon(icons.Program());
     setMinimumWidth(PixelsOfTwips(kMinWindowWidth));

@@ -30,6 +30,8 @@ public:
     // out.
     std::optional<ServerLine> Next();
 
+    Moment LastHeard() const { return m_lastHeard; }
+
     void Lose() { m_bLost = true; }
     // The other end is gone or silent, and the loss may be told: not sooner than 5 seconds after the connect, so that a
     // server that takes calls and drops them is not called without a pause.

@@ -30,9 +30,17 @@ void ServerSource::CloseServer()
 void ServerSource::SendServerLine(std::string_view line)
 {
     CheckOpen();
+    m_mask.NoteSent(line);
     m_link->Write(ServerBytes(line));
     if (m_listener && m_listener->onSent && !line.starts_with(kLogin))
         m_listener->onSent({SentReport::Road::Server, true, line});
+}
+
+std::chrono::milliseconds ServerSource::SilentFor() const
+{
+    if (!m_link)
+        return {};
+    return std::chrono::duration_cast<std::chrono::milliseconds>(m_links.Now() - m_session->LastHeard());
 }
 
 std::int32_t ServerSource::GetUtcOffset()
@@ -53,9 +61,10 @@ void ServerSource::OnBytes(std::string_view bytes, Moment now)
     const bool& bDropped = raising.IsDropped();
     m_session->Take(bytes, now);
     while (!bDropped && m_link) {
-        const auto line = m_session->Next();
+        auto line = m_session->Next();
         if (!line)
             break;
+        m_mask.Hide(line->text);
         Raise(*line, bDropped);
     }
 }

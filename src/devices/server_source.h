@@ -5,6 +5,7 @@
 #include "devices/line_counts.h"
 #include "devices/link_events.h"
 #include "devices/own_events.h"
+#include "devices/password_mask.h"
 #include "devices/server_session.h"
 
 #include <optional>
@@ -13,6 +14,7 @@ namespace ruvenmark {
 
 // The report source of an APRS internet server. What the server says of the login and the filter is raised as received
 // data too: such a line begins with '#', which no packet does, and tells the operator that nothing sent is passed on.
+// Of the login that was sent, no line that comes back tells the password.
 class ServerSource final : public IReportSource, private IByteSink {
 public:
     // All must outlive the source.
@@ -25,6 +27,7 @@ public:
     void ConnectServer(std::string_view host, std::int32_t port, std::string_view token) override;
     void CloseServer() override;
     void SendServerLine(std::string_view line) override;
+    std::chrono::milliseconds SilentFor() const override;
     std::int32_t GetUtcOffset() override;
 
 private:
@@ -41,6 +44,7 @@ private:
     LineCounts& m_counts;
     const LinkEvents* m_listener;
     std::optional<ServerSession> m_session;
+    PasswordMask m_mask;
     OwnEvents m_events;
     std::unique_ptr<IByteLink> m_link; // Last, so that it falls silent first.
 };

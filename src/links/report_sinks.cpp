@@ -3,6 +3,7 @@
 #include "core/main_window.h"
 #include "intake/report_handlers.h"
 #include "links/gps_link.h"
+#include "links/link_status_rules.h"
 #include "links/monitors.h"
 #include "links/server_link.h"
 #include "links/server_status_rules.h"
@@ -43,8 +44,10 @@ public:
     }
     void ReportRawData(std::string_view packet) override
     {
-        if (m_channel == Channel::RF)
+        if (m_channel == Channel::RF) {
             aprs_ReportRawData(m_main, packet);
+            NoteRadioLine(m_main);
+        }
         if (m_channel == Channel::TCP) {
             aprstcp_ReportRawData(m_main, packet);
             NoteServerLine(m_main, packet);

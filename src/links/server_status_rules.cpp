@@ -2,19 +2,19 @@
 
 #include "core/main_window.h"
 #include "core/notices.h"
-#include "platform/numbers.h"
+#include "links/link_status_rules.h"
 #include "platform/text.h"
 
 #include <array>
 #include <chrono>
-#include <cstdint>
 #include <string>
 
 namespace ruvenmark {
 
 namespace {
 
-constexpr std::chrono::seconds kTipInterval{1}; // A full feed has thousands of lines in it.
+constexpr std::chrono::seconds kQuietLimit{60}; // Servers give a sign of life about every 20.
+constexpr std::string_view kSilent = "The APRS server has said nothing for a minute: the connection may be lost";
 constexpr std::array<std::string_view, 4> kLoginWords = {"no login, as there is no call sign", "login not answered yet",
                                                          "login verified",
                                                          "login not verified: nothing that is sent is passed on"};
@@ -26,26 +26,24 @@ std::string_view Behind(std::string_view line, std::string_view word)
     return found == std::string_view::npos ? std::string_view() : Trim(line.substr(found + word.size()));
 }
 
-// A server that repeats the login line must not show the password to whoever looks at the window.
-std::string WithoutPassword(std::string_view line)
+// A server with a narrow filter sends few lines: its keepalives are told of where they are newer.
+std::string SignOfLife(const ServerStatus& status, Moment now, std::chrono::milliseconds silence)
 {
-    constexpr std::string_view kWord = "pass ";
-    std::string text(line);
-    for (auto at = text.find(kWord); at != std::string::npos; at = text.find(kWord, at + 1)) {
-        const auto from = at + kWord.size();
-        const auto end = text.find(' ', from);
-        text.replace(from, end == std::string::npos ? end : end - from, "...");
-    }
-    return text;
+    const std::string age = AgeText(silence);
+    if (status.bSilent)
+        return "; silent for " + age + ": the connection may be lost";
+    if (age == AgeText(now - status.lastHeard.value_or(*status.since)))
+        return {};
+    return "; last sign of life " + age + " ago";
 }
 
-std::string Tip(const ServerStatus& status)
+std::string Tip(const MainWindow& main)
 {
-    std::string tip = "Connected since " + status.since + "; ";
-    tip += ShortText(static_cast<std::int64_t>(status.lines));
-    tip += status.lines == 1 ? " line heard" : " lines heard";
-    if (!status.lastHeard.empty())
-        tip += ", the last one at " + status.lastHeard;
+    const ServerStatus& status = main.serverStatus;
+    const Moment now = main.services.wires.Now();
+    std::string tip = StatusText(status, now, "line");
+    if (main.links.aprstcp)
+        tip += SignOfLife(status, now, main.links.aprstcp->SilentFor());
     if (!status.serverName.empty())
         tip += "; server " + status.serverName;
     tip += "; ";
@@ -53,15 +51,6 @@ std::string Tip(const ServerStatus& status)
     if (!status.complaint.empty())
         tip += "; the server says: " + status.complaint;
     return tip;
-}
-
-void ShowStatus(MainWindow& main)
-{
-    ServerStatus& status = main.serverStatus;
-    status.shown = main.services.wires.Now();
-    main.sbStatusBar.SetPanelTip(Panel::Server, Tip(status));
-    main.sbStatusBar.SetPanelWarning(Panel::Server,
-                                     status.login == ServerStatus::Login::Unverified || !status.complaint.empty());
 }
 
 // "# logresp W1AW verified, server T2LOOP"
@@ -89,7 +78,7 @@ void TakeNotice(MainWindow& main, std::string_view line)
     if (ContainsIgnoringCase(line, "logresp")) {
         TakeLoginAnswer(main, line);
     } else if (IsComplaint(line)) {
-        const std::string complaint = WithoutPassword(Trim(line.substr(1)));
+        const std::string complaint(Trim(line.substr(1)));
         if (complaint != main.serverStatus.complaint)
             Tell(main, "The APRS server says: " + complaint);
         main.serverStatus.complaint = complaint;
@@ -101,29 +90,52 @@ void TakeNotice(MainWindow& main, std::string_view line)
 void BeginServerStatus(MainWindow& main)
 {
     main.serverStatus = {};
-    main.serverStatus.since = main.services.clock.LocalNowText();
-    ShowStatus(main);
+    main.serverStatus.since = main.services.wires.Now();
+    ShowServerStatus(main);
 }
 
 void NoteServerLogin(MainWindow& main)
 {
     main.serverStatus.login = ServerStatus::Login::Unanswered;
-    ShowStatus(main);
+    ShowServerStatus(main);
 }
 
 void NoteServerLine(MainWindow& main, std::string_view line)
 {
-    constexpr std::size_t kDateWidth = 11; // Of "2026-11-22 20:15:03".
     ServerStatus& status = main.serverStatus;
-    if (status.since.empty()) // No connection of ours.
+    if (!status.since) // No connection of ours.
         return;
-    ++status.lines;
-    status.lastHeard = main.services.clock.LocalNowText().substr(kDateWidth);
-    const bool bNotice = line.starts_with('#');
-    if (bNotice)
-        TakeNotice(main, line);
-    if (bNotice || main.services.wires.Now() - status.shown >= kTipInterval)
-        ShowStatus(main);
+    NoteLine(status, main.services.wires.Now());
+    if (!line.starts_with('#'))
+        return;
+    TakeNotice(main, line);
+    ShowServerStatus(main);
+}
+
+void CheckServerSilence(MainWindow& main)
+{
+    ServerStatus& status = main.serverStatus;
+    if (!status.since || !main.links.aprstcp)
+        return;
+    const bool bSilent = main.links.aprstcp->SilentFor() >= kQuietLimit;
+    if (bSilent == status.bSilent)
+        return;
+    status.bSilent = bSilent;
+    if (bSilent)
+        Tell(main, kSilent);
+    else if (main.sbStatusBar.Notice() == kSilent)
+        main.sbStatusBar.SetNotice({});
+    ShowServerStatus(main);
+}
+
+void ShowServerStatus(MainWindow& main)
+{
+    const ServerStatus& status = main.serverStatus;
+    if (!status.since)
+        return;
+    main.sbStatusBar.SetPanelTip(Panel::Server, Tip(main));
+    main.sbStatusBar.SetPanelWarning(Panel::Server, status.login == ServerStatus::Login::Unverified ||
+                                                        !status.complaint.empty() || status.bSilent);
 }
 
 void EndServerStatus(MainWindow& main)

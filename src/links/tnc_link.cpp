@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "core/notices.h"
+#include "links/link_status_rules.h"
 #include "links/tnc_form_rules.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
@@ -35,6 +36,7 @@ void Drop(MainWindow& main, std::string_view text)
     main.links.bSerialConnected = false;
     main.links.bSocketConnected = false;
     main.links.aprs.reset();
+    EndRadioStatus(main);
     Show(main, text);
 }
 
@@ -121,6 +123,7 @@ void ConnectSerialTnc(MainWindow& main)
             StartGps(main);
         Show(main,
              "Connected to port " + form.sSerialPort + " at " + ShortText(std::int64_t{form.lLastBaudRate}) + "bps");
+        BeginRadioStatus(main);
     });
     if (!bWell)
         Drop(main, kFailed);
@@ -169,6 +172,7 @@ void aprs_SocketConnected(MainWindow& main)
 {
     main.links.bSocketConnected = true;
     Show(main, "Connected to AGW Packet Engine");
+    BeginRadioStatus(main);
 }
 
 void aprs_SocketConnectionError(MainWindow& main)

@@ -1,8 +1,12 @@
-// The real program and a server of the test's making, over real sockets. What only the whole can show: that bytes reach
-// the print, that nothing of a flood is lost, that a loss leads to the backup server, and that a signal ends it well.
+// The real program and other ends of the test's making, over real sockets and pseudo terminals. What only the whole can
+// show: that bytes reach the print, that nothing of a flood is lost, that a loss leads to the backup server, that a
+// dead port costs nothing, and that a signal ends it well.
 
 #include "station_program.h"
+#include "support/pseudo_terminal.h"
 
+#include <QElapsedTimer>
+#include <QStandardPaths>
 #include <QTcpSocket>
 
 namespace ruvenmark {
@@ -23,11 +27,14 @@ protected:
 
     void Start(const QStringList& more)
     {
-        const QString address = QStringLiteral("server=127.0.0.1:%1").arg(server.serverPort());
+        StartWith(QStringLiteral("server=127.0.0.1:%1").arg(server.serverPort()), more);
+    }
+    void StartWith(const QString& links, const QStringList& more)
+    {
         const QStringList always = {"--headless", "--settings",  folder.filePath("settings.ini"),
                                     "--folder",   folder.path(), "--region",
                                     "2",          "--set",       "Call=W1AW-7",
-                                    "--connect",  address};
+                                    "--connect",  links};
         program.start(QStringLiteral(RUVENMARK_PROGRAM), always + more);
         ASSERT_TRUE(program.waitForStarted());
     }
@@ -63,6 +70,17 @@ protected:
         out += program.readAllStandardOutput();
         return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
     }
+    // Of the program up to now, in seconds.
+    double ProcessorTime() const
+    {
+        QFile file(QStringLiteral("/proc/%1/stat").arg(program.processId()));
+        if (!file.open(QIODevice::ReadOnly))
+            return -1;
+        const QByteArray all = file.readAll();
+        const QList<QByteArray> fields = all.mid(all.lastIndexOf(')') + 2).split(' ');
+        constexpr int kUser = 11, kSystem = 12; // Behind the name.
+        return (fields[kUser].toDouble() + fields[kSystem].toDouble()) / static_cast<double>(sysconf(_SC_CLK_TCK));
+    }
     void WritePassword() const
     {
         QFile file(folder.filePath("igatepw.txt"));
@@ -84,11 +102,12 @@ TEST_F(LinkProgram, LogsInHearsPrintsAndEndsOnASignal)
     ASSERT_NE(peer, nullptr);
     peer->write("# logresp W1AW-7 verified, server T2TEST\r\nN0CALL>APRS,TCPIP*:!4903.5");
     peer->flush();
-    peer->write("0N/07201.75Whello\nN1CALL>APRS:>busy\r\n");
-    ASSERT_TRUE(Prints("N1CALL>APRS:>busy\n"));
+    peer->write("0N/07201.75Whello\nuser W1AW-7 pass 25988 vers X 1\r\n");
+    peer->write("N2CALL>APRS:>a\0b\r\nN1CALL>APRS:>busy\r\n", 37);
+    ASSERT_TRUE(Prints("N2CALL>APRS:>ab\nN1CALL>APRS:>busy\n")) << out.toStdString();
     EXPECT_EQ(End(), 0);
-    EXPECT_TRUE(out.contains("TCP reports (2)\n")) << out.toStdString();
-    EXPECT_FALSE((err + program.readAllStandardError()).contains("25988")); // The password is nobody's to read.
+    EXPECT_TRUE(out.contains("TCP reports (3)\n")) << out.toStdString();
+    EXPECT_FALSE((out + err + program.readAllStandardError()).contains("25988")); // The password is nobody's to read.
 }
 
 TEST_F(LinkProgram, LosesNothingOfAFloodNorMemoryToALineWithoutAnEnd)
@@ -123,6 +142,93 @@ TEST_F(LinkProgram, GoesToTheBackupServerWhenTheConnectionIsLost)
     ASSERT_NE(Login(backup), nullptr);
     EXPECT_TRUE(Says(" [B]"));
     EXPECT_EQ(End(), 0);
+}
+
+// A server that takes calls and drops them is not called without a pause.
+TEST_F(LinkProgram, WaitsBeforeItCallsAServerThatDropsIt)
+{
+    WritePassword();
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    Start({"--set", "ReconnectServer=True", "--set", "ReconnectAttempt=9"});
+    QTcpSocket* peer = Login(server);
+    ASSERT_NE(peer, nullptr);
+    peer->close();
+    ASSERT_NE(Login(server), nullptr);
+    EXPECT_GE(sinceStart.elapsed(), 5000);
+    EXPECT_TRUE(Says(" [1]"));
+    EXPECT_EQ(End(), 0);
+}
+
+// The system tells of a dead port without pause; who listens on uses up a processor.
+TEST_F(LinkProgram, APortThatHangsUpIsToldOnceAndCostsNothing)
+{
+    PseudoTerminal tnc, gps;
+    const auto links = QStringLiteral("tnc=%1:9600,gps=%2:4800");
+    StartWith(links.arg(QString::fromStdString(tnc.Name()), QString::fromStdString(gps.Name())), {"--follow"});
+    ASSERT_TRUE(Says("Connected to port "));
+    ASSERT_TRUE(Says("Acquiring GPS..."));
+    tnc.Say("cmd:N0CALL>APRS:>by radio\r\n");
+    ASSERT_TRUE(Prints("N0CALL>APRS:>by radio\n"));
+    tnc.HangUp();
+    gps.HangUp();
+    ASSERT_TRUE(Says("TNC connection unexpectedly closed"));
+    ASSERT_TRUE(Says("GPS connection error"));
+    QElapsedTimer passed;
+    passed.start();
+    const double before = ProcessorTime();
+    RunUntil([&] { return passed.hasExpired(2000); });
+    EXPECT_LT(ProcessorTime() - before, static_cast<double>(passed.elapsed()) / 1000 / 10);
+    EXPECT_EQ(End(), 0);
+    err += program.readAllStandardError();
+    EXPECT_EQ(err.count("TNC connection unexpectedly closed"), 1) << err.toStdString();
+    EXPECT_EQ(err.count("GPS connection error"), 1) << err.toStdString();
+}
+
+// A packet engine of others, with the tones of a packet played to it.
+TEST_F(LinkProgram, HearsAPacketByDirewolf)
+{
+    const QString engine = QStandardPaths::findExecutable("direwolf");
+    const QString tones = QStandardPaths::findExecutable("gen_packets");
+    if (engine.isEmpty() || tones.isEmpty())
+        GTEST_SKIP() << "direwolf is not installed";
+    const quint16 port = server.serverPort();
+    server.close();
+    const auto write = [&](const char* name, const QByteArray& text) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
+    };
+    write("direwolf.conf",
+          "ADEVICE stdin null\nARATE 44100\nACHANNELS 1\nCHANNEL 0\nMYCALL N0CALL\nMODEM 1200\nKISSPORT 0\n"
+          "AGWPORT " +
+              QByteArray::number(port) + "\n");
+    write("packets.txt", "N1CALL-9>APRS,WIDE1-1:!4903.50N/07201.75W>by radio\n");
+    ASSERT_EQ(QProcess::execute(tones, {"-o", folder.filePath("tones.wav"), folder.filePath("packets.txt")}), 0);
+    QFile file(folder.filePath("tones.wav"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    constexpr int kWaveHeader = 44;
+    const QByteArray audio = file.readAll().mid(kWaveHeader);
+
+    QProcess direwolf;
+    direwolf.start(engine, {"-c", folder.filePath("direwolf.conf"), "-t", "0", "-q", "d", "-"});
+    QByteArray said;
+    ASSERT_TRUE(RunUntil([&] { return (said += direwolf.readAll()).contains("Ready to accept AGW"); }))
+        << said.toStdString();
+    StartWith(QStringLiteral("agw=127.0.0.1:%1").arg(port), {"--follow", "--print", "tree"});
+    ASSERT_TRUE(Says("Connected to AGW Packet Engine"));
+    QElapsedTimer played; // Again and again: the engine takes the request to hear frames when it pleases.
+    ASSERT_TRUE(RunUntil([&] {
+        if (!played.isValid() || played.hasExpired(1000)) {
+            direwolf.write(audio);
+            played.start();
+        }
+        return (out += program.readAllStandardOutput())
+            .contains("N1CALL-9>APRS,WIDE1-1:!4903.50N/07201.75W>by radio\n");
+    })) << out.toStdString();
+    direwolf.closeWriteChannel(); // It ends with its audio.
+    EXPECT_TRUE(Says("AGW connection unexpectedly closed"));
+    EXPECT_EQ(End(), 0);
+    EXPECT_TRUE(out.contains("RF reports (1)\n")) << out.toStdString();
 }
 
 TEST_F(LinkProgram, TellsWhyNothingCouldBeConnected)

@@ -135,6 +135,52 @@ TEST_F(Server, SilenceIsALoss)
     EXPECT_FALSE(links.IsKept());
 }
 
+// Beside its shape in the server's own words and in an echo, the password may be anything: a packet of a stranger that
+// holds the same figures must come through as it is.
+TEST_F(Server, TheLoginIsNeverTheirsToReadThatLookAtTheLines)
+{
+    struct Case {
+        const char* line;
+        const char* heard;
+    };
+    Connect();
+    source->SendServerLine("user W1AW-7 pass 25988 vers X 1.0 filter r/1/2/3");
+    for (const Case& row :
+         {Case{"# Invalid login: user w1aw pass 25988 vers x", "# Invalid login: user w1aw pass ... vers x"},
+          Case{"# invalid password 25988, W1AW", "# invalid password ..., W1AW"},
+          Case{"# error: pass 2598 of W1AW", "# error: pass ... of W1AW"},
+          Case{"user W1AW-7 pass 25988 vers X 1.0", "user W1AW-7 pass ... vers X 1.0"},
+          Case{"N0CALL>APRS:>user W1AW pass 25988", "N0CALL>APRS:>user W1AW pass ..."},
+          Case{"N0CALL>APRS:>25988 ft, pass 1", "N0CALL>APRS:>25988 ft, pass 1"},
+          Case{"# error 125988", "# error 125988"}}) {
+        recorded.events.clear();
+        links.Say(std::string(row.line) + "\r\n");
+        EXPECT_THAT(recorded.Raw(), ElementsAre(row.heard));
+        const bool bSecret = std::string(row.line) != row.heard;
+        for (const std::string& event : recorded.events)
+            EXPECT_FALSE(bSecret && event.find("25988") != std::string::npos) << event;
+    }
+    source->CloseServer();
+    source = std::make_unique<ServerSource>(links, recorded.sink, counts);
+    Connect();
+    source->SendServerLine("user W1AW-7 pass . vers X 1.0"); // Its own dots must not be hidden again, for ever.
+    links.Say("# invalid . login\r\n");
+    EXPECT_EQ(recorded.Raw().back(), "# invalid ... login");
+}
+
+TEST_F(Server, KnowsHowLongItHeardNothing)
+{
+    EXPECT_EQ(source->SilentFor(), 0s);
+    Connect();
+    links.Tick(20s);
+    EXPECT_EQ(source->SilentFor(), 20s);
+    links.Say("# keepalive\r\n");
+    links.Tick(2s);
+    EXPECT_EQ(source->SilentFor(), 2s);
+    source->CloseServer();
+    EXPECT_EQ(source->SilentFor(), 0s);
+}
+
 TEST_F(Server, DroppedInsideAnyOfItsEventsItFallsSilent)
 {
     const auto run = [&](std::unique_ptr<ServerSource>& server) {

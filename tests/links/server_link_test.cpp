@@ -1,6 +1,8 @@
+#include "links/link_status_rules.h"
 #include "links/server_form_rules.h"
 #include "links/server_link.h"
 #include "links/server_password.h"
+#include "links/server_status_rules.h"
 #include "support/test_program.h"
 #include "ui/menus.h"
 
@@ -183,10 +185,10 @@ TEST_F(ServerLinkTest, ALoginThatCannotBeSentEndsTheLink)
 TEST_F(ServerLinkTest, TellsWhetherTheServerPassesOnWhatIsSent)
 {
     ConnectServerLink(main);
-    EXPECT_EQ(TipText(), "Connected since 2026-11-22 20:15:03; 0 lines heard; login not answered yet");
+    EXPECT_EQ(TipText(), "Connected for a moment; 0 lines heard; login not answered yet");
     program.wires.Say("# logresp w1aw-7 verified, server T2LOOP\r\n");
-    EXPECT_EQ(TipText(), "Connected since 2026-11-22 20:15:03; 1 line heard, the last one at 20:15:03; server T2LOOP; "
-                         "login verified");
+    EXPECT_EQ(TipText(),
+              "Connected for a moment; 1 line heard, the last one a moment ago; server T2LOOP; login verified");
     EXPECT_FALSE(main.sbStatusBar.IsPanelWarning(Panel::Server));
 
     program.notices.lines.clear();
@@ -203,6 +205,106 @@ TEST_F(ServerLinkTest, TellsWhetherTheServerPassesOnWhatIsSent)
     mnuConnectServer_Click(main);
     EXPECT_EQ(TipText(), "");
     EXPECT_FALSE(main.sbStatusBar.IsPanelWarning(Panel::Server));
+}
+
+// Whoever looks sees the ages of that moment, and that a server with nothing to tell still lives.
+TEST_F(ServerLinkTest, TheTipTellsAgesOfTheMomentItIsLookedAt)
+{
+    SetSetting(main.Settings, Setting::Call, "");
+    ConnectServerLink(main);
+    program.wires.Tick(59s);
+    program.wires.Say("N0CALL>APRS:>one\r\nN1CALL>APRS:>two\r\n");
+    for (int i = 0; i < 5; ++i) {
+        program.wires.Tick(24s);
+        program.wires.Say("# keepalive\r\n");
+    }
+    program.wires.Tick(4s);
+    ShowLinkStatus(main);
+    EXPECT_EQ(TipText(),
+              "Connected for 3 minutes; 2 lines heard, the last one 2 minutes ago; last sign of life 4 seconds "
+              "ago; no login, as there is no call sign");
+    EXPECT_EQ(main.sbStatusBar.PanelTip(Panel::Tnc), "");
+    EndServerLink(main);
+    ShowLinkStatus(main);
+    EXPECT_EQ(TipText(), "");
+}
+
+TEST(LinkStatusTest, AgesReadAsOneSaysThem)
+{
+    EXPECT_EQ(AgeText(999ms), "a moment");
+    EXPECT_EQ(AgeText(1s), "1 second");
+    EXPECT_EQ(AgeText(59s), "59 seconds");
+    EXPECT_EQ(AgeText(119s), "1 minute");
+    EXPECT_EQ(AgeText(1h), "1 hour");
+    EXPECT_EQ(AgeText(23h + 59min), "23 hours 59 minutes");
+    EXPECT_EQ(AgeText(49h + 59min), "2 days 1 hour");
+}
+
+// The operator hears of it half a minute before the connection counts as lost, once; a keepalive takes it back.
+TEST_F(ServerLinkTest, ASilentServerIsToldBeforeItIsLost)
+{
+    ConnectServerLink(main);
+    program.notices.lines.clear();
+    program.wires.Tick(59s);
+    CheckServerSilence(main);
+    EXPECT_FALSE(main.sbStatusBar.IsPanelWarning(Panel::Server));
+    program.wires.Tick(1s);
+    CheckServerSilence(main);
+    CheckServerSilence(main);
+    EXPECT_TRUE(main.sbStatusBar.IsPanelWarning(Panel::Server));
+    EXPECT_EQ(program.notices.lines.size(), 1U);
+    EXPECT_NE(main.sbStatusBar.Notice(), "");
+    EXPECT_EQ(TipText(),
+              "Connected for 1 minute; 0 lines heard; silent for 1 minute: the connection may be lost; login "
+              "not answered yet");
+    EXPECT_EQ(Shown(), "Connected to prime:14580");
+
+    program.wires.Say("# keepalive\r\n");
+    CheckServerSilence(main);
+    EXPECT_FALSE(main.sbStatusBar.IsPanelWarning(Panel::Server));
+    EXPECT_EQ(main.sbStatusBar.Notice(), "");
+
+    program.wires.Tick(61s);
+    CheckServerSilence(main);
+    program.wires.Tick(30s); // Lost, and with it the warning.
+    EXPECT_EQ(Shown(), kFailed);
+    EXPECT_FALSE(main.sbStatusBar.IsPanelWarning(Panel::Server));
+    CheckServerSilence(main);
+    EXPECT_EQ(program.notices.lines.size(), 2U);
+}
+
+// Of the first nothing may be heard any more: its late loss would end the second.
+TEST_F(ServerLinkTest, ASecondConnectTakesThePlaceOfTheFirst)
+{
+    form.bReconnectServer = true;
+    ConnectServerLink(main);
+    form.sServerAddress = "second";
+    ConnectServerLink(main);
+    EXPECT_TRUE(program.wires.Written().starts_with("user "));
+    program.wires.Use("connect prime");
+    EXPECT_FALSE(program.wires.IsKept());
+    Lose();
+    EXPECT_EQ(Shown(), "Connected to second:14580");
+    EXPECT_TRUE(main.links.bLoginSent);
+    program.wires.Use("connect second");
+    EXPECT_TRUE(program.wires.IsKept());
+}
+
+// What comes back of the login is nobody's to read: in no monitor, tree or line.
+TEST_F(ServerLinkTest, AnEchoedLoginShowsNoPassword)
+{
+    program.files.texts["/program/igatepw.txt"] = "W1AW:25988";
+    main.Of(Channel::TCP).bShowUnknown = true;
+    ConnectServerLink(main);
+    const std::string login = program.wires.Written();
+    ASSERT_NE(login.find("25988"), std::string::npos);
+    program.wires.Say(login + "# Invalid login, pass 25988\r\n");
+    EXPECT_EQ(main.monitors.txtTCPData.Text().find("25988"), std::string::npos);
+    EXPECT_NE(main.monitors.txtTCPData.Text().find("user w1aw-7 pass ... vers"), std::string::npos);
+    for (const std::string& line : program.notices.lines)
+        EXPECT_EQ(line.find("25988"), std::string::npos);
+    for (const std::string& text : program.ChildTexts("TCPUnknown"))
+        EXPECT_EQ(text.find("25988"), std::string::npos);
 }
 
 TEST_F(ServerLinkTest, StopClosesTheLink)

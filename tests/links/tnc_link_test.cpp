@@ -1,3 +1,4 @@
+#include "links/link_status_rules.h"
 #include "links/tnc_form_rules.h"
 #include "links/tnc_link.h"
 #include "support/test_program.h"
@@ -132,6 +133,31 @@ TEST_F(TncLink, TheAgwEngineIsConnectedWhenItSaysSo)
     program.Sink(Channel::RF).SocketConnectionError();
     EXPECT_EQ(Panel(), "AGW connection failed");
     EXPECT_FALSE(main.links.aprs);
+}
+
+// Begun at the connect, not before: an engine that is still being called is no link.
+TEST_F(TncLink, TheTipTellsWhatTheRadioBrought)
+{
+    using namespace std::chrono_literals;
+    const auto tip = [&] {
+        ShowLinkStatus(main);
+        return main.sbStatusBar.PanelTip(ruvenmark::Panel::Tnc);
+    };
+    AcceptAgw();
+    ConnectTnc(main);
+    EXPECT_EQ(tip(), "");
+    program.wires.Open();
+    program.Sink(Channel::RF).ReportRawData("N0CALL>APRS:>hi");
+    program.Sink(Channel::TCP).ReportRawData("N0CALL>APRS:>hi"); // Not the radio's.
+    program.wires.Tick(2s);
+    EXPECT_EQ(tip(), "Connected for 2 seconds; 1 packet heard, the last one 2 seconds ago");
+    program.wires.Lose();
+    EXPECT_EQ(tip(), "");
+    AcceptSerial();
+    ConnectTnc(main);
+    EXPECT_EQ(tip(), "Connected for a moment; 0 packets heard");
+    ConnectTnc(main);
+    EXPECT_EQ(tip(), "");
 }
 
 TEST_F(TncLink, TheStartConnectsWhatWasChosenAndTheStopPutsTheTncBack)

@@ -1,64 +1,23 @@
 #include "platform/failure.h"
 #include "ports/noting_sink.h"
 #include "ports/qt_byte_links.h"
+#include "support/pseudo_terminal.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdlib>
 #include <ctime>
-#include <fcntl.h>
 #include <termios.h>
-#include <unistd.h>
 
 namespace ruvenmark {
 namespace {
 
 using namespace std::chrono_literals;
 
-// The device at the other end of a pseudo terminal.
-class Terminal {
-public:
-    Terminal() : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
-    {
-        if (grantpt(m_master) != 0 || unlockpt(m_master) != 0)
-            ADD_FAILURE() << "no pseudo terminal";
-    }
-    Terminal(const Terminal&) = delete;
-    Terminal& operator=(const Terminal&) = delete;
-    ~Terminal() { HangUp(); }
-
-    std::string Name() const { return ptsname(m_master); }
-    int Number() const { return m_master; }
-    void Say(std::string_view bytes) const
-    {
-        EXPECT_EQ(write(m_master, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
-    }
-    std::string Heard()
-    {
-        std::array<char, 1024> buffer{};
-        const ssize_t count = read(m_master, buffer.data(), buffer.size());
-        if (count > 0)
-            m_heard.append(buffer.data(), static_cast<std::size_t>(count));
-        return m_heard;
-    }
-    void HangUp()
-    {
-        if (m_master >= 0)
-            close(m_master);
-        m_master = -1;
-    }
-
-private:
-    int m_master;
-    std::string m_heard;
-};
-
 TEST(SerialWire, CarriesBytesBothWaysAndTicks)
 {
     QtByteLinks links;
     NotingSink sink;
-    Terminal terminal;
+    PseudoTerminal terminal;
     const auto link = links.OpenSerial(terminal.Name(), 9600, sink);
 
     termios settings{};
@@ -79,7 +38,7 @@ TEST(SerialWire, WaitsWithoutTellingTheSink)
 {
     QtByteLinks links;
     NotingSink sink;
-    Terminal terminal;
+    PseudoTerminal terminal;
     const auto link = links.OpenSerial(terminal.Name(), 9600, sink);
     link->Write("MYCALL\r");
     EXPECT_TRUE(link->Wait(20ms).bytes.empty());
@@ -98,7 +57,7 @@ TEST(SerialWire, TellsAHangUpOnceAndCostsNothingAfterwards)
 {
     QtByteLinks links;
     NotingSink sink;
-    Terminal terminal;
+    PseudoTerminal terminal;
     const auto link = links.OpenSerial(terminal.Name(), 9600, sink);
     terminal.HangUp();
     ASSERT_TRUE(RunUntil([&] { return sink.lost > 0; }));
@@ -120,7 +79,7 @@ TEST(SerialWire, SaysWhyAPortIsNotOpened)
     } catch (const Failure& failure) {
         EXPECT_NE(std::string(failure.what()).find("cannot open /dev/no-such-port: "), std::string::npos);
     }
-    EXPECT_THROW(links.OpenSerial(Terminal().Name(), 0, sink), Failure);
+    EXPECT_THROW(links.OpenSerial(PseudoTerminal().Name(), 0, sink), Failure);
 }
 
 } // namespace

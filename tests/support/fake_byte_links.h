@@ -58,6 +58,7 @@ public:
     std::string opened; // "serial /dev/ttyS0 9600", "socket localhost 8000", "connect localhost 14580 15"
     bool bRefuse = false;
     std::function<std::string(const std::string& written)> answer; // While the program waits.
+    std::function<void()> whileConnecting = [] {};                 // While a connect blocks.
 
     std::unique_ptr<IByteLink> OpenSerial(std::string_view port, std::int32_t baud, IByteSink& sink) override
     {
@@ -70,6 +71,7 @@ public:
     std::unique_ptr<IByteLink> ConnectSocket(std::string_view host, std::int32_t port, std::chrono::seconds limit,
                                              IByteSink& sink) override
     {
+        whileConnecting();
         return Make("connect " + std::string(host) + ' ' + std::to_string(port) + ' ' + std::to_string(limit.count()),
                     sink);
     }

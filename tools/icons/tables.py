@@ -138,6 +138,8 @@ ACTIONS = {
     "find": "magnify", "directions": "directions", "pointer": "cursor-default", "crosshair": "crosshairs",
     "load-stations": "file-import", "stop": "stop-circle", "filter": "filter", "track": "routes", "region": "earth",
     "style": "palette", "layers": "layers", "tiles-online": "cloud-download", "circle": "map-marker-circle",
-    "close": "close", "settings": "settings", "connect": "lan-connect", "copy-map": "image", "info": "information",
+    "close": "close", "settings": "settings", "connect": "lan-connect", "connect-tnc": "radio-tower",
+    "connect-server": "server-network", "connect-gps": "satellite-variant", "connect-wx": "weather-partlycloudy",
+    "copy-map": "image", "info": "information",
     "sort": "sort-alphabetical", "font": "format-size", "tool-bar": "wrench",
 }

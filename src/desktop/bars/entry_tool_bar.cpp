@@ -5,6 +5,8 @@
 #include "desktop/shown_text.h"
 
 #include <QAction>
+#include <QMenu>
+#include <QToolButton>
 
 #include <utility>
 
@@ -36,6 +38,28 @@ QAction* EntryToolBar::AddAction(const QString& iconName, const QString& text)
     QAction* action = addAction(text);
     action->setIcon(m_icons.Action(iconName, palette()));
     m_pictures.emplace_back(iconName, action);
+    return action;
+}
+
+QAction* EntryToolBar::AddDropDown(const ToolButton& button)
+{
+    QAction* action = AddAction(ForDisplay(button.key).toLower(), ForDisplay(button.text));
+    action->setObjectName(QStringLiteral("tb") + ForDisplay(button.key));
+    auto* menu = new QMenu(this);
+    for (const DropDownEntry& below : button.dropDown) {
+        QAction* row = menu->addAction(QString());
+        row->setObjectName(ForDisplay(below.key));
+        connect(row, &QAction::triggered, this, [this, entry = below.entry] { m_run(entry); });
+        const auto name = [this, row, &below] { row->setText(ForDisplay(DropDownCaption(m_main, below))); };
+        connect(menu, &QMenu::aboutToShow, row, name);
+        name();
+        const QString icon = ActionIconName(below.entry);
+        row->setIcon(m_icons.Action(icon, palette()));
+        m_pictures.emplace_back(icon, row);
+    }
+    action->setMenu(menu);
+    if (auto* shown = qobject_cast<QToolButton*>(widgetForAction(action)))
+        shown->setPopupMode(QToolButton::InstantPopup);
     return action;
 }
 

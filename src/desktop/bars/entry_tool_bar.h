@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/menus.h"
+#include "ui/tool_bar.h"
 
 #include <QToolBar>
 
@@ -22,6 +22,9 @@ public:
     QAction* AddEntry(MenuEntry entry, const QString& text);
     // A button that is no entry of a menu.
     QAction* AddAction(const QString& iconName, const QString& text);
+
+    // A button that opens a menu of entries, whose captions are those of the moment at which it opens.
+    QAction* AddDropDown(const ToolButton& button);
 
     void RefreshStates();
     void RefreshIcons();

@@ -15,6 +15,8 @@ MainToolBar::MainToolBar(MainWindow& main, const IconSet& icons, const Runner& r
     for (const ToolButton& button : ToolBar())
         if (button.key.empty())
             addSeparator();
+        else if (!button.dropDown.empty())
+            AddDropDown(button);
         else
             AddEntry(button.entry, ForDisplay(button.text));
     addSeparator();

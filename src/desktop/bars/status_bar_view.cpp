@@ -7,11 +7,14 @@
 #include <QProgressBar>
 #include <QStackedWidget>
 
+#include <utility>
+
 namespace ruvenmark {
 
 namespace {
 
 constexpr int kIntervalMs = 50;
+constexpr std::chrono::seconds kTipInterval{1};
 
 struct PanelName {
     const char* objectName;
@@ -25,9 +28,9 @@ constexpr std::array<PanelName, 5> kPanelNames = {{{"panelTnc", "TNC"},
 
 } // namespace
 
-StatusBarView::StatusBarView(StatusBar& model, QWidget* parent)
+StatusBarView::StatusBarView(StatusBar& model, std::function<void()> workTipsOut, QWidget* parent)
     : QStatusBar(parent), m_model(model), m_place(new QStackedWidget(this)), m_sent(new ElidedLabel(this)),
-      m_packet(new ElidedLabel(this)), m_progress(new QProgressBar(this))
+      m_packet(new ElidedLabel(this)), m_progress(new QProgressBar(this)), m_workTipsOut(std::move(workTipsOut))
 {
     setSizeGripEnabled(false);
     for (std::size_t i = 0; i < m_panels.size(); ++i) {
@@ -53,6 +56,11 @@ StatusBarView::StatusBarView(StatusBar& model, QWidget* parent)
     m_refreshTimer.setSingleShot(true);
     m_refreshTimer.setInterval(kIntervalMs);
     connect(&m_refreshTimer, &QTimer::timeout, this, &StatusBarView::Refresh);
+    m_tipTimer.setInterval(kTipInterval);
+    connect(&m_tipTimer, &QTimer::timeout, this, [this] {
+        if (!window()->isMinimized())
+            m_workTipsOut();
+    });
     m_subscription = model.Changed.Observe([this] { OnChanged(); });
     Refresh();
 }
@@ -60,6 +68,19 @@ StatusBarView::StatusBarView(StatusBar& model, QWidget* parent)
 StatusBarView::~StatusBarView()
 {
     ShowPointer(false);
+}
+
+void StatusBarView::showEvent(QShowEvent* event)
+{
+    QStatusBar::showEvent(event);
+    m_workTipsOut();
+    m_tipTimer.start();
+}
+
+void StatusBarView::hideEvent(QHideEvent* event)
+{
+    QStatusBar::hideEvent(event);
+    m_tipTimer.stop();
 }
 
 void StatusBarView::OnChanged()

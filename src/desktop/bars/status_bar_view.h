@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include <array>
+#include <functional>
 
 class QProgressBar;
 class QStackedWidget;
@@ -19,10 +20,15 @@ class ElidedLabel;
 // The status bar's five panels; the packet line and the progress bar take one place. It also shows the wait pointer.
 class StatusBarView final : public QStatusBar {
 public:
-    explicit StatusBarView(StatusBar& model, QWidget* parent = nullptr);
+    // `workTipsOut` is called once a second while the bar is seen: tips tell ages.
+    StatusBarView(StatusBar& model, std::function<void()> workTipsOut, QWidget* parent = nullptr);
     ~StatusBarView() override;
     StatusBarView(const StatusBarView&) = delete;
     StatusBarView& operator=(const StatusBarView&) = delete;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void OnChanged();
@@ -35,7 +41,8 @@ private:
     ElidedLabel* m_sent;
     ElidedLabel* m_packet;
     QProgressBar* m_progress;
-    QTimer m_refreshTimer;
+    QTimer m_refreshTimer, m_tipTimer;
+    std::function<void()> m_workTipsOut;
     QElapsedTimer m_sinceRepaint;
     bool m_bWaitShown = false;
     Subscription m_subscription;
