@@ -24,6 +24,7 @@
 #include "messaging/message_form.h"
 #include "messaging/message_state.h"
 #include "messaging/open_message_form.h"
+#include "options/options_form.h"
 #include "outgoing/beacon_state.h"
 #include "outgoing/object_form.h"
 #include "outgoing/position_form.h"
@@ -82,6 +83,7 @@ struct MainWindow {
     FilterForm frmFilter;
     TrackListForm frmTrackList;
     FindForm frmFind;
+    OptionsForm frmOptions;
     FailureCounts abandoned;
     LinkState links; // Last: its sources fall silent first.
 

@@ -60,6 +60,7 @@ void StartSubsystems(MainWindow& main, AutoConnect autoConnect)
                             Part::TrackLists, Part::FileLoad, Part::Tiles})
         LoadPart(main, part);
     ShowOwnCall(main);
+    SayHowToBegin(main);
     main.window.caption = kProgramName;
     main.window.Changed.Raise();
     if (autoConnect == AutoConnect::Yes)

@@ -186,4 +186,10 @@ void ShowOwnCall(MainWindow& main)
     main.sbStatusBar.SetPanel(Panel::Call, call.empty() ? "No Call Sign" : call);
 }
 
+void SayHowToBegin(MainWindow& main)
+{
+    if (SettingText(main.Settings, Setting::Call).empty() && main.sbStatusBar.Notice().empty())
+        main.sbStatusBar.SetNotice("Receiving only: to send, enter your call sign in View, Settings...");
+}
+
 } // namespace ruvenmark

@@ -24,5 +24,7 @@ void mnuMyStationSend_Click(MainWindow& main); // By the selected node.
 
 // The panel of the own call.
 void ShowOwnCall(MainWindow& main);
+// At the start: without a call nothing is sent, and a line says how to begin.
+void SayHowToBegin(MainWindow& main);
 
 } // namespace ruvenmark

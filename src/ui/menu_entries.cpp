@@ -14,6 +14,7 @@
 #include "messaging/box_commands.h"
 #include "messaging/message_boxes.h"
 #include "messaging/send_message.h"
+#include "options/options_rules.h"
 #include "outgoing/my_station.h"
 #include "outgoing/object_report.h"
 #include "outgoing/position_form_rules.h"
@@ -109,6 +110,7 @@ constexpr std::array kEntries = {
                   rules::TickForm<Form::frmTcpData>},
     MenuEntryInfo{E::mnuViewFullScreen, "mnuViewFullScreen", "F&ull Screen", "F11", true, mnuViewFullScreen_Click,
                   rules::TickWindow<&WindowState::bFullScreen>},
+    MenuEntryInfo{E::mnuViewOptions, "mnuViewOptions", "&Settings...", "Ctrl+,", false, mnuViewOptions_Click},
 
     MenuEntryInfo{E::mnuFontLargest, "mnuFontLargest", "&Largest", "", true, RunFont<0>, rules::TickFont<0>},
     MenuEntryInfo{E::mnuFontLarger, "mnuFontLarger", "L&arger", "", true, RunFont<1>, rules::TickFont<1>},
@@ -209,6 +211,8 @@ constexpr std::array kEntries = {
                   rules::OnTreeLoading},
     MenuEntryInfo{E::mnuUnloadFolder, "mnuUnloadFolder", "Unload", "", false, mnuUnloadFolder_Click, rules::NameUnload},
 
+    MenuEntryInfo{E::mnuMyStationEdit, "mnuMyStationEdit", "Settings...", "", false, mnuMyStationEdit_Click,
+                  rules::NameMyEdit},
     MenuEntryInfo{E::mnuMyStationSend, "mnuMyStationSend", "Send Report", "", false, mnuMyStationSend_Click,
                   rules::NameMySend},
 
@@ -237,6 +241,7 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuMsgboxNewMsg, "mnuMsgboxNewMsg", "New Message...", "", false, mnuSendMessage_Click},
     MenuEntryInfo{E::mnuMsgboxClear, "mnuMsgboxClear", "Clear Inbox", "", false, mnuMsgDeleteAll_Click,
                   rules::NameClear},
+    MenuEntryInfo{E::mnuMsgboxOptions, "mnuMsgboxOptions", "Settings...", "", false, mnuMsgboxOptions_Click},
 };
 
 constexpr bool StandInOrder()
@@ -247,7 +252,7 @@ constexpr bool StandInOrder()
     return true;
 }
 static_assert(StandInOrder());
-static_assert(kEntries.size() == static_cast<std::size_t>(E::mnuMsgboxClear) + 1);
+static_assert(kEntries.size() == static_cast<std::size_t>(E::mnuMsgboxOptions) + 1);
 
 } // namespace
 

@@ -53,7 +53,9 @@ constexpr std::array kView = {MenuPlace{E::mnuViewToolbar},
                               MenuPlace{E::mnuOnlineTiles},
                               MenuPlace{E::mnuTileFile},
                               kLine,
-                              MenuPlace{E::mnuViewFullScreen}};
+                              MenuPlace{E::mnuViewFullScreen},
+                              kLine,
+                              MenuPlace{E::mnuViewOptions}};
 
 constexpr std::array kMapFont = {MenuPlace{E::mnuFontLargest}, MenuPlace{E::mnuFontLarger}, MenuPlace{E::mnuFontMedium},
                                  MenuPlace{E::mnuFontSmaller}, MenuPlace{E::mnuFontSmallest}};
@@ -117,7 +119,7 @@ constexpr std::array kRoot = {MenuPlace{E::mnuPopupConnect, Menu::None, kRfRoot 
                               MenuPlace{E::mnuLoadStations, Menu::None, kNoNode | kFlRoot},
                               MenuPlace{E::mnuUnloadFolder, Menu::None, kFlRoot | kLoadedRoot}};
 
-constexpr std::array kMyStation = {MenuPlace{E::mnuMyStationSend}};
+constexpr std::array kMyStation = {MenuPlace{E::mnuMyStationEdit}, MenuPlace{E::mnuMyStationSend}};
 
 constexpr std::array kMyRange = {MenuPlace{E::mnuViewMyPosition}, MenuPlace{E::mnuShowMyRange},
                                  MenuPlace{E::mnuHideMyRange}};
@@ -138,7 +140,8 @@ constexpr std::array kMessageList = {MenuPlace{E::mnuMsgOpen},
                                      kLine,
                                      MenuPlace{E::mnuMsgNew}};
 
-constexpr std::array kBoxTree = {MenuPlace{E::mnuMsgboxNewMsg}, MenuPlace{E::mnuMsgboxClear}};
+constexpr std::array kBoxTree = {MenuPlace{E::mnuMsgboxNewMsg}, MenuPlace{E::mnuMsgboxClear},
+                                 MenuPlace{E::mnuMsgboxOptions}};
 
 constexpr std::array kMenus = {
     MenuInfo{Menu::File, "&File", kFile},
@@ -149,7 +152,7 @@ constexpr std::array kMenus = {
     MenuInfo{Menu::Tools, "&Tools", kTools},
     MenuInfo{Menu::Help, "&Help", kHelp},
     MenuInfo{Menu::MapFont, "Map &Font", kMapFont},
-    MenuInfo{Menu::MapStyle, "Map &Style", kMapStyle},
+    MenuInfo{Menu::MapStyle, "Map St&yle", kMapStyle},
     MenuInfo{Menu::MapToolbars, "Map Tool Ba&rs", kMapToolbars},
     MenuInfo{Menu::Region, "Re&gion", kRegionMenu},
     MenuInfo{Menu::mnuStationPopup, "", kStation},

@@ -89,6 +89,7 @@ void OnTreeLoading(const MenuContext& at, MenuEntryState& state);
 void NameUnload(const MenuContext& at, MenuEntryState& state);
 
 // --- The own station
+void NameMyEdit(const MenuContext& at, MenuEntryState& state);
 void NameMySend(const MenuContext& at, MenuEntryState& state);
 
 // --- The own station's facts

@@ -39,6 +39,7 @@ enum class MenuEntry : std::uint8_t {
     mnuViewTncData,
     mnuViewTcpData,
     mnuViewFullScreen,
+    mnuViewOptions,
     mnuFontLargest,
     mnuFontLarger,
     mnuFontMedium,
@@ -98,6 +99,7 @@ enum class MenuEntry : std::uint8_t {
     mnuHideFolderStations,
     mnuLoadStations,
     mnuUnloadFolder,
+    mnuMyStationEdit,
     mnuMyStationSend,
     mnuViewMyPosition,
     mnuShowMyRange,
@@ -113,7 +115,8 @@ enum class MenuEntry : std::uint8_t {
     mnuMsgLocate,
     mnuMsgNew,
     mnuMsgboxNewMsg,
-    mnuMsgboxClear
+    mnuMsgboxClear,
+    mnuMsgboxOptions
 };
 
 // The menus of the menu bar, those that open inside View, the station tree's five pop-up menus, and those of the lists

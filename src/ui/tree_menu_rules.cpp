@@ -190,6 +190,17 @@ void NameUnload(const MenuContext& at, MenuEntryState& state)
 
 // --- The own station
 
+void NameMyEdit(const MenuContext& at, MenuEntryState& state)
+{
+    const std::string key = at.node ? at.node->Key() : std::string();
+    if (key == kMyPosition)
+        state.caption = "Position Settings...";
+    else if (key == kMyWeather)
+        state.caption = "Weather Settings...";
+    else if (at.node && !at.node->Parent())
+        state.caption = "Station Settings...";
+}
+
 void NameMySend(const MenuContext& at, MenuEntryState& state)
 {
     const std::string key = at.node ? at.node->Key() : std::string();

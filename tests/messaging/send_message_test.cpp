@@ -116,6 +116,7 @@ TEST_F(MessageTest, AnAcknowledgementTakesEveryOpenLinkAndIsNotFiled)
     SendAprsMessage(main, "N0CALL", "W1AW", "", "ack3", "");
     EXPECT_EQ(Take(), (Texts{"command mode", "MYCALL N0CALL", "UNPROTO APRS", "CONV", ":W1AW     :ack3",
                              "server N0CALL>APRS,TCPIP*::W1AW     :ack3"}));
+    EXPECT_EQ(main.sbStatusBar.Sent(), "Sent over TNC, server at 20:15:03");
     EXPECT_TRUE(SentList().IsEmpty());
     SendByDialog("W1AW", "Ack3");
     EXPECT_EQ(Take().back(), "server N0CALL>APRS,TCPIP*::W1AW     :Ack3{1");

@@ -1,9 +1,11 @@
 #include "outgoing/my_station.h"
 #include "support/test_program.h"
+#include "ui/station_tree_commands.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ruvenmark {
@@ -65,14 +67,34 @@ TEST(MyStation, UpdatesInPlaceAndReplacesTheComment)
     EXPECT_EQ(program.ChildTexts("MyPosition"), Texts{});
 }
 
-TEST(MyStation, WorksOutTheRange)
+// A circle that shows must not go on telling the range of another antenna, and its menu must be within reach.
+TEST(MyStation, WorksOutTheRangeAndRedrawsIt)
 {
     TestProgram program;
-    Set(program, Setting::Power, "25");
-    Set(program, Setting::Height, "40");
-    Set(program, Setting::Gain, "3");
+    for (const auto& [setting, text] :
+         {std::pair(Setting::Call, "N0CALL"), std::pair(Setting::Lat, "1"), std::pair(Setting::Lon, "2"),
+          std::pair(Setting::Power, "25"), std::pair(Setting::Height, "40"), std::pair(Setting::Gain, "3")})
+        Set(program, setting, text);
     AddMyStationNode(program.main);
-    EXPECT_GT(program.main.map.MyRange, 0);
+    const double range = program.main.map.MyRange;
+    EXPECT_GT(range, 0);
+    EXPECT_FALSE(program.main.map.MyRangeCircle);
+    const auto popup = tvStationList_MouseUp(program.main, kRightButton, program.Node("MyPositionPower:"));
+    ASSERT_TRUE(popup);
+    EXPECT_TRUE(FindState(popup->items, MenuEntry::mnuShowMyRange)->bEnabled);
+    RunMenuEntry(program.main, MenuEntry::mnuShowMyRange);
+    const auto width = [&] {
+        const auto& shapes = program.TheMap().Shapes();
+        for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot)
+            if (shapes.At(slot))
+                return shapes.At(slot)->width;
+        return 0.0;
+    };
+    EXPECT_EQ(width(), range);
+    Set(program, Setting::Height, "160");
+    AddMyStationNode(program.main);
+    EXPECT_EQ(width(), program.main.map.MyRange);
+    EXPECT_GT(width(), range);
 }
 
 } // namespace

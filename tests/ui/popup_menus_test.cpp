@@ -135,8 +135,9 @@ TEST(PopupMenus, FactsHaveNoneAndTheOwnStationsFactsHaveTheirs)
     TestProgram program;
     program.Hear(Channel::TCP, "N0CALL>APRS:!4000.00N/08000.00W>");
     EXPECT_FALSE(RightClick(program, "TCPPositionsN0CALLLat"));
-    EXPECT_FALSE(RightClick(program, "My"));
-    EXPECT_EQ(Shown(RightClick(program, "MyPosition")), Names{"-Send Position"});
+    EXPECT_EQ(Shown(RightClick(program, "My")), Names{"Station Settings..."});
+    EXPECT_EQ(Shown(RightClick(program, "MyPosition")), (Names{"Position Settings...", "-Send Position"}));
+    EXPECT_EQ(Shown(RightClick(program, "MyWeather")), (Names{"Weather Settings...", "-Send Weather"}));
 
     program.Tree().Add(*program.Node("MyPosition"), "Lat", "Lat: 40");
     EXPECT_EQ(Shown(RightClick(program, "MyPositionLat")),
@@ -166,13 +167,13 @@ TEST(PopupMenus, MessagesOfferWhatGoesWithTheListInFront)
     main.messages.lvSentList.SelectOnly(0);
     EXPECT_EQ(shown(),
               (Names{"Open", "Reply...", "Forward...", "Delete", "Delete All", "Locate Sender", "New Message..."}));
-    EXPECT_EQ(click("MessagesInbox"), (Names{"New Message...", "Clear Inbox"}));
-    EXPECT_EQ(click("MessagesSent"), (Names{"New Message...", "Clear Sent Items"}));
+    EXPECT_EQ(click("MessagesInbox"), (Names{"New Message...", "Clear Inbox", "Settings..."}));
+    EXPECT_EQ(click("MessagesSent"), (Names{"New Message...", "Clear Sent Items", "Settings..."}));
     EXPECT_EQ(main.window.rightView, RightView::Sent);
     EXPECT_EQ(shown(), (Names{"-Send Again", "Delete", "Delete All", "Locate Recipient", "New Message..."}));
     main.links.bServerConnected = true;
     EXPECT_EQ(shown().front(), "Send Again");
-    EXPECT_EQ(click("Messages"), Names{"New Message..."});
+    EXPECT_EQ(click("Messages"), (Names{"New Message...", "Settings..."}));
     EXPECT_EQ(click("MessagesNone"), Names{});
 }
 

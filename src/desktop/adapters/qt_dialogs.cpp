@@ -11,6 +11,7 @@
 #include "desktop/dialogs/frm_message_dialog.h"
 #include "desktop/dialogs/frm_object_dialog.h"
 #include "desktop/dialogs/frm_open_message_dialog.h"
+#include "desktop/dialogs/frm_options_dialog.h"
 #include "desktop/dialogs/frm_position_dialog.h"
 #include "desktop/dialogs/frm_region_dialog.h"
 #include "desktop/dialogs/frm_status_dialog.h"
@@ -87,7 +88,7 @@ std::unique_ptr<FormDialog> QtDialogs::Make(Form form, MainWindow& main) const
     case Form::frmOpenMessage:
         return std::make_unique<FrmOpenMessageDialog>(main.frmOpenMessage, m_window);
     case Form::frmOptions:
-        break;
+        return std::make_unique<FrmOptionsDialog>(main, m_window);
     }
     throw std::logic_error("no such form");
 }

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRadioButton>
 #include <QTabWidget>
 
 #include <cstdint>
@@ -34,6 +35,13 @@ public:
     {
         QObject::connect(&box, &QCheckBox::toggled, &box, [&field](bool bOn) { field = bOn; });
         Add([&box, &field] { box.setChecked(field); });
+    }
+
+    // The two stand for yes and no.
+    void Bind(QRadioButton& yes, QRadioButton& no, bool& field)
+    {
+        QObject::connect(&yes, &QRadioButton::toggled, &yes, [&field](bool bOn) { field = bOn; });
+        Add([&yes, &no, &field] { (field ? yes : no).setChecked(true); });
     }
 
     // The index in the list; one outside it shows nothing and is kept until something is chosen.

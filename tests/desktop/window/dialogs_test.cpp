@@ -5,6 +5,7 @@
 #include "links/station_files.h"
 #include "links/weather_link.h"
 #include "map/find.h"
+#include "options/options_rules.h"
 #include "tracking/filter_form_rules.h"
 #include "tracking/track_list_form_rules.h"
 #include "tracking/track_lists.h"
@@ -16,6 +17,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabWidget>
 
 namespace ruvenmark {
@@ -206,6 +208,51 @@ TEST_F(DialogsTest, FilterStandsAsideForAClickOnTheMapAndComesBack)
     program.Action("pointer").trigger();
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerDefault);
+}
+
+// Every box of the table is there under its name, shows its setting and gives it back.
+TEST_F(DialogsTest, SettingsAreBoundBoxByBoxAndSaved)
+{
+    SetSetting(program.main.Settings, Setting::Call, "N0CALL");
+    SetSetting(program.main.Settings, Setting::MobileColor, "2");
+    mnuViewOptions_Click(program.main);
+    QDialog& dialog = Modeless("Settings");
+    ExpectAccessible(dialog);
+    for (const OptionBox& box : kOptionBoxes)
+        EXPECT_NE(dialog.findChild<QWidget*>(QString::fromStdString(std::string(box.control))), nullptr) << box.control;
+    EXPECT_EQ(program.Find<QLineEdit>("txtCall", &dialog).text(), QStringLiteral("N0CALL"));
+    EXPECT_EQ(program.Find<QComboBox>("cboMobileColor", &dialog).currentText(), QStringLiteral("Green"));
+    EXPECT_EQ(program.Find<QComboBox>("cboPositionInterval", &dialog).currentText(), QStringLiteral("Manual"));
+    EXPECT_TRUE(program.Find<QRadioButton>("optMe", &dialog).isChecked());
+
+    auto& tabs = program.Find<QTabWidget>("SSTab1", &dialog);
+    EXPECT_FALSE(Button(dialog, "PinPoint").isVisible());
+    tabs.setCurrentIndex(static_cast<int>(OptionPage::Position));
+    EXPECT_TRUE(Button(dialog, "PinPoint").isVisible());
+    Type(dialog, "txtLat", "95");
+    Button(dialog, "OK").click();
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(program.Find<QLineEdit>("txtLat", &dialog).text(), QString());
+    Type(dialog, "txtLat", "37.5");
+    Type(dialog, "txtCall", "");
+    Button(dialog, "OK").click();
+    EXPECT_EQ(tabs.currentIndex(), static_cast<int>(OptionPage::General));
+    EXPECT_EQ(program.prompts.messages, (std::vector<std::string>{"Enter a value between -90 and 90 for latitude!",
+                                                                  "You must enter call sign and unproto path!"}));
+    Type(dialog, "txtCall", "N1CALL");
+    program.Find<QRadioButton>("optAll", &dialog).click();
+    program.Find<QCheckBox>("chkShowRfNames", &dialog).click();
+    auto& color = program.Find<QComboBox>("cboMobileColor", &dialog);
+    QTest::keyClick(&color, Qt::Key_End);
+    Button(dialog, "OK").click();
+    EXPECT_FALSE(dialog.isVisible());
+    const auto kept = [&](Setting setting) { return SettingText(program.main.Settings, setting); };
+    EXPECT_EQ(kept(Setting::Call), "N1CALL");
+    EXPECT_EQ(kept(Setting::Lat), "37.5");
+    EXPECT_EQ(kept(Setting::All), "True");
+    EXPECT_EQ(kept(Setting::ShowRFNames), "0");
+    EXPECT_EQ(kept(Setting::MobileColor), "7");
+    EXPECT_EQ(kept(Setting::PositionInt), "-1"); // Untouched.
 }
 
 TEST_F(DialogsTest, FindOffersWhileTypingAndGoesThereOnEnter)

@@ -1,0 +1,312 @@
+#include "map/pointer_tools.h"
+#include "options/options_rules.h"
+#include "outgoing/my_station.h"
+#include "support/test_program.h"
+#include "ui/menus.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <string>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Texts = std::vector<std::string>;
+using S = Setting;
+
+class Options : public testing::Test {
+protected:
+    Options()
+    {
+        Set(S::Call, "N0CALL");
+        Set(S::Dest, "APRS");
+    }
+    void Set(Setting setting, std::string_view text) { SetSetting(main.Settings, setting, text); }
+    const std::string& Kept(Setting setting) { return SettingText(main.Settings, setting); }
+    std::string& Text(Setting setting) { return FieldOf(main.frmOptions, setting).text; }
+    bool IsOpen() const { return program.dialogs.IsVisible(Form::frmOptions); }
+
+    TestProgram program;
+    MainWindow& main = program.main;
+};
+
+// Pages, names, captions and units are what the manual and other tools speak of; the order is that of Save.
+TEST(OptionBoxes, AreTheWholeDialogInTheOrderOfSave)
+{
+    constexpr const char* kTold[] = {"General Call txtCall Call Sign",
+                                     "General Dest txtDest Unproto",
+                                     "General Path txtVia Via",
+                                     "General Symbol cboSymbol Symbol",
+                                     "General ShowRFNames chkShowRfNames Show map symbol names for RF stations",
+                                     "General ShowTCPNames chkShowTcpNames Show map symbol names for TCP stations",
+                                     "Message ReceiveBulletin chkBulletin Receive bulletins and announcements",
+                                     "Message MatchSSID chkMatch Match secondary station ID",
+                                     "Message PlayAll chkPlayAll Play wave file for all incoming messages",
+                                     "Message All optAll All messages",
+                                     "General PositionInt cboPositionInterval Position",
+                                     "General WeatherInt cboWeatherInterval Weather",
+                                     "Position Lat txtLat Latitude",
+                                     "Position Lon txtLon Longitude",
+                                     "Position Alt txtAlt Altitude",
+                                     "Position Power txtPower Power",
+                                     "Position Height txtHeight Height",
+                                     "Position Gain txtGain Gain",
+                                     "Position Directivity txtPosDir Directivity",
+                                     "Position Comment txtComment Comment",
+                                     "Weather WindDir txtDir Wind direction",
+                                     "Weather WindSpeed txtSpeed Sustained one minute wind speed",
+                                     "Weather Gust txtGust Peak wind speed in the last 5 minutes",
+                                     "Weather Temperature txtTemp Temperature",
+                                     "Weather Rain1 txtRain1 Rainfall in the last hour",
+                                     "Weather Rain24 txtRain24 Rainfall in the last 24 hours",
+                                     "Weather Rain12 txtRain12 Rainfall since midnight",
+                                     "Weather Humidity txtHumidity Humidity",
+                                     "Weather Pressure txtPressure Barometric pressure",
+                                     "Message MessageSubnet txtSubnet Subnet",
+                                     "Message WaveFile txtWaveFile Wave file",
+                                     "Misc DefaultMap txtDefaultMap Initial Map View",
+                                     "Misc TNCLog txtTNCLog Tnc Log File",
+                                     "Misc TCPLog txtTCPLog Tcp Log File",
+                                     "Misc LogTcpData chkLogTcpData Log Tcp Data",
+                                     "Misc MobileColor cboMobileColor Mobile Station",
+                                     "Misc Tactical txtTactical Tactical Call",
+                                     "Misc BeaconTactical chkTactical Beacon Tactical Call"};
+    Texts told;
+    for (const OptionBox& box : kOptionBoxes) {
+        std::string caption(box.caption);
+        std::erase(caption, '&');
+        told.push_back(std::string(kOptionPages[static_cast<std::size_t>(PageOf(box))]) + ' ' +
+                       std::string(Info(box.setting).key) + ' ' + std::string(box.control) + ' ' + caption);
+    }
+    EXPECT_THAT(told, testing::ElementsAreArray(kTold));
+    EXPECT_EQ(ChoicesOf(BoxOf(S::Symbol)).size(), 31U);
+    EXPECT_EQ(ChoicesOf(BoxOf(S::PositionInt)).size(), 12U);
+    EXPECT_EQ(ChoicesOf(BoxOf(S::WeatherInt)).back(), "12 Hours");
+    EXPECT_THAT(ChoicesOf(BoxOf(S::MobileColor)),
+                ElementsAre("Black", "Red", "Green", "Yellow", "Blue", "Magenta", "Cyan", "White"));
+}
+
+// A frame that its enum and its table place differently would move boxes to another page.
+TEST(OptionBoxes, FramesStandInTheirOrder)
+{
+    for (std::size_t i = 0; i < kOptionFrames.size(); ++i)
+        EXPECT_EQ(static_cast<std::size_t>(kOptionFrames[i].frame), i);
+}
+
+TEST_F(Options, BoxesTakeTheirBoundsAndNothingBeyond)
+{
+    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+    struct Row {
+        Setting setting;
+        double lowest, highest; // NaN: none.
+        const char* message;
+    };
+    constexpr Row kRows[] = {{S::Alt, 0, 999999, "Enter a number between 0 and 999999 for altitude!"},
+                             {S::Directivity, 0, 360, "Enter an interger between 0 and 360 for directivity!"},
+                             {S::Gain, kNone, kNone, ""},
+                             {S::Height, 0, 2000000000, "Enter a number between 0 and 2000000000 for height!"},
+                             {S::Lat, -90, 90, "Enter a value between -90 and 90 for latitude!"},
+                             {S::Lon, -180, 180, "Enter a value between -180 and 180 for longitude!"},
+                             {S::Power, 0, kNone, "Enter a positive number for station power!"},
+                             {S::WindDir, 0, 360, "Enter an interger between 0 and 360 for wind direction!"},
+                             {S::WindSpeed, 0, 999, "Enter an interger between 0 and 999 for wind speed!"},
+                             {S::Gust, 0, 999, "Enter an interger between 0 and 999 for gust!"},
+                             {S::Temperature, -99, 999, "Enter an interger between -99 and 999 for temperature!"},
+                             {S::Rain1, 0, 999, "Enter an interger between 0 and 999 for rain in the last hour!"},
+                             {S::Rain24, 0, 999, "Enter an interger between 0 and 999 for rain in the last 24 hours!"},
+                             {S::Rain12, 0, 999, "Enter an interger between 0 and 999 for rain since midnight!"},
+                             {S::Humidity, 0, 99, "Enter an interger between 0 and 99 for humidity!"},
+                             {S::Pressure, 0, 99999, "Enter an interger between 0 and 99999 for pressure!"}};
+    const auto leave = [&](Setting setting, const std::string& text) {
+        Text(setting) = text;
+        return frmOptions_LostFocus(main.frmOptions, BoxOf(setting));
+    };
+    for (const Row& row : kRows) {
+        const std::string key(Info(row.setting).key);
+        const auto expectTaken = [&](double value, bool bTaken) {
+            if (std::isnan(value))
+                return;
+            const std::string text = std::to_string(static_cast<std::int64_t>(value));
+            EXPECT_EQ(leave(row.setting, text), bTaken ? "" : row.message) << key << ' ' << text;
+            EXPECT_EQ(Text(row.setting), bTaken ? text : "") << key;
+        };
+        expectTaken(row.lowest, true);
+        expectTaken(row.lowest - 1, false);
+        expectTaken(row.highest, true);
+        expectTaken(row.highest + 1, false);
+        EXPECT_EQ(leave(row.setting, "a few"), row.message) << key;
+        EXPECT_EQ(Text(row.setting), "") << key;
+        EXPECT_EQ(leave(row.setting, ""), "") << key;
+    }
+    EXPECT_EQ(leave(S::Power, "6000"), ""); // Beyond what the position dialog takes.
+    EXPECT_EQ(leave(S::Gain, "-40"), "");
+    EXPECT_EQ(Text(S::Gain), "-40");
+}
+
+TEST_F(Options, NothingIsStoredWhileSomethingIsMissingOrWrong)
+{
+    for (const Setting required : {S::Call, S::Dest}) {
+        mnuMyStationEdit_Click(main);
+        main.frmOptions.SSTab1 = static_cast<int>(OptionPage::Weather);
+        Text(S::Lat) = "5";
+        Text(required) = "";
+        frmOptions_Save(main);
+        EXPECT_TRUE(IsOpen());
+        EXPECT_EQ(main.frmOptions.SSTab1, 0);
+        EXPECT_EQ(Kept(S::Lat), "");
+        frmOptions_Cancel(main);
+    }
+    mnuViewOptions_Click(main);
+    EXPECT_EQ(Text(S::Lat), ""); // What was cancelled is gone.
+    Text(S::Lat) = "95";         // Enter was pressed in the box.
+    frmOptions_Save(main);
+    EXPECT_THAT(program.prompts.messages,
+                ElementsAre("You must enter call sign and unproto path!", "You must enter call sign and unproto path!",
+                            "Enter a value between -90 and 90 for latitude!"));
+    EXPECT_TRUE(IsOpen());
+    EXPECT_EQ(main.frmOptions.SSTab1, static_cast<int>(OptionPage::Position));
+    frmOptions_Save(main);
+    EXPECT_FALSE(IsOpen());
+}
+
+// Every setting is loaded into its own box and stored from it; one that reads as nothing known is left alone.
+TEST_F(Options, SaveStoresWhatTheBoxesShow)
+{
+    Set(S::ShowTCPNames, "0");
+    Set(S::All, "1");
+    Set(S::Symbol, "40"); // Of no entry.
+    mnuViewOptions_Click(main);
+    OptionsForm& form = main.frmOptions;
+    EXPECT_TRUE(FieldOf(form, S::ShowRFNames).bTicked);
+    EXPECT_FALSE(FieldOf(form, S::ShowTCPNames).bTicked);
+    EXPECT_TRUE(FieldOf(form, S::All).bTicked);
+    EXPECT_EQ(FieldOf(form, S::Symbol).choice, -1);
+    int i = 0;
+    for (const OptionBox& box : kOptionBoxes)
+        FieldOf(form, box).text = std::to_string(++i);
+    Text(S::Call) = "N1CALL";
+    FieldOf(form, S::ShowRFNames).bTicked = false;
+    FieldOf(form, S::ReceiveBulletin).bTicked = false;
+    FieldOf(form, S::PositionInt).choice = 1;
+    frmOptions_Save(main);
+    EXPECT_EQ(Kept(S::Call), "N1CALL");
+    EXPECT_EQ(Kept(S::ShowRFNames), "0");
+    EXPECT_EQ(Kept(S::ReceiveBulletin), "False");
+    EXPECT_EQ(Kept(S::All), "True");
+    EXPECT_EQ(Kept(S::Symbol), "40");
+    EXPECT_EQ(Kept(S::PositionInt), "1");
+    i = 0;
+    for (const OptionBox& box : kOptionBoxes) {
+        ++i;
+        const bool bText =
+            box.kind == OptionKind::Text || box.kind == OptionKind::Number || box.kind >= OptionKind::Wave;
+        if (bText && box.setting != S::Call) {
+            EXPECT_EQ(Kept(box.setting), std::to_string(i)) << box.control;
+        }
+    }
+}
+
+TEST_F(Options, ASaveTakesEffectAtOnce)
+{
+    program.Position(Channel::RF, "N2CALL", 40, -80);
+    program.Position(Channel::TCP, "N2CALL", 40, -80);
+    program.Sink(Channel::RF).ReportPosExt({"N3CALL", "APRS", 41, -80, kAbsent, 20});
+    program.Position(Channel::RF, "N3CALL", 41, -80);
+    const TreeNode* moving = program.Node("RFPositionsN3CALL");
+    ASSERT_EQ(moving->Color(), 255U);
+    program.Marker("N2CALL(t)")->SetBalloonState(2); // Opened by hand.
+
+    mnuViewOptions_Click(main);
+    OptionsForm& form = main.frmOptions;
+    Text(S::Lat) = "37.5";
+    Text(S::Lon) = "-122.25";
+    Text(S::Comment) = "hello";
+    Text(S::Call) = "N1CALL";
+    FieldOf(form, S::PositionInt).choice = 3;
+    FieldOf(form, S::ShowRFNames).bTicked = false;
+    FieldOf(form, S::MobileColor).choice = 0;
+    frmOptions_Save(main);
+    EXPECT_EQ(main.sbStatusBar.PanelText(Panel::Call), "N1CALL");
+    EXPECT_THAT(program.ChildTexts("MyPosition"), ElementsAre("Lat: 37.5°", "Lon: -122.25°", "Path: WIDE2-2", "hello"));
+    EXPECT_EQ(main.beacons.positionInterval, 4);
+    EXPECT_EQ(program.Marker("N2CALL(r)")->BalloonState(), 0);
+    EXPECT_EQ(program.Marker("N2CALL(t)")->BalloonState(), 2); // Its tick has not changed.
+    EXPECT_EQ(moving->Color(), 0U);
+
+    mnuViewOptions_Click(main);
+    FieldOf(form, S::MobileColor).choice = 4;
+    Text(S::Comment) = "bye";
+    frmOptions_Save(main);
+    EXPECT_EQ(moving->Color(), 16711680U);
+    EXPECT_EQ(program.Node("RFPositionsN2CALL")->Color(), 0U);
+    EXPECT_EQ(program.ChildTexts("MyPosition").back(), "bye");
+}
+
+TEST_F(Options, PinPointTakesTheClickOnThePositionPageAlone)
+{
+    program.Select("MyPosition");
+    mnuMyStationEdit_Click(main);
+    OptionsForm& form = main.frmOptions;
+    EXPECT_TRUE(IsPinPointOffered(form));
+    for (const int page : {0, 2, 3, 4}) {
+        form.SSTab1 = page;
+        EXPECT_FALSE(IsPinPointOffered(form));
+    }
+    program.TheMap().SetSize(800, 600);
+    program.TheMap().SetView({48.5, -11.25}, 12);
+    frmOptions_PinPoint(main);
+    EXPECT_TRUE(mpCtrl_Click(main, 400, 300));
+    EXPECT_EQ(Text(S::Lat), "48.5");
+    EXPECT_EQ(Text(S::Lon), "-11.25");
+    EXPECT_EQ(Kept(S::Lat), ""); // Not before Save.
+}
+
+TEST_F(Options, EachWayInOpensItsPageAndKeepsWhatWasTyped)
+{
+    const auto page = [&](const char* node, MenuEntry entry) {
+        program.Select(node);
+        RunMenuEntry(main, entry);
+        return static_cast<OptionPage>(main.frmOptions.SSTab1);
+    };
+    EXPECT_EQ(page("MyWeather", MenuEntry::mnuMyStationEdit), OptionPage::Weather);
+    Text(S::Tactical) = "BASE";
+    EXPECT_EQ(page("MyPosition", MenuEntry::mnuMyStationEdit), OptionPage::Position);
+    EXPECT_EQ(page("My", MenuEntry::mnuMsgboxOptions), OptionPage::Message);
+    EXPECT_EQ(page("My", MenuEntry::mnuViewOptions), OptionPage::Message);
+    EXPECT_EQ(page("My", MenuEntry::mnuMyStationEdit), OptionPage::General);
+    EXPECT_EQ(Text(S::Tactical), "BASE");
+}
+
+TEST_F(Options, BrowsingFillsTheBoxOrLeavesIt)
+{
+    mnuViewOptions_Click(main);
+    program.prompts.files = {"/sounds/ping.wav"};
+    frmOptions_Browse(main, BoxOf(S::WaveFile));
+    EXPECT_EQ(Text(S::WaveFile), "/sounds/ping.wav");
+    frmOptions_Browse(main, BoxOf(S::WaveFile)); // Cancelled.
+    EXPECT_EQ(Text(S::WaveFile), "/sounds/ping.wav");
+}
+
+// Whoever starts without a call is told where to put it, until something else is to be told.
+TEST(FirstStart, SaysHowToBegin)
+{
+    TestProgram program;
+    EXPECT_THAT(program.main.sbStatusBar.Notice(), testing::HasSubstr("View, Settings..."));
+    EXPECT_EQ(program.main.sbStatusBar.PanelText(Panel::Call), "No Call Sign");
+    RunMenuEntry(program.main, MenuEntry::mnuViewOptions);
+    EXPECT_EQ(program.main.sbStatusBar.Notice(), "");
+
+    TestProgram known(false);
+    known.store.Set("Call", "N0CALL");
+    StartMainWindow(known.main);
+    EXPECT_EQ(known.main.sbStatusBar.Notice(), "");
+}
+
+} // namespace
+} // namespace ruvenmark
