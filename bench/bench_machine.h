@@ -20,8 +20,9 @@ inline double CpuSeconds()
     return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
 }
 
-// What the whole program needs of a machine, with nobody to answer and nothing to hear. The region is chosen.
-template <typename Yield>
+// What the whole program needs of a machine, with nobody to answer and, unless Wires are real, nothing to hear.
+// The region is chosen.
+template <typename Yield, typename Wires = BareByteLinks>
 struct BenchMachine {
     BenchMachine() { store.Set("Region", "1"); }
 
@@ -54,7 +55,7 @@ struct BenchMachine {
     PrintedNotices notices{std::cerr};
     BareDialogs dialogs;
     BareDesktop desktop;
-    BareByteLinks wires;
+    Wires wires;
     ReportSources sources{wires};
     GpsServers gpsServers{wires};
     WeatherServers weatherServers{wires};

@@ -62,6 +62,14 @@ std::string Digits(int value, int width)
     return text.size() < size ? Join({std::string(size - text.size(), '0'), text}) : text;
 }
 
+std::string Call(int station)
+{
+    std::string call = "K";
+    for (int i = 0; i < 4; ++i, station /= 26)
+        call += static_cast<char>('A' + station % 26);
+    return call;
+}
+
 std::string PlainPosition(Place place, std::string_view symbol)
 {
     const Angle lat = Split(place.lat);

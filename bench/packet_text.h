@@ -19,6 +19,9 @@ struct Movement {
 std::string Join(std::initializer_list<std::string_view> pieces);
 std::string Digits(int value, int width);
 
+// "KAAAA" and on: as many as the letters give.
+std::string Call(int station);
+
 // "4903.50N/07201.75W>"; the symbol is the table or overlay, then the code.
 std::string PlainPosition(Place place, std::string_view symbol);
 // "/5L!!<*e7>7P[" with course and speed.

@@ -2,26 +2,19 @@
 // shown, a tree of 100,000 stations, and what an idle window costs. Runs without a screen unless QT_QPA_PLATFORM says
 // otherwise.
 
-#include "bench_machine.h"
-#include "desktop/adapters/qt_yield.h"
-#include "desktop/data_path.h"
-#include "desktop/icons/icon_set.h"
-#include "desktop/main_window_view.h"
 #include "desktop/map/widget/map_widget.h"
 #include "desktop/tree/call_search.h"
 #include "desktop/tree/tree_view.h"
 #include "lifecycle/start.h"
 #include "lifecycle/stop.h"
-#include "mapfiles/base_map.h"
 #include "packet_text.h"
+#include "window_program.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QEventLoop>
 #include <QFile>
 #include <QScrollBar>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include <cstdio>
 #include <random>
@@ -31,29 +24,7 @@ namespace {
 
 using namespace ruvenmark;
 
-struct Program {
-    Program() : baseMap(BaseMap::Open(DataPath(QStringLiteral("basemap/world.rvm")).toStdString()))
-    {
-        machine.store.Set("MainWidth", "19200"); // 1280 x 800 pixels.
-        machine.store.Set("MainHeight", "12000");
-        machine.store.Set("WindowSplit", "3600");
-    }
-
-    BenchMachine<QtYield> machine;
-    IconSet icons;
-    BaseMap baseMap;
-    MainWindow main{machine.Lend()};
-    MainWindowView window{main, icons, &baseMap};
-};
-
-// "KAAAA" and on: as many as the letters give.
-std::string CallOf(int station)
-{
-    std::string call = "K";
-    for (int i = 0; i < 4; ++i, station /= 26)
-        call += static_cast<char>('A' + station % 26);
-    return call;
-}
+using Program = WindowProgram<>;
 
 // Moving stations over North America, one position report a line.
 std::string MakeFile(const QTemporaryDir& folder, int lines, int stations)
@@ -63,7 +34,8 @@ std::string MakeFile(const QTemporaryDir& folder, int lines, int stations)
     std::string text;
     for (int i = 0; i < lines; ++i) {
         const int station = i % stations;
-        text += CallOf(station) + ">APRS,WIDE1-1:!" + packet_text::PlainPosition({lat(random), lon(random)}, "/>") +
+        text += packet_text::Call(station) + ">APRS,WIDE1-1:!" +
+                packet_text::PlainPosition({lat(random), lon(random)}, "/>") +
                 packet_text::CourseSpeed({1 + i % 360, i % 80}) + "line\r\n";
     }
     const std::string path = folder.filePath(QString::number(lines)).toStdString();
@@ -106,13 +78,6 @@ void MeasureTree(Program& program)
     std::printf(", scroll %.1f ms a step", static_cast<double>(timer.restart()) / kSteps);
     FindByFirstLetters(program.main.tvStationList, "NOSUCHCALL", program.main.tvStationList.Selected(), true);
     std::printf(", search in vain %.1f ms\n", static_cast<double>(timer.nsecsElapsed()) / 1e6);
-}
-
-void RunFor(int milliseconds)
-{
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
 }
 
 void MeasureIdle()

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace ruvenmark {
 
@@ -25,8 +26,8 @@ void MarkerLayout::SetWindow(const ViewFrame& frame)
     const auto shift = [&](double edge) { return edge - std::floor(edge / kSquare) * kSquare; };
     m_window.shiftX = shift(left * frame.world);
     m_window.shiftY = shift(top * frame.world);
-    m_window.columns = static_cast<std::size_t>(frame.width + 2 * kMargin) / kSquare + 2;
-    m_window.rows = static_cast<std::size_t>(frame.height + 2 * kMargin) / kSquare + 2;
+    m_window.columns = (frame.width + 2 * kMargin) / kSquare + 2;
+    m_window.rows = (frame.height + 2 * kMargin) / kSquare + 2;
 }
 
 // Newest first; positions are told from the corner of the window with its margin. Where the view is wider than the
@@ -35,24 +36,18 @@ template <typename Visit>
 void MarkerLayout::EachInWindow(const std::vector<PinPoint>& points, Visit visit) const
 {
     const Window window = m_window;
-    for (std::size_t i = points.size(); i-- > 0;) {
-        const PinPoint& point = points[i];
-        const std::uint32_t dx = point.x - window.left;
-        const auto dy = static_cast<std::uint64_t>(static_cast<std::int64_t>(point.y) - window.top);
-        if (dx >= window.spanX || dy >= window.spanY || !point.bLive)
+    const double right = static_cast<double>(window.spanX) * window.scale;
+    const PinPoint* const first = points.data();
+    for (const PinPoint* point = first + points.size(); point-- != first;) {
+        const std::uint32_t dx = point->x - window.left;
+        const auto dy = static_cast<std::uint64_t>(static_cast<std::int64_t>(point->y) - window.top);
+        if (dx >= window.spanX || dy >= window.spanY || !point->bLive)
             continue;
+        const auto slot = static_cast<std::uint32_t>(point - first);
         const double y = static_cast<double>(dy) * window.scale;
-        const double right = static_cast<double>(window.spanX) * window.scale;
         for (double x = dx * window.scale; x < right; x += window.world)
-            visit(static_cast<std::uint32_t>(i), x, y);
+            visit(*point, Spot{slot, static_cast<float>(x), static_cast<float>(y)});
     }
-}
-
-std::size_t MarkerLayout::SquareAt(double x, double y) const
-{
-    const auto column = static_cast<std::size_t>((x + m_window.shiftX) * (1.0 / kSquare));
-    const auto row = static_cast<std::size_t>((y + m_window.shiftY) * (1.0 / kSquare));
-    return std::min(row, m_window.rows - 1) * m_window.columns + std::min(column, m_window.columns - 1);
 }
 
 // Which of several markers is seen: the selected one, else one that shows its name, else the newest.
@@ -63,25 +58,28 @@ int MarkerLayout::Rank(std::uint32_t slot) const
     return m_points[slot].bBalloon ? 1 : 0;
 }
 
-void MarkerLayout::Count(std::uint32_t slot, double x, double y)
-{
-    Square& square = m_squares[SquareAt(x, y)];
-    const Spot spot{slot, static_cast<float>(x), static_cast<float>(y)};
-    if (square.count == 0 || Rank(slot) > Rank(square.best.slot))
-        square.best = spot;
-    if (square.count < kMostInSquare)
-        square.spots[square.count] = spot;
-    ++square.count;
-}
-
 void MarkerLayout::Update(const std::vector<PinPoint>& points, const ViewFrame& frame,
                           std::optional<std::uint32_t> selected)
 {
     m_points = points.data();
     m_selected = selected;
     SetWindow(frame);
-    m_squares.assign(m_window.columns * m_window.rows, {});
-    EachInWindow(points, [this](std::uint32_t slot, double x, double y) { Count(slot, x, y); });
+    m_squares.assign(static_cast<std::size_t>(m_window.columns) * static_cast<std::size_t>(m_window.rows), {});
+    // For each of a million: what it reads stays in registers.
+    Square* const squares = m_squares.data();
+    const Window window = m_window;
+    const std::uint64_t selectedSlot = selected ? *selected : std::numeric_limits<std::uint64_t>::max();
+    EachInWindow(points, [=](const PinPoint& point, const Spot& spot) {
+        Square& square = squares[window.SquareAt(spot)];
+        const int rank = spot.slot == selectedSlot ? 2 : static_cast<int>(point.bBalloon); // As Rank tells.
+        if (rank > square.bestRank) {
+            square.best = spot;
+            square.bestRank = rank;
+        }
+        if (square.count < kMostInSquare)
+            square.spots[square.count] = spot;
+        ++square.count;
+    });
     m_items.clear();
     for (const Square& square : m_squares)
         if (square.count > kMostInSquare)
@@ -130,13 +128,13 @@ void MarkerLayout::Add(const Spot& spot, std::uint32_t count)
 std::vector<std::uint32_t> MarkerLayout::Members(const std::vector<PinPoint>& points, const MarkerItem& item) const
 {
     std::vector<std::uint32_t> members;
-    const double atX = item.at.x() + kMargin, atY = item.at.y() + kMargin;
-    const std::size_t square = SquareAt(atX, atY);
+    const Spot at{item.slot, static_cast<float>(item.at.x() + kMargin), static_cast<float>(item.at.y() + kMargin)};
+    const std::size_t square = m_window.SquareAt(at);
     const bool bWholeSquare = m_squares[square].count > kMostInSquare;
-    EachInWindow(points, [&](std::uint32_t slot, double x, double y) {
-        const bool bNear = std::abs(x - atX) < kHides && std::abs(y - atY) < kHides;
-        if (SquareAt(x, y) == square && (bWholeSquare || bNear))
-            members.push_back(slot);
+    EachInWindow(points, [&](const PinPoint&, const Spot& spot) {
+        const bool bNear = std::abs(spot.x - at.x) < kHides && std::abs(spot.y - at.y) < kHides;
+        if (m_window.SquareAt(spot) == square && (bWholeSquare || bNear))
+            members.push_back(spot.slot);
     });
     return members;
 }

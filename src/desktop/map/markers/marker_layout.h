@@ -5,6 +5,7 @@
 
 #include <QPointF>
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -48,6 +49,7 @@ private:
     };
     struct Square {
         std::uint32_t count = 0;
+        int bestRank = -1;
         Spot best{};
         std::array<Spot, kMostInSquare> spots{};
     };
@@ -57,13 +59,18 @@ private:
         std::uint64_t spanX = 0, spanY = 0;
         double scale = 0, shiftX = 0, shiftY = 0; // Pixels per unit; pixels from the first square's edge.
         double world = 0;
-        std::size_t columns = 0, rows = 0;
+        std::int32_t columns = 0, rows = 0;
+
+        std::size_t SquareAt(const Spot& spot) const
+        {
+            const auto column = static_cast<std::int32_t>((double{spot.x} + shiftX) * (1.0 / kSquare));
+            const auto row = static_cast<std::int32_t>((double{spot.y} + shiftY) * (1.0 / kSquare));
+            return static_cast<std::size_t>(std::min(row, rows - 1) * columns + std::min(column, columns - 1));
+        }
     };
 
     void SetWindow(const ViewFrame& frame);
-    void Count(std::uint32_t slot, double x, double y);
     int Rank(std::uint32_t slot) const;
-    std::size_t SquareAt(double x, double y) const;
     void Thin(const Square& square);
     void Add(const Spot& spot, std::uint32_t count);
     template <typename Visit>

@@ -4,7 +4,6 @@
 #include "desktop/map/markers/marker_painter.h"
 #include "desktop/map/scene/map_ground.h"
 #include "desktop/map/scene/scale_bar.h"
-#include "desktop/map/shapes/shape_painter.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -71,8 +70,11 @@ MapLook MapScene::Paint(QPainter& painter, const Map& map, const MapView& view, 
 
     m_ground.Paint(painter, frame, ground);
     m_ground.PaintAbove(painter, frame, m_grid, ground);
-    PaintShapes(painter, m_shapes, map.Shapes(), frame,
-                {SelectedIn<Shape>(map.Shapes(), how.selection), look.accent, bDark});
+    const ShapeLook shapes{SelectedIn<Shape>(map.Shapes(), how.selection), look.accent, bDark};
+    if (how.bVector || how.bWait)
+        PaintShapes(painter, m_shapes, map.Shapes(), frame, shapes);
+    else
+        m_shapeLayer.Paint(painter, m_shapes, map.Shapes(), frame, shapes, how.ratio);
     const qreal pictures = how.bVector ? 4 : how.ratio;
     PaintMarkers(painter, m_markers.Items(), m_icons.Atlas(kMarkerPixels, pictures), pictures, selectedPin,
                  look.accent);

@@ -2,7 +2,7 @@
 
 #include "desktop/map/labels/station_labels.h"
 #include "desktop/map/markers/marker_layout.h"
-#include "desktop/map/shapes/shape_layout.h"
+#include "desktop/map/shapes/shape_layer.h"
 #include "map/selection.h"
 
 #include <QFont>
@@ -48,6 +48,7 @@ private:
     MapGround& m_ground;
     MarkerLayout m_markers;
     ShapeLayout m_shapes;
+    ShapeLayer m_shapeLayer;
     StationLabels m_labels;
     LabelGrid m_grid;
 };

@@ -10,13 +10,12 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr double kSurroundings = 64; // Pixels; more than the widest pen and arrowhead.
-constexpr double kShort = 3;         // Pixels; of such lines one is enough for each square of that size.
 constexpr double kMostArcs = 4096;
 
 QRectF Surroundings(const ViewFrame& frame)
 {
-    return frame.Rect().adjusted(-kSurroundings, -kSurroundings, kSurroundings, kSurroundings);
+    constexpr double kOut = ShapeLayout::kSurroundings;
+    return frame.Rect().adjusted(-kOut, -kOut, kOut, kOut);
 }
 
 // The box around a circle on the earth; as wide as the world where it holds a pole.
@@ -37,6 +36,11 @@ QRectF Box(const ViewFrame& frame, GeoPoint centre, double angle)
 int Corners(double radiusPixels)
 {
     return static_cast<int>(std::clamp(std::numbers::pi * std::sqrt(2 * radiusPixels), 48.0, kMostArcs));
+}
+
+bool IsInside(QPointF at, const QRectF& rect)
+{
+    return at.x() >= rect.left() && at.x() <= rect.right() && at.y() >= rect.top() && at.y() <= rect.bottom();
 }
 
 } // namespace
@@ -67,15 +71,13 @@ void ShapeLayout::Update(const SlotPool<ShapeData>& shapes, const ViewFrame& fra
     m_lines.clear();
     m_circles.clear();
     m_projected.resize(shapes.SlotCount());
-    const QRectF area = Surroundings(frame);
-    m_columns = static_cast<std::size_t>(area.width() / kShort) + 2;
-    m_taken.assign(m_columns * (static_cast<std::size_t>(area.height() / kShort) + 2), false);
+    GroundGrid shortLines(frame, kShortLine, kSurroundings);
     for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot) {
         const ShapeData* shape = shapes.At(slot);
         if (!shape || !shape->bVisible)
             continue;
         if (shape->kind == ShapeData::Kind::Line)
-            AddLine(shapes.RefAt(slot), *shape, frame);
+            AddLine(shapes.RefAt(slot), *shape, frame, shortLines);
         else
             AddCircle(shapes.RefAt(slot), *shape, frame);
     }
@@ -89,21 +91,9 @@ const ShapeLayout::Projected& ShapeLayout::Project(SlotRef ref, const ShapeData&
     return projected;
 }
 
-// False where a short line stands already: a long trail of small steps is seen at any zoom, and costs no more than it
-// shows.
-bool ShapeLayout::TakeSquare(QPointF at)
-{
-    const auto column = static_cast<std::size_t>((at.x() + kSurroundings) / kShort);
-    const auto row = static_cast<std::size_t>((at.y() + kSurroundings) / kShort);
-    const std::size_t square = row * m_columns + column;
-    const bool bFree = square < m_taken.size() && !m_taken[square];
-    if (bFree)
-        m_taken[square] = true;
-    return bFree;
-}
-
-// The short way round the earth.
-void ShapeLayout::AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& frame)
+// The short way round the earth. A short line counts only where none stands already: a long trail of small steps is
+// seen at any zoom, and costs no more than it shows.
+void ShapeLayout::AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& frame, GroundGrid& shortLines)
 {
     const Projected& projected = Project(ref, shape);
     const QPointF from = frame.ToPixel(projected.from);
@@ -111,13 +101,15 @@ void ShapeLayout::AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& 
     dx -= std::floor(dx + 0.5);
     const QPointF to = from + QPointF(dx, projected.to.y - projected.from.y) * frame.world;
     LineItem item{ref.slot, QLineF(from, to), false, false};
-    if (!CutLine(item.line, Surroundings(frame)))
+    const QRectF area = Surroundings(frame);
+    const bool bInside = IsInside(from, area) && IsInside(to, area);
+    if (!bInside && !CutLine(item.line, area))
         return;
-    const bool bShort = std::abs(to.x() - from.x()) < kShort && std::abs(to.y() - from.y()) < kShort;
-    if (bShort && !TakeSquare(item.line.center()))
+    const bool bShort = std::abs(to.x() - from.x()) < kShortLine && std::abs(to.y() - from.y()) < kShortLine;
+    if (bShort && !shortLines.Take((from + to) / 2))
         return;
-    item.bBeginCut = (item.line.p1() - from).manhattanLength() > 0.01;
-    item.bEndCut = (item.line.p2() - to).manhattanLength() > 0.01;
+    item.bBeginCut = !bInside && (item.line.p1() - from).manhattanLength() > 0.01;
+    item.bEndCut = !bInside && (item.line.p2() - to).manhattanLength() > 0.01;
     m_lines.push_back(item);
 }
 

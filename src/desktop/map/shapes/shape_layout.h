@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/map/shapes/ground_grid.h"
 #include "desktop/map/view/view_frame.h"
 #include "platform/map_model.h"
 #include "platform/slot_pool.h"
@@ -23,9 +24,13 @@ struct CircleItem {
     QPolygonF outline; // Closed.
 };
 
+inline constexpr double kShortLine = 3; // Pixels; of such lines one is enough for each square of that size.
+
 // Which shapes are seen, and where. A shape's ends never change, so their projection is kept from one look to the next.
 class ShapeLayout {
 public:
+    static constexpr double kSurroundings = 96; // Pixels around the view; more than the widest pen and arrowhead.
+
     void Update(const SlotPool<ShapeData>& shapes, const ViewFrame& frame);
 
     const std::vector<LineItem>& Lines() const { return m_lines; }
@@ -38,13 +43,10 @@ private:
     };
 
     const Projected& Project(SlotRef ref, const ShapeData& shape);
-    bool TakeSquare(QPointF at);
-    void AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& frame);
+    void AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& frame, GroundGrid& shortLines);
     void AddCircle(SlotRef ref, const ShapeData& shape, const ViewFrame& frame);
 
     std::vector<Projected> m_projected; // By slot.
-    std::vector<bool> m_taken;          // Squares with a short line in this view, row by row.
-    std::size_t m_columns = 0;
     std::vector<LineItem> m_lines;
     std::vector<CircleItem> m_circles;
 };

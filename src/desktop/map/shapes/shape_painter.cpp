@@ -3,12 +3,11 @@
 #include "desktop/model_color.h"
 
 #include <QPainter>
+#include <QRegion>
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <map>
-#include <set>
 #include <utility>
 #include <vector>
 
@@ -34,32 +33,72 @@ QPen ShapePen(const QColor& color, double width)
     return {color, width, Qt::SolidLine, width > 1 ? Qt::SquareCap : Qt::FlatCap, Qt::RoundJoin};
 }
 
-// Heads of short lines keep apart, or a trail of many small steps would be nothing but heads.
-class ArrowSpace {
+double ArrowLength(std::int32_t weight)
+{
+    return 7 + 2.0 * weight;
+}
+
+// The items in view, or those of them that are seen in a region.
+class Shown {
 public:
-    bool Take(QPointF at)
+    Shown(const ShapeLayout& layout, const SlotPool<ShapeData>& shapes, const QRegion* only)
+        : m_layout(layout), m_shapes(shapes), m_bAll(!only)
     {
-        return m_taken
-            .emplace(static_cast<int>(std::floor(at.x() / kApart)), static_cast<int>(std::floor(at.y() / kApart)))
-            .second;
+        if (only)
+            m_rects.assign(only->begin(), only->end());
+    }
+
+    // Those so many pixels outside too.
+    template <typename Visit>
+    void EachLine(double beyond, Visit visit) const
+    {
+        for (const LineItem& item : m_layout.Lines()) {
+            const ShapeData& shape = *m_shapes.At(item.slot);
+            if (m_bAll || IsShown(item.line.p1(), item.line.p2(), ShapeReach(shape.weight) + beyond))
+                visit(item, shape);
+        }
+    }
+    template <typename Visit>
+    void EachCircle(Visit visit) const
+    {
+        for (const CircleItem& item : m_layout.Circles()) {
+            const ShapeData& shape = *m_shapes.At(item.slot);
+            const QRectF box = item.outline.boundingRect();
+            if (m_bAll || IsShown(box.topLeft(), box.bottomRight(), ShapeReach(shape.weight)))
+                visit(item, shape);
+        }
     }
 
 private:
-    static constexpr double kApart = 28; // Pixels.
-    std::set<std::pair<int, int>> m_taken;
+    bool IsShown(QPointF a, QPointF b, double reach) const
+    {
+        const auto [left, right] = std::minmax({a.x(), b.x()});
+        const auto [top, bottom] = std::minmax({a.y(), b.y()});
+        return std::any_of(m_rects.begin(), m_rects.end(),
+                           [&, left = left, right = right, top = top, bottom = bottom](const QRectF& rect) {
+                               return left - reach < rect.right() && right + reach > rect.left() &&
+                                      top - reach < rect.bottom() && bottom + reach > rect.top();
+                           });
+    }
+
+    const ShapeLayout& m_layout;
+    const SlotPool<ShapeData>& m_shapes;
+    bool m_bAll;
+    std::vector<QRectF> m_rects;
 };
 
-void PaintArrow(QPainter& painter, const QLineF& line, double weight, ArrowSpace& space)
+// Heads of short lines keep apart, or a trail of many small steps would be nothing but heads.
+void PaintArrow(QPainter& painter, const QLineF& line, std::int32_t weight, GroundGrid& space)
 {
-    const double length = 7 + 2 * weight, whole = line.length();
+    const double length = ArrowLength(weight), whole = line.length();
     const auto inset = ArrowInset(whole, length);
-    if (!inset || (!space.Take(line.center()) && whole < 1.5 * length))
+    if (!inset || (whole < 1.5 * length && !space.Take(line.center())))
         return;
     const QPointF along(line.dx() / whole, line.dy() / whole);
     const QPointF across(-along.y(), along.x());
     const QPointF tip = line.p2() - along * *inset;
     const QPointF foot = tip - along * length;
-    const double half = 3 + weight;
+    const double half = 3.0 + weight;
     const QPointF notch = foot + along * (length / 5);
     const std::array<QPointF, 4> head{tip, foot + across * half, notch, foot - across * half};
     painter.drawPolygon(head.data(), static_cast<int>(head.size()));
@@ -86,33 +125,40 @@ QLineF Visible(const QLineF& line)
     return bDot ? QLineF(line.center() - QPointF(0.5, 0), line.center() + QPointF(0.5, 0)) : line;
 }
 
-void PaintLines(QPainter& painter, const ShapeLayout& layout, const SlotPool<ShapeData>& shapes, bool bDarkGround)
+void PaintLines(QPainter& painter, const Shown& shown, bool bDarkGround)
 {
-    std::map<std::pair<std::uint32_t, std::int32_t>, std::vector<QLineF>> byPen;
-    for (const LineItem& item : layout.Lines()) {
-        const ShapeData& shape = *shapes.At(item.slot);
-        byPen[{shape.foreColor, shape.weight}].push_back(Visible(item.line));
-    }
+    using Look = std::pair<std::uint32_t, std::int32_t>;
+    std::map<Look, std::vector<QLineF>> byPen;
+    auto pen = byPen.end(); // Mostly that of the line before.
+    shown.EachLine(0, [&](const LineItem& item, const ShapeData& shape) {
+        const Look look{shape.foreColor, shape.weight};
+        if (pen == byPen.end() || pen->first != look)
+            pen = byPen.try_emplace(look).first;
+        pen->second.push_back(Visible(item.line));
+    });
     for (const auto& [look, lines] : byPen) {
         painter.setPen(ShapePen(ShapeColor(look.first, bDarkGround), look.second));
         painter.drawLines(lines.data(), static_cast<int>(lines.size()));
     }
 }
 
-void PaintArrows(QPainter& painter, const ShapeLayout& layout, const SlotPool<ShapeData>& shapes, bool bDarkGround)
+// Lines outside a region take the squares that they take when all is painted.
+void PaintArrows(QPainter& painter, const Shown& shown, const ViewFrame& frame, bool bDarkGround)
 {
     painter.setPen(Qt::NoPen);
-    ArrowSpace space;
-    for (const LineItem& item : layout.Lines()) {
-        const ShapeData& shape = *shapes.At(item.slot);
+    GroundGrid space(frame, kArrowsApart, ShapeLayout::kSurroundings);
+    std::optional<std::uint32_t> color;
+    shown.EachLine(2 * kArrowsApart, [&](const LineItem& item, const ShapeData& shape) {
         if (!shape.bBeginArrowhead && !shape.bEndArrowhead)
-            continue;
-        painter.setBrush(ShapeColor(shape.foreColor, bDarkGround));
+            return;
+        if (color != shape.foreColor)
+            painter.setBrush(ShapeColor(shape.foreColor, bDarkGround));
+        color = shape.foreColor;
         if (shape.bEndArrowhead && !item.bEndCut)
             PaintArrow(painter, item.line, shape.weight, space);
         if (shape.bBeginArrowhead && !item.bBeginCut)
             PaintArrow(painter, QLineF(item.line.p2(), item.line.p1()), shape.weight, space);
-    }
+    });
 }
 
 void PaintSelected(QPainter& painter, const ShapeLayout& layout, const SlotPool<ShapeData>& shapes, const QRectF& area,
@@ -130,6 +176,12 @@ void PaintSelected(QPainter& painter, const ShapeLayout& layout, const SlotPool<
 
 } // namespace
 
+double ShapeReach(std::int32_t weight)
+{
+    constexpr double kHighlight = 4; // Of a selected one, on each side.
+    return std::max(ArrowLength(weight) / 2, 4.0 + weight) + kHighlight;
+}
+
 std::optional<double> ArrowInset(double lineLength, double arrowLength)
 {
     constexpr double kShortest = 3; // Pixels; the direction of a shorter line says nothing.
@@ -139,7 +191,7 @@ std::optional<double> ArrowInset(double lineLength, double arrowLength)
 }
 
 void PaintShapes(QPainter& painter, const ShapeLayout& layout, const SlotPool<ShapeData>& shapes,
-                 const ViewFrame& frame, const ShapeLook& look)
+                 const ViewFrame& frame, const ShapeLook& look, const QRegion* only)
 {
     const QRectF area = frame.Rect().adjusted(-32, -32, 32, 32);
     painter.save();
@@ -147,13 +199,13 @@ void PaintShapes(QPainter& painter, const ShapeLayout& layout, const SlotPool<Sh
     painter.setBrush(Qt::NoBrush);
     if (look.selected)
         PaintSelected(painter, layout, shapes, area, *look.selected, look.highlight);
-    for (const CircleItem& item : layout.Circles()) {
-        const ShapeData& shape = *shapes.At(item.slot);
+    const Shown shown(layout, shapes, only);
+    shown.EachCircle([&](const CircleItem& item, const ShapeData& shape) {
         painter.setPen(ShapePen(ShapeColor(shape.foreColor, look.bDarkGround), shape.weight));
         PaintOutline(painter, item.outline, area);
-    }
-    PaintLines(painter, layout, shapes, look.bDarkGround);
-    PaintArrows(painter, layout, shapes, look.bDarkGround);
+    });
+    PaintLines(painter, shown, look.bDarkGround);
+    PaintArrows(painter, shown, frame, look.bDarkGround);
     painter.restore();
 }
 
