@@ -189,7 +189,7 @@ void ShowOwnCall(MainWindow& main)
 void SayHowToBegin(MainWindow& main)
 {
     if (SettingText(main.Settings, Setting::Call).empty() && main.sbStatusBar.Notice().empty())
-        main.sbStatusBar.SetNotice("Receiving only: to send, enter your call sign in View, Settings...");
+        main.sbStatusBar.SetNotice("To send, enter your call sign: View, Settings...");
 }
 
 } // namespace ruvenmark
