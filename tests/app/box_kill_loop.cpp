@@ -8,8 +8,10 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <memory>
 #include <random>
+#include <stdexcept>
 #include <vector>
 
 namespace ruvenmark {
@@ -25,8 +27,7 @@ constexpr milliseconds kMayBeLost{10000}; // A save comes every 5 s; the rest is
 
 [[noreturn]] void Fail(const QString& what)
 {
-    std::fprintf(stderr, "box_kill_loop: %s\n", qPrintable(what));
-    std::exit(1);
+    throw std::runtime_error(what.toStdString());
 }
 
 // One station over its runs, and the server's end of its line.
@@ -79,13 +80,22 @@ public:
             m_stations[i].call = QStringLiteral("N%1CALL").arg(i);
             WriteOldMessages(m_stations[i]);
         }
-        QObject::connect(&m_tick, &QTimer::timeout, [this] { Tick(); });
+        QObject::connect(&m_tick, &QTimer::timeout, [this] {
+            try {
+                Tick();
+            } catch (const std::exception&) { // Not through the event loop.
+                m_failure = std::current_exception();
+            }
+        });
         m_tick.start(kPeriod);
     }
     void Run()
     {
-        while (m_kills < m_count)
+        while (m_kills < m_count && !m_failure)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
+        m_tick.stop();
+        if (m_failure)
+            std::rethrow_exception(m_failure);
         std::printf("%d kills: boxes whole, %d while one was written, at most %lld ms of messages lost\n", m_kills,
                     m_inWrite, static_cast<long long>(m_worst.count()));
     }
@@ -213,6 +223,7 @@ private:
 
     int m_count, m_kills = 0, m_inWrite = 0;
     milliseconds m_worst{0};
+    std::exception_ptr m_failure;
     std::mt19937 m_random{std::random_device()()};
     std::vector<Station> m_stations;
     QTimer m_tick;
@@ -230,6 +241,11 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "usage: box_kill_loop COUNT\n");
         return 2;
     }
-    ruvenmark::Loop(count).Run();
+    try {
+        ruvenmark::Loop(count).Run();
+    } catch (const std::exception& error) { // Behind it nothing runs any more.
+        std::fprintf(stderr, "box_kill_loop: %s\n", error.what());
+        return 1;
+    }
     return 0;
 }

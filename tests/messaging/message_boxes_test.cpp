@@ -198,6 +198,13 @@ TEST_F(MessageTest, DeletingCountsAnew)
     EXPECT_EQ(Inbox().Count(), 1U);
     EXPECT_EQ(Inbox().At(0).Text(message_column::kText), "two");
     EXPECT_EQ(BoxText("MessagesInbox"), "Inbox (1)");
+    lvMessageList_LostFocus(main);
+    Hear(Channel::RF, "N0CALL", "four");
+    Hear(Channel::RF, "N0CALL", "five");
+    main.messages.lvMessageList.SelectOnly(2);
+    program.prompts.answers = {Answer::Yes};
+    mnuMsgDelete_Click(main);
+    EXPECT_EQ(BoxText("MessagesInbox"), "Inbox (1)"); // One of the two that are left was read.
     SendAprsMessage(main, "N0CALL", "W1AW", "", "hello", "3");
     program.prompts.answers = {Answer::Yes, Answer::Yes};
     mnuMsgDeleteAll_Click(main);
@@ -208,7 +215,7 @@ TEST_F(MessageTest, DeletingCountsAnew)
     EXPECT_EQ(BoxText("MessagesSent"), "Sent Items");
     const std::string selected = "Are you sure you want to delete the selected message(s)?";
     EXPECT_EQ(program.prompts.questions,
-              (Texts{selected, selected, "Are you sure you want to delete all received messages?",
+              (Texts{selected, selected, selected, "Are you sure you want to delete all received messages?",
                      "Are you sure you want to delete all sent messages?"}));
 }
 

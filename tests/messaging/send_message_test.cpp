@@ -141,6 +141,8 @@ TEST_F(MessageTest, SendAgainRepeatsTheRowAsItStands)
     Open(false, true, true);
     SendByDialog("W1AW", "hello");
     const Texts first = Take();
+    SendByDialog("W1AW", "the next number is given");
+    Take();
     const Texts rows = RowsOf(SentList());
     mnuMsgSendAgain_Click(main); // No row is selected.
     EXPECT_EQ(Take(), Texts{});

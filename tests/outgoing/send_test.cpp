@@ -137,6 +137,9 @@ TEST_F(Sending, MotionTakesThePlaceOfTheAntennaWhileTheFixIsValid)
     Set(Setting::Course, "90");
     SendPositionReport(program.main, false);
     EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText});
+    Set(Setting::Power, "-1");
+    SendPositionReport(program.main, false);
+    EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText});
     program.main.gps.bValidFix = true;
     SendPositionReport(program.main, false);
     EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText + "090/010"});

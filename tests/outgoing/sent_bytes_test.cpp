@@ -50,8 +50,8 @@ struct Kind {
     std::string_view text;
 };
 constexpr std::array<Kind, 8> kKinds = {{
-    {"position", [](MainWindow& main) { SendPositionReport(main, true); }, "!3730.00N/12215.00W>/A=000300hello"},
-    {"weather", [](MainWindow& main) { SendWeatherReport(main); }, "_11230115c220s004g005t-05r012p000P000h50b10150"},
+    {"position", [](MainWindow& main) { SendPositionReport(main, true); }, "!3730.00N/12215.00W>PHG5232/A=000300hello"},
+    {"weather", [](MainWindow& main) { SendWeatherReport(main); }, "_11230115c220s004g005t-05r012p034P056h50b10150"},
     {"status", SendStatus, ">here: > & {1"},
     {"object", SendObject, ";FLOOD    *230115z3330.00S\\00815.00E)"},
     {"message", [](MainWindow& main) { SendText(main, "W1AW", "hello", "12345"); }, ":W1AW     :hello{12345"},
@@ -104,6 +104,13 @@ struct SentBytes : testing::Test {
                                             {Setting::Gust, "5"},
                                             {Setting::Temperature, "-5"},
                                             {Setting::Rain1, "12"},
+                                            {Setting::Rain24, "34"},
+                                            {Setting::Rain12, "56"},
+                                            {Setting::Power, "25"},
+                                            {Setting::Height, "40"},
+                                            {Setting::Gain, "3"},
+                                            {Setting::Directivity, "90"},
+                                            {Setting::BeaconTactical, "True"},
                                             {Setting::Humidity, "50"},
                                             {Setting::Pressure, "10150"}})
             SetSetting(main.Settings, setting, text);
