@@ -204,7 +204,7 @@ std::optional<SendOption> ReadReport(std::string_view word)
         return SendOption{word == "position" ? Kind::Position : Kind::Weather, {}, {}, {}, {}};
     const auto cut = [&word](char sign) {
         const auto at = word.find(sign);
-        const std::optional<std::string> field =
+        std::optional<std::string> field =
             at == std::string_view::npos ? std::nullopt : std::optional(std::string(word.substr(0, at)));
         word.remove_prefix(field ? at + 1 : 0);
         return field;

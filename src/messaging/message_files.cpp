@@ -14,7 +14,7 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr std::string_view kDelimiter = "#####";
+constexpr std::string_view kDelimiter = "#####", kLineEnd = "\r\n";
 constexpr std::string_view kBold = "bold", kNotBold = "notbold";
 constexpr std::size_t kColumns = std::tuple_size_v<ListRow::Texts>;
 
@@ -82,19 +82,25 @@ void KeepCopy(IFiles& files, const std::string& path)
     files.WriteText(text, copy, FileKind::List);
 }
 
-TextTable Table(const RowList& list, bool bBoldKept)
+// At once, as a record a row would take most of the time of a save.
+std::string BoxText(const RowList& list, bool bBoldKept)
 {
-    TextTable table;
-    table.reserve(list.Count());
+    constexpr std::size_t kUsualRow = 128;
+    std::string text;
+    text.reserve(list.Count() * kUsualRow);
     for (std::size_t i = 0; i < list.Count(); ++i) {
         const ListRow& row = list.At(i);
-        TextRecord& record = table.emplace_back();
-        for (std::size_t column = 0; column < kColumns; ++column)
-            record.push_back(row.Text(column));
+        if (i > 0)
+            text += kLineEnd;
+        for (std::size_t column = 0; column < kColumns; ++column) {
+            if (column > 0)
+                text += kDelimiter;
+            text += row.Text(column);
+        }
         if (bBoldKept)
-            record.emplace_back(row.IsBold() ? kBold : kNotBold);
+            text.append(kDelimiter).append(row.IsBold() ? kBold : kNotBold);
     }
-    return table;
+    return text;
 }
 
 // Raises Failure.
@@ -106,7 +112,7 @@ void SaveBox(MainWindow& main, const Box& box)
     BoxState& state = main.messages.*box.state;
     if (state.file == BoxFile::Unreadable && files.Exists(path)) {
         if (!list.IsEmpty()) {
-            WriteRecords(files, Table(list, box.bBoldKept), path + ".new", kDelimiter);
+            files.WriteText(BoxText(list, box.bBoldKept), path + ".new", FileKind::List);
             throw Failure(path + " could not be read; what came since is in " + path + ".new");
         }
     } else {
@@ -116,7 +122,7 @@ void SaveBox(MainWindow& main, const Box& box)
             if (list.IsEmpty())
                 files.Remove(path);
             else
-                WriteRecords(files, Table(list, box.bBoldKept), path, kDelimiter);
+                files.WriteText(BoxText(list, box.bBoldKept), path, FileKind::List);
             state.file = BoxFile::Whole;
         }
     }
