@@ -4,7 +4,9 @@
 
 #include <QTcpSocket>
 
+#include <algorithm>
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace ruvenmark {
@@ -90,9 +92,10 @@ private:
     }
 };
 
-// A packet engine with one radio port that hears what every other client sends.
+// A packet engine whose clients hear what every other one sends.
 class AgwHub final : public Hub {
 public:
+    explicit AgwHub(QByteArray ports = "1;Port1 the test's;") : m_ports(std::move(ports)) {}
     QString Link() const override { return "agw=" + Address(); }
 
 private:
@@ -109,16 +112,17 @@ private:
             if (frame[4] == 'K') {
                 Take(frame, station);
             } else if (frame[4] == 'G') {
-                const QByteArray ports = "1;Port1 the test's;";
                 QByteArray answer(kHeader, '\0');
                 answer[4] = 'G';
-                answer[28] = static_cast<char>(ports.size() + 1);
-                station.write(answer + ports + '\0');
+                answer[28] = static_cast<char>(m_ports.size() + 1);
+                station.write(answer + m_ports + '\0');
             } else if (frame[4] == 'k') {
                 CountReady();
             }
         }
     }
+
+    QByteArray m_ports; // As it lists them.
 };
 
 } // namespace ruvenmark

@@ -4,7 +4,6 @@
 
 #include <QSocketNotifier>
 
-#include <algorithm>
 #include <array>
 #include <fcntl.h>
 #include <stdlib.h>
@@ -52,6 +51,14 @@ TEST(SendOption, WhatGoesNowhereMakesTheStatusOne)
         EXPECT_TRUE(refused.err.contains(reason)) << reason << "\n" << refused.err.toStdString();
     EXPECT_TRUE(RunUntil([&] { return hub.Count(":>this one goes\r\n") == 1; }));
     EXPECT_EQ(hub.Count(""), 1U);
+
+    AgwHub engine("0;");
+    engine.Open();
+    StationProgram deaf;
+    deaf.Start("W1AW-7", engine.Link(), {"--send", "status:hi"});
+    EXPECT_EQ(deaf.Status(), 1);
+    EXPECT_TRUE(deaf.err.contains("status was not sent: the packet engine has no radio port"))
+        << deaf.err.toStdString();
 
     StationProgram alone;
     alone.Start("W1AW-7", "server=127.0.0.1:1", {"--send", "status:hi"});

@@ -3,8 +3,6 @@
 
 #include "hubs.h"
 
-#include <algorithm>
-
 namespace ruvenmark {
 namespace {
 
