@@ -1,0 +1,74 @@
+#include "app/link_options.h"
+
+#include "platform/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace ruvenmark {
+
+namespace {
+
+struct LinkRow {
+    std::string_view name;
+    LinkName link;
+    bool bIsSerial;
+};
+constexpr std::array<LinkRow, 5> kLinks = {{{"tnc", LinkName::Tnc, true},
+                                            {"agw", LinkName::Agw, false},
+                                            {"server", LinkName::Server, false},
+                                            {"gps", LinkName::Gps, true},
+                                            {"wx", LinkName::Wx, true}}};
+
+} // namespace
+
+// "gps", "gps=/dev/ttyS0:4800"; a host may itself hold colons.
+std::optional<LinkOption> ReadLink(std::string_view word)
+{
+    constexpr std::int32_t kMostPort = 32767, kMostBaud = 4'000'000;
+    const auto sign = word.find('=');
+    const auto row = std::find_if(kLinks.begin(), kLinks.end(),
+                                  [&](const LinkRow& known) { return known.name == word.substr(0, sign); });
+    if (row == kLinks.end())
+        return std::nullopt;
+    if (sign == std::string_view::npos)
+        return row->link == LinkName::Wx ? std::nullopt : std::optional(LinkOption{row->link, {}, 0});
+    const std::string_view address = word.substr(sign + 1);
+    const auto colon = address.rfind(':');
+    if (colon == std::string_view::npos || colon == 0)
+        return std::nullopt;
+    const auto number = ReadNumber(address.substr(colon + 1));
+    if (!number || !(*number >= 1 && *number <= (row->bIsSerial ? kMostBaud : kMostPort)))
+        return std::nullopt;
+    return LinkOption{row->link, std::string(address.substr(0, colon)), static_cast<std::int32_t>(*number)};
+}
+
+// "message:W1AW:at 12:30": only the last field may hold colons.
+std::optional<SendOption> ReadReport(std::string_view word)
+{
+    using Kind = SendOption::Kind;
+    if (word == "position" || word == "weather")
+        return SendOption{word == "position" ? Kind::Position : Kind::Weather, {}, {}, {}, {}};
+    const auto cut = [&word](char sign) {
+        const auto at = word.find(sign);
+        std::optional<std::string> field =
+            at == std::string_view::npos ? std::nullopt : std::optional(std::string(word.substr(0, at)));
+        word.remove_prefix(field ? at + 1 : 0);
+        return field;
+    };
+    const auto name = cut(':');
+    if (name == "status")
+        return SendOption{Kind::Status, {}, {}, {}, std::string(word)};
+    const auto to = name ? cut(':') : std::nullopt;
+    if (name == "message" && to)
+        return SendOption{Kind::Message, *to, {}, {}, std::string(word)};
+    const auto lat = to ? cut(',') : std::nullopt;
+    const auto lon = lat ? cut(':') : std::nullopt;
+    if (name == "object" && lon)
+        return SendOption{Kind::Object, *to, *lat, *lon, std::string(word)};
+    return std::nullopt;
+}
+
+} // namespace ruvenmark
