@@ -3,11 +3,14 @@
 #include "links/server_link.h"
 #include "links/server_password.h"
 #include "links/server_status_rules.h"
+#include "links/tnc_link.h"
 #include "support/test_program.h"
 #include "ui/menus.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <memory>
 
 namespace ruvenmark {
@@ -136,6 +139,39 @@ TEST_F(ServerLinkTest, GoesToTheBackupOnTheFourthLossAndStaysThere)
     mnuConnectServer_Click(main);
     ConnectServerLink(main);
     EXPECT_EQ(main.links.ReconnectCount, 0);
+}
+
+// Each server has its own wish for the position, and the radio is none of its business.
+TEST_F(ServerLinkTest, TheOwnPositionFollowsALoginWhereItIsWanted)
+{
+    main.commDialog.sSerialPort = "/dev/ttyS0";
+    main.commDialog.lLastBaudRate = 9600;
+    ConnectSerialTnc(main);
+    program.wires.Say("cmd:");
+    program.wires.Written(); // Its call to attention.
+    SetSetting(main.Settings, Setting::Lat, "41.7");
+    SetSetting(main.Settings, Setting::Lon, "-72.7");
+    form.bServerBeacon = form.bReconnectServer = true;
+    const auto reports = [&] {
+        const std::string sent = program.wires.Written();
+        return std::count(sent.begin(), sent.end(), '\n') - 1; // Behind the login.
+    };
+    for (const bool bDefined : {false, true}) {
+        main.beacons.PositionDefined = bDefined;
+        ConnectServerLink(main);
+        EXPECT_EQ(reports(), bDefined ? 1 : 0);
+    }
+    Lose();
+    EXPECT_EQ(Shown(), "Connected to spare:10152 [B]");
+    EXPECT_EQ(reports(), 0);
+    form.bServerBeacon = false;
+    form.bBackupBeacon = true;
+    Lose();
+    EXPECT_EQ(reports(), 1);
+    ConnectServerLink(main);
+    EXPECT_EQ(reports(), 0);
+    program.wires.Use("serial");
+    EXPECT_EQ(program.wires.Written(), "");
 }
 
 TEST_F(ServerLinkTest, EndsWhereNothingIsLeftToTry)
@@ -340,6 +376,37 @@ TEST_F(ServerLinkTest, DialogShowsAndTakesTheFields)
     EXPECT_TRUE(main.serverLists.ServerList.Contains(" other "));
     EXPECT_TRUE(main.serverLists.ServerList.Contains(" prime "));
     EXPECT_TRUE(main.serverLists.PortList.Contains("14580"));
+}
+
+// Every control shows its own field and gives it back: each tick stands alone once.
+TEST_F(ServerLinkTest, TheDialogAcceptedAsItComesChangesNothing)
+{
+    using Flag = bool ServerForm::*;
+    constexpr std::array<Flag, 4> kFlags = {&ServerForm::bServerBeacon, &ServerForm::bAddTCPSymbol,
+                                            &ServerForm::bAutoTCP, &ServerForm::bBackupBeacon};
+    form.sServerFilter = "filter p/N";
+    form.sBackupFilter = "filter t/m";
+    form.iReconnectAttempt = 3;
+    form.bReconnectServer = true;
+    const auto fields = [&] {
+        std::string text = form.sServerAddress + '|' + std::to_string(form.iServerPort) + '|' + form.sServerFilter +
+                           '|' + form.sBackupServer + '|' + std::to_string(form.iBackupPort) + '|' +
+                           form.sBackupFilter + '|' + std::to_string(form.iReconnectAttempt) +
+                           (form.bReconnectServer ? "R" : "");
+        for (const Flag flag : kFlags)
+            text += form.*flag ? '1' : '0';
+        return text;
+    };
+    for (const Flag alone : kFlags) {
+        for (const Flag flag : kFlags)
+            form.*flag = flag == alone;
+        const std::string before = fields();
+        frmTcp_Load(form);
+        ASSERT_TRUE(frmTcp_Accept(main));
+        EXPECT_EQ(fields(), before);
+    }
+    EXPECT_TRUE(main.serverLists.PortList.Contains("10152"));
+    EXPECT_TRUE(main.serverLists.ServerFilterList.Contains("filter t/m"));
 }
 
 TEST_F(ServerLinkTest, DialogStaysOpenForWhatIsNoPort)

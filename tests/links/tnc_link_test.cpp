@@ -249,6 +249,37 @@ TEST_F(TncLink, ConnectUponStartupOutlastsACancel)
     EXPECT_EQ(Panel(), "TNC not connected");
 }
 
+// Every control shows its own field and gives it back, by each of the two ways.
+TEST_F(TncLink, TheDialogAcceptedAsItComesChangesNothing)
+{
+    form.sSerialPort = "/dev/tnc";
+    form.lLastBaudRate = 1234; // Typed once; no rate of the list.
+    form.iBaudListIndex = -1;
+    form.sSocketAddress = "engine";
+    form.iSocketPort = 8001;
+    form.iSentenceIndex = 2;
+    form.iUpdateRateIndex = 7;
+    const auto fields = [&] {
+        return form.sSerialPort + '|' + std::to_string(form.lLastBaudRate) + '|' + std::to_string(form.iBaudListIndex) +
+               '|' + form.sSocketAddress + '|' + std::to_string(form.iSocketPort) + '|' +
+               std::to_string(form.iSentenceIndex) + '|' + std::to_string(form.iUpdateRateIndex) +
+               (form.bConnectSocket ? "S" : "") + (form.bAddRFSymbol ? "A" : "") + (form.bTncGps ? "G" : "") +
+               (form.bAutoConnect ? "C" : "");
+    };
+    for (const bool bSocket : {false, true}) {
+        for (const bool bFlag : {false, true}) {
+            form.bConnectSocket = bSocket;
+            form.bAddRFSymbol = bFlag;
+            form.bTncGps = !bFlag;
+            const std::string before = fields();
+            commDialog_Load(form);
+            ASSERT_TRUE(commDialog_Accept(main));
+            EXPECT_EQ(fields(), before);
+            EXPECT_EQ(form.sGpsSentence, form.bTncGps && !bSocket ? "$GPGLL" : form.sGpsSentence);
+        }
+    }
+}
+
 TEST_F(TncLink, TheUpdateRatesAreWhatTheirTextsSay)
 {
     EXPECT_EQ(UpdateRateText(0), "No Update");

@@ -14,7 +14,7 @@ namespace ruvenmark {
 // The device at the other end of a pseudo terminal.
 class PseudoTerminal {
 public:
-    PseudoTerminal() : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
+    PseudoTerminal() : m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC))
     {
         if (grantpt(m_master) != 0 || unlockpt(m_master) != 0)
             ADD_FAILURE() << "no pseudo terminal";

@@ -14,7 +14,12 @@ namespace {
 constexpr int kMargin = 6;
 constexpr int kLeastCharacters = 6, kMostCharacters = 32; // Of the width that is asked for.
 
-const QColor kWarningColor(0xE0, 0xA8, 0x3C); // Amber, readable on the dark bar.
+// Amber that can be read on a bar of these colours.
+QColor WarningColor(const QPalette& palette)
+{
+    constexpr int kMiddle = 128;
+    return palette.color(QPalette::Window).lightness() < kMiddle ? QColor(0xE0, 0xA8, 0x3C) : QColor(0x8A, 0x57, 0x00);
+}
 
 } // namespace
 
@@ -48,10 +53,6 @@ void ElidedLabel::SetWarning(bool bWarning)
     if (bWarning == m_bWarning)
         return;
     m_bWarning = bWarning;
-    QPalette colors;
-    if (bWarning)
-        colors.setColor(foregroundRole(), kWarningColor);
-    setPalette(colors);
     RefreshTip();
     updateGeometry();
     update();
@@ -80,7 +81,10 @@ void ElidedLabel::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     const QRect inside = contentsRect().adjusted(kMargin, 0, -kMargin, 0);
     const QString shown = fontMetrics().elidedText(Shown(), Qt::ElideRight, inside.width());
-    style()->drawItemText(&painter, inside, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
+    QPalette colors = palette();
+    if (m_bWarning)
+        colors.setColor(foregroundRole(), WarningColor(colors));
+    style()->drawItemText(&painter, inside, Qt::AlignLeft | Qt::AlignVCenter, colors, isEnabled(), shown,
                           foregroundRole());
 }
 

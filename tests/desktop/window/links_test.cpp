@@ -6,10 +6,10 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QGroupBox>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QToolBar>
 #include <QToolButton>
 
 namespace ruvenmark {
@@ -42,6 +42,8 @@ TEST_F(LinksWindow, TheServersDialogGivesEachOfItsFields)
 {
     main.frmTcp.sServerAddress = "former";
     main.frmTcp.iServerPort = 1;
+    main.frmTcp.bServerBeacon = main.frmTcp.bAddTCPSymbol = true;
+    main.frmTcp.bBackupBeacon = main.frmTcp.bAutoTCP = false;
     main.serverLists.ServerFilterList.Set("filter m/50", "filter m/50");
     WhenModal([&](QDialog& dialog) {
         EXPECT_EQ(Text(program.Find<QComboBox>("cboServer", &dialog)), "former");
@@ -57,7 +59,7 @@ TEST_F(LinksWindow, TheServersDialogGivesEachOfItsFields)
         TypeInto(dialog, "cboBackupServer", "spare");
         TypeInto(dialog, "cboBackupPort", "10152");
         TypeInto(dialog, "cboBackupFilter", "filter t/m");
-        for (const char* box : {"chkBackupBeacon", "chkAdd", "chkAuto"})
+        for (const char* box : {"chkServerBeacon", "chkBackupBeacon", "chkAdd", "chkAuto"})
             program.Find<QCheckBox>(box, &dialog).click();
         program.Find<QPushButton>("OK", &dialog).click();
     });
@@ -152,6 +154,13 @@ TEST_F(LinksWindow, ThePanelWarnsAndItsTipGrowsOlderWhileItIsSeen)
     EXPECT_TRUE(program.Find<ElidedLabel>("txtPacket").Text().contains("said nothing for a minute"));
 }
 
+// A window that closed has ended the program's loop, also the next one.
+void AllowLoops()
+{
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
+    QApplication::exec();
+}
+
 // The window only paints meanwhile, so the wish to close comes to it afterwards; or a signal's handler has it at once.
 TEST_F(LinksWindow, ClosedInTheMidstOfAConnectItEndsAfterIt)
 {
@@ -171,6 +180,7 @@ TEST_F(LinksWindow, ClosedInTheMidstOfAConnectItEndsAfterIt)
         EXPECT_FALSE(closed.window.isVisible());
         EXPECT_FALSE(closed.wires.IsKept());
         EXPECT_FALSE(closed.main.links.bServerConnected);
+        AllowLoops();
     }
 }
 
