@@ -135,6 +135,21 @@ TEST_F(TncLink, TheAgwEngineIsConnectedWhenItSaysSo)
     EXPECT_FALSE(main.links.aprs);
 }
 
+// Of a receiver behind a TNC that is gone nothing more is known; of one on a port of its own it still is.
+TEST_F(TncLink, AReceiversFixGoesWithItsTnc)
+{
+    for (const bool bBehindTnc : {true, false}) {
+        AcceptSerial(bBehindTnc);
+        ConnectTnc(main);
+        main.gps.bValidFix = true;
+        SetSetting(main.Settings, Setting::Speed, "30");
+        program.wires.Lose();
+        EXPECT_FALSE(main.links.bSerialConnected);
+        EXPECT_EQ(main.gps.bValidFix, !bBehindTnc);
+        EXPECT_EQ(SettingText(main.Settings, Setting::Speed), bBehindTnc ? "" : "30");
+    }
+}
+
 // Begun at the connect, not before: an engine that is still being called is no link.
 TEST_F(TncLink, TheTipTellsWhatTheRadioBrought)
 {

@@ -35,11 +35,13 @@ struct WeatherLink : testing::Test {
 
 TEST_F(WeatherLink, KeepsWhatTheStationMeasuresUntilItIsDisconnected)
 {
+    SetSetting(main.Settings, Setting::Call, "N0CALL");
     Toggle();
     EXPECT_EQ(program.wires.opened, "serial /dev/wx 2400");
     EXPECT_EQ(Caption(), "Disconnect W&x Station");
     program.wires.Say("!!005100BE02EB0064277002A8023A023A0025005800190000\r\n");
     EXPECT_EQ(Weather(), "268 0 0 75 0 0 25 57 10096 "); // Rain since midnight last, temperature whole.
+    EXPECT_EQ(program.Image("MyWeather"), "Weather");    // The tree shows it at once.
     Toggle();
     EXPECT_FALSE(program.wires.IsKept());
     EXPECT_EQ(Caption(), "Connect W&x Station...");
