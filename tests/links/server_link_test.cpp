@@ -378,12 +378,15 @@ TEST_F(ServerLinkTest, DialogShowsAndTakesTheFields)
     EXPECT_TRUE(main.serverLists.PortList.Contains("14580"));
 }
 
-// Every control shows its own field and gives it back: each tick stands alone once.
-TEST_F(ServerLinkTest, TheDialogAcceptedAsItComesChangesNothing)
+// Every control shows its own field and gives it back: a tick changes its own field, and accepted as it comes the
+// dialog changes nothing.
+TEST_F(ServerLinkTest, TheDialogsControlsHoldTheirOwnFields)
 {
     using Flag = bool ServerForm::*;
     constexpr std::array<Flag, 4> kFlags = {&ServerForm::bServerBeacon, &ServerForm::bAddTCPSymbol,
                                             &ServerForm::bAutoTCP, &ServerForm::bBackupBeacon};
+    constexpr std::array<Flag, 4> kTicks = {&ServerForm::chkServerBeacon, &ServerForm::chkAdd, &ServerForm::chkAuto,
+                                            &ServerForm::chkBackupBeacon};
     form.sServerFilter = "filter p/N";
     form.sBackupFilter = "filter t/m";
     form.iReconnectAttempt = 3;
@@ -397,13 +400,17 @@ TEST_F(ServerLinkTest, TheDialogAcceptedAsItComesChangesNothing)
             text += form.*flag ? '1' : '0';
         return text;
     };
-    for (const Flag alone : kFlags) {
-        for (const Flag flag : kFlags)
-            form.*flag = flag == alone;
-        const std::string before = fields();
+    for (const Flag& alone : kFlags) {
+        frmTcp_Load(form);
+        form.*kTicks[static_cast<std::size_t>(&alone - kFlags.data())] = !(form.*alone);
+        form.*alone = !(form.*alone); // What the one tick is to change.
+        const std::string wanted = fields();
+        form.*alone = !(form.*alone);
+        ASSERT_TRUE(frmTcp_Accept(main));
+        EXPECT_EQ(fields(), wanted);
         frmTcp_Load(form);
         ASSERT_TRUE(frmTcp_Accept(main));
-        EXPECT_EQ(fields(), before);
+        EXPECT_EQ(fields(), wanted);
     }
     EXPECT_TRUE(main.serverLists.PortList.Contains("10152"));
     EXPECT_TRUE(main.serverLists.ServerFilterList.Contains("filter t/m"));

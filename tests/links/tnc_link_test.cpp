@@ -264,8 +264,8 @@ TEST_F(TncLink, ConnectUponStartupOutlastsACancel)
     EXPECT_EQ(Panel(), "TNC not connected");
 }
 
-// Every control shows its own field and gives it back, by each of the two ways.
-TEST_F(TncLink, TheDialogAcceptedAsItComesChangesNothing)
+// Every control shows its own field and gives it back, by each of the two ways; what is greyed is not taken.
+TEST_F(TncLink, TheDialogsControlsHoldTheirOwnFields)
 {
     form.sSerialPort = "/dev/tnc";
     form.lLastBaudRate = 1234; // Typed once; no rate of the list.
@@ -278,18 +278,22 @@ TEST_F(TncLink, TheDialogAcceptedAsItComesChangesNothing)
         return form.sSerialPort + '|' + std::to_string(form.lLastBaudRate) + '|' + std::to_string(form.iBaudListIndex) +
                '|' + form.sSocketAddress + '|' + std::to_string(form.iSocketPort) + '|' +
                std::to_string(form.iSentenceIndex) + '|' + std::to_string(form.iUpdateRateIndex) +
-               (form.bConnectSocket ? "S" : "") + (form.bAddRFSymbol ? "A" : "") + (form.bTncGps ? "G" : "") +
-               (form.bAutoConnect ? "C" : "");
+               (form.bConnectSocket ? "S" : "") + (form.bTncGps ? "G" : "") + (form.bAutoConnect ? "C" : "");
     };
     for (const bool bSocket : {false, true}) {
         for (const bool bFlag : {false, true}) {
             form.bConnectSocket = bSocket;
-            form.bAddRFSymbol = bFlag;
+            form.bAddRFSymbol = !bFlag;
             form.bTncGps = !bFlag;
             const std::string before = fields();
             commDialog_Load(form);
+            EXPECT_EQ(form.chkAdd, !bFlag);
+            form.chkAdd = bFlag;
+            if (!AreGpsListsEnabled(form))
+                form.cboSentence = form.cboUpdateRate = 0;
             ASSERT_TRUE(commDialog_Accept(main));
             EXPECT_EQ(fields(), before);
+            EXPECT_EQ(form.bAddRFSymbol, bFlag);
             EXPECT_EQ(form.sGpsSentence, form.bTncGps && !bSocket ? "$GPGLL" : form.sGpsSentence);
         }
     }
