@@ -229,6 +229,7 @@ TEST_F(ServerLinkTest, TellsWhetherTheServerPassesOnWhatIsSent)
 
     program.notices.lines.clear();
     program.wires.Say("# Parse errors on filter spec: 'zz/1'\r\n# Invalid login: user w1aw pass 25988 vers x\r\n");
+    EXPECT_TRUE(main.sbStatusBar.IsPanelWarning(Panel::Server)); // Of a complaint alone.
     program.wires.Say("# logresp w1aw-7 unverified, server T2LOOP\r\n# logresp w1aw-7 unverified, server T2LOOP\r\n");
     EXPECT_TRUE(main.sbStatusBar.IsPanelWarning(Panel::Server));
     EXPECT_EQ(
