@@ -160,7 +160,7 @@ Poured Pour(Program& program, FeedServer& server, std::vector<std::string> lines
     watch.start();
     server.Send(std::move(lines), perSecond);
     while (program.main.serverStatus.lines < wanted && watch.elapsed() < static_cast<int>(planned * 1e3) + kLateMs)
-        RunFor(10);
+        RunFor(perSecond > 0 ? 250 : 10);
     poured.seconds = static_cast<double>(watch.nsecsElapsed()) / 1e9;
     poured.lost = wanted - program.main.serverStatus.lines;
     poured.cpu = CpuSeconds() - cpuBefore - server.Finish();

@@ -13,6 +13,8 @@ namespace ruvenmark {
 namespace {
 
 constexpr std::chrono::milliseconds kTick{250};
+constexpr qint64 kGatherMs = 20;                       // Where bytes come bit by bit they are told so often at most,
+constexpr qint64 kGathered = 4096;                     // but so many never wait.
 constexpr std::size_t kPiece = std::size_t{64} * 1024; // Told at once; between two of them the window gets its turn.
 constexpr qint64 kMostUnsent = 16ll * 1024 * 1024;     // An other end that takes less is as good as gone.
 
@@ -85,10 +87,13 @@ void Wire::OpenAndTell()
     m_delivery.start(0);
 }
 
+// A line a moment would cost two turns of the loop each. The first one after a pause waits for nothing.
 void Wire::Arrive()
 {
-    if (!m_delivery.isActive())
-        m_delivery.start(0);
+    const bool bAtOnce = m_bLost || !m_sinceDelivery.isValid() || Device().bytesAvailable() >= kGathered;
+    if (m_delivery.isActive() && (!bAtOnce || m_delivery.interval() == 0))
+        return;
+    m_delivery.start(bAtOnce ? 0 : static_cast<int>(std::max<qint64>(0, kGatherMs - m_sinceDelivery.elapsed())));
 }
 
 void Wire::Lose()
@@ -130,6 +135,7 @@ std::string Wire::Take()
 void Wire::Deliver()
 {
     const auto kept = shared_from_this();
+    m_sinceDelivery.start();
     if (m_bLost && !m_bClosed)
         CloseLost();
     if (std::exchange(m_bOpeningUntold, false))
@@ -139,7 +145,7 @@ void Wire::Deliver()
     if (m_sink == nullptr)
         return;
     if (HasBytes())
-        Arrive();
+        m_delivery.start(0);
     else if (m_bClosed && !std::exchange(m_bLossTold, true))
         m_sink->OnLost(WireNow());
 }

@@ -2,6 +2,7 @@
 
 #include "contracts/byte_link.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -51,6 +52,7 @@ private:
     IByteSink* m_sink; // Null once it is dropped.
     QTimer m_delivery;
     QTimer m_ticks;
+    QElapsedTimer m_sinceDelivery;
     std::string m_rest; // What a lost device still held.
     bool m_bOpen = false;
     bool m_bOpeningUntold = false;

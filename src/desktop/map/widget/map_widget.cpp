@@ -4,7 +4,6 @@
 #include "desktop/map/widget/zoom_buttons.h"
 #include "platform/map_model.h"
 
-#include <QElapsedTimer>
 #include <QEvent>
 #include <QImage>
 #include <QKeyEvent>
@@ -17,7 +16,9 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr int kGatherMilliseconds = 45;
+constexpr qint64 kGatherMs = 45;         // What reports do is painted so soon where little was painted before,
+constexpr qint64 kShare = 200;           // else so seldom that it takes no more than this part of a processor,
+constexpr qint64 kLongestGatherMs = 500; // but so often in any case.
 constexpr int kButtonMargin = 12;
 
 } // namespace
@@ -85,8 +86,11 @@ void MapWidget::ObserveMap()
 // Called for every report: nothing but a look at a timer.
 void MapWidget::MapChanged()
 {
-    if (!m_gather.isActive())
-        m_gather.start(static_cast<int>(std::max<qint64>(kGatherMilliseconds, 4 * m_lastPaint)));
+    if (m_gather.isActive())
+        return;
+    const qint64 since = m_sincePaint.isValid() ? m_sincePaint.elapsed() : 0;
+    const qint64 pause = std::min(kShare * m_lastPaintNs / 1'000'000, kLongestGatherMs);
+    m_gather.start(static_cast<int>(std::max({kGatherMs, pause - since, 4 * m_lastPaintNs / 1'000'000})));
 }
 
 void MapWidget::ViewChanged()
@@ -174,7 +178,8 @@ void MapWidget::paintEvent(QPaintEvent*)
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
     }
     ++m_paints;
-    m_lastPaint = watch.elapsed();
+    m_lastPaintNs = watch.nsecsElapsed();
+    m_sincePaint.start();
 }
 
 // The scene is arranged for the window again afterwards.

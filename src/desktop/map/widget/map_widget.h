@@ -9,6 +9,7 @@
 #include "platform/event.h"
 #include "platform/map_control.h"
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 
@@ -79,7 +80,8 @@ private:
     ZoomButtons* m_buttons;
     std::vector<Subscription> m_controlEvents, m_mapEvents;
     QTimer m_gather;
-    qint64 m_lastPaint = 0; // Milliseconds it took.
+    QElapsedTimer m_sincePaint;
+    qint64 m_lastPaintNs = 0; // Of its work.
     int m_paints = 0;
 };
 
