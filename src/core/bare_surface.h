@@ -29,6 +29,7 @@ public:
     std::optional<PrintChoice> AskPrint(std::string_view /*title*/) override { return std::nullopt; }
     void PrintMap(const PrintChoice& /*choice*/) override {}
     bool OpenBrowser(std::string_view /*url*/) override { return false; }
+    void FetchPicture(std::string_view /*url*/, std::function<void(const FetchedPicture&)> /*take*/) override {}
 
 private:
     std::string m_text;

@@ -30,13 +30,14 @@ enum class Form : std::uint8_t {
     frmObject,
     frmMessage,
     frmOpenMessage,
-    frmOptions
+    frmOptions,
+    frmTiles
 };
-inline constexpr std::array kForms = {Form::frmRegion,  Form::frmImport,   Form::frmTrackList,   Form::frmAbout,
-                                      Form::frmFilter,  Form::frmFind,     Form::commDialog,     Form::frmTcp,
-                                      Form::frmGps,     Form::frmWx,       Form::frmGpsPanel,    Form::frmTnc,
-                                      Form::frmTcpData, Form::frmPosition, Form::frmWeather,     Form::frmStatus,
-                                      Form::frmObject,  Form::frmMessage,  Form::frmOpenMessage, Form::frmOptions};
+inline constexpr std::array kForms = {
+    Form::frmRegion,      Form::frmImport,   Form::frmTrackList, Form::frmAbout,  Form::frmFilter,   Form::frmFind,
+    Form::commDialog,     Form::frmTcp,      Form::frmGps,       Form::frmWx,     Form::frmGpsPanel, Form::frmTnc,
+    Form::frmTcpData,     Form::frmPosition, Form::frmWeather,   Form::frmStatus, Form::frmObject,   Form::frmMessage,
+    Form::frmOpenMessage, Form::frmOptions,  Form::frmTiles};
 
 constexpr std::size_t Index(Form form)
 {

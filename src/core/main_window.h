@@ -14,6 +14,7 @@
 #include "links/import_form.h"
 #include "links/link_status.h"
 #include "links/monitor_state.h"
+#include "links/replay_state.h"
 #include "links/server_form.h"
 #include "links/server_status.h"
 #include "links/tnc_form.h"
@@ -21,6 +22,7 @@
 #include "map/find_form.h"
 #include "map/map_session.h"
 #include "map/region_form.h"
+#include "map/tile_form.h"
 #include "messaging/message_form.h"
 #include "messaging/message_state.h"
 #include "messaging/open_message_form.h"
@@ -80,6 +82,8 @@ struct MainWindow {
     OpenMessageForm frmOpenMessage;
     RegionForm frmRegion;
     ImportForm frmImport;
+    ReplayState replay;
+    TileForm frmTiles;
     FilterForm frmFilter;
     TrackListForm frmTrackList;
     FindForm frmFind;

@@ -136,6 +136,7 @@ constexpr std::array kSettings = {
     SettingInfo{S::OnlineTiles, "OnlineTiles", K::Flag, "False"},
     SettingInfo{S::TileURL, "TileURL", K::Text, "https://tile.openstreetmap.org/{z}/{x}/{y}.png"},
     SettingInfo{S::TileSource, "TileSource", K::Text, ""},
+    SettingInfo{S::TileCredit, "TileCredit", K::Text, ""},
 };
 
 constexpr bool StandInOrder()

@@ -141,9 +141,10 @@ enum class Setting : std::uint8_t {
 
     OnlineTiles,
     TileURL,
-    TileSource
+    TileSource,
+    TileCredit
 };
-inline constexpr std::size_t kSettingCount = static_cast<std::size_t>(Setting::TileSource) + 1;
+inline constexpr std::size_t kSettingCount = static_cast<std::size_t>(Setting::TileCredit) + 1;
 inline constexpr std::size_t kKeptSettingCount = static_cast<std::size_t>(Setting::DestLon) + 1;
 
 // The setting so many places behind another one in the list.

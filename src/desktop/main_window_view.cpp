@@ -16,7 +16,6 @@
 #include "desktop/tree/tree_model.h"
 #include "desktop/tree/tree_view.h"
 #include "lifecycle/stop.h"
-#include "links/link_status_rules.h"
 #include "links/station_files.h"
 #include "map/pointer_tools.h"
 #include "ui/layout.h"
@@ -55,7 +54,7 @@ MainWindowView::MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* 
       m_toolBar(new MainToolBar(
           main, icons, [this](MenuEntry entry) { Run(entry); }, this)),
       m_statusBar(new StatusBarView(
-          main.sbStatusBar, [this] { ShowLinkStatus(m_main); }, this)),
+          main, icons, [this](MenuEntry entry) { Run(entry); }, this)),
       m_left(new QStackedWidget(this)), m_right(new QStackedWidget(this)), m_panes(new Panes(main, this)),
       m_placement(main, *this)
 {

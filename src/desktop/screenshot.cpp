@@ -7,38 +7,32 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QPixmap>
+#include <QThread>
 
 namespace ruvenmark {
 
 namespace {
 
-constexpr int kQuietMs = 400;
-constexpr int kLongestMs = 15000;
-
-// The ground comes in pieces: the picture is whole when the map has not been painted for a while.
-void WaitForMap(const MapWidget& map)
-{
-    QElapsedTimer whole;
-    QElapsedTimer quiet;
-    whole.start();
-    quiet.start();
-    int paints = map.Paints();
-    while (quiet.elapsed() < kQuietMs && whole.elapsed() < kLongestMs) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        if (map.Paints() != paints) {
-            paints = map.Paints();
-            quiet.start();
-        }
-    }
-}
+constexpr int kLongestMs = 30000; // For a server that never answers.
 
 } // namespace
 
+// A painting asks for what it lacks: the picture is whole when one lacked nothing.
 void SaveScreenshot(MainWindowView& window, QSize size, const QString& path)
 {
     window.resize(size);
-    WaitForMap(window.Map());
-    if (!window.grab().save(path))
+    QElapsedTimer watch;
+    watch.start();
+    QPixmap picture;
+    do {
+        while (!window.Map().IsReady() && watch.elapsed() < kLongestMs) {
+            QCoreApplication::processEvents();
+            QThread::msleep(2); // The work is done in other threads.
+        }
+        QCoreApplication::processEvents();
+        picture = window.grab();
+    } while (!window.Map().IsReady() && watch.elapsed() < kLongestMs);
+    if (!picture.save(path))
         throw Failure("the picture cannot be written to " + path.toStdString());
 }
 

@@ -13,6 +13,7 @@ void frmImport_Load(ImportForm& form)
     form.txtDelay = ShortText(std::max(std::int64_t{form.iFLDelay}, std::int64_t{0}));
     form.chkAdd = form.bFLAdd;
     form.chkShow = form.bFLShow;
+    form.cboSpeed = form.speed;
     form.iFLDelay = kLoadCancelled;
 }
 
@@ -33,6 +34,7 @@ void frmImport_Accept(ImportForm& form)
     form.iFLDelay = form.txtDelay.empty() ? std::int16_t{0} : ToInt16(form.txtDelay);
     form.bFLAdd = form.chkAdd;
     form.bFLShow = form.chkShow;
+    form.speed = form.cboSpeed;
 }
 
 void LoadImportSettings(MainWindow& main)

@@ -3,6 +3,7 @@
 #include "core/main_window.h"
 #include "intake/station_store.h"
 #include "links/import_form_rules.h"
+#include "links/replay.h"
 #include "platform/failure.h"
 #include "platform/line_stream.h"
 #include "platform/records.h"
@@ -53,6 +54,8 @@ public:
         }
     }
 
+    bool IsEndKnown() const { return m_last || m_size > 0; }
+
     // Behind the line of this index, once its successor was looked for.
     int Percent(std::uint64_t index, const LineStream& lines) const
     {
@@ -84,20 +87,29 @@ void Delay(MainWindow& main)
 void ReplayLines(MainWindow& main, IByteStream& bytes)
 {
     LineStream lines(bytes);
+    ReplayPace pace(main);
     main.links.aprsfl = main.services.sources.CreateFile(*main.links.sinks[Index(Channel::FL)]);
     main.links.FileLoading = true;
     main.sbStatusBar.ShowProgress();
     main.sbStatusBar.SetProgress(0);
     bool bMore = NextLine(main, lines);
     const LoadProgress progress(lines, bytes.Size());
+    if (progress.IsEndKnown())
+        pace.TellEndIsKnown();
     for (std::uint64_t i = 0; bMore && main.links.FileLoading && main.links.aprsfl; ++i) {
+        pace.Await(Trim(lines.Line()));
+        if (!main.links.FileLoading || !main.links.aprsfl)
+            break;
         main.links.aprsfl->ParseLine(Trim(lines.Line()));
         bMore = NextLine(main, lines);
         if (i == 0 && lines.IsAtEnd())
             throw Failure("the progress of a single line cannot be told");
-        main.sbStatusBar.SetProgress(progress.Percent(i, lines));
+        const int percent = progress.Percent(i, lines);
+        main.sbStatusBar.SetProgress(percent);
+        pace.Passed(percent);
         main.services.yield.ProcessPending();
-        Delay(main);
+        if (!pace.IsJumping())
+            Delay(main);
     }
 }
 

@@ -25,6 +25,7 @@ void LoadTileSettings(MainWindow& main)
     TileSettings& tiles = main.map.tiles;
     const std::string url = main.stored.Text(Setting::TileURL);
     tiles.urlTemplate = IsTileUrl(url) ? url : DefaultOf(Setting::TileURL);
+    tiles.credit = main.stored.Text(Setting::TileCredit);
     tiles.source = main.stored.Text(Setting::TileSource);
     tiles.bOnline = main.stored.Flag(Setting::OnlineTiles);
     main.map.TilesChanged.Raise();
@@ -36,6 +37,7 @@ void SaveTileSettings(MainWindow& main)
     main.stored.SetFlag(Setting::OnlineTiles, tiles.bOnline);
     main.stored.Set(Setting::TileURL, tiles.urlTemplate);
     main.stored.Set(Setting::TileSource, tiles.source);
+    main.stored.Set(Setting::TileCredit, tiles.credit);
 }
 
 std::string TileSourceOfFile(std::string_view chosenFile)

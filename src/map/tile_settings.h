@@ -11,6 +11,7 @@ struct MainWindow;
 struct TileSettings {
     bool bOnline = false;
     std::string urlTemplate; // See IsTileUrl.
+    std::string credit;      // Whose map it is; empty: the server is named.
     std::string source;      // A folder of z/x/y tiles or an MBTiles file, used without the network; empty for none.
 };
 

@@ -4,6 +4,7 @@
 #include "platform/text.h"
 
 #include <ostream>
+#include <thread>
 
 namespace ruvenmark {
 
@@ -39,6 +40,11 @@ std::optional<std::string> HeadlessPrompts::SaveFile(std::string_view title, Fil
 void PrintedNotices::Say(std::string_view line)
 {
     m_out << kProgramWord << TerminalText(line) << std::endl; // At once: what comes next may be the end.
+}
+
+void NoYield::Wait(std::chrono::milliseconds atMost)
+{
+    std::this_thread::sleep_for(atMost);
 }
 
 void HeadlessPrompts::Print(std::string_view text, std::string_view answer)

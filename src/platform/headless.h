@@ -4,6 +4,7 @@
 #include "platform/sound.h"
 #include "platform/waiting.h"
 
+#include <chrono>
 #include <iosfwd>
 #include <optional>
 #include <string>
@@ -53,6 +54,7 @@ public:
 class NoYield final : public IYield {
 public:
     void ProcessPending() override {}
+    void Wait(std::chrono::milliseconds atMost) override;
 };
 
 } // namespace ruvenmark

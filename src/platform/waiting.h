@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 
 namespace ruvenmark {
@@ -20,6 +21,8 @@ class IYield {
 public:
     virtual ~IYield() = default;
     virtual void ProcessPending() = 0;
+    // The same with what happens within this time. Returns when something did, or when the time is over.
+    virtual void Wait(std::chrono::milliseconds atMost) = 0;
 };
 
 } // namespace ruvenmark

@@ -10,6 +10,7 @@
 #include "map/find.h"
 #include "map/markers.h"
 #include "map/range_circles.h"
+#include "map/tile_form_rules.h"
 #include "map/tile_settings.h"
 #include "messaging/box_commands.h"
 #include "messaging/message_boxes.h"
@@ -104,6 +105,7 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuOnlineTiles, "mnuOnlineTiles", "&Online Tiles", "", true, mnuOnlineTiles_Click,
                   rules::TickTiles},
     MenuEntryInfo{E::mnuTileFile, "mnuTileFile", "T&ile File...", "", true, mnuTileFile_Click, rules::TickTileFile},
+    MenuEntryInfo{E::mnuTileServer, "mnuTileServer", "Tile Ser&ver...", "", false, mnuTileServer_Click},
     MenuEntryInfo{E::mnuViewTncData, "mnuViewTncData", "T&NC Data", "", true, mnuViewTncData_Click,
                   rules::TickForm<Form::frmTnc>},
     MenuEntryInfo{E::mnuViewTcpData, "mnuViewTcpData", "TC&P Data", "", true, mnuViewTcpData_Click,

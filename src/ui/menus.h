@@ -36,6 +36,7 @@ enum class MenuEntry : std::uint8_t {
     mnuViewGPSPanel,
     mnuOnlineTiles,
     mnuTileFile,
+    mnuTileServer,
     mnuViewTncData,
     mnuViewTcpData,
     mnuViewFullScreen,

@@ -200,6 +200,7 @@ constexpr Row kRows[] = {
     {"TileURL", "https://tile.openstreetmap.org/{z}/{x}/{y}.png", "https://tiles.example/{z}/{x}/{y}",
      Tiles<&TileSettings::urlTemplate>},
     {"TileSource", "", "/maps/alps.mbtiles", Tiles<&TileSettings::source>},
+    {"TileCredit", "", "\xC2\xA9 Somebody", Tiles<&TileSettings::credit>},
 };
 
 // Two may share a key: the one that is saved last stays.

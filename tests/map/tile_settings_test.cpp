@@ -1,3 +1,4 @@
+#include "map/tile_form_rules.h"
 #include "map/tile_settings.h"
 #include "map/tile_url.h"
 #include "support/test_program.h"
@@ -41,6 +42,61 @@ TEST(TileSettings, UnusableOnesInTheStoreAreTheDefaults)
     program.store.Set("TileURL", "http://localhost:8080/{z}/{y}/{x}.png?k=1");
     LoadTileSettings(program.main);
     EXPECT_EQ(program.main.map.tiles.urlTemplate, "http://localhost:8080/{z}/{y}/{x}.png?k=1");
+}
+
+TEST(TileForm, AServerOfTheListBringsItsCreditAndIsSavedOnlyWhereAccepted)
+{
+    TestProgram program;
+    TileForm& form = program.main.frmTiles;
+    const auto choose = [&](MainWindow&) {
+        EXPECT_EQ(form.cboServer, 0);
+        EXPECT_EQ(form.txtCredit, kTileServers[0].credit); // The settings name none.
+        form.cboServer = 1;
+        frmTiles_cboServer_Click(form);
+        form.chkOnline = true;
+    };
+    program.dialogs.onRun[Form::frmTiles] = choose;
+    mnuTileServer_Click(program.main); // Cancelled.
+    EXPECT_FALSE(program.main.map.tiles.bOnline);
+    EXPECT_EQ(program.main.map.tiles.urlTemplate, kTileServers[0].url);
+    program.dialogs.onRun[Form::frmTiles] = [&](MainWindow& main) {
+        choose(main);
+        EXPECT_TRUE(frmTiles_Accept(form));
+    };
+    mnuTileServer_Click(program.main);
+    EXPECT_TRUE(program.main.map.tiles.bOnline);
+    EXPECT_EQ(program.main.map.tiles.urlTemplate, kTileServers[1].url);
+    EXPECT_EQ(program.main.map.tiles.credit, kTileServers[1].credit);
+    EXPECT_EQ(MaxZoomOfTiles(kTileServers[1].url), 17); // Nothing deeper is asked for.
+}
+
+TEST(TileForm, TheTestAsksForTheTileInViewAndTellsWhatCame)
+{
+    TestProgram program;
+    TileForm& form = program.main.frmTiles;
+    frmTiles_Load(form, program.main.map.tiles);
+    form.txtUrl = "http://localhost/{z}/{x}";
+    EXPECT_FALSE(frmTiles_Accept(form));
+    frmTiles_Test(program.main);
+    EXPECT_EQ(program.desktop.pictureAsked, "");
+    EXPECT_NE(form.lblResult.find("{z}, {x} and {y}"), std::string::npos);
+
+    program.TheMap().SetView({47.0, 8.0}, 6);
+    form.txtUrl = " http://localhost/{z}/{x}/{y}.png";
+    frmTiles_txtUrl_Change(form);
+    EXPECT_EQ(form.cboServer, -1);
+    frmTiles_Test(program.main);
+    EXPECT_EQ(program.desktop.pictureAsked, "http://localhost/6/33/22.png");
+    program.desktop.takePicture({200, "", 1234, 256, 256});
+    EXPECT_EQ(form.lblResult, "A tile of 256 x 256 pixels came, 1234 bytes.");
+    program.desktop.takePicture({403, "Forbidden", 9, 0, 0});
+    EXPECT_EQ(form.lblResult, "The server answered 403: Forbidden");
+    program.desktop.takePicture({200, "", 9, 0, 0});
+    EXPECT_EQ(form.lblResult, "What came is no PNG, JPEG or WebP picture that can be shown.");
+    form.txtUrl += "x"; // What comes for another address says nothing about this one.
+    form.lblResult.clear();
+    program.desktop.takePicture({0, "Connection refused", 0, 0, 0});
+    EXPECT_EQ(form.lblResult, "");
 }
 
 TEST(TileUrl, OnlyWebServersWithEveryPartOfTheNumberAreAsked)

@@ -18,6 +18,7 @@
 #include <optional>
 #include <set>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -186,6 +187,15 @@ public:
         const auto found = m_actions.find(++calls);
         if (found != m_actions.end())
             found->second();
+    }
+
+    // What happens while the program waits; without it the time stands still.
+    std::function<void(std::chrono::milliseconds)> onWait;
+    void Wait(std::chrono::milliseconds atMost) override
+    {
+        if (!onWait)
+            throw std::logic_error("a wait that nobody ends");
+        onWait(atMost);
     }
 
 private:

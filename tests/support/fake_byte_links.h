@@ -77,6 +77,7 @@ public:
     }
     std::vector<std::string> SerialPorts() override { return {"/dev/ttyS0"}; }
     Moment Now() const override { return m_now; }
+    void Advance(std::chrono::milliseconds time) { m_now += time; }
 
 private:
     struct Wire {

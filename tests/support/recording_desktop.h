@@ -12,6 +12,7 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace ruvenmark {
@@ -67,6 +68,13 @@ public:
     {
         pages.emplace_back(url);
         return true;
+    }
+    std::string pictureAsked; // The address.
+    std::function<void(const FetchedPicture&)> takePicture;
+    void FetchPicture(std::string_view url, std::function<void(const FetchedPicture&)> take) override
+    {
+        pictureAsked = url;
+        takePicture = std::move(take);
     }
 };
 

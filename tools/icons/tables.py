@@ -141,5 +141,5 @@ ACTIONS = {
     "close": "close", "settings": "settings", "connect": "lan-connect", "connect-tnc": "radio-tower",
     "connect-server": "server-network", "connect-gps": "satellite-variant", "connect-wx": "weather-partlycloudy",
     "copy-map": "image", "info": "information",
-    "sort": "sort-alphabetical", "font": "format-size", "tool-bar": "wrench",
+    "sort": "sort-alphabetical", "font": "format-size", "tool-bar": "wrench", "pause": "pause", "play": "play",
 }

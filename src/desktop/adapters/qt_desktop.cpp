@@ -12,6 +12,8 @@
 #include <QPrinter>
 #include <QUrl>
 
+#include <utility>
+
 namespace ruvenmark {
 
 QtDesktop::QtDesktop()
@@ -83,6 +85,11 @@ bool QtDesktop::OpenBrowser(std::string_view url)
     const QUrl address =
         QUrl::fromEncoded(QByteArray(url.data(), static_cast<qsizetype>(url.size())), QUrl::StrictMode);
     return address.isValid() && address.scheme() == QLatin1String("https") && QDesktopServices::openUrl(address);
+}
+
+void QtDesktop::FetchPicture(std::string_view url, std::function<void(const FetchedPicture&)> take)
+{
+    m_fetcher.Fetch(url, std::move(take));
 }
 
 } // namespace ruvenmark

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "core/desktop.h"
+#include "desktop/adapters/picture_fetcher.h"
 
 #include <QPointer>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -31,6 +33,7 @@ public:
     std::optional<PrintChoice> AskPrint(std::string_view title) override;
     void PrintMap(const PrintChoice& choice) override;
     bool OpenBrowser(std::string_view url) override;
+    void FetchPicture(std::string_view url, std::function<void(const FetchedPicture&)> take) override;
 
 private:
     QPointer<QWidget> m_window;
@@ -38,6 +41,7 @@ private:
     std::unique_ptr<QPrinter> m_printer; // As it was chosen the last time.
     // Fetched from another program, which may be slow or hang: once for each change.
     std::optional<std::string> m_clipboard;
+    PictureFetcher m_fetcher;
     QMetaObject::Connection m_clipboardChanged;
 };
 

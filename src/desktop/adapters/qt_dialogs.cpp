@@ -16,6 +16,7 @@
 #include "desktop/dialogs/frm_region_dialog.h"
 #include "desktop/dialogs/frm_status_dialog.h"
 #include "desktop/dialogs/frm_tcp_dialog.h"
+#include "desktop/dialogs/frm_tiles_dialog.h"
 #include "desktop/dialogs/frm_track_list_dialog.h"
 #include "desktop/dialogs/frm_weather_dialog.h"
 #include "desktop/dialogs/frm_wx_dialog.h"
@@ -87,6 +88,8 @@ std::unique_ptr<FormDialog> QtDialogs::Make(Form form, MainWindow& main) const
         return std::make_unique<FrmMessageDialog>(main, m_window);
     case Form::frmOpenMessage:
         return std::make_unique<FrmOpenMessageDialog>(main.frmOpenMessage, m_window);
+    case Form::frmTiles:
+        return std::make_unique<FrmTilesDialog>(main, m_window);
     case Form::frmOptions:
         return std::make_unique<FrmOptionsDialog>(main, m_window);
     }

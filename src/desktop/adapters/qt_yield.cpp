@@ -1,6 +1,7 @@
 #include "desktop/adapters/qt_yield.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 
 namespace ruvenmark {
 
@@ -10,6 +11,16 @@ void QtYield::ProcessPending()
     if (m_sinceLast.isValid() && m_sinceLast.elapsed() < kPauseMs)
         return;
     QCoreApplication::processEvents();
+    m_sinceLast.start();
+}
+
+void QtYield::Wait(std::chrono::milliseconds atMost)
+{
+    QTimer end;
+    end.setSingleShot(true);
+    end.setTimerType(Qt::PreciseTimer);
+    end.start(atMost);
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     m_sinceLast.start();
 }
 

@@ -11,6 +11,7 @@ namespace ruvenmark {
 class QtYield final : public IYield {
 public:
     void ProcessPending() override;
+    void Wait(std::chrono::milliseconds atMost) override;
 
 private:
     QElapsedTimer m_sinceLast;

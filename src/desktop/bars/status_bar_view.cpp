@@ -1,13 +1,15 @@
 #include "desktop/bars/status_bar_view.h"
 
+#include "core/main_window.h"
 #include "desktop/bars/elided_label.h"
+#include "desktop/bars/player_bar.h"
 #include "desktop/shown_text.h"
+#include "links/link_status_rules.h"
 
 #include <QGuiApplication>
-#include <QProgressBar>
 #include <QStackedWidget>
 
-#include <utility>
+#include <chrono>
 
 namespace ruvenmark {
 
@@ -28,9 +30,10 @@ constexpr std::array<PanelName, 5> kPanelNames = {{{"panelTnc", "TNC"},
 
 } // namespace
 
-StatusBarView::StatusBarView(StatusBar& model, std::function<void()> workTipsOut, QWidget* parent)
-    : QStatusBar(parent), m_model(model), m_place(new QStackedWidget(this)), m_sent(new ElidedLabel(this)),
-      m_packet(new ElidedLabel(this)), m_progress(new QProgressBar(this)), m_workTipsOut(std::move(workTipsOut))
+StatusBarView::StatusBarView(MainWindow& main, const IconSet& icons, const std::function<void(MenuEntry)>& run,
+                             QWidget* parent)
+    : QStatusBar(parent), m_main(main), m_model(main.sbStatusBar), m_place(new QStackedWidget(this)),
+      m_sent(new ElidedLabel(this)), m_packet(new ElidedLabel(this)), m_player(new PlayerBar(main, icons, run, this))
 {
     setSizeGripEnabled(false);
     for (std::size_t i = 0; i < m_panels.size(); ++i) {
@@ -42,11 +45,9 @@ StatusBarView::StatusBarView(StatusBar& model, std::function<void()> workTipsOut
     m_packet->setObjectName(QStringLiteral("txtPacket"));
     m_packet->setAccessibleName(QStringLiteral("Last packet"));
     m_packet->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    m_progress->setObjectName(QStringLiteral("pbProgress"));
-    m_progress->setAccessibleName(QStringLiteral("Progress"));
-    m_progress->setMaximumHeight(m_packet->sizeHint().height());
+    m_player->SetHeight(m_packet->sizeHint().height());
     m_place->addWidget(m_packet);
-    m_place->addWidget(m_progress);
+    m_place->addWidget(m_player);
     m_place->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     addWidget(m_place, 1);
     m_sent->setObjectName(QStringLiteral("lblSent"));
@@ -59,9 +60,10 @@ StatusBarView::StatusBarView(StatusBar& model, std::function<void()> workTipsOut
     m_tipTimer.setInterval(kTipInterval);
     connect(&m_tipTimer, &QTimer::timeout, this, [this] {
         if (!window()->isMinimized())
-            m_workTipsOut();
+            ShowLinkStatus(m_main);
     });
-    m_subscription = model.Changed.Observe([this] { OnChanged(); });
+    m_subscription = m_model.Changed.Observe([this] { OnChanged(); });
+    m_replaySubscription = main.replay.Changed.Observe([this] { OnChanged(); });
     Refresh();
 }
 
@@ -94,7 +96,7 @@ void StatusBarView::OnChanged()
     if (m_sinceRepaint.isValid() && m_sinceRepaint.elapsed() < kIntervalMs)
         return;
     Refresh();
-    m_progress->repaint();
+    m_player->PaintNow();
     m_sinceRepaint.start();
 }
 
@@ -109,8 +111,8 @@ void StatusBarView::Refresh()
     m_sent->SetText(ForDisplay(m_model.Sent()));
     const std::string& notice = m_model.Notice();
     m_packet->SetText(ForDisplay(notice.empty() ? m_model.PacketLine() : notice));
-    m_progress->setValue(m_model.Progress());
-    m_place->setCurrentWidget(m_model.IsProgressVisible() ? static_cast<QWidget*>(m_progress) : m_packet);
+    m_player->Refresh();
+    m_place->setCurrentWidget(m_model.IsProgressVisible() ? static_cast<QWidget*>(m_player) : m_packet);
 }
 
 void StatusBarView::ShowPointer(bool bWait)

@@ -2,6 +2,7 @@
 
 #include "platform/event.h"
 #include "platform/status_bar.h"
+#include "ui/menus.h"
 
 #include <QElapsedTimer>
 #include <QStatusBar>
@@ -10,18 +11,19 @@
 #include <array>
 #include <functional>
 
-class QProgressBar;
 class QStackedWidget;
 
 namespace ruvenmark {
 
 class ElidedLabel;
+class IconSet;
+class PlayerBar;
+struct MainWindow;
 
 // The status bar's five panels; the packet line and the progress bar take one place. It also shows the wait pointer.
 class StatusBarView final : public QStatusBar {
 public:
-    // `workTipsOut` is called once a second while the bar is seen: tips tell ages.
-    StatusBarView(StatusBar& model, std::function<void()> workTipsOut, QWidget* parent = nullptr);
+    StatusBarView(MainWindow& main, const IconSet& icons, const std::function<void(MenuEntry)>& run, QWidget* parent);
     ~StatusBarView() override;
     StatusBarView(const StatusBarView&) = delete;
     StatusBarView& operator=(const StatusBarView&) = delete;
@@ -35,17 +37,17 @@ private:
     void Refresh();
     void ShowPointer(bool bWait);
 
+    MainWindow& m_main;
     StatusBar& m_model;
     std::array<ElidedLabel*, 5> m_panels{};
     QStackedWidget* m_place;
     ElidedLabel* m_sent;
     ElidedLabel* m_packet;
-    QProgressBar* m_progress;
-    QTimer m_refreshTimer, m_tipTimer;
-    std::function<void()> m_workTipsOut;
+    PlayerBar* m_player;
+    QTimer m_refreshTimer, m_tipTimer; // Tips tell ages: they are worked out once a second while the bar is seen.
     QElapsedTimer m_sinceRepaint;
     bool m_bWaitShown = false;
-    Subscription m_subscription;
+    Subscription m_subscription, m_replaySubscription;
 };
 
 } // namespace ruvenmark

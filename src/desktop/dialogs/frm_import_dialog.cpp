@@ -5,6 +5,7 @@
 #include "desktop/named_control.h"
 #include "links/import_form.h"
 #include "links/import_form_rules.h"
+#include "links/replay.h"
 #include "platform/prompts.h"
 
 #include <QFormLayout>
@@ -19,14 +20,21 @@ FrmImportDialog::FrmImportDialog(ImportForm& form, IPrompts& prompts, QWidget* p
     setWindowTitle(QStringLiteral("Load"));
     auto* add = new QCheckBox(QStringLiteral("Create &map symbol for each report"), this);
     auto* show = new QCheckBox(QStringLiteral("&Show map symbol names"), this);
+    auto* speed = new QComboBox(this);
+    for (const ReplaySpeed& each : kReplaySpeeds)
+        speed->addItem(ForDisplay(each.caption));
+    speed->setToolTip(QStringLiteral("By the times that stand before the lines of the file, if there are any"));
     const DialogButtons buttons = MakeDialogButtons(*this, QStringLiteral("&Load"));
     const QString delayLabel = QStringLiteral("&Delay in milliseconds");
     NameControl(*m_delay, "txtDelay", delayLabel);
+    const QString speedLabel = QStringLiteral("S&peed");
+    NameControl(*speed, "cboSpeed", speedLabel);
     NameControl(*add, "chkAdd", add->text());
     NameControl(*show, "chkShow", show->text());
 
     auto* fields = new QFormLayout;
     fields->addRow(delayLabel, m_delay);
+    fields->addRow(speedLabel, speed);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(fields);
     layout->addWidget(add);
@@ -35,6 +43,7 @@ FrmImportDialog::FrmImportDialog(ImportForm& form, IPrompts& prompts, QWidget* p
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
     Bound().Bind(*m_delay, form.txtDelay);
+    Bound().Bind(*speed, form.cboSpeed);
     Bound().Bind(*add, form.chkAdd);
     Bound().Bind(*show, form.chkShow);
     m_delay->selectAll();

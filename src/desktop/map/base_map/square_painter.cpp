@@ -186,6 +186,12 @@ void SquarePainter::Finish(const QList<GroundSquare>& tiles)
 }
 
 // Only as many at a time as there are threads: what is no longer wanted is never begun.
+bool SquarePainter::IsReady() const
+{
+    return std::all_of(m_visible.begin(), m_visible.end(),
+                       [this](const GroundSquare& tile) { return m_ready.contains(tile); });
+}
+
 void SquarePainter::StartNext()
 {
     while (!m_wanted.isEmpty() && m_started.size() < m_pool.maxThreadCount()) {

@@ -49,6 +49,8 @@ public:
 
     // From the painter's origin on. Returns whether all of the view was ready; else Changed follows.
     bool Paint(QPainter& painter, const ViewFrame& frame, const How& how);
+    // Whether all of the last view is there.
+    bool IsReady() const;
 
 signals:
     void Changed(); // More of the last view can be painted.

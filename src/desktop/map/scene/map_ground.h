@@ -42,6 +42,8 @@ public:
     // Whether pictures from elsewhere are the ground of this style; they are never dark.
     bool ShowsTiles(std::int32_t style) const;
     QString Credits(std::int32_t style) const;
+    // Whether nothing more is to come for the last frame.
+    bool IsReady() const { return !m_tiles.IsBusy() && (!m_painter || m_painter->IsReady()); }
     MapTiles& Tiles() { return m_tiles; }
 
 signals:

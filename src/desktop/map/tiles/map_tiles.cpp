@@ -16,14 +16,15 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr int kServerMaxZoom = 19;
 constexpr int kMemoryKilobytes = 96 * 1024;
 constexpr qsizetype kMostAbsent = 100000;
 constexpr qsizetype kMostAttribution = 120; // Characters.
 
-QString ServerAttribution(const std::string& address)
+QString ServerAttribution(const TileChoice& choice)
 {
-    const QString host = QUrl(QString::fromStdString(address)).host();
+    if (!choice.credit.empty())
+        return ForDisplay(choice.credit);
+    const QString host = QUrl(QString::fromStdString(choice.where)).host();
     return host.endsWith(QStringLiteral("openstreetmap.org")) ? QStringLiteral("© OpenStreetMap contributors")
                                                               : QStringLiteral("Tiles: ") + host;
 }
@@ -105,8 +106,8 @@ void MapTiles::UseServer()
         return;
     }
     m_bUsable = true;
-    m_maxZoom = kServerMaxZoom;
-    m_attribution = ServerAttribution(m_choice.where);
+    m_maxZoom = m_choice.maxZoom;
+    m_attribution = ServerAttribution(m_choice).left(kMostAttribution);
     m_fetcher.SetAddress(QString::fromStdString(m_choice.where));
 }
 

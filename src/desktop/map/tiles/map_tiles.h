@@ -39,7 +39,8 @@ public:
     // What cannot be used shows no tiles and is told by ProblemFound, in part only later.
     void Choose(const TileChoice& choice);
     bool IsOn() const { return m_choice.kind != TileChoice::Kind::Off && m_bUsable; }
-    bool IsOpening() const { return m_bOpening; }                // What lies on this machine, in a thread.
+    bool IsOpening() const { return m_bOpening; } // What lies on this machine, in a thread.
+    bool IsBusy() const { return m_bOpening || !m_reading.isEmpty() || m_fetcher.IsBusy(); } // More may come soon.
     const QString& Attribution() const { return m_attribution; } // Plain text, to be shown with the tiles.
     int MaxZoom() const { return m_maxZoom; }
     // Why there are no tiles, or not all: one line for the operator. Empty while all is well.

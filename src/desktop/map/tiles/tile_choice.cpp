@@ -1,5 +1,6 @@
 #include "desktop/map/tiles/tile_choice.h"
 
+#include "map/tile_form_rules.h"
 #include "map/tile_settings.h"
 
 namespace ruvenmark {
@@ -7,9 +8,9 @@ namespace ruvenmark {
 TileChoice TileChoiceOf(const TileSettings& settings)
 {
     if (!settings.source.empty())
-        return {TileChoice::Kind::Local, settings.source};
+        return {TileChoice::Kind::Local, settings.source, {}};
     if (settings.bOnline)
-        return {TileChoice::Kind::Server, settings.urlTemplate};
+        return {TileChoice::Kind::Server, settings.urlTemplate, settings.credit, MaxZoomOfTiles(settings.urlTemplate)};
     return {};
 }
 

@@ -46,6 +46,14 @@ bool IsPicture(const QNetworkReply& reply)
 
 } // namespace
 
+QNetworkRequest TileRequest(const QUrl& address)
+{
+    QNetworkRequest request(address);
+    request.setRawHeader("User-Agent", Agent());
+    request.setRawHeader("Accept", "image/png, image/jpeg, image/webp");
+    return request;
+}
+
 TileFetcher::TileFetcher(std::chrono::milliseconds firstPause, QObject* parent)
     : QObject(parent), m_firstPause(firstPause), m_pause(firstPause)
 {
@@ -109,10 +117,7 @@ void TileFetcher::Pump()
 
 void TileFetcher::Begin(TileId tile)
 {
-    QNetworkRequest request(Address(m_address, tile));
-    request.setRawHeader("User-Agent", Agent());
-    request.setRawHeader("Accept", "image/png, image/jpeg, image/webp");
-    QNetworkReply* reply = m_network.get(request);
+    QNetworkReply* reply = m_network.get(TileRequest(Address(m_address, tile)));
     m_running.insert(tile, reply);
     connect(reply, &QNetworkReply::downloadProgress, this, [reply](qint64 received, qint64) {
         if (received > static_cast<qint64>(kMostTileBytes))

@@ -14,8 +14,13 @@
 #include <vector>
 
 class QNetworkReply;
+class QNetworkRequest;
+class QUrl;
 
 namespace ruvenmark {
+
+// As every request of this program for a tile: who asks, and for which pictures.
+QNetworkRequest TileRequest(const QUrl& address);
 
 // Fetches tiles from a server: two at once at most, those first that are wanted now, with growing pauses while the
 // server fails or refuses.
@@ -32,6 +37,8 @@ public:
     // In order of urgency; replaces what was wanted before and has not begun.
     void SetWanted(std::vector<TileId> wanted);
     bool IsRefused(TileId tile) const;
+    // Whether something is still under way; what waits behind a pause is not.
+    bool IsBusy() const { return !m_running.isEmpty(); }
     // The answer was no picture after all: as bad as an error.
     void Refuse(TileId tile);
 

@@ -37,6 +37,8 @@ public:
     const MapScene& Scene() const { return m_scene; }
     const Balloons& OpenBalloons() const { return m_balloons; }
     MapMover& Mover() { return m_mover; }
+    // Whether the last painting showed everything there is to show.
+    bool IsReady() const { return m_ground.IsReady() && !m_gather.isActive() && !m_mover.IsMoving(); }
     int Paints() const { return m_paints; }
 
     // As on the screen, at any size, without what belongs to the pointer.
