@@ -14,15 +14,15 @@ namespace ruvenmark {
 
 namespace {
 
-QLabel* MakeNote(QWidget& parent, const char* name, const QString& accessibleName)
+// Of so many lines, whatever it says: nothing below it moves.
+QLabel* MakeNote(QWidget& parent, const char* name, const QString& accessibleName, int lines)
 {
-    constexpr int kLines = 2;
     auto* note = new QLabel(&parent);
     note->setTextFormat(Qt::PlainText);
     note->setWordWrap(true);
     note->setTextInteractionFlags(Qt::TextSelectableByMouse);
     note->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    note->setMinimumHeight(kLines * note->fontMetrics().lineSpacing());
+    note->setFixedHeight(lines * note->fontMetrics().lineSpacing());
     NameControl(*note, name, accessibleName);
     return note;
 }
@@ -45,8 +45,8 @@ FrmTilesDialog::FrmTilesDialog(MainWindow& main, QWidget* parent) : FormDialog(p
     auto* online = new QCheckBox(QStringLiteral("Show these &tiles"), this);
     auto* test = new QPushButton(QStringLiteral("T&est"), this);
     test->setAutoDefault(false);
-    QLabel* policy = MakeNote(*this, "lblPolicy", QStringLiteral("About this server"));
-    QLabel* result = MakeNote(*this, "lblResult", QStringLiteral("Result of the test"));
+    QLabel* policy = MakeNote(*this, "lblPolicy", QStringLiteral("About this server"), 3);
+    QLabel* result = MakeNote(*this, "lblResult", QStringLiteral("Result of the test"), 2);
     NameControl(*server, "cboServer", QStringLiteral("Server"));
     NameControl(*url, "txtUrl", QStringLiteral("Address"));
     NameControl(*credit, "txtCredit", QStringLiteral("Credit on the map"));
@@ -66,6 +66,7 @@ FrmTilesDialog::FrmTilesDialog(MainWindow& main, QWidget* parent) : FormDialog(p
     fields->addRow(QString(), online);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(fields);
+    layout->addStretch();
     layout->addLayout(buttons.row);
 
     Bound().Bind(*server, form.cboServer);

@@ -5,6 +5,7 @@
 #include "links/station_files.h"
 #include "links/weather_link.h"
 #include "map/find.h"
+#include "map/tile_form_rules.h"
 #include "options/options_rules.h"
 #include "tracking/filter_form_rules.h"
 #include "tracking/track_list_form_rules.h"
@@ -333,6 +334,29 @@ TEST_F(DialogsTest, AboutOpensAndCloses)
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
     program.Action("mnuHelpAbout").trigger();
+}
+
+TEST_F(DialogsTest, TheTileServerIsChosenTestedAndRefusedWhereItIsNone)
+{
+    WhenModal([&](QDialog& dialog) {
+        ExpectAccessible(dialog);
+        auto& server = program.Find<QComboBox>("cboServer", &dialog);
+        server.setCurrentIndex(1);
+        emit server.activated(1);
+        EXPECT_EQ(program.Find<QLineEdit>("txtUrl", &dialog).text().toStdString(), kTileServers[1].url);
+        Button(dialog, "btnTest").click();
+        ASSERT_TRUE(program.desktop.takePicture);
+        program.desktop.takePicture({200, "", 1234, 256, 256});
+        EXPECT_TRUE(program.Find<QLabel>("lblResult", &dialog).text().contains(QLatin1String("256 x 256")));
+        Type(dialog, "txtUrl", "https://tiles.example/");
+        EXPECT_EQ(server.currentIndex(), -1);
+        Button(dialog, "OK").click();
+        EXPECT_TRUE(dialog.isVisible());
+        Type(dialog, "txtUrl", "https://tiles.example/{z}/{x}/{y}");
+        Button(dialog, "OK").click();
+    });
+    mnuTileServer_Click(program.main);
+    EXPECT_EQ(program.main.map.tiles.urlTemplate, "https://tiles.example/{z}/{x}/{y}");
 }
 
 } // namespace

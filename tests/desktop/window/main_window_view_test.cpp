@@ -6,11 +6,13 @@
 #include "window_program.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QProgressBar>
 #include <QTextBrowser>
 #include <QUrl>
 
@@ -243,6 +245,36 @@ TEST(MainWindowViewTest, ProgressTakesThePlaceOfThePacketLine)
     EXPECT_TRUE(QTest::qWaitFor([&] { return bar.isVisible() && !packet.isVisible(); }));
     program.main.sbStatusBar.HideProgress();
     EXPECT_TRUE(QTest::qWaitFor([&] { return packet.isVisible() && !bar.isVisible(); }));
+}
+
+// The times of the log never come: the clock stands still. So everything below happens while the second line waits.
+TEST(MainWindowViewTest, ThePlayerPausesJumpsAndStops)
+{
+    WindowProgram program;
+    for (int i = 0; i < 10; ++i)
+        program.files.texts["/day.txt"] += "10:0" + std::to_string(i) + ":00 " + ManyLines(1);
+    auto& pause = program.Find<QAbstractButton>("btnPause");
+    auto& bar = program.Find<QProgressBar>("pbProgress");
+    auto& speed = program.Find<QComboBox>("cboReplaySpeed");
+    program.main.frmImport.speed = 1;
+    QTimer::singleShot(0, &program.window, [&] {
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return pause.isVisible() && bar.text().contains(QLatin1String("10:01:00")); }));
+        EXPECT_EQ(speed.currentText(), QStringLiteral("1x"));
+        pause.click();
+        EXPECT_TRUE(program.main.replay.bPaused);
+        QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(bar.width() / 2, bar.height() / 2));
+        EXPECT_EQ(program.main.replay.jumpTo, 50);
+        speed.setCurrentIndex(0);
+        emit speed.activated(0);
+        EXPECT_EQ(program.main.frmImport.speed, 0);
+        program.Find<QAbstractButton>("btnStop").click();
+    });
+    program.window.LoadFile(std::string("/day.txt"));
+    EXPECT_FALSE(program.main.links.FileLoading);
+    EXPECT_EQ(program.sources.Counts().decoded, 1U);
+    program.main.sbStatusBar.ShowProgress(); // Of a walk: it has nothing to pause.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return bar.isVisible() && !pause.isVisible(); }));
 }
 
 TEST(MainWindowViewTest, HostileNamesAreShownPlainAndBreakNoRow)

@@ -1,3 +1,4 @@
+#include "../map/tiles/tile_server.h"
 #include "desktop/adapters/qt_desktop.h"
 #include "desktop/adapters/qt_prompts.h"
 #include "desktop/map/widget/map_widget.h"
@@ -85,6 +86,36 @@ TEST(QtDesktopTest, PrintingAsksFirstAndFillsThePage)
 
     desktop.CopyMapPicture();
     EXPECT_EQ(QGuiApplication::clipboard()->image().size(), program.window.Map().size());
+}
+
+TEST(QtDesktopTest, APictureIsFetchedOnceAndWhatCameIsTold)
+{
+    QtDesktop desktop;
+    TileServer server;
+    const std::string address = QStringLiteral("http://127.0.0.1:%1/1/2/3.png").arg(server.serverPort()).toStdString();
+    std::vector<FetchedPicture> came;
+    const auto take = [&](const FetchedPicture& picture) { came.push_back(picture); };
+    server.bHold = true;
+    desktop.FetchPicture(address, take);
+    desktop.FetchPicture(address, take); // The former one is given up.
+    server.bHold = false;
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        server.Release();
+        return !came.empty();
+    }));
+    ASSERT_EQ(came.size(), 1U);
+    EXPECT_EQ(came[0].status, 200);
+    EXPECT_EQ(came[0].width, 256);
+    server.answer = [](const QString&) { return TileServer::Answer{403, "no", "text/plain"}; };
+    desktop.FetchPicture(address, take);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return came.size() == 2; }));
+    EXPECT_EQ(came.back().status, 403);
+    EXPECT_EQ(came.back().width, 0);
+    server.close();
+    desktop.FetchPicture(address, take);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return came.size() == 3; }));
+    EXPECT_EQ(came.back().status, 0);
+    EXPECT_NE(came.back().problem, "");
 }
 
 } // namespace
