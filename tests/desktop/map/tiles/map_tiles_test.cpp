@@ -67,6 +67,25 @@ TEST_F(MapTilesTest, AsksNothingBeforeItIsSwitchedOnAndNothingAfterwards)
     EXPECT_EQ(tiles.Find({1, 1, 0}), nullptr);
 }
 
+// A picture of the window is taken when nothing more comes: one too early would lack tiles.
+TEST_F(MapTilesTest, IsBusyUntilEveryTileIsThereAndNotOverAServerThatFails)
+{
+    MapTiles tiles(OptionsHere());
+    tiles.Choose({Kind::Server, server.Template().toStdString(), "Somebody", 5});
+    EXPECT_EQ(tiles.Attribution(), QStringLiteral("Somebody"));
+    EXPECT_EQ(tiles.MaxZoom(), 5);
+    EXPECT_FALSE(tiles.IsBusy());
+    const std::vector<TileId> wanted{{3, 0, 0}, {3, 1, 0}, {3, 2, 0}, {3, 3, 0}, {3, 4, 0}};
+    tiles.Want(wanted);
+    EXPECT_TRUE(tiles.IsBusy());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !tiles.IsBusy(); }));
+    for (const TileId tile : wanted)
+        EXPECT_NE(tiles.Find(tile), nullptr);
+    server.answer = [](const QString&) { return TileServer::Answer{503, {}}; };
+    tiles.Want({{3, 5, 0}});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !tiles.IsBusy(); }));
+}
+
 TEST_F(MapTilesTest, TwoRequestsAtOnceAndOnlyForWhatIsStillWanted)
 {
     MapTiles tiles(OptionsHere());
