@@ -14,16 +14,9 @@ namespace {
 
 constexpr std::string_view kNoAddress = "The address needs http or https, a host, and {z}, {x} and {y} behind it.";
 
-std::int32_t ServerOf(std::string_view url)
-{
-    const auto* found = std::find_if(kTileServers.begin(), kTileServers.end(),
-                                     [&](const TileServer& server) { return server.url == url; });
-    return found == kTileServers.end() ? -1 : static_cast<std::int32_t>(found - kTileServers.begin());
-}
-
 void ShowServer(TileForm& form)
 {
-    form.cboServer = ServerOf(form.txtUrl);
+    form.cboServer = TileServerOf(form.txtUrl);
     form.lblPolicy =
         form.cboServer < 0 ? "" : std::string(kTileServers[static_cast<std::size_t>(form.cboServer)].policy);
 }
@@ -51,12 +44,6 @@ std::string AddressInView(const MainWindow& main, std::string url)
 
 } // namespace
 
-std::int32_t MaxZoomOfTiles(std::string_view url)
-{
-    const std::int32_t server = ServerOf(url);
-    return server < 0 ? kMostTileZoom : kTileServers[static_cast<std::size_t>(server)].maxZoom;
-}
-
 void frmTiles_Load(TileForm& form, const TileSettings& tiles)
 {
     form = {};
@@ -72,7 +59,7 @@ void frmTiles_cboServer_Click(TileForm& form)
 {
     if (form.cboServer < 0 || static_cast<std::size_t>(form.cboServer) >= kTileServers.size())
         return;
-    const TileServer& server = kTileServers[static_cast<std::size_t>(form.cboServer)];
+    const KnownTileServer& server = kTileServers[static_cast<std::size_t>(form.cboServer)];
     form.txtUrl = server.url;
     form.txtCredit = server.credit;
     form.lblPolicy = server.policy;

@@ -35,7 +35,7 @@ FrmTilesDialog::FrmTilesDialog(MainWindow& main, QWidget* parent) : FormDialog(p
     TileForm& form = main.frmTiles;
     setWindowTitle(QStringLiteral("Tile Server"));
     auto* server = new QComboBox(this);
-    for (const TileServer& each : kTileServers)
+    for (const KnownTileServer& each : kTileServers)
         server->addItem(ForDisplay(each.name));
     server->setPlaceholderText(QStringLiteral("Another server"));
     auto* url = new QLineEdit(this);

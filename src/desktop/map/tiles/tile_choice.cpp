@@ -1,6 +1,6 @@
 #include "desktop/map/tiles/tile_choice.h"
 
-#include "map/tile_form_rules.h"
+#include "map/tile_servers.h"
 #include "map/tile_settings.h"
 
 namespace ruvenmark {
