@@ -75,7 +75,7 @@ StatusBarView::~StatusBarView()
 void StatusBarView::showEvent(QShowEvent* event)
 {
     QStatusBar::showEvent(event);
-    m_workTipsOut();
+    ShowLinkStatus(m_main);
     m_tipTimer.start();
 }
 
