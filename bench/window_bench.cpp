@@ -14,8 +14,10 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QScrollBar>
+#include <QTableView>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdio>
 #include <random>
 #include <string>
@@ -80,6 +82,49 @@ void MeasureTree(Program& program)
     std::printf(", search in vain %.1f ms\n", static_cast<double>(timer.nsecsElapsed()) / 1e6);
 }
 
+// What a person would feel: the longest that the window stands still while the list is opened, while reports come in
+// and while it is sorted, and the longest that the map takes to paint meanwhile.
+void MeasureStationList(Program& program)
+{
+    const auto settle = [](int milliseconds) {
+        double worst = 0;
+        QElapsedTimer whole;
+        whole.start();
+        while (whole.elapsed() < milliseconds) {
+            const double before = CpuSeconds();
+            QCoreApplication::processEvents();
+            worst = std::max(worst, (CpuSeconds() - before) * 1000);
+        }
+        return worst;
+    };
+    settle(1000);
+    const double begun = CpuSeconds();
+    program.window.Run(MenuEntry::mnuViewStations);
+    const double opened = (CpuSeconds() - begun) * 1000, filled = settle(3000);
+    double reports = 0, maps = 0;
+    const auto source = program.machine.sources.CreateFile(*program.main.links.sinks[Index(Channel::FL)]);
+    for (int i = 0; i < 200; ++i) {
+        for (int j = 0; j < 50; ++j)
+            source->ParseLine(CallOf((i * 50 + j) * 7) + ">APRS,WIDE1-1:!" +
+                              packet_text::PlainPosition({40.0 + j * 0.01, -90.0 - i * 0.01}, "/>") + "moved");
+        reports = std::max(reports, settle(20));
+        if (i % 10 == 0) {
+            const double before = CpuSeconds();
+            program.window.Map().repaint();
+            maps = std::max(maps, (CpuSeconds() - before) * 1000);
+        }
+    }
+    auto* table = program.window.findChild<QTableView*>(QStringLiteral("lvStations"));
+    const double before = CpuSeconds();
+    table->sortByColumn(8, Qt::DescendingOrder);
+    const double sorted = (CpuSeconds() - before) * 1000;
+    std::printf(
+        "station list of %d rows: opened in %.1f ms, then at most %.1f ms at once, %.1f ms while 50 reports come "
+        "20 ms apart, map frame at most %.1f ms, sorted in %.1f ms\n",
+        table->model()->rowCount(), opened, filled, reports, maps, sorted);
+    program.window.Run(MenuEntry::mnuViewStations);
+}
+
 void MeasureIdle()
 {
     constexpr int kSettleMs = 1000, kMs = 3000;
@@ -111,6 +156,7 @@ int main(int argc, char** argv)
     MeasureReplay(program, folder, 100000, 10000, true);
     MeasureReplay(program, folder, 100001, 100000, true);
     MeasureTree(program);
+    MeasureStationList(program);
     MeasureIdle();
     return 0;
 }

@@ -18,6 +18,7 @@
 #include "desktop/screenshot.h"
 #include "desktop/termination.h"
 #include "desktop/theme.h"
+#include "desktop/toolkit_messages.h"
 #include "devices/gps_server.h"
 #include "devices/report_sources.h"
 #include "devices/weather_server.h"
@@ -28,6 +29,7 @@
 #include "platform/program_name.h"
 #include "platform/text.h"
 #include "ports/qt_byte_links.h"
+#include "ui/opened_file.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -170,8 +172,11 @@ bool StartsBeside(DesktopRun& run)
 int RunDesktop(int argc, char** argv, const ProgramOptions& options)
 {
     PosixFiles files;
-    std::unique_ptr<IByteStream> load = OpenLoad(files, options);
+    const FileContent content = options.loadFile ? ContentOf(files, *options.loadFile) : FileContent::Packets;
+    std::unique_ptr<IByteStream> load = content == FileContent::Packets ? OpenLoad(files, options) : nullptr;
     SetEnvironment(options);
+    KeepToolkitQuiet();
+    RequireDisplay();
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("ruvenmark"));
     QApplication::setDesktopFileName(QStringLiteral("org.ruvenmark.Ruvenmark"));
@@ -183,6 +188,8 @@ int RunDesktop(int argc, char** argv, const ProgramOptions& options)
     if (!StartsBeside(run))
         return kEndedWell;
     StartMainWindow(run.main, options.screenshot ? AutoConnect::No : AutoConnect::Yes);
+    if (options.loadFile)
+        OpenContent(run.main, content, *options.loadFile);
     if (options.screenshot) {
         TakeScreenshot(run, options, load.get());
         return kEndedWell;

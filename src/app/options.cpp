@@ -134,8 +134,7 @@ void ReadScale(ProgramOptions& options, const std::string& option, std::string_v
 void ReadTrack(ProgramOptions& options, const std::string& /*option*/, std::string_view value)
 {
     for (const std::string_view call : Split(value, ',')) {
-        options.track += options.track.empty() ? "" : " ";
-        options.track += TrackKey(call);
+        AppendTrackCall(options.track, call);
     }
 }
 

@@ -4,6 +4,7 @@
 #include "contracts/report_source.h"
 #include "contracts/weather_server.h"
 #include "core/channel.h"
+#include "platform/event.h"
 
 #include <array>
 #include <cstdint>
@@ -32,7 +33,9 @@ struct LinkState {
     bool bGpsConnected = false;
     bool bWxConnected = false;
     bool FileLoading = false;
-    std::int16_t ReconnectCount = 0; // Connections lost since the operator or the start connected.
+    std::uint64_t FileLines = 0, FileRefused = 0; // Of the load that runs, or ran last: parsed, and no packets.
+    Event<> LoadEnded;                            // Of a file, at its end or before.
+    std::int16_t ReconnectCount = 0;              // Connections lost since the operator or the start connected.
 
     IReportSink& SinkOf(Channel channel) { return *sinks[Index(channel)]; }
     bool IsOnAir() const { return bSerialConnected || bSocketConnected; }

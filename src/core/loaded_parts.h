@@ -20,7 +20,8 @@ enum class Part : std::uint8_t {
     TrackLists,
     MessageBoxes,
     FileLoad,
-    Tiles
+    Tiles,
+    View // What the window shows around the map, and how the map looks.
 };
 
 class LoadedParts {
@@ -29,7 +30,7 @@ public:
     void Add(Part part) { m_parts.set(static_cast<std::size_t>(part)); }
 
 private:
-    std::bitset<static_cast<std::size_t>(Part::Tiles) + 1> m_parts;
+    std::bitset<static_cast<std::size_t>(Part::View) + 1> m_parts;
 };
 
 } // namespace ruvenmark

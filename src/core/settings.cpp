@@ -137,6 +137,18 @@ constexpr std::array kSettings = {
     SettingInfo{S::TileURL, "TileURL", K::Text, "https://tile.openstreetmap.org/{z}/{x}/{y}.png"},
     SettingInfo{S::TileSource, "TileSource", K::Text, ""},
     SettingInfo{S::TileCredit, "TileCredit", K::Text, ""},
+    SettingInfo{S::ShowToolBar, "ShowToolBar", K::Flag, "True"},
+    SettingInfo{S::ShowStatusBar, "ShowStatusBar", K::Flag, "True"},
+    SettingInfo{S::ShowStationList, "ShowStationList", K::Flag, "False"},
+    SettingInfo{S::MapStyle, "MapStyle", K::Int16, "0"},
+    SettingInfo{S::MapFont, "MapFont", K::Int16, "2"},
+    SettingInfo{S::StandardToolbar, "StandardToolbar", K::Flag, "False"},
+    SettingInfo{S::NavigationToolbar, "NavigationToolbar", K::Flag, "True"},
+    SettingInfo{S::DrawingToolbar, "DrawingToolbar", K::Flag, "True"},
+    SettingInfo{S::LocationScaleToolbar, "LocationScaleToolbar", K::Flag, "False"},
+    SettingInfo{S::MapLat, "MapLat", K::Text, ""},
+    SettingInfo{S::MapLon, "MapLon", K::Text, ""},
+    SettingInfo{S::MapZoom, "MapZoom", K::Text, ""},
 };
 
 constexpr bool StandInOrder()

@@ -142,9 +142,22 @@ enum class Setting : std::uint8_t {
     OnlineTiles,
     TileURL,
     TileSource,
-    TileCredit
+    TileCredit,
+
+    ShowToolBar,
+    ShowStatusBar,
+    ShowStationList,
+    MapStyle,
+    MapFont,
+    StandardToolbar,
+    NavigationToolbar,
+    DrawingToolbar,
+    LocationScaleToolbar,
+    MapLat,
+    MapLon,
+    MapZoom
 };
-inline constexpr std::size_t kSettingCount = static_cast<std::size_t>(Setting::TileCredit) + 1;
+inline constexpr std::size_t kSettingCount = static_cast<std::size_t>(Setting::MapZoom) + 1;
 inline constexpr std::size_t kKeptSettingCount = static_cast<std::size_t>(Setting::DestLon) + 1;
 
 // The setting so many places behind another one in the list.

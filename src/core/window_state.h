@@ -24,6 +24,8 @@ struct WindowState {
     bool bToolBar = true;
     bool bStatusBar = true;
     bool bFullScreen = false;
+    bool bStationList = false;
+    bool bTreeFocus = false;          // The keys go to the station tree: the edit commands act on its selected node.
     bool bStationTreeVisible = false; // Hidden while it is built.
     RightView rightView = RightView::Map;
     LeftTree leftTree = LeftTree::Stations;

@@ -9,10 +9,12 @@
 #include "desktop/map/widget/map_widget.h"
 #include "desktop/named_control.h"
 #include "desktop/panes/help_view.h"
+#include "desktop/panes/map_hint.h"
 #include "desktop/panes/map_pane.h"
 #include "desktop/panes/message_panes.h"
 #include "desktop/panes/panes.h"
 #include "desktop/shown_text.h"
+#include "desktop/stations/station_dock.h"
 #include "desktop/tree/tree_model.h"
 #include "desktop/tree/tree_view.h"
 #include "lifecycle/stop.h"
@@ -20,16 +22,14 @@
 #include "map/pointer_tools.h"
 #include "ui/layout.h"
 #include "ui/station_tree_commands.h"
+#include "ui/tree_keys.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QCloseEvent>
-#include <QFile>
 #include <QMenu>
 #include <QMenuBar>
-#include <QMimeData>
 #include <QStackedWidget>
-#include <QUrl>
 
 namespace ruvenmark {
 
@@ -37,13 +37,6 @@ namespace {
 
 constexpr int kStateIntervalMs = 100;
 constexpr int kPointerIntervalMs = 40;
-
-// The one local file that a drag holds; empty for any other drag.
-QString DraggedFile(const QMimeData& data)
-{
-    const QList<QUrl> urls = data.urls();
-    return urls.size() == 1 && urls.constFirst().isLocalFile() ? urls.constFirst().toLocalFile() : QString();
-}
 
 } // namespace
 
@@ -65,7 +58,7 @@ MainWindowView::MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* 
     m_left->addWidget(m_tree);
     MakeRightPane(base);
     m_menus.Fill(*menuBar());
-    m_panes->SetControls({m_toolBar, m_left, m_right, m_statusBar});
+    m_panes->SetControls({m_toolBar, m_left, MakeStationDock(), m_statusBar});
     setCentralWidget(m_panes);
     ConnectMap();
     ConnectTree();
@@ -82,13 +75,18 @@ MainWindowView::MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* 
     ShowState();
 }
 
-MainWindowView::~MainWindowView() = default;
+// The tree loses the keys when it is taken apart: what it would tell then has no one to hear it.
+MainWindowView::~MainWindowView()
+{
+    m_tree->disconnect(this);
+}
 
 void MainWindowView::MakeRightPane(const BaseMap* base)
 {
     m_map = new MapWidget(m_main.mpCtrl, m_icons, base, m_main.map.Selection, this);
     m_map->setObjectName(QStringLiteral("mpCtrl"));
     m_map->setAccessibleName(QStringLiteral("Map"));
+    m_hint = new MapHint(*m_map);
     m_mapPane = new MapPane(
         m_main, m_icons, [this](MenuEntry entry) { Run(entry); }, *m_map, m_right);
     m_help = new HelpView(m_main.services.desktop, m_right);
@@ -120,6 +118,11 @@ void MainWindowView::ConnectTree()
         if (const auto popup = tvStationList_MouseUp(m_main, kRightButton, node))
             PopUp(place, popup->items);
     });
+    connect(m_tree, &TreeView::ShowWanted, this, [this] { RunLogic([this] { ShowSelectedNode(m_main); }); });
+    connect(m_tree, &TreeView::FocusMoved, this, [this](bool bHere) {
+        m_main.window.bTreeFocus = bHere;
+        m_stateTimer.start();
+    });
     connect(m_tree, &TreeView::NodeExpanded, this, [this](TreeNode* node) { tvStationList_Expand(m_main, *node); });
 }
 
@@ -143,6 +146,12 @@ void MainWindowView::Observe()
         }),
         m_main.map.DirectionsChanged.Observe(refreshLater),
         m_main.map.TilesChanged.Observe([this] { ShowTiles(); }),
+        m_main.links.LoadEnded.Observe([this] { OfferStations(); }),
+        // A flag's cost while nothing of the first steps shows.
+        m_main.tvStationList.Inserted.Observe([this](const TreeNode&) {
+            if (m_bFirstSteps)
+                ShowFirstSteps();
+        }),
         m_main.map.SelectionChanged.Observe([this, refreshLater] {
             m_map->update();
             refreshLater();
@@ -163,12 +172,14 @@ void MainWindowView::ShowState()
     m_left->setCurrentWidget(window.leftTree == LeftTree::Messages ? m_messages->Boxes() : m_tree);
     for (QStackedWidget* stack : {m_left, m_right})
         stack->setFocusProxy(stack->currentWidget());
+    m_stations->ApplyState();
     m_placement.Apply();
     m_panes->ApplyLayout();
 }
 
 void MainWindowView::RefreshStates()
 {
+    ShowFirstSteps();
     m_toolBar->RefreshStates();
     m_mapPane->RefreshStates();
 }
@@ -200,8 +211,13 @@ void MainWindowView::ShowInTree(const TreeNode& node)
 
 void MainWindowView::Run(MenuEntry entry)
 {
+    RunLogic([&] { RunMenuEntry(m_main, entry); });
+}
+
+void MainWindowView::RunLogic(const std::function<void()>& work)
+{
     ++m_running;
-    RunMenuEntry(m_main, entry);
+    work();
     --m_running;
     AfterCommand();
 }
@@ -218,12 +234,8 @@ void MainWindowView::LoadFile(IByteStream& bytes)
 
 void MainWindowView::RunLoad(const std::function<void()>& load)
 {
-    if (m_main.links.FileLoading)
-        return;
-    ++m_running;
-    load();
-    --m_running;
-    AfterCommand();
+    if (!m_main.links.FileLoading)
+        RunLogic(load);
 }
 
 void MainWindowView::AfterCommand()
@@ -259,10 +271,15 @@ void MainWindowView::CloseUnasked()
     QTimer::singleShot(0, this, &MainWindowView::CloseUnasked);
 }
 
-// A command that stands on the stack below, such as a load, is ended first, and the window closes when it is gone.
+// A command that stands on the stack below, such as a load, is ended first, and the window closes when it is gone. A
+// load goes on unless the operator wants it to end.
 void MainWindowView::closeEvent(QCloseEvent* event)
 {
     if (m_running > 0) {
+        if (m_main.links.FileLoading && !m_bUnasked && !m_bCloseWanted && !MayEndLoad()) {
+            event->ignore();
+            return;
+        }
         m_main.links.FileLoading = false;
         m_bCloseWanted = true;
         event->ignore();
@@ -277,18 +294,15 @@ void MainWindowView::closeEvent(QCloseEvent* event)
         QTimer::singleShot(0, this, &QWidget::close);
 }
 
-void MainWindowView::dragEnterEvent(QDragEnterEvent* event)
+// The load goes on meanwhile; it may have come to its end, or the end of the program may be ordered, by the answer.
+bool MainWindowView::MayEndLoad()
 {
-    if (!m_main.links.FileLoading && !DraggedFile(*event->mimeData()).isEmpty())
-        event->acceptProposedAction();
-}
-
-void MainWindowView::dropEvent(QDropEvent* event)
-{
-    const QString file = DraggedFile(*event->mimeData());
-    event->acceptProposedAction();
-    // The program that the file was dragged from must not wait for the load.
-    QTimer::singleShot(0, this, [this, path = QFile::encodeName(file).toStdString()] { LoadFile(path); });
+    if (m_bAsking)
+        return false;
+    m_bAsking = true;
+    const bool bYes = m_main.services.prompts.AskYesNo("A file is being loaded. Do you want to stop it and close?");
+    m_bAsking = false;
+    return bYes || m_bUnasked;
 }
 
 void MainWindowView::moveEvent(QMoveEvent* event)

@@ -20,10 +20,12 @@ class HelpView;
 class IByteStream;
 class IconSet;
 class MainToolBar;
+class MapHint;
 class MapPane;
 class MapWidget;
 class MessagePanes;
 class Panes;
+class StationDock;
 class StatusBarView;
 class TreeModel;
 class TreeNode;
@@ -48,6 +50,8 @@ public:
     // Runs a command of the menus. A load runs inside it.
     void Run(MenuEntry entry);
     void LoadFile(const std::string& path);
+    // Packets, a map or tiles, as its content says.
+    void OpenFile(const std::string& path);
     void LoadFile(IByteStream& bytes); // Opened before.
 
 protected:
@@ -62,6 +66,10 @@ private:
     void MakeRightPane(const BaseMap* base);
     void ConnectMap();
     void ConnectTree();
+    QWidget* MakeStationDock();
+    void ShowFirstSteps();
+    void OfferStations();
+    void RunLogic(const std::function<void()>& work);
     void Observe();
     void ShowState();
     void RefreshStates();
@@ -70,6 +78,7 @@ private:
     void PopUp(QPoint place, const std::vector<MenuItem>& items);
     void RunLoad(const std::function<void()>& load);
     void AfterCommand();
+    bool MayEndLoad();
 
     MainWindow& m_main;
     IconSet& m_icons;
@@ -83,10 +92,14 @@ private:
     MapPane* m_mapPane = nullptr;
     HelpView* m_help = nullptr;
     MessagePanes* m_messages = nullptr;
+    MapHint* m_hint = nullptr;
+    StationDock* m_stations = nullptr;
+    bool m_bFirstSteps = false; // The hint tells them.
     Panes* m_panes;
     WindowPlacement m_placement;
     QTimer m_stateTimer, m_pointerTimer;
     int m_running = 0;           // Commands on the stack: a load lets others in.
+    bool m_bAsking = false;      // Whether a load may be ended.
     bool m_bUnasked = false;     // Nobody is there to answer a box.
     bool m_bCloseWanted = false; // As soon as the load has ended.
     std::vector<Subscription> m_subscriptions;

@@ -12,6 +12,7 @@
 #include <cstdint>
 #include <limits>
 #include <string>
+#include <vector>
 
 namespace ruvenmark {
 
@@ -183,9 +184,18 @@ void ClearChannelReports(MainWindow& main, Channel channel)
     TreeNode* root = tree.Find(Traits(channel).word);
     if (!root)
         return;
+    std::vector<std::string> open; // Folders are open again as they were.
+    for (const auto& folder : root->Children())
+        if (folder->IsExpanded())
+            open.push_back(folder->Word());
+    const bool bOpen = root->IsExpanded();
     while (!root->Children().empty())
         tree.Remove(*root->Children().back());
     AddFolders(tree, channel, *root);
+    tree.SetExpanded(*root, bOpen);
+    for (const std::string& word : open)
+        if (TreeNode* folder = tree.Find(*root, word))
+            tree.SetExpanded(*folder, true);
     tree.SetText(*root, Traits(channel).rootText);
 }
 

@@ -11,6 +11,7 @@
 #include "messaging/message_files.h"
 #include "tracking/filters.h"
 #include "tracking/track_lists.h"
+#include "ui/view_settings.h"
 
 #include <array>
 #include <string>
@@ -105,6 +106,7 @@ constexpr std::array kParts = {
     PartInfo{Part::MessageBoxes, "The messages", LoadMessageBoxes, SaveMessageBoxes},
     PartInfo{Part::FileLoad, "The settings of file loads", LoadImportSettings, SaveImportSettings},
     PartInfo{Part::Tiles, "The settings of tiles", LoadTileSettings, SaveTileSettings},
+    PartInfo{Part::View, "The settings of the window", LoadViewSettings, SaveViewSettings},
 };
 
 constexpr bool StandInOrder()
@@ -114,7 +116,7 @@ constexpr bool StandInOrder()
             return false;
     return true;
 }
-static_assert(StandInOrder() && kParts.size() == static_cast<std::size_t>(Part::Tiles) + 1);
+static_assert(StandInOrder() && kParts.size() == static_cast<std::size_t>(Part::View) + 1);
 
 } // namespace
 

@@ -19,7 +19,12 @@ public:
     ReportSink(MainWindow& main, Channel channel) : m_main(main), m_channel(channel) {}
 
     void ReportPos(const PosReport& report) override { aprs_ReportPos(m_main, m_channel, report); }
-    void ReportPacket(std::string_view packet) override { aprs_ReportPacket(m_main, m_channel, packet); }
+    void ReportPacket(std::string_view packet) override
+    {
+        if (m_channel == Channel::FL)
+            ++m_main.links.FileRefused;
+        aprs_ReportPacket(m_main, m_channel, packet);
+    }
     void ReportTime(const TimeReport& report) override { aprs_ReportTime(m_main, m_channel, report); }
     void ReportDataExt(const DataExtReport& report) override { aprs_ReportDataExt(m_main, m_channel, report); }
     void ReportPosExt(const PosExtReport& report) override { aprs_ReportPosExt(m_main, m_channel, report); }

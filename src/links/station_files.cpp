@@ -3,6 +3,7 @@
 #include "core/main_window.h"
 #include "intake/station_store.h"
 #include "links/import_form_rules.h"
+#include "links/load_summary.h"
 #include "links/replay.h"
 #include "platform/failure.h"
 #include "platform/line_stream.h"
@@ -100,6 +101,7 @@ void ReplayLines(MainWindow& main, IByteStream& bytes)
         pace.Await(Trim(lines.Line()));
         if (!main.links.FileLoading || !main.links.aprsfl)
             break;
+        ++main.links.FileLines;
         main.links.aprsfl->ParseLine(Trim(lines.Line()));
         bMore = NextLine(main, lines);
         if (i == 0 && lines.IsAtEnd())
@@ -113,17 +115,40 @@ void ReplayLines(MainWindow& main, IByteStream& bytes)
     }
 }
 
+// Why it failed; empty where all is well.
+std::string ReasonOfFailure(MainWindow& main, const std::function<void()>& replay)
+{
+    std::string reason;
+    Attempt(main.abandoned, "LoadStationFile", [&] {
+        try {
+            replay();
+        } catch (const Failure& failure) {
+            reason = failure.what();
+            throw;
+        }
+    });
+    return reason;
+}
+
 void Load(MainWindow& main, const std::function<void()>& replay)
 {
+    constexpr std::string_view kRoot = Traits(Channel::FL).word;
     // A root that stands from an earlier load stays, with all it holds.
-    if (!main.tvStationList.Find(Traits(Channel::FL).word))
+    if (!main.tvStationList.Find(kRoot))
         AddChannelTree(main.tvStationList, Channel::FL);
-    const bool bWhole = Attempt(main.abandoned, "LoadStationFile", replay);
+    main.links.FileLines = main.links.FileRefused = 0;
+    main.sbStatusBar.SetNotice({});
+    const std::string reason = ReasonOfFailure(main, replay);
+    const bool bStopped = reason.empty() && !main.links.FileLoading;
     main.links.aprsfl.reset();
     main.links.FileLoading = false;
     main.sbStatusBar.SetProgress(0);
     main.sbStatusBar.HideProgress();
-    if (!bWhole)
+    if (TreeNode* root = main.tvStationList.Find(kRoot)) // It may have been unloaded meanwhile.
+        main.tvStationList.SetExpanded(*root, true);
+    main.links.LoadEnded.Raise();
+    TellLoaded(main, bStopped, reason);
+    if (!reason.empty())
         main.services.prompts.Message("Stations load failed!");
 }
 

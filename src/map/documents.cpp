@@ -114,6 +114,16 @@ void mnuFileClose_Click(MainWindow& main)
     main.window.CloseWanted.Raise();
 }
 
+void OpenMapFile(MainWindow& main, std::string_view path)
+{
+    AttemptAloud(main, "No map was opened", [&] {
+        if (!AskToSaveMap(main))
+            return;
+        main.mpCtrl.OpenMap(path);
+        SetMapFile(main, path);
+    });
+}
+
 void ChangeRegion(MainWindow& main, std::int32_t region)
 {
     main.stored.SetWhole(Setting::Region, region);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 
 namespace ruvenmark {
 
@@ -16,6 +17,9 @@ void mnuFileSave_Click(MainWindow& main);
 void mnuFileSaveAs_Click(MainWindow& main);
 void mnuFilePrint_Click(MainWindow& main);
 void mnuFileClose_Click(MainWindow& main);
+
+// As "Open Map" does with the file that was chosen.
+void OpenMapFile(MainWindow& main, std::string_view path);
 
 // Keeps the region in the store at once; another region than the map's makes a new map.
 void ChangeRegion(MainWindow& main, std::int32_t region);

@@ -159,4 +159,27 @@ bool PosixFiles::IsReadableByOthers(std::string_view path)
            (found.st_mode & (S_IRGRP | S_IROTH)) != 0;
 }
 
+bool PosixFiles::IsFolder(std::string_view path)
+{
+    struct stat found = {};
+    return path.find('\0') == std::string_view::npos && ::stat(std::string(path).c_str(), &found) == 0 &&
+           S_ISDIR(found.st_mode);
+}
+
+std::string PosixFiles::Head(std::string_view path, std::size_t most)
+{
+    struct stat found = {};
+    if (path.find('\0') != std::string_view::npos || ::stat(std::string(path).c_str(), &found) != 0 ||
+        !S_ISREG(found.st_mode)) // Opening a pipe alone could end whoever writes to it.
+        return {};
+    try {
+        std::string head(most, '\0');
+        const auto count = OpenStream(path)->Read(head, std::chrono::milliseconds(0));
+        head.resize(count.value_or(0));
+        return head;
+    } catch (const Failure&) {
+        return {}; // Whoever opens it in earnest tells why.
+    }
+}
+
 } // namespace ruvenmark

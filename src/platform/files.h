@@ -40,6 +40,10 @@ public:
     virtual bool Exists(std::string_view path) = 0;
     // Whether anybody but the owner may read it; a missing file, nobody.
     virtual bool IsReadableByOthers(std::string_view path) = 0;
+    virtual bool IsFolder(std::string_view /*path*/) { return false; }
+    // The first bytes of an ordinary file; empty for a pipe or device, from which they would be gone, and for what
+    // cannot be read.
+    virtual std::string Head(std::string_view /*path*/, std::size_t /*most*/) { return {}; }
 };
 
 // The machine's files, by POSIX. No call waits for another program.
@@ -51,6 +55,8 @@ public:
     void Remove(std::string_view path) override;
     bool Exists(std::string_view path) override;
     bool IsReadableByOthers(std::string_view path) override;
+    bool IsFolder(std::string_view path) override;
+    std::string Head(std::string_view path, std::size_t most) override;
 };
 
 // The most bytes that a file of this kind can sensibly have.

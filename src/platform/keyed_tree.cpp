@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <limits>
 #include <random>
+#include <utility>
 
 namespace ruvenmark {
 
@@ -189,7 +190,8 @@ void KeyedTree::SetColor(TreeNode& node, std::uint32_t color)
 
 void KeyedTree::SetExpanded(TreeNode& node, bool bExpanded)
 {
-    node.m_bExpanded = bExpanded;
+    if (std::exchange(node.m_bExpanded, bExpanded) != bExpanded)
+        Changed.Raise(node);
 }
 
 void KeyedTree::SetSorted(TreeNode& node, bool bSorted)

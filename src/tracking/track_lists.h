@@ -16,7 +16,10 @@ std::string TrackKey(std::string_view call);
 // Whether the call, trimmed and upper-cased, is on the channel's track list.
 bool IsTracked(const ChannelState& state, std::string_view call);
 
-// Empties the list and adds the calls that stand in the text, blanks between them.
+// Puts a call behind the others of such a text as the next function reads.
+void AppendTrackCall(std::string& calls, std::string_view call);
+// Empties the list and adds the calls that stand in the text, blanks between them; a name with a blank stands in
+// quotes.
 void SetTrackList(ChannelState& state, std::string_view calls);
 // The list as such a text.
 std::string TrackListText(const ChannelState& state);

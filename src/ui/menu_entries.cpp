@@ -25,9 +25,12 @@
 #include "tracking/filter_form_rules.h"
 #include "tracking/track_lines.h"
 #include "tracking/track_list_form_rules.h"
+#include "ui/first_steps.h"
 #include "ui/layout.h"
 #include "ui/menu_rules.h"
 #include "ui/station_tree_commands.h"
+#include "ui/tree_keys.h"
+#include "ui/view_settings.h"
 #include "ui/web_page.h"
 
 #include <array>
@@ -76,15 +79,17 @@ constexpr std::array kEntries = {
     MenuEntryInfo{E::mnuFileOpen, "mnuFileOpen", "&Open Map...", "Ctrl+O", false, mnuFileOpen_Click},
     MenuEntryInfo{E::mnuFileSave, "mnuFileSave", "&Save Map", "Ctrl+S", false, mnuFileSave_Click},
     MenuEntryInfo{E::mnuFileSaveAs, "mnuFileSaveAs", "Save Map &As...", "", false, mnuFileSaveAs_Click},
+    MenuEntryInfo{E::mnuFileUseAtStart, "mnuFileUseAtStart", "&Use This Map at Start", "", true,
+                  mnuFileUseAtStart_Click, rules::NameMapAtStart},
     MenuEntryInfo{E::mnuImportStations, "mnuImportStations", "Loa&d Stations...", "Ctrl+L", false,
                   mnuImportStations_Click, rules::OnLoading},
     MenuEntryInfo{E::mnuFilePrint, "mnuFilePrint", "&Print...", "Ctrl+P", false, mnuFilePrint_Click, rules::OnMap},
     MenuEntryInfo{E::mnuFileClose, "mnuFileClose", "&Close", "Ctrl+Q", false, mnuFileClose_Click},
 
-    MenuEntryInfo{E::mnuEditCut, "mnuEditCut", "Cu&t", "Ctrl+X", false, mnuEditCut_Click, rules::OnSelection},
-    MenuEntryInfo{E::mnuEditCopy, "mnuEditCopy", "&Copy", "Ctrl+C", false, mnuEditCopy_Click, rules::OnSelection},
+    MenuEntryInfo{E::mnuEditCut, "mnuEditCut", "Cu&t", "Ctrl+X", false, mnuEditCut_Click, rules::OnCut},
+    MenuEntryInfo{E::mnuEditCopy, "mnuEditCopy", "&Copy", "Ctrl+C", false, mnuEditCopy_Run, rules::OnCopy},
     MenuEntryInfo{E::mnuEditPaste, "mnuEditPaste", "&Paste", "Ctrl+V", false, mnuEditPaste_Click, rules::OnPaste},
-    MenuEntryInfo{E::mnuEditDelete, "mnuEditDelete", "&Delete", "Del", false, mnuEditDelete_Click, rules::OnSelection},
+    MenuEntryInfo{E::mnuEditDelete, "mnuEditDelete", "&Delete", "Del", false, mnuEditDelete_Run, rules::OnDelete},
     MenuEntryInfo{E::mnuCopyMap, "mnuCopyMap", "Copy &Map", "", false, mnuCopyMap_Click, rules::OnMap},
     MenuEntryInfo{E::mnuCopyDirections, "mnuCopyDirections", "Copy D&irections", "", false, mnuCopyDirections_Click,
                   rules::OnDirectionsText},
@@ -100,6 +105,10 @@ constexpr std::array kEntries = {
                   rules::TickWindow<&WindowState::bMapTicked>},
     MenuEntryInfo{E::mnuViewMessages, "mnuViewMessages", "Mess&ages", "", true, mnuViewMessages_Click,
                   rules::TickWindow<&WindowState::bMessagesTicked>},
+    MenuEntryInfo{E::mnuViewStations, "mnuViewStations", "&Stations", "", true, mnuViewStations_Click,
+                  rules::TickWindow<&WindowState::bStationList>},
+    MenuEntryInfo{E::mnuZoomToStations, "mnuZoomToStations", "&Zoom to Stations", "", false, mnuZoomToStations_Click,
+                  rules::OnPlacedStations},
     MenuEntryInfo{E::mnuViewGPSPanel, "mnuViewGPSPanel", "GPS Pan&el", "", true, mnuViewGPSPanel_Click,
                   rules::TickForm<Form::frmGpsPanel>},
     MenuEntryInfo{E::mnuOnlineTiles, "mnuOnlineTiles", "&Online Tiles", "", true, mnuOnlineTiles_Click,

@@ -1,7 +1,10 @@
 #include "ui/menu_rules.h"
 
+#include "core/tree_selection.h"
 #include "map/edit_commands.h"
 #include "map/selection.h"
+#include "ui/first_steps.h"
+#include "ui/tree_keys.h"
 
 #include <algorithm>
 
@@ -21,9 +24,37 @@ void OnMap(const MenuContext& at, MenuEntryState& state)
     state.bEnabled = at.main.mpCtrl.ActiveMap() != nullptr;
 }
 
-void OnSelection(const MenuContext& at, MenuEntryState& state)
+// Without a file of its own the map can only take back what another one was given.
+void NameMapAtStart(const MenuContext& at, MenuEntryState& state)
 {
-    state.bEnabled = KindOfSelection(at.main) != SelectionKind::Nothing;
+    const std::string& atStart = SettingText(at.main.Settings, Setting::DefaultMap);
+    const std::string& file = at.main.map.sMainMapFile;
+    state.bEnabled = !file.empty() || !atStart.empty();
+    state.bChecked = !file.empty() && file == atStart;
+    if (file.empty() && state.bEnabled)
+        state.caption = "Start with an Emp&ty Map";
+}
+
+void OnCut(const MenuContext& at, MenuEntryState& state)
+{
+    state.bEnabled = !IsTreeInFocus(at.main) && KindOfSelection(at.main) != SelectionKind::Nothing;
+}
+
+void OnCopy(const MenuContext& at, MenuEntryState& state)
+{
+    state.bEnabled = IsTreeInFocus(at.main) || KindOfSelection(at.main) != SelectionKind::Nothing;
+}
+
+void OnDelete(const MenuContext& at, MenuEntryState& state)
+{
+    const auto station = SelectedStation(at.main.tvStationList);
+    state.bEnabled =
+        IsTreeInFocus(at.main) ? station && station->channel : KindOfSelection(at.main) != SelectionKind::Nothing;
+}
+
+void OnPlacedStations(const MenuContext& at, MenuEntryState& state)
+{
+    state.bEnabled = at.main.mpCtrl.ActiveMap() && HasPlacedStations(at.main);
 }
 
 void OnPaste(const MenuContext& at, MenuEntryState& state)

@@ -11,7 +11,11 @@
 namespace ruvenmark::menu_rules {
 
 void OnMap(const MenuContext& at, MenuEntryState& state);
-void OnSelection(const MenuContext& at, MenuEntryState& state);
+void NameMapAtStart(const MenuContext& at, MenuEntryState& state);
+void OnCut(const MenuContext& at, MenuEntryState& state);
+void OnCopy(const MenuContext& at, MenuEntryState& state);
+void OnDelete(const MenuContext& at, MenuEntryState& state);
+void OnPlacedStations(const MenuContext& at, MenuEntryState& state);
 void OnPaste(const MenuContext& at, MenuEntryState& state);
 void OnDirectionsText(const MenuContext& at, MenuEntryState& state);
 void OnLoading(const MenuContext& at, MenuEntryState& state);

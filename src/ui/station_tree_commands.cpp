@@ -102,6 +102,27 @@ void tvStationList_Expand(MainWindow& main, TreeNode& node)
         main.tvStationList.SetBold(node, false);
 }
 
+TreeNode* NodeOfStation(const MainWindow& main, Channel channel, std::string_view call)
+{
+    const TreeNode* root = main.tvStationList.Find(Traits(channel).word);
+    if (!root)
+        return nullptr;
+    for (const std::string_view word : {kPositions, kStatus, kWeather}) {
+        const TreeNode* folder = main.tvStationList.Find(*root, word);
+        if (TreeNode* node = folder ? main.tvStationList.Find(*folder, call) : nullptr)
+            return node;
+    }
+    return nullptr;
+}
+
+void ShowListedStation(MainWindow& main, Channel channel, std::string_view call)
+{
+    if (TreeNode* node = NodeOfStation(main, channel, call)) {
+        main.tvStationList.Select(node);
+        mnuViewPosition_Click(main);
+    }
+}
+
 void mnuInfo_Click(MainWindow& main)
 {
     const auto station = SelectedStation(main.tvStationList);

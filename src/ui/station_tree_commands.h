@@ -1,9 +1,11 @@
 #pragma once
 
+#include "core/channel.h"
 #include "ui/menus.h"
 
 #include <cstdint>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace ruvenmark {
@@ -39,6 +41,11 @@ inline constexpr int kRightButton = 2; // Bit of the button mask.
 std::optional<PopupMenu> tvStationList_MouseUp(MainWindow& main, int button, TreeNode* hit);
 // A node was expanded: a station is no news any more.
 void tvStationList_Expand(MainWindow& main, TreeNode& node);
+
+// The station's node under the first folder that has one; null where there is none.
+TreeNode* NodeOfStation(const MainWindow& main, Channel channel, std::string_view call);
+// Selects the station and shows it on the map.
+void ShowListedStation(MainWindow& main, Channel channel, std::string_view call);
 
 // Commands on the selected node.
 void mnuTcpSort_Click(MainWindow& main);     // Sorts once: later arrivals go to the end.

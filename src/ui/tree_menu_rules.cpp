@@ -184,8 +184,8 @@ void OnTreeLoading(const MenuContext& at, MenuEntryState& state)
 
 void NameUnload(const MenuContext& at, MenuEntryState& state)
 {
-    if (at.node && !ChannelAt(at))
-        state.caption = "Unload " + FolderName(*at.node);
+    if (at.node)
+        state.caption = "Unload " + (ChannelAt(at) ? at.node->Word() : FolderName(*at.node));
 }
 
 // --- The own station

@@ -61,6 +61,22 @@ std::string Tiles(const M& main)
 {
     return Shown(main.map.tiles.*Value);
 }
+template <std::int32_t Bar>
+std::string MapBar(const M& main)
+{
+    return Shown(main.mpCtrl.ToolbarVisible(Bar));
+}
+MapView FirstView(const M& main)
+{
+    const MapView& view = main.mpCtrl.RequireMap().View();
+    return RegionView(main.mpCtrl.MapRegion(), view.width, view.height);
+}
+// Empty where the map looks as its region does at first.
+std::string Moved(const M& main, GeoPoint MapView::*centre, double GeoPoint::*part)
+{
+    const double now = main.mpCtrl.RequireMap().View().*centre.*part;
+    return now == FirstView(main).*centre.*part ? "" : ShortText(now);
+}
 
 struct Row {
     const char* key;
@@ -201,6 +217,23 @@ constexpr Row kRows[] = {
      Tiles<&TileSettings::urlTemplate>},
     {"TileSource", "", "/maps/alps.mbtiles", Tiles<&TileSettings::source>},
     {"TileCredit", "", "\xC2\xA9 Somebody", Tiles<&TileSettings::credit>},
+
+    {"ShowToolBar", "True", "False", In<&M::window, &W::bToolBar>},
+    {"ShowStatusBar", "True", "False", In<&M::window, &W::bStatusBar>},
+    {"ShowStationList", "False", "True", In<&M::window, &W::bStationList>},
+    {"MapStyle", "0", "3", [](const M& main) { return Shown(main.mpCtrl.RequireMap().MapStyle()); }},
+    {"MapFont", "2", "4", [](const M& main) { return Shown(main.mpCtrl.RequireMap().MapFont()); }},
+    {"StandardToolbar", "False", "True", MapBar<1>},
+    {"NavigationToolbar", "True", "False", MapBar<2>},
+    {"DrawingToolbar", "True", "False", MapBar<3>},
+    {"LocationScaleToolbar", "False", "True", MapBar<4>},
+    {"MapLat", "", "48.5", [](const M& main) { return Moved(main, &MapView::centre, &GeoPoint::lat); }},
+    {"MapLon", "", "-11", [](const M& main) { return Moved(main, &MapView::centre, &GeoPoint::lon); }},
+    {"MapZoom", "", "7.25",
+     [](const M& main) {
+         const double zoom = main.mpCtrl.RequireMap().View().zoom;
+         return zoom == FirstView(main).zoom ? "" : ShortText(zoom);
+     }},
 };
 
 // Two may share a key: the one that is saved last stays.

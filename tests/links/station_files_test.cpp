@@ -57,6 +57,24 @@ TEST_F(StationFiles, EveryLineIsParsedWithProgressAndOneYield)
     EXPECT_EQ(p.Text("FL"), "FL reports (5)");
 }
 
+// Nobody was told what a load had brought, nor that a file held no packet at all, nor why it could not be read.
+TEST_F(StationFiles, TheStatusBarSumsUpWhatWasLoaded)
+{
+    int ended = 0;
+    const auto subscription = p.main.links.LoadEnded.Observe([&] { ++ended; });
+    Load(Line("A") + "\n" + Line("B") + "\nno packet\n" + Line("A"));
+    EXPECT_EQ(p.main.sbStatusBar.Notice(), "3 packets, 1 refused, 2 stations");
+    EXPECT_TRUE(p.Node("FL")->IsExpanded());
+    Load("no packet\nnor this");
+    EXPECT_EQ(p.main.sbStatusBar.Notice(), "No packets: 2 lines refused");
+    p.yield.At(p.yield.calls + 2, [&] { p.main.links.FileLoading = false; });
+    Load(FourLines());
+    EXPECT_TRUE(p.main.sbStatusBar.Notice().starts_with("Stopped: 2 packets, "));
+    LoadStationFile(p.main, "/none");
+    EXPECT_EQ(p.main.sbStatusBar.Notice(), "The stations could not be loaded: cannot open /none");
+    EXPECT_EQ(ended, 4);
+}
+
 // Strange but told so: the percentage of a single line is none.
 TEST_F(StationFiles, OneLineIsParsedAndFails)
 {

@@ -131,7 +131,8 @@ public:
     std::map<std::string, std::string, std::less<>> texts; // By path.
     std::set<std::string, std::less<>> unreadable;         // Paths that are there but cannot be read.
     std::set<std::string, std::less<>> open;               // Paths that others may read.
-    int writes = 0;                                        // So far, failed ones included.
+    std::set<std::string, std::less<>> folders;
+    int writes = 0; // So far, failed ones included.
 
     // The nth write from now on fails and leaves the file as it was; 1 is the next.
     void FailWrite(int nth) { m_failingWrite = writes + nth; }
@@ -158,6 +159,12 @@ public:
     void Remove(std::string_view path) override { texts.erase(std::string(path)); }
     bool Exists(std::string_view path) override { return texts.contains(path); }
     bool IsReadableByOthers(std::string_view path) override { return open.contains(path); }
+    bool IsFolder(std::string_view path) override { return folders.contains(path); }
+    std::string Head(std::string_view path, std::size_t most) override
+    {
+        const auto found = texts.find(path);
+        return found == texts.end() ? std::string() : found->second.substr(0, most);
+    }
 
 private:
     int m_failingWrite = 0;

@@ -131,5 +131,24 @@ TEST(TrackListForm, AnUnusableSettingIsNoChoiceAndStays)
     }
 }
 
+// A name of an object with a blank became two calls with each start and stop.
+TEST(TrackLists, AreReadAsTheyAreWritten)
+{
+    for (const Texts& calls : {Texts{"N0CALL", "LEADER 1", "A  B"}, Texts{"\"", "\"X", "Y\"", "A \"B\" C"}, Texts{}}) {
+        ChannelState state(Channel::FL);
+        for (const std::string& call : calls)
+            state.Tracked.Add(call, call);
+        ChannelState read(Channel::FL);
+        SetTrackList(read, TrackListText(state));
+        Texts keys;
+        for (const auto& [key, call] : read.Tracked)
+            keys.push_back(key);
+        EXPECT_EQ(keys, calls) << TrackListText(state);
+    }
+    ChannelState typed(Channel::FL);
+    SetTrackList(typed, "  n0call \"leader 1\"  \" \" n0call \"never closed ");
+    EXPECT_EQ(TrackListText(typed), "N0CALL \"LEADER 1\" \"\"\"NEVER\" CLOSED");
+}
+
 } // namespace
 } // namespace ruvenmark

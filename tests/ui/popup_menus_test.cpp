@@ -66,7 +66,7 @@ TEST(PopupMenus, RootsShowTheirOwnForm)
     EXPECT_EQ(Shown(RightClick(program, "FL")),
               (Names{"Filter FL Reports", "Edit FL Filter...", "Delete FL Reports", "-Hide All Range Circles",
                      "Show Tracked Stations Only", "Show FL Station Names*", "Hide FL Station Names",
-                     "Stop File Loading", "Unload"}));
+                     "Stop File Loading", "Unload FL"}));
 
     TreeNode& club = program.Tree().AddRoot("Club", "My Q&A (3)"); // Captioned up to its last blank.
     EXPECT_EQ(Shown(RightClick(program, "Club")),

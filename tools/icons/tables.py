@@ -142,4 +142,5 @@ ACTIONS = {
     "connect-server": "server-network", "connect-gps": "satellite-variant", "connect-wx": "weather-partlycloudy",
     "copy-map": "image", "info": "information",
     "sort": "sort-alphabetical", "font": "format-size", "tool-bar": "wrench", "pause": "pause", "play": "play",
+    "track-line": "vector-polyline", "stations": "table-large",
 }

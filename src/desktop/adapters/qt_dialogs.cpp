@@ -29,12 +29,12 @@ namespace ruvenmark {
 
 namespace {
 
-void BringToFront(QDialog& dialog)
+void BringToFront(FormDialog& dialog)
 {
     if (dialog.isMinimized())
         dialog.showNormal();
     else
-        dialog.show();
+        dialog.ComeBack();
     dialog.raise();
     dialog.activateWindow();
 }

@@ -3,6 +3,10 @@
 #include "desktop/dialogs/binder.h"
 
 #include <QDialog>
+#include <QHideEvent>
+#include <QPoint>
+
+#include <optional>
 
 namespace ruvenmark {
 
@@ -15,11 +19,26 @@ public:
     // Shows the fields as they are now.
     virtual void Refresh() { m_binder.Refresh(); }
 
+    // Shown again where it stood when it was hidden; else the dialog's own first place would be taken anew.
+    void ComeBack()
+    {
+        if (isHidden() && m_place)
+            move(*m_place);
+        show();
+    }
+
 protected:
     Binder& Bound() { return m_binder; }
+    void hideEvent(QHideEvent* event) override
+    {
+        if (!event->spontaneous())
+            m_place = pos();
+        QDialog::hideEvent(event);
+    }
 
 private:
     Binder m_binder;
+    std::optional<QPoint> m_place;
 };
 
 } // namespace ruvenmark

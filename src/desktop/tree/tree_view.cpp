@@ -29,6 +29,12 @@ protected:
     }
 };
 
+// A station or what stands below it, rather than a root or a folder.
+bool IsShown(const TreeNode& node)
+{
+    return node.Parent() && node.Parent()->Parent();
+}
+
 } // namespace
 
 TreeView::TreeView(KeyedTree& tree, TreeModel& model, QWidget* parent) : QTreeView(parent), m_tree(tree), m_model(model)
@@ -77,13 +83,70 @@ void TreeView::contextMenuEvent(QContextMenuEvent* event)
     QPoint place = event->pos();
     if (event->reason() == QContextMenuEvent::Mouse) {
         index = indexAt(event->pos());
-        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+        if (index.isValid()) // Beside the nodes the selection stays.
+            selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
     } else if (index.isValid()) {
         scrollTo(index);
         place = visualRect(index).center();
     }
     event->accept();
     emit MenuWanted(m_model.NodeAt(index), viewport()->mapToGlobal(place));
+}
+
+// What the logic has opened is opened here.
+void TreeView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles)
+{
+    QTreeView::dataChanged(topLeft, bottomRight, roles);
+    ShowExpanded();
+}
+
+void TreeView::rowsInserted(const QModelIndex& parent, int first, int last)
+{
+    QTreeView::rowsInserted(parent, first, last);
+    if (!m_model.NodeAt(parent) || !m_model.NodeAt(parent)->Parent())
+        ShowExpanded();
+}
+
+void TreeView::focusInEvent(QFocusEvent* event)
+{
+    QTreeView::focusInEvent(event);
+    emit FocusMoved(true);
+}
+
+// Neither a menu nor another window takes the keys away from the tree.
+void TreeView::focusOutEvent(QFocusEvent* event)
+{
+    QTreeView::focusOutEvent(event);
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason &&
+        event->reason() != Qt::MenuBarFocusReason)
+        emit FocusMoved(false);
+}
+
+void TreeView::keyPressEvent(QKeyEvent* event)
+{
+    const bool bEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const TreeNode* node = m_tree.Selected();
+    if (!bEnter || !node)
+        QTreeView::keyPressEvent(event);
+    else if (IsShown(*node))
+        emit ShowWanted();
+    else
+        setExpanded(currentIndex(), !isExpanded(currentIndex()));
+}
+
+void TreeView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const TreeNode* node = m_model.NodeAt(indexAt(event->pos()));
+    if (event->button() == Qt::LeftButton && node && IsShown(*node))
+        emit ShowWanted();
+    else
+        QTreeView::mouseDoubleClickEvent(event);
+}
+
+void TreeView::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::RightButton || indexAt(event->pos()).isValid())
+        QTreeView::mousePressEvent(event);
 }
 
 void TreeView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
@@ -107,6 +170,21 @@ void TreeView::OnToggled(const QModelIndex& index, bool bExpanded)
     m_tree.SetExpanded(*node, bExpanded);
     if (bExpanded)
         emit NodeExpanded(node);
+}
+
+// Roots and folders: some twenty nodes.
+void TreeView::ShowExpanded()
+{
+    const auto open = [this](const TreeNode& node) {
+        const QModelIndex index = m_model.IndexOf(&node);
+        if (node.IsExpanded() && index.isValid() && !isExpanded(index) && m_model.rowCount(index) > 0)
+            expand(index);
+    };
+    for (const auto& root : m_tree.Roots()) {
+        open(*root);
+        for (const auto& folder : root->Children())
+            open(*folder);
+    }
 }
 
 void TreeView::ShowSelection()

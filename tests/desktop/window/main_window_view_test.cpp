@@ -7,12 +7,14 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QProgressBar>
+#include <QTableView>
 #include <QTextBrowser>
 #include <QUrl>
 
@@ -122,15 +124,70 @@ TEST(MainWindowViewTest, ClosingDuringALoadStopsItFirst)
 {
     WindowProgram program;
     program.files.texts["/log"] = ManyLines(200000);
-    program.prompts.answers = {Answer::No};
+    program.prompts.answers = {Answer::Yes, Answer::No}; // Stop it; the map is not saved.
     QTimer::singleShot(0, [&] {
         program.Action("mnuFileClose").trigger();
         EXPECT_TRUE(program.window.isVisible());
-        EXPECT_TRUE(program.prompts.questions.empty());
+        EXPECT_EQ(program.prompts.questions.size(), 1U);
     });
     program.window.LoadFile("/log");
     EXPECT_FALSE(program.window.isVisible());
+    EXPECT_EQ(program.prompts.questions.size(), 2U);
+}
+
+TEST(MainWindowViewTest, ALoadGoesOnWhereItIsNotToBeStopped)
+{
+    WindowProgram program;
+    program.files.texts["/log"] = ManyLines(500);
+    program.prompts.answers = {Answer::No};
+    QTimer::singleShot(0, [&] { program.window.close(); });
+    program.window.LoadFile("/log");
+    EXPECT_TRUE(program.window.isVisible());
     EXPECT_EQ(program.prompts.questions.size(), 1U);
+    EXPECT_EQ(program.main.Of(Channel::FL).Stations.Count(), 500U);
+}
+
+TEST(MainWindowViewTest, FirstStepsAndZoomAreOfferedOnTheMap)
+{
+    WindowProgram program;
+    program.files.texts["/log"] = ManyLines(20);
+    auto& hint = program.Find<QWidget>("mapHint");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hint.isVisible(); }));
+    program.Hear(Channel::RF, "N0CALL", 40, -90);
+    EXPECT_FALSE(hint.isVisible());
+    program.window.LoadFile("/log");
+    EXPECT_TRUE(hint.isVisible());
+    const TreeView& tree = program.window.StationTree();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return tree.isExpanded(tree.model()->index(3, 0)); }));
+    for (auto* button : hint.findChildren<QAbstractButton*>())
+        if (button->text() == QStringLiteral("Zoom to stations"))
+            button->click();
+    EXPECT_FALSE(hint.isVisible());
+    EXPECT_NEAR(program.main.mpCtrl.RequireMap().View().centre.lat, 44.7, 0.2);
+}
+
+// The list follows what is heard, keeps its station in the selection, and shows it with Enter.
+TEST(MainWindowViewTest, TheStationListStandsUnderTheMap)
+{
+    WindowProgram program;
+    program.Hear(Channel::TCP, "N5CALL", 40, -90);
+    program.Action("mnuViewStations").trigger();
+    auto& table = program.Find<QTableView>("lvStations");
+    ASSERT_EQ(table.model()->rowCount(), 1);
+    table.selectRow(0);
+    for (int i = 0; i < 100; ++i)
+        program.Hear(Channel::TCP, "N" + std::to_string(i) + "X", 41, -91);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return table.model()->rowCount() == 101; }));
+    EXPECT_EQ(table.currentIndex().data().toString(), QStringLiteral("N5CALL"));
+    QTest::keyClick(&table, Qt::Key_Return);
+    EXPECT_NEAR(program.main.mpCtrl.RequireMap().View().centre.lat, 40, 1e-6);
+    EXPECT_EQ(program.main.tvStationList.Selected()->Text(), "N5CALL");
+    QTest::keyClicks(&program.Find<QLineEdit>("txtStationCalls"), QStringLiteral("n5c"));
+    EXPECT_EQ(table.model()->rowCount(), 1);
+    program.Find<QDockWidget>("dockStations").close();
+    EXPECT_FALSE(program.main.window.bStationList);
+    const auto* gone = program.window.findChild<QTableView*>(QStringLiteral("lvStations"));
+    EXPECT_TRUE(!gone || !gone->isVisible());
 }
 
 TEST(MainWindowViewTest, ADroppedFileIsLoaded)
@@ -142,8 +199,10 @@ TEST(MainWindowViewTest, ADroppedFileIsLoaded)
     QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&program.window, &enter);
     EXPECT_TRUE(enter.isAccepted());
-    QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop(QPointF(10, 10), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    drop.setDropAction(Qt::MoveAction); // As a file manager proposes it.
     QApplication::sendEvent(&program.window, &drop);
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
     EXPECT_TRUE(QTest::qWaitFor([&] { return program.main.Of(Channel::FL).Stations.Count() == 20; }));
 
     QMimeData link;

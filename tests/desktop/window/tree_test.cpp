@@ -204,17 +204,50 @@ TEST_F(TreeViewTest, SelectionGoesBothWays)
 TEST_F(TreeViewTest, RightClickSelectsTheNodeUnderThePointerFirst)
 {
     std::vector<TreeNode*> asked;
-    QObject::connect(&view, &TreeView::MenuWanted, [&](TreeNode* node) {
-        EXPECT_EQ(node, tree.Selected());
-        asked.push_back(node);
-    });
+    QObject::connect(&view, &TreeView::MenuWanted, [&](TreeNode* node) { asked.push_back(node); });
     view.expandAll();
     TreeNode* station = tree.Find("FLPositionsN0CALL");
     Menu(QContextMenuEvent::Mouse, view.visualRect(model.IndexOf(station)).center());
+    EXPECT_EQ(tree.Selected(), station);
+    QTest::mouseClick(view.viewport(), Qt::RightButton, {}, QPoint(10, 390));
     Menu(QContextMenuEvent::Mouse, QPoint(10, 390));
+    EXPECT_EQ(tree.Selected(), station); // Beside the nodes it stays.
     tree.Select(folder);
     Menu(QContextMenuEvent::Keyboard, QPoint(0, 0));
     EXPECT_EQ(asked, (std::vector<TreeNode*>{station, nullptr, folder}));
+}
+
+TEST_F(TreeViewTest, EnterAndADoubleClickShowAStationAndFoldTheRest)
+{
+    const QSignalSpy wanted(&view, &TreeView::ShowWanted);
+    view.expandAll();
+    TreeNode* station = tree.Find("FLPositionsN0CALL");
+    const QModelIndex index = model.IndexOf(station);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
+    QTest::mouseDClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
+    EXPECT_EQ(wanted.count(), 1);
+    EXPECT_EQ(tree.Selected(), station);
+    QTest::keyClick(&view, Qt::Key_Return);
+    EXPECT_EQ(wanted.count(), 2);
+    tree.Select(folder);
+    const bool bOpen = view.isExpanded(model.IndexOf(folder));
+    QTest::keyClick(&view, Qt::Key_Return);
+    EXPECT_EQ(wanted.count(), 2);
+    EXPECT_NE(view.isExpanded(model.IndexOf(folder)), bOpen);
+}
+
+// A folder that the logic makes anew is as open as its forerunner was.
+TEST_F(TreeViewTest, WhatTheLogicOpensIsOpened)
+{
+    TreeNode& root = tree.AddRoot("RF", "RF reports");
+    TreeNode& made = tree.Add(root, "Positions", "Positions");
+    tree.Add(made, "N1CALL", "N1CALL");
+    tree.SetExpanded(root, true);
+    tree.SetExpanded(made, true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return view.isExpanded(model.IndexOf(&made)); }));
+    EXPECT_TRUE(view.isExpanded(model.IndexOf(&root)));
+    EXPECT_EQ(model.index(0, 0, model.IndexOf(&made)).data(Qt::ToolTipRole).toString(),
+              QStringLiteral("<span>N1CALL</span>"));
 }
 
 TEST(ReadableColorTest, KeepsTheHueAndReachesAContrastOnLightAndDark)

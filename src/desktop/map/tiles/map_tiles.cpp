@@ -48,6 +48,7 @@ MapTiles::MapTiles(Options options, QObject* parent)
 {
     m_threads.setMaxThreadCount(2);
     connect(&m_fetcher, &TileFetcher::Fetched, this, &MapTiles::Decode);
+    connect(&m_fetcher, &TileFetcher::Failed, this, &MapTiles::Tell);
 }
 
 MapTiles::~MapTiles()
@@ -230,6 +231,7 @@ void MapTiles::Decode(TileId tile, const QByteArray& bytes, const QDateTime& fre
 {
     m_reading.insert(tile);
     m_stale.remove(tile);
+    m_problem.clear(); // It answers again; the next failure is news.
     InThread(
         [this, tile, bytes, freshUntil, source = QString::fromStdString(m_choice.where)] {
             QImage picture = TileImage(bytes);

@@ -44,6 +44,17 @@ bool IsPicture(const QNetworkReply& reply)
     return reply.header(QNetworkRequest::ContentTypeHeader).toString().startsWith(QStringLiteral("image/"));
 }
 
+// Not the network's own words where the server has spoken: they hold the whole address.
+QString ReasonOf(const QNetworkReply& reply, int status)
+{
+    const QString host = reply.url().host();
+    if (status == 200)
+        return host + QStringLiteral(" sends no pictures");
+    if (status != 0)
+        return host + QStringLiteral(" answers with status ") + QString::number(status);
+    return host + QStringLiteral(" does not answer: ") + reply.errorString();
+}
+
 } // namespace
 
 QNetworkRequest TileRequest(const QUrl& address)
@@ -136,6 +147,7 @@ void TileFetcher::End(TileId tile, QNetworkReply& reply)
     } else if (status == 404 || status == 410) {
         Mark(tile);
     } else {
+        emit Failed(ReasonOf(reply, status));
         const bool bMayPass = status < 200 || status >= 500 || status == 429;
         if (bMayPass)
             m_wanted.insert(m_wanted.begin(), tile);

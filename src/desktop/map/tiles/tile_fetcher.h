@@ -45,6 +45,7 @@ public:
 signals:
     // `freshUntil` is null where the answer must not be kept.
     void Fetched(ruvenmark::TileId tile, const QByteArray& bytes, const QDateTime& freshUntil);
+    void Failed(const QString& reason); // The server did not answer, or refused; a tile that it has not is no failure.
 
 private:
     void Pump();

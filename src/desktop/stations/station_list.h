@@ -1,0 +1,52 @@
+#pragma once
+
+#include "core/channel.h"
+
+#include <QWidget>
+
+#include <string>
+
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QTableView;
+
+namespace ruvenmark {
+
+class IconSet;
+class StationModel;
+struct MainWindow;
+
+// The table of all stations with its filter above it. It costs only while it stands.
+class StationList final : public QWidget {
+    Q_OBJECT
+
+public:
+    StationList(MainWindow& main, const IconSet& icons, QWidget* parent = nullptr);
+
+signals:
+    void ShowWanted(ruvenmark::Channel channel, const std::string& call);
+    // Of the selected station; and where it belongs, on the screen.
+    void MenuWanted(ruvenmark::Channel channel, const std::string& call, QPoint place);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void MakeFilter();
+    void MakeTable();
+    void TakeFilter();
+    void ShowCount();
+    void Copy();
+    void OpenMenu(QPoint place);
+
+    StationModel* m_model;
+    QTableView* m_table;
+    QLineEdit* m_calls;
+    QComboBox* m_within;
+    QCheckBox* m_direct;
+    QLabel* m_count;
+};
+
+} // namespace ruvenmark

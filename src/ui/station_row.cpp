@@ -1,0 +1,154 @@
+#include "ui/station_row.h"
+
+#include "core/main_window.h"
+#include "platform/local_time.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr std::array<std::string_view, kStationColumns> kTitles = {
+    "Call", "Symbol", "Channel", "Last heard", "Distance", "Bearing", "Course", "Speed", "Path", "Comment"};
+
+// Numbers in their order.
+std::uint64_t KeyOf(std::optional<double> number)
+{
+    constexpr std::uint64_t kSign = std::uint64_t{1} << 63;
+    if (!number)
+        return kUnknownSortKey;
+    const auto bits = std::bit_cast<std::uint64_t>(*number);
+    return (bits & kSign) != 0 ? ~bits : bits | kSign;
+}
+
+// The first eight letters, case ignored: most texts differ within them.
+std::uint64_t KeyOf(std::string_view text)
+{
+    if (text.empty())
+        return kUnknownSortKey;
+    std::uint64_t key = 0;
+    for (std::size_t i = 0; i < sizeof key; ++i)
+        key = key << 8U | (i < text.size() ? static_cast<unsigned char>(ToUpper(text[i])) : 0U);
+    return std::min(key, kUnknownSortKey - 1);
+}
+
+std::int64_t LastHeard(const Record& record)
+{
+    std::int64_t last = 0;
+    for (const Field field : {Field::PositionReceived, Field::StatusReceived, Field::WeatherReceived})
+        last = std::max(last, SecondsOfLocalText(record.Get(field)));
+    return last;
+}
+
+std::string_view LastPath(const Record& record)
+{
+    for (const Field field : {Field::PositionPath, Field::StatusPath, Field::WeatherPath})
+        if (record.Has(field))
+            return record.Get(field);
+    return {};
+}
+
+std::string WithUnit(std::optional<double> number, int decimals, std::string_view unit)
+{
+    return number ? ShortText(RoundDecimals(*number, decimals)).append(unit) : std::string();
+}
+
+} // namespace
+
+std::string_view TitleOf(StationColumn column)
+{
+    return kTitles[static_cast<std::size_t>(column)];
+}
+
+bool FillRow(StationRow& row, const MainWindow& main, const std::optional<GeoPoint>& ownPlace)
+{
+    const Record* record = main.Of(row.channel).Stations.Find(row.call);
+    if (!record)
+        return false;
+    row.symbol = record->Get(Field::Symbol);
+    row.path = LastPath(*record);
+    row.comment = record->Get(Field::Comment);
+    if (row.comment.empty())
+        row.comment = record->Get(Field::Status);
+    row.heard = LastHeard(*record);
+    row.course = ReadNumber(record->Get(Field::Course));
+    row.speed = ReadNumber(record->Get(Field::Speed));
+    row.miles.reset();
+    row.bearing.reset();
+    const auto point = ownPlace ? PositionOf(*record) : std::nullopt;
+    if (point) {
+        row.miles = GreatCircleMiles(*ownPlace, *point);
+        row.bearing = InitialBearing(*ownPlace, *point);
+    }
+    return true;
+}
+
+std::string TextOf(const StationRow& row, StationColumn column)
+{
+    switch (column) {
+    case StationColumn::Call:
+        return row.call;
+    case StationColumn::Symbol:
+        return row.symbol;
+    case StationColumn::Channel:
+        return std::string(Traits(row.channel).word);
+    case StationColumn::LastHeard:
+        return LocalTextOfSeconds(row.heard);
+    case StationColumn::Distance:
+        return WithUnit(row.miles, 1, " mi");
+    case StationColumn::Bearing:
+        return WithUnit(row.bearing, 0, "°");
+    case StationColumn::Course:
+        return WithUnit(row.course, 0, "°");
+    case StationColumn::Speed:
+        return WithUnit(row.speed, 0, " mph");
+    case StationColumn::Path:
+        return row.path;
+    case StationColumn::Comment:
+        return row.comment;
+    }
+    return {};
+}
+
+std::string_view SortText(const StationRow& row, StationColumn column)
+{
+    switch (column) {
+    case StationColumn::Call:
+        return row.call;
+    case StationColumn::Symbol:
+        return row.symbol;
+    case StationColumn::Channel:
+        return Traits(row.channel).word;
+    case StationColumn::Path:
+        return row.path;
+    case StationColumn::Comment:
+        return row.comment;
+    default:
+        return {};
+    }
+}
+
+std::uint64_t SortKeyOf(const StationRow& row, StationColumn column)
+{
+    switch (column) {
+    case StationColumn::LastHeard:
+        return row.heard == 0 ? kUnknownSortKey : static_cast<std::uint64_t>(row.heard);
+    case StationColumn::Distance:
+        return KeyOf(row.miles);
+    case StationColumn::Bearing:
+        return KeyOf(row.bearing);
+    case StationColumn::Course:
+        return KeyOf(row.course);
+    case StationColumn::Speed:
+        return KeyOf(row.speed);
+    default:
+        return KeyOf(SortText(row, column));
+    }
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,260 @@
+#include "ui/station_rows.h"
+
+#include "core/main_window.h"
+#include "platform/local_time.h"
+#include "platform/numbers.h"
+#include "platform/text.h"
+#include "tracking/filters.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace ruvenmark {
+
+namespace {
+
+constexpr std::uint32_t kNowhere = std::numeric_limits<std::uint32_t>::max();
+
+// "N0CALL" becomes "*N0CALL*".
+std::string PatternsOf(std::string_view calls)
+{
+    std::string patterns;
+    for (const std::string_view word : Words(calls)) {
+        const bool bBare = word.find_first_of("*?#[") == std::string_view::npos;
+        patterns += patterns.empty() ? "" : " ";
+        patterns += bBare ? "*" + ToUpper(word) + "*" : ToUpper(word);
+    }
+    return patterns;
+}
+
+} // namespace
+
+StationRows::StationRows(MainWindow& main) : m_main(main)
+{
+    KeyedTree& tree = main.tvStationList;
+    m_subscriptions = {
+        tree.Inserted.Observe([this](const TreeNode& node) { Observe(node, false); }),
+        tree.Changed.Observe([this](const TreeNode& node) { Observe(node, false); }),
+        tree.WillRemove.Observe([this](const TreeNode& node) { Observe(node, true); }),
+    };
+    TakeOwnPlace();
+    MarkAll();
+}
+
+StationRows::~StationRows() = default;
+
+std::optional<std::size_t> StationRows::RowOf(Id id) const
+{
+    if (id >= m_places.size() || m_places[id] == kNowhere)
+        return std::nullopt;
+    return m_places[id];
+}
+
+// A station's node, or one of its facts; what goes with a folder or a root is looked for among all.
+void StationRows::Observe(const TreeNode& node, bool bGone)
+{
+    const TreeNode* parent = node.Parent();
+    const TreeNode* above = parent ? parent->Parent() : nullptr;
+    if (!above) {
+        if (bGone)
+            MarkAll();
+        return;
+    }
+    const TreeNode* station = above->Parent() ? parent : &node;
+    const TreeNode* folder = station->Parent();
+    if (station == m_lastMarked || folder->Word() == kUnknown)
+        return;
+    const auto channel = ChannelOfWord(folder->Parent()->Word());
+    if (!channel)
+        return;
+    Mark(*channel, station->Word());
+    m_lastMarked = bGone ? nullptr : station;
+}
+
+void StationRows::Mark(Channel channel, const std::string& call)
+{
+    auto& ids = m_ids[Index(channel)];
+    const auto found = ids.find(call);
+    if (found != ids.end()) {
+        MarkId(found->second);
+        return;
+    }
+    Id id = 0;
+    if (m_free.empty()) {
+        id = static_cast<Id>(m_rows.size());
+        m_rows.emplace_back();
+    } else {
+        id = m_free.back();
+        m_free.pop_back();
+    }
+    m_rows[id].channel = channel;
+    m_rows[id].call = call;
+    ids.emplace(call, id);
+    MarkId(id);
+}
+
+void StationRows::MarkId(Id id)
+{
+    if (std::exchange(m_rows[id].bMarked, true))
+        return;
+    m_marked.push_back(id);
+    TellDue();
+}
+
+void StationRows::MarkAll()
+{
+    m_lastMarked = nullptr;
+    for (const ChannelState& state : m_main.channels) {
+        m_ids[Index(state.channel)].reserve(state.Stations.Count());
+        for (const auto& [call, record] : state.Stations)
+            Mark(state.channel, call);
+    }
+    for (const Id id : m_order)
+        MarkId(id);
+}
+
+void StationRows::TellDue()
+{
+    if (!std::exchange(m_bDue, true))
+        Due.Raise();
+}
+
+// Where the own station moves, every distance is another one.
+void StationRows::TakeOwnPlace()
+{
+    const auto lat = ReadNumber(SettingText(m_main.Settings, Setting::Lat));
+    const auto lon = ReadNumber(SettingText(m_main.Settings, Setting::Lon));
+    const std::optional<GeoPoint> place = lat && lon ? std::optional(GeoPoint{*lat, *lon}) : std::nullopt;
+    if (place == m_ownPlace)
+        return;
+    m_ownPlace = place;
+    MarkAll();
+}
+
+void StationRows::Drop(Id id)
+{
+    StationRow& row = m_rows[id];
+    m_ids[Index(row.channel)].erase(row.call);
+    row = StationRow();
+    m_free.push_back(id);
+}
+
+bool StationRows::IsBefore(Id a, Id b) const
+{
+    const StationRow& one = m_rows[a];
+    const StationRow& other = m_rows[b];
+    if (one.sortKey != other.sortKey) {
+        if (one.sortKey == kUnknownSortKey || other.sortKey == kUnknownSortKey)
+            return other.sortKey == kUnknownSortKey;
+        return (one.sortKey < other.sortKey) == m_bAscending;
+    }
+    const int order = CompareIgnoringCase(SortText(one, m_column), SortText(other, m_column));
+    if (order != 0)
+        return (order < 0) == m_bAscending;
+    const int calls = CompareIgnoringCase(one.call, other.call);
+    return calls != 0 ? calls < 0 : a < b;
+}
+
+bool StationRows::Matches(const StationRow& row) const
+{
+    if (m_filter.bDirectOnly && row.path.find('*') != std::string::npos)
+        return false;
+    return m_patterns.empty() || MatchesList(ToUpper(row.call), m_patterns);
+}
+
+void StationRows::SortBy(StationColumn column, bool bAscending)
+{
+    m_column = column;
+    m_bAscending = bAscending;
+    Rearrange([this] {
+        for (const Id id : m_order)
+            m_rows[id].sortKey = SortKeyOf(m_rows[id], m_column);
+        std::sort(m_order.begin(), m_order.end(), [this](Id a, Id b) { return IsBefore(a, b); });
+    });
+}
+
+void StationRows::SetFilter(const StationListFilter& filter)
+{
+    if (filter == m_filter)
+        return;
+    m_filter = filter;
+    m_patterns = PatternsOf(filter.calls);
+    Rearrange([this] {
+        for (const Id id : m_order)
+            m_rows[id].bMatches = Matches(m_rows[id]);
+    });
+}
+
+bool StationRows::Update()
+{
+    m_lastMarked = nullptr;
+    m_bDue = true; // No one need be told of what is marked in here.
+    TakeOwnPlace();
+    const std::size_t count = std::min(m_marked.size(), kMostAtOnce);
+    const std::vector<Id> taken(m_marked.end() - static_cast<std::ptrdiff_t>(count), m_marked.end());
+    m_marked.resize(m_marked.size() - count);
+    Rearrange([&] { Merge(taken); });
+    m_bDue = !m_marked.empty();
+    return m_bDue;
+}
+
+// The marked ones leave their places and come back to those they have now.
+void StationRows::Merge(std::vector<Id> fresh)
+{
+    for (const Id id : fresh)
+        m_rows[id].bListed = false;
+    std::erase_if(m_order, [this](Id id) { return !m_rows[id].bListed; });
+    const auto kept = std::partition(fresh.begin(), fresh.end(), [this](Id id) {
+        StationRow& row = m_rows[id];
+        row.bMarked = false;
+        if (!FillRow(row, m_main, m_ownPlace))
+            return false;
+        row.sortKey = SortKeyOf(row, m_column);
+        row.bMatches = Matches(row);
+        return true;
+    });
+    std::for_each(kept, fresh.end(), [this](Id id) { Drop(id); });
+    fresh.erase(kept, fresh.end());
+    const auto isBefore = [this](Id a, Id b) { return IsBefore(a, b); };
+    std::sort(fresh.begin(), fresh.end(), isBefore);
+    std::vector<Id> merged;
+    merged.reserve(m_order.size() + fresh.size());
+    auto from = m_order.cbegin();
+    for (const Id id : fresh) {
+        const auto to = std::upper_bound(from, m_order.cend(), id, isBefore);
+        merged.insert(merged.end(), from, to);
+        merged.push_back(id);
+        m_rows[id].bListed = true;
+        from = to;
+    }
+    merged.insert(merged.end(), from, m_order.cend());
+    m_order = std::move(merged);
+}
+
+void StationRows::ShowFiltered()
+{
+    constexpr std::int64_t kMinute = 60;
+    std::int64_t since = std::numeric_limits<std::int64_t>::min();
+    if (m_filter.heardWithin > 0)
+        since = SecondsOfLocalText(m_main.services.clock.LocalNowText()) - m_filter.heardWithin * kMinute;
+    m_places.assign(m_rows.size(), kNowhere);
+    m_shown.clear();
+    for (const Id id : m_order) {
+        const StationRow& row = m_rows[id];
+        if (!row.bMatches || row.heard < since)
+            continue;
+        m_places[id] = static_cast<std::uint32_t>(m_shown.size());
+        m_shown.push_back(id);
+    }
+}
+
+void StationRows::Rearrange(const std::function<void()>& work)
+{
+    WillChange.Raise();
+    work();
+    ShowFiltered();
+    Changed.Raise();
+}
+
+} // namespace ruvenmark

@@ -1,0 +1,126 @@
+// What the window does for whoever sits before it: the edit keys of the tree, first steps, files by their content.
+
+#include "support/test_program.h"
+#include "ui/first_steps.h"
+#include "ui/menus.h"
+#include "ui/opened_file.h"
+#include "ui/tree_keys.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+namespace ruvenmark {
+namespace {
+
+using namespace std::string_literals;
+
+// Del in the tree must not take away the marker that was last clicked on the map, nor the other way round.
+TEST(TreeKeys, TheEditCommandsActOnWhatHasTheFocus)
+{
+    TestProgram program;
+    program.Position(Channel::RF, "N0CALL", 40, -90);
+    program.Position(Channel::RF, "N1CALL", 40, -90);
+    SelectOnMap(program.main, *program.Marker("N1CALL(r)"));
+    program.Select("RFPositionsN0CALL");
+    program.main.window.bTreeFocus = true;
+    RunMenuEntry(program.main, MenuEntry::mnuEditCopy);
+    EXPECT_TRUE(program.desktop.clipboard.starts_with("N0CALL\r\nLat: 40°\r\nLon: -90°\r\n"));
+    RunMenuEntry(program.main, MenuEntry::mnuEditDelete);
+    ASSERT_EQ(program.prompts.questions.size(), 1U);
+    EXPECT_NE(program.Node("RFPositionsN0CALL"), nullptr);
+    program.prompts.answers = {Answer::Yes};
+    RunMenuEntry(program.main, MenuEntry::mnuEditDelete);
+    EXPECT_EQ(program.Node("RFPositionsN0CALL"), nullptr);
+    EXPECT_TRUE(program.Marker("N1CALL(r)").has_value());
+
+    program.Select("RFPositions");
+    const MenuContext here{program.main, nullptr};
+    EXPECT_FALSE(StateOf(MenuEntry::mnuEditDelete, here).bEnabled); // A folder is not deleted ...
+    EXPECT_FALSE(StateOf(MenuEntry::mnuEditCut, here).bEnabled);
+    program.main.window.bTreeFocus = false;
+    RunMenuEntry(program.main, MenuEntry::mnuEditDelete); // ... and the map's marker only by the map's keys.
+    EXPECT_FALSE(program.Marker("N1CALL(r)").has_value());
+}
+
+TEST(TreeKeys, EnterShowsAStationOrOneOfItsFactsOnTheMap)
+{
+    TestProgram program;
+    program.Position(Channel::RF, "N0CALL", 40, -90);
+    for (const char* key : {"RFPositionsN0CALL", "RFPositionsN0CALLLat"}) {
+        program.TheMap().SetView({0, 0}, 5);
+        program.Select(key);
+        EXPECT_TRUE(ShowSelectedNode(program.main));
+        EXPECT_NEAR(program.TheMap().View().centre.lat, 40, 1e-6);
+    }
+    program.Select("RFPositions");
+    EXPECT_FALSE(ShowSelectedNode(program.main));
+}
+
+TEST(FirstSteps, AreGoneWithTheFirstReport)
+{
+    TestProgram program;
+    EXPECT_TRUE(WantsFirstSteps(program.main));
+    EXPECT_FALSE(HasPlacedStations(program.main));
+    program.Sink(Channel::RF).ReportStatus({"N0CALL", "APRS", "", kNoPosition, kNoPosition, "here"});
+    EXPECT_FALSE(WantsFirstSteps(program.main));
+    EXPECT_FALSE(HasPlacedStations(program.main));
+    RunMenuEntry(program.main, MenuEntry::mnuZoomToStations); // Nowhere to go.
+    program.Position(Channel::RF, "N1CALL", 48, 9);
+    program.Position(Channel::RF, "N2CALL", 50, 11);
+    RunMenuEntry(program.main, MenuEntry::mnuZoomToStations);
+    EXPECT_NEAR(program.TheMap().View().centre.lat, 49, 0.1);
+    EXPECT_NEAR(program.TheMap().View().centre.lon, 10, 0.1);
+    EXPECT_GT(program.TheMap().View().zoom, 6);
+}
+
+TEST(OpenedFile, IsKnownByItsContent)
+{
+    TestProgram program;
+    MemoryFiles& files = program.files;
+    files.texts["/a.log"] = "SQLite format 3\0 and more"s;
+    files.texts["/b.mbtiles"] = "N0CALL>APRS:>here\r\n";
+    files.texts["/c.txt"] = "\n { \"features\": [], \"type\": \"FeatureCollection\" }";
+    files.texts["/d.ptm"] = "{N0CALL>APRS:>here\r\n";
+    files.folders = {"/tiles"};
+    EXPECT_EQ(ContentOf(files, "/a.log"), FileContent::Tiles);
+    EXPECT_EQ(ContentOf(files, "/b.mbtiles"), FileContent::Packets);
+    EXPECT_EQ(ContentOf(files, "/c.txt"), FileContent::Map);
+    EXPECT_EQ(ContentOf(files, "/d.ptm"), FileContent::Packets);
+    EXPECT_EQ(ContentOf(files, "/tiles"), FileContent::Tiles);
+    EXPECT_EQ(ContentOf(files, "/tiles/3/4/5.png"), FileContent::Tiles);
+    EXPECT_EQ(ContentOf(files, "/no/such"), FileContent::Packets);
+
+    OpenContent(program.main, FileContent::Tiles, "/tiles/3/4/5.png");
+    EXPECT_EQ(program.main.map.tiles.source, "/tiles");
+    const std::string caption = program.main.window.caption;
+    OpenContent(program.main, FileContent::Map, "/d.ptm"); // Told, and the map is as it was.
+    EXPECT_EQ(program.main.window.caption, caption);
+    EXPECT_NE(program.main.sbStatusBar.Notice(), "");
+    program.TheMap().SetView({12, 34}, 7);
+    RunMenuEntry(program.main, MenuEntry::mnuFileNew);
+    program.prompts.files = {"/saved.ptm"};
+    RunMenuEntry(program.main, MenuEntry::mnuFileSaveAs);
+    OpenContent(program.main, FileContent::Map, "/saved.ptm");
+    EXPECT_EQ(program.main.map.sMainMapFile, "/saved.ptm");
+}
+
+TEST(MapAtStart, IsTheOneThatIsOpenOrNone)
+{
+    TestProgram program;
+    const auto state = [&] { return StateOf(MenuEntry::mnuFileUseAtStart, {program.main, nullptr}); };
+    EXPECT_FALSE(state().bEnabled);
+    program.main.map.sMainMapFile = "/home.ptm";
+    RunMenuEntry(program.main, MenuEntry::mnuFileUseAtStart);
+    EXPECT_EQ(SettingText(program.main.Settings, Setting::DefaultMap), "/home.ptm");
+    EXPECT_TRUE(state().bChecked);
+    program.main.map.sMainMapFile.clear();
+    EXPECT_TRUE(state().bEnabled);
+    EXPECT_FALSE(state().bChecked);
+    RunMenuEntry(program.main, MenuEntry::mnuFileUseAtStart);
+    EXPECT_EQ(SettingText(program.main.Settings, Setting::DefaultMap), "");
+}
+
+} // namespace
+} // namespace ruvenmark
