@@ -187,7 +187,7 @@ void ClearChannelReports(MainWindow& main, Channel channel)
     std::vector<std::string> open; // Folders are open again as they were.
     for (const auto& folder : root->Children())
         if (folder->IsExpanded())
-            open.push_back(folder->Word());
+            open.emplace_back(folder->Word());
     const bool bOpen = root->IsExpanded();
     while (!root->Children().empty())
         tree.Remove(*root->Children().back());

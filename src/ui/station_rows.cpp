@@ -72,7 +72,7 @@ void StationRows::Observe(const TreeNode& node, bool bGone)
     m_lastMarked = bGone ? nullptr : station;
 }
 
-void StationRows::Mark(Channel channel, const std::string& call)
+void StationRows::Mark(Channel channel, std::string_view call)
 {
     auto& ids = m_ids[Index(channel)];
     const auto found = ids.find(call);
@@ -90,7 +90,7 @@ void StationRows::Mark(Channel channel, const std::string& call)
     }
     m_rows[id].channel = channel;
     m_rows[id].call = call;
-    ids.emplace(call, id);
+    ids.emplace(std::string(call), id);
     MarkId(id);
 }
 

@@ -67,8 +67,13 @@ public:
     Event<> Changed;
 
 private:
+    struct CallHash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view call) const { return std::hash<std::string_view>()(call); }
+    };
+
     void Observe(const TreeNode& node, bool bGone);
-    void Mark(Channel channel, const std::string& call);
+    void Mark(Channel channel, std::string_view call);
     void MarkId(Id id);
     void MarkAll();
     void TellDue();
@@ -89,7 +94,7 @@ private:
 
     std::deque<StationRow> m_rows; // By id.
     std::vector<Id> m_free;
-    std::array<std::unordered_map<std::string, Id>, 3> m_ids; // By channel and call.
+    std::array<std::unordered_map<std::string, Id, CallHash, std::equal_to<>>, 3> m_ids; // By channel and call.
     std::vector<Id> m_marked;
     std::vector<Id> m_order, m_shown;    // Sorted: all, and those that the filter lets through.
     std::vector<std::uint32_t> m_places; // By id: the row in m_shown.

@@ -17,7 +17,7 @@ bool IsTreeInFocus(const MainWindow& main)
 
 std::string CopiedText(const TreeNode& node)
 {
-    std::string text = node.Text();
+    std::string text(node.Text());
     if (KindOf(&node) == NodeKind::Station)
         for (const auto& fact : node.Children())
             text.append("\r\n").append(fact->Text());

@@ -185,7 +185,7 @@ void OnTreeLoading(const MenuContext& at, MenuEntryState& state)
 void NameUnload(const MenuContext& at, MenuEntryState& state)
 {
     if (at.node)
-        state.caption = "Unload " + (ChannelAt(at) ? at.node->Word() : FolderName(*at.node));
+        state.caption = "Unload " + (ChannelAt(at) ? std::string(at.node->Word()) : FolderName(*at.node));
 }
 
 // --- The own station

@@ -9,6 +9,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QSignalSpy>
 #include <QTest>
 
 namespace ruvenmark {
@@ -181,11 +182,15 @@ TEST_F(MapTilesTest, AFailingServerIsAskedLessAndLessAndThenUsedAgain)
     MapTiles tiles(options);
     tiles.Choose({Kind::Server, server.Template().toStdString()});
     server.answer = [](const QString&) { return TileServer::Answer{503, {}}; };
+    const QSignalSpy told(&tiles, &MapTiles::ProblemFound);
     tiles.Want({{6, 0, 0}});
     ASSERT_TRUE(QTest::qWaitFor([&] { return server.paths.size() == 3; })) << "asked again by itself";
+    EXPECT_EQ(told.count(), 1); // The operator learns why there are no tiles, and not with each try.
+    EXPECT_TRUE(tiles.Problem().contains(QStringLiteral("status 503"))) << tiles.Problem().toStdString();
     server.answer = [](const QString&) { return TileServer::Answer{200, PngTile("red")}; };
     EXPECT_TRUE(QTest::qWaitFor([&] { return tiles.Find({6, 0, 0}) != nullptr; }));
     EXPECT_EQ(server.paths.size(), 4);
+    EXPECT_TRUE(tiles.Problem().isEmpty());
 }
 
 TEST_F(MapTilesTest, TheDiskCacheStaysBelowItsLimit)
