@@ -1,15 +1,14 @@
 #pragma once
 
 #include "platform/geometry.h"
+#include "platform/slot_pool.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
-#include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 namespace ruvenmark {
 
@@ -85,40 +84,51 @@ constexpr std::string_view FieldName(Field field)
 }
 
 // What has been reported of a station on one channel so far: only the fields that were given, in order of first report.
+// They stand in one block, each as the field, the size of its text and the text.
 class Record {
 public:
-    bool Has(Field field) const { return Find(m_entries, field) != nullptr; }
+    struct Entry {
+        Field first;
+        std::string_view second;
+    };
+    class Iterator {
+    public:
+        explicit Iterator(const char* at) : m_at(at) {}
+        Entry operator*() const { return EntryAt(m_at); }
+        Iterator& operator++()
+        {
+            const std::string_view text = EntryAt(m_at).second;
+            m_at = text.data() + text.size();
+            return *this;
+        }
+        friend bool operator==(const Iterator&, const Iterator&) = default;
+
+    private:
+        const char* m_at;
+    };
+
+    bool Has(Field field) const { return Find(field).data() != nullptr; }
 
     // Empty for a field that was never set.
-    std::string_view Get(Field field) const
-    {
-        const auto* entry = Find(m_entries, field);
-        return entry ? std::string_view(entry->second) : std::string_view();
-    }
+    std::string_view Get(Field field) const { return Find(field); }
 
-    void Set(Field field, std::string_view value)
-    {
-        if (auto* entry = Find(m_entries, field))
-            entry->second = value;
-        else
-            m_entries.emplace_back(field, value);
-    }
+    // Raises Failure for a record beyond all reason.
+    void Set(Field field, std::string_view value);
 
-    auto begin() const { return m_entries.begin(); }
-    auto end() const { return m_entries.end(); }
+    // Where the marker that these reports move was last found; it may be gone or bear another name by now.
+    SlotRef Marker;
+
+    Iterator begin() const { return Iterator(m_block.get()); }
+    Iterator end() const { return Iterator(m_block.get() + m_size); }
 
 private:
-    // Null where there is none; as constant as the entries are.
-    template <typename Entries>
-    static auto Find(Entries& entries, Field field) -> decltype(entries.data())
-    {
-        for (auto& entry : entries)
-            if (entry.first == field)
-                return &entry;
-        return nullptr;
-    }
+    static Entry EntryAt(const char* at);
+    std::string_view Find(Field field) const; // No data where there is none.
+    void Replace(std::size_t at, std::size_t size, std::size_t newSize);
 
-    std::vector<std::pair<Field, std::string>> m_entries;
+    std::unique_ptr<char[]> m_block;
+    std::uint32_t m_size = 0;
+    std::uint32_t m_capacity = 0;
 };
 
 // Where the station was last reported; nothing where no position is known.

@@ -24,7 +24,8 @@ void SetGiven(Record& record, std::span<const FactValue> values)
 }
 
 FactWriter::FactWriter(KeyedTree& tree, Channel channel, std::string_view folderWord)
-    : m_tree(tree), m_channel(channel), m_folder(RequireFolder(tree, channel, folderWord))
+    : m_tree(tree), m_channel(channel), m_folder(RequireFolder(tree, channel, folderWord)),
+      m_stationsBefore(m_folder.Children().size())
 {
 }
 
@@ -61,7 +62,8 @@ void FactWriter::Color(std::uint32_t color)
 
 void FactWriter::Counts()
 {
-    WriteCounts(m_tree, m_channel, m_folder);
+    if (m_folder.Children().size() != m_stationsBefore) // The texts of before tell the rest.
+        WriteCounts(m_tree, m_channel, m_folder);
 }
 
 } // namespace ruvenmark

@@ -4,6 +4,7 @@
 #include "core/station_record.h"
 #include "platform/keyed_tree.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -41,6 +42,7 @@ private:
     KeyedTree& m_tree;
     Channel m_channel;
     TreeNode& m_folder;
+    std::size_t m_stationsBefore;
     TreeNode* m_station = nullptr;
     std::string m_text;
 };

@@ -1,5 +1,6 @@
 #include "intake/place_marker.h"
 
+#include "contracts/report_source.h"
 #include "core/main_window.h"
 #include "core/views.h"
 #include "map/marker_names.h"
@@ -24,21 +25,20 @@ void AddMarker(MainWindow& main, Channel channel, const Location& location, std:
 
 } // namespace
 
-void PlaceMarker(MainWindow& main, Channel channel, std::string_view call, double lat, double lon,
-                 std::string_view symbolWord, bool bTracked)
+void PlaceMarker(MainWindow& main, Channel channel, const PosReport& report, SlotRef hint, bool bTracked)
 {
     Map& map = main.mpCtrl.RequireMap();
-    const Location location = map.GetLocation(lat, lon);
+    const Location location = map.GetLocation(report.lat, report.lon);
     const std::string_view word = Traits(channel).word;
-    const std::string name = MarkerName(word, call);
-    auto pin = map.FindPushpin(name);
+    const std::string name = MarkerName(word, report.call);
+    auto pin = map.FindPushpin(name, hint);
     if (!pin) {
-        AddMarker(main, channel, location, name, symbolWord, bTracked);
+        AddMarker(main, channel, location, name, report.symbol, bTracked);
     } else if (bTracked && pin->Note().starts_with(word)) {
-        AddTrackPoint(main, channel, call, *pin, location, symbolWord);
+        AddTrackPoint(main, channel, report.call, *pin, location, report.symbol);
     } else {
         pin->SetLocation(location);
-        pin->SetSymbol(SymbolId(symbolWord));
+        pin->SetSymbol(SymbolId(report.symbol));
     }
     if (bTracked && main.tracking.bTrackStationPosition) {
         location.GoTo();

@@ -44,11 +44,11 @@ void PlayTrackSound(MainWindow& main)
 }
 
 // Everything ahead of the tree: a failure in here leaves out only the rest of it.
-void ShowOnMap(MainWindow& main, Channel channel, const PosReport& report)
+void ShowOnMap(MainWindow& main, Channel channel, const PosReport& report, const Record* known)
 {
     const bool bTracked = IsTracked(main.Of(channel), report.call);
     if (bTracked || AddsMarkers(main, channel))
-        PlaceMarker(main, channel, report.call, report.lat, report.lon, report.symbol, bTracked);
+        PlaceMarker(main, channel, report, known ? known->Marker : SlotRef(), bTracked);
     if (bTracked)
         PlayTrackSound(main);
 }
@@ -81,7 +81,7 @@ void WritePositionRecord(Record& record, const PosReport& report, const Position
     record.Set(Field::PositionReceived, texts.received);
 }
 
-void WriteMovement(MainWindow& main, Channel channel, const PosExtReport& report)
+Record& WriteMovement(MainWindow& main, Channel channel, const PosExtReport& report)
 {
     const bool bAltitude = report.altitude > kAbsent;
     const bool bSpeed = report.speed > kAbsent;
@@ -108,6 +108,7 @@ void WriteMovement(MainWindow& main, Channel channel, const PosExtReport& report
         record.Set(Field::Speed, speed);
     if (bCourse)
         record.Set(Field::Course, course);
+    return record;
 }
 
 } // namespace
@@ -117,12 +118,14 @@ void aprs_ReportPos(MainWindow& main, Channel channel, const PosReport& report)
     if (IsFiltered(main, channel, report.call, report.dest, report.lat, report.lon))
         return;
     const std::string received(main.services.clock.LocalNowText());
-    Attempt(main.abandoned, "ReportPos, map", [&] { ShowOnMap(main, channel, report); });
+    Record* known = main.Of(channel).Stations.Find(report.call);
+    Attempt(main.abandoned, "ReportPos, map", [&] { ShowOnMap(main, channel, report, known); });
     Attempt(main.abandoned, "ReportPos", [&] {
         const PositionTexts texts{ShortText(report.lat), ShortText(report.lon), received};
         WritePositionNodes(main, channel, report, texts);
-        WritePositionRecord(EnsureRecord(main.Of(channel), report.call), report, texts);
-        RefreshMarkerNote(main, channel, report.call);
+        Record& record = known ? *known : EnsureRecord(main.Of(channel), report.call);
+        WritePositionRecord(record, report, texts);
+        RefreshMarkerNote(main, channel, report.call, record);
     });
 }
 
@@ -131,8 +134,8 @@ void aprs_ReportPosExt(MainWindow& main, Channel channel, const PosExtReport& re
     if (IsFiltered(main, channel, report.call, report.dest, report.lat, report.lon))
         return;
     Attempt(main.abandoned, "ReportPosExt", [&] {
-        WriteMovement(main, channel, report);
-        RefreshMarkerNote(main, channel, report.call);
+        Record& record = WriteMovement(main, channel, report);
+        RefreshMarkerNote(main, channel, report.call, record);
     });
 }
 

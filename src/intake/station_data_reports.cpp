@@ -36,7 +36,7 @@ void FileDataExt(MainWindow& main, Channel channel, const DataExtReport& report)
     }
     Record& record = EnsureRecord(state, report.call);
     SetGiven(record, values);
-    RefreshMarkerNote(main, channel, report.call);
+    RefreshMarkerNote(main, channel, report.call, record);
 }
 
 } // namespace

@@ -48,7 +48,7 @@ std::string CountText(std::string_view label, std::size_t count)
 void WriteRootCount(KeyedTree& tree, Channel channel, TreeNode& root)
 {
     std::size_t sum = 0;
-    for (const auto& folder : root.Children())
+    for (const TreeNode* folder : root.Children())
         sum += folder->Children().size();
     if (sum <= static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max()))
         tree.SetText(root, CountText(Traits(channel).rootText, sum));

@@ -4,6 +4,8 @@
 #include "core/station_record.h"
 #include "platform/text.h"
 
+#include <array>
+#include <cstddef>
 #include <initializer_list>
 
 namespace ruvenmark {
@@ -25,33 +27,55 @@ void AppendShortened(std::string& note, std::string_view heard, std::size_t char
         note += "...";
 }
 
+// The texts of a record by their fields, from one walk over it.
+class FieldTexts {
+public:
+    explicit FieldTexts(const Record& record)
+    {
+        for (const auto& [field, text] : record)
+            m_texts[static_cast<std::size_t>(field)] = text;
+    }
+    std::string_view operator[](Field field) const { return m_texts[static_cast<std::size_t>(field)]; }
+
+private:
+    std::array<std::string_view, kFieldNames.size()> m_texts;
+};
+
 struct Piece {
     Field field;
     std::string_view unit;
 };
 
-// Nothing where the text is blank.
-void AppendLine(std::string& note, std::string_view text)
+// A line behind the others, without the blanks at its ends; nothing where it is blank.
+template <typename Write>
+void AppendLine(std::string& note, const Write& write)
 {
-    const std::string_view line = Trim(text);
-    if (line.empty())
-        return;
+    const std::size_t end = note.size();
     note += kLineEnd;
-    note += line;
+    const std::size_t start = note.size();
+    write();
+    const std::string_view line = Trim(std::string_view(note).substr(start));
+    if (line.empty()) {
+        note.resize(end);
+        return;
+    }
+    const auto blanks = static_cast<std::size_t>(line.data() - note.data()) - start;
+    note.resize(start + blanks + line.size());
+    note.erase(start, blanks);
 }
 
 // A line of those pieces that are given. Only the blanks at its ends are taken off, so a comma may stand last.
-void AppendPieces(std::string& note, const Record& record, std::initializer_list<Piece> pieces)
+void AppendPieces(std::string& note, const FieldTexts& texts, std::initializer_list<Piece> pieces)
 {
-    std::string line;
-    for (const auto& piece : pieces) {
-        const std::string_view value = record.Get(piece.field);
-        if (value.empty())
-            continue;
-        line += value;
-        line += piece.unit;
-    }
-    AppendLine(note, line);
+    AppendLine(note, [&] {
+        for (const auto& piece : pieces) {
+            const std::string_view value = texts[piece.field];
+            if (value.empty())
+                continue;
+            note += value;
+            note += piece.unit;
+        }
+    });
 }
 
 } // namespace
@@ -82,27 +106,26 @@ std::string_view CallOfMarkerName(std::string_view name)
 
 std::string MarkerNote(std::string_view channelWord, const Record& record)
 {
+    const FieldTexts texts(record);
     std::string note;
     note.reserve(160);
     note += channelWord;
     note += ", ";
-    note += record.Get(Field::PositionReceived);
+    note += texts[Field::PositionReceived];
     note += kLineEnd;
-    if (const auto path = record.Get(Field::PositionPath); !path.empty()) {
+    if (const auto path = texts[Field::PositionPath]; !path.empty()) {
         AppendShortened(note, path, kPathCharacters);
         note += kLineEnd;
     }
-    note += record.Get(Field::Lat);
+    note += texts[Field::Lat];
     note += "°, ";
-    note += record.Get(Field::Lon);
+    note += texts[Field::Lon];
     note += "°";
-    AppendPieces(note, record, {{Field::Alt, " ft, "}, {Field::Speed, " mph, "}, {Field::Course, "°"}});
+    AppendPieces(note, texts, {{Field::Alt, " ft, "}, {Field::Speed, " mph, "}, {Field::Course, "°"}});
     AppendPieces(
-        note, record,
+        note, texts,
         {{Field::Power, " watts, "}, {Field::Height, " ft, "}, {Field::Gain, " db, "}, {Field::Directivity, ""}});
-    std::string comment;
-    AppendShortened(comment, record.Get(Field::Comment), kCommentCharacters);
-    AppendLine(note, comment);
+    AppendLine(note, [&] { AppendShortened(note, texts[Field::Comment], kCommentCharacters); });
     return note;
 }
 

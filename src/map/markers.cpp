@@ -30,13 +30,14 @@ std::pair<Pushpin, bool> MarkerAt(Map& map, std::string_view name, const Locatio
 
 } // namespace
 
-void RefreshMarkerNote(MainWindow& main, Channel channel, std::string_view call)
+void RefreshMarkerNote(MainWindow& main, Channel channel, std::string_view call, Record& record)
 {
     const std::string_view word = Traits(channel).word;
-    auto pin = main.mpCtrl.RequireMap().FindPushpin(MarkerName(word, call));
-    const Record* record = main.Of(channel).Stations.Find(call);
-    if (pin && record)
-        pin->SetNote(MarkerNote(word, *record));
+    auto pin = main.mpCtrl.RequireMap().FindPushpin(MarkerName(word, call), record.Marker);
+    if (!pin)
+        return;
+    record.Marker = pin->Ref();
+    pin->SetNote(MarkerNote(word, record));
 }
 
 void DeleteMarker(MainWindow& main, std::string_view channelWord, std::string_view markerName)
@@ -168,7 +169,7 @@ void mnuViewPosition_Click(MainWindow& main)
     const auto station = SelectedStation(main.tvStationList);
     if (!station)
         return;
-    const std::string& call = station->node->Text();
+    const std::string call(station->node->Text());
     const Record* record = station->channel ? main.Of(*station->channel).Stations.Find(call) : nullptr;
     const auto point = record ? PositionOf(*record) : std::nullopt;
     if (!point) {

@@ -16,7 +16,7 @@ struct MainWindow;
 struct StationNode;
 
 // Writes the note of the station's marker anew, where it has one. Raises Failure.
-void RefreshMarkerNote(MainWindow& main, Channel channel, std::string_view call);
+void RefreshMarkerNote(MainWindow& main, Channel channel, std::string_view call, Record& record);
 
 // Deletes the marker of this name if its note begins with the channel word. Raises Failure.
 void DeleteMarker(MainWindow& main, std::string_view channelWord, std::string_view markerName);

@@ -25,7 +25,7 @@ Shape DrawCircle(Map& map, const Location& centre, double range)
 
 void ShowRange(MainWindow& main, const StationNode& station, ChannelState& state)
 {
-    const std::string& call = station.node->Text();
+    const std::string_view call = station.node->Text();
     const double* range = state.StationRanges.Find(call);
     const Record* record = state.Stations.Find(call);
     const auto point = record ? PositionOf(*record) : std::nullopt;

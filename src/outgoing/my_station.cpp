@@ -75,7 +75,7 @@ void UpdateComment(MainWindow& main, TreeNode& branch)
 {
     KeyedTree& tree = main.tvStationList;
     const std::string& comment = SettingText(main.Settings, Setting::Comment);
-    const auto& children = branch.Children();
+    const auto children = branch.Children();
     const auto old = std::find_if(children.begin(), children.end(),
                                   [&](const auto& child) { return tree.Image(*child) == kCommentImage; });
     if (old != children.end()) {

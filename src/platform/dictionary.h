@@ -1,11 +1,14 @@
 #pragma once
 
+#include "platform/text_hash.h"
+
 #include <cstddef>
 #include <iterator>
 #include <list>
+#include <memory>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <tsl/robin_set.h>
 #include <utility>
 
 namespace ruvenmark {
@@ -25,7 +28,7 @@ public:
     Dictionary(const Dictionary& other) : m_entries(other.m_entries)
     {
         for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry)
-            m_index.emplace(entry->key, entry);
+            m_index.insert(entry);
     }
     Dictionary(Dictionary&&) noexcept = default;
     Dictionary& operator=(const Dictionary& other)
@@ -40,12 +43,12 @@ public:
     Value* Find(std::string_view key)
     {
         const auto it = m_index.find(key);
-        return it == m_index.end() ? nullptr : &it->second->value;
+        return it == m_index.end() ? nullptr : &(*it)->value;
     }
     const Value* Find(std::string_view key) const
     {
         const auto it = m_index.find(key);
-        return it == m_index.end() ? nullptr : &it->second->value;
+        return it == m_index.end() ? nullptr : &(*it)->value;
     }
     bool Contains(std::string_view key) const { return m_index.contains(key); }
 
@@ -80,7 +83,7 @@ public:
         const auto it = m_index.find(key);
         if (it == m_index.end())
             return false;
-        const auto entry = it->second;
+        const auto entry = *it;
         m_index.erase(it);
         m_entries.erase(entry);
         return true;
@@ -101,16 +104,29 @@ public:
     typename Entries::const_iterator end() const { return m_entries.end(); }
 
 private:
+    using Iterator = typename Entries::iterator;
+    struct Hash {
+        using is_transparent = void;
+        std::size_t operator()(std::string_view key) const { return TextHash(HashSeed(), key); }
+        std::size_t operator()(Iterator entry) const { return (*this)(entry->key); }
+    };
+    struct Equal {
+        using is_transparent = void;
+        bool operator()(Iterator a, Iterator b) const { return a == b; }
+        bool operator()(Iterator entry, std::string_view key) const { return entry->key == key; }
+        bool operator()(std::string_view key, Iterator entry) const { return entry->key == key; }
+    };
+
     Value& Append(std::string_view key, Value value)
     {
         m_entries.push_back(Entry{std::string(key), std::move(value)});
         const auto last = std::prev(m_entries.end());
-        m_index.emplace(last->key, last);
+        m_index.insert(last);
         return last->value;
     }
 
     Entries m_entries;
-    std::unordered_map<std::string_view, typename Entries::iterator> m_index; // Keys are views of the entries.
+    tsl::robin_set<Iterator, Hash, Equal, std::allocator<Iterator>, true> m_index;
 };
 
 } // namespace ruvenmark

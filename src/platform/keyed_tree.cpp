@@ -5,8 +5,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <random>
-#include <utility>
 
 namespace ruvenmark {
 
@@ -15,84 +13,69 @@ namespace {
 // Up to this many children a look at each of them is faster than the index, and stays within the station's memory.
 constexpr std::size_t kFewChildren = 16;
 
-// Whether the node's whole key is the text.
-bool KeyIs(const TreeNode* node, std::string_view key)
-{
-    for (; node; node = node->Parent()) {
-        const std::string& word = node->Word();
-        if (!key.ends_with(word))
-            return false;
-        key.remove_suffix(word.size());
-    }
-    return key.empty();
-}
-
-std::size_t LevelOf(const TreeNode& node)
-{
-    std::size_t level = 0;
-    for (const TreeNode* above = node.Parent(); above; above = above->Parent())
-        ++level;
-    return level;
-}
-
 } // namespace
 
 std::string TreeNode::Key() const
 {
-    if (!m_parent)
-        return m_word;
-    std::string key = m_parent->Key();
-    key += m_word;
+    std::string key = m_parent ? m_parent->Key() : std::string();
+    key += Word();
     return key;
 }
 
-bool KeyedTree::KeyEqual::operator()(TreeNode* node, const KeyHash::Whole& probe) const
+KeyedTree::KeyedTree() : m_looks(1) {}
+
+KeyedTree::~KeyedTree()
 {
-    if (node->m_hash == probe.hash && KeyIs(node, probe.key) &&
-        (!probe.highest || LevelOf(*node) < LevelOf(*probe.highest)))
-        probe.highest = node;
-    return false;
+    for (TreeNode* root : m_root.m_children.All())
+        Drop(*root);
 }
 
-bool KeyedTree::KeyEqual::operator()(const TreeNode* node, const KeyHash::Below& probe) const
-{
-    return node->m_hash == probe.hash && node->m_parent == probe.parent && node->m_word == probe.word;
-}
-
-KeyedTree::KeyedTree() : m_images(1)
-{
-    m_root.m_hash = std::random_device{}();
-}
-
-KeyedTree::~KeyedTree() = default;
-
-// FNV-1a: a key's hash goes on from its parent's.
-std::uint32_t KeyedTree::HashOf(std::uint32_t start, std::string_view text)
-{
-    std::uint32_t hash = start;
-    for (const char c : text) {
-        hash ^= static_cast<unsigned char>(c);
-        hash *= 16777619U;
-    }
-    return hash;
-}
+struct KeyedTree::Highest {
+    TreeNode* node = nullptr;
+    std::size_t level = 0;
+};
 
 TreeNode* KeyedTree::Find(std::string_view key) const
 {
-    TreeNode* highest = nullptr;
-    m_index.find(KeyHash::Whole{key, HashOf(m_root.m_hash, key), highest});
-    return highest;
+    Highest found;
+    SearchBelow(m_root, key, 0, found);
+    return found.node;
+}
+
+template <typename Work>
+void KeyedTree::ForEachAhead(const TreeNode& parent, std::string_view key, const Work& work) const
+{
+    if (!parent.m_bIndexed) {
+        for (TreeNode* child : parent.Children())
+            if (key.starts_with(child->Word()))
+                work(*child);
+        return;
+    }
+    for (std::size_t size = 0; size <= key.size(); ++size)
+        if (TreeNode* child = m_index.Find(Told(parent), key.substr(0, size)))
+            work(*child);
+}
+
+void KeyedTree::SearchBelow(const TreeNode& parent, std::string_view key, std::size_t level, Highest& found) const
+{
+    ForEachAhead(parent, key, [&](TreeNode& child) {
+        if (found.node && found.level <= level)
+            return;
+        const std::string_view rest = key.substr(child.Word().size());
+        if (rest.empty())
+            found = {&child, level};
+        else
+            SearchBelow(child, rest, level + 1, found);
+    });
 }
 
 TreeNode* KeyedTree::Find(const TreeNode& parent, std::string_view word) const
 {
-    if (parent.m_children.size() > kFewChildren) {
-        const auto it = m_index.find(KeyHash::Below{Told(parent), word, HashOf(parent.m_hash, word)});
-        return it == m_index.end() ? nullptr : *it;
-    }
-    for (const auto& child : parent.m_children)
-        if (child->m_word == word)
-            return child.get();
+    if (parent.m_bIndexed)
+        return m_index.Find(Told(parent), word);
+    for (TreeNode* child : parent.Children())
+        if (child->Word() == word)
+            return child;
     return nullptr;
 }
 
@@ -113,52 +96,84 @@ TreeNode& KeyedTree::AddBelow(TreeNode& parent, std::string_view word, std::stri
 {
     if (Find(parent, word))
         throw Failure("the key is taken");
-    auto node = std::make_unique<TreeNode>();
-    node->m_word = word;
-    node->m_text = text;
-    node->m_parent = &parent == &m_root ? nullptr : &parent;
-    node->m_hash = HashOf(parent.m_hash, word);
-    node->m_image = ImageIndex(image);
-    node->m_expandedImage = ImageIndex(expandedImage);
+    const std::uint16_t look = LookIndex(image, expandedImage);
+    TreeNode& node = m_nodes.Make();
+    node.m_text.Set(text);
+    node.m_word = word == text ? nullptr : &m_words.Take(word);
+    node.m_parent = &parent == &m_root ? nullptr : &parent;
+    node.m_look = look;
 
     const std::size_t row = parent.m_bSorted ? SortedRow(parent, text) : parent.m_children.size();
-    node->m_rowHint = static_cast<std::uint32_t>(row);
-    TreeNode& added = *node;
+    node.m_rowHint = static_cast<std::uint32_t>(row);
     WillInsert.Raise(Told(parent), row);
-    parent.m_children.insert(parent.m_children.begin() + static_cast<std::ptrdiff_t>(row), std::move(node));
-    m_index.insert(&added);
-    Inserted.Raise(added);
-    return added;
+    parent.m_children.Insert(row, &node);
+    ++m_nodeCount;
+    EnterInIndex(parent, node);
+    Inserted.Raise(node);
+    return node;
+}
+
+void KeyedTree::EnterInIndex(TreeNode& parent, TreeNode& added)
+{
+    if (parent.m_bIndexed) {
+        m_index.Add(added);
+    } else if (parent.m_children.size() > kFewChildren) {
+        for (TreeNode* child : parent.Children())
+            m_index.Add(*child);
+        parent.m_bIndexed = true;
+    }
 }
 
 void KeyedTree::Remove(TreeNode& node)
 {
+    struct Dropping {
+        KeyedTree& tree;
+        TreeNode& gone;
+        ~Dropping() { tree.Drop(gone); }
+    };
     TreeNode& parent = node.m_parent ? *node.m_parent : m_root;
     const std::size_t row = Row(node);
     const TreeNode* selectedBefore = m_selected;
     WillRemove.Raise(node);
+    if (parent.m_bIndexed)
+        m_index.Remove(node);
+    parent.m_children.Erase(row);
+    const Dropping dropping{*this, node};
     Forget(node);
-    const auto gone = std::move(parent.m_children[row]);
-    parent.m_children.erase(parent.m_children.begin() + static_cast<std::ptrdiff_t>(row));
     Removed.Raise(Told(parent));
     if (m_selected != selectedBefore)
         SelectionChanged.Raise();
 }
 
+// Takes what stands below the node out of the index, and the selection away.
 void KeyedTree::Forget(TreeNode& node)
 {
-    for (const auto& child : node.m_children)
+    for (TreeNode* child : node.Children()) {
+        if (node.m_bIndexed)
+            m_index.Remove(*child);
         Forget(*child);
-    m_index.erase(&node);
+    }
+    --m_nodeCount;
     if (m_selected == &node)
         m_selected = nullptr;
 }
 
+void KeyedTree::Drop(TreeNode& node)
+{
+    for (TreeNode* child : node.Children())
+        Drop(*child);
+    if (node.m_word)
+        m_words.Return(*node.m_word);
+    m_nodes.Drop(node);
+}
+
 void KeyedTree::SetText(TreeNode& node, std::string_view text)
 {
-    if (node.m_text == text)
+    if (node.Text() == text)
         return;
-    node.m_text = text;
+    if (!node.m_word)
+        node.m_word = &m_words.Take(node.Text()); // The word stays.
+    node.m_text.Set(text);
     Changed.Raise(node);
     if (node.m_parent && node.m_parent->m_bSorted)
         SortChildren(*node.m_parent);
@@ -166,9 +181,9 @@ void KeyedTree::SetText(TreeNode& node, std::string_view text)
 
 void KeyedTree::SetImage(TreeNode& node, std::string_view image)
 {
-    if (m_images[node.m_image] == image)
+    if (Image(node) == image)
         return;
-    node.m_image = ImageIndex(image);
+    node.m_look = LookIndex(image, ExpandedImage(node));
     Changed.Raise(node);
 }
 
@@ -182,16 +197,18 @@ void KeyedTree::SetBold(TreeNode& node, bool bBold)
 
 void KeyedTree::SetColor(TreeNode& node, std::uint32_t color)
 {
-    if (node.m_color == color)
+    if (node.m_color == (color & 0xFFFFFFU))
         return;
-    node.m_color = color;
+    node.m_color = color & 0xFFFFFFU;
     Changed.Raise(node);
 }
 
 void KeyedTree::SetExpanded(TreeNode& node, bool bExpanded)
 {
-    if (std::exchange(node.m_bExpanded, bExpanded) != bExpanded)
-        Changed.Raise(node);
+    if (node.m_bExpanded == bExpanded)
+        return;
+    node.m_bExpanded = bExpanded;
+    Changed.Raise(node);
 }
 
 void KeyedTree::SetSorted(TreeNode& node, bool bSorted)
@@ -213,17 +230,19 @@ void KeyedTree::Select(TreeNode* node)
 
 std::size_t KeyedTree::SortedRow(const TreeNode& parent, std::string_view text) const
 {
-    const auto& children = parent.m_children;
-    const auto place = std::upper_bound(children.begin(), children.end(), text, [](std::string_view a, const auto& b) {
-        return CompareIgnoringCase(a, b->m_text) < 0;
-    });
+    const auto children = parent.Children();
+    const auto place =
+        std::upper_bound(children.begin(), children.end(), text,
+                         [](std::string_view a, const TreeNode* b) { return CompareIgnoringCase(a, b->Text()) < 0; });
     return static_cast<std::size_t>(place - children.begin());
 }
 
 void KeyedTree::SortChildren(TreeNode& node)
 {
-    auto& children = node.m_children;
-    const auto before = [](const auto& a, const auto& b) { return CompareIgnoringCase(a->m_text, b->m_text) < 0; };
+    const auto children = node.m_children.All();
+    const auto before = [](const TreeNode* a, const TreeNode* b) {
+        return CompareIgnoringCase(a->Text(), b->Text()) < 0;
+    };
     if (std::is_sorted(children.begin(), children.end(), before))
         return;
     WillSort.Raise(node);
@@ -236,13 +255,13 @@ void KeyedTree::SortChildren(TreeNode& node)
 // Insertions and removals make hints stale rather than renumber every sibling; the search goes outward from the hint.
 std::size_t KeyedTree::Row(const TreeNode& node) const
 {
-    const auto& siblings = node.m_parent ? node.m_parent->m_children : m_root.m_children;
+    const auto siblings = (node.m_parent ? *node.m_parent : m_root).Children();
     const std::size_t start = std::min<std::size_t>(node.m_rowHint, siblings.size() - 1);
     for (std::size_t step = 0;; ++step) {
         std::size_t found = siblings.size();
-        if (start >= step && siblings[start - step].get() == &node)
+        if (start >= step && siblings[start - step] == &node)
             found = start - step;
-        else if (start + step < siblings.size() && siblings[start + step].get() == &node)
+        else if (start + step < siblings.size() && siblings[start + step] == &node)
             found = start + step;
         if (found != siblings.size()) {
             siblings[found]->m_rowHint = static_cast<std::uint32_t>(found);
@@ -251,15 +270,17 @@ std::size_t KeyedTree::Row(const TreeNode& node) const
     }
 }
 
-std::uint16_t KeyedTree::ImageIndex(std::string_view image)
+std::uint16_t KeyedTree::LookIndex(std::string_view image, std::string_view expandedImage)
 {
-    const auto found = std::find(m_images.begin(), m_images.end(), image);
-    if (found != m_images.end())
-        return static_cast<std::uint16_t>(found - m_images.begin());
-    if (m_images.size() > std::numeric_limits<std::uint16_t>::max())
+    const auto found = std::find_if(m_looks.begin(), m_looks.end(), [&](const Look& look) {
+        return look.first == image && look.second == expandedImage;
+    });
+    if (found != m_looks.end())
+        return static_cast<std::uint16_t>(found - m_looks.begin());
+    if (m_looks.size() > std::numeric_limits<std::uint16_t>::max())
         return 0;
-    m_images.emplace_back(image);
-    return static_cast<std::uint16_t>(m_images.size() - 1);
+    m_looks.emplace_back(image, expandedImage);
+    return static_cast<std::uint16_t>(m_looks.size() - 1);
 }
 
 } // namespace ruvenmark

@@ -1,29 +1,32 @@
 #pragma once
 
+#include "platform/block_pool.h"
 #include "platform/event.h"
+#include "platform/pointer_list.h"
+#include "platform/small_text.h"
+#include "platform/tree_index.h"
+#include "platform/word_table.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
+#include <span>
 #include <string>
 #include <string_view>
-#include <tsl/robin_set.h>
+#include <utility>
 #include <vector>
 
 namespace ruvenmark {
 
-class KeyedTree;
-
-// A node of a KeyedTree. Only the tree changes it.
+// A node of a KeyedTree. Only the tree makes and changes it. There are millions of them, and each is one cache line.
 class TreeNode {
 public:
     // The whole key: the keys of the nodes above it and its own word, one behind the other.
     std::string Key() const;
     // What this node adds to its parent's key.
-    const std::string& Word() const { return m_word; }
-    const std::string& Text() const { return m_text; }
+    std::string_view Word() const { return m_word ? WordTable::Text(*m_word) : m_text.View(); }
+    std::string_view Text() const { return m_text.View(); }
     TreeNode* Parent() const { return m_parent; } // Null for a root.
-    const std::vector<std::unique_ptr<TreeNode>>& Children() const { return m_children; }
+    std::span<TreeNode* const> Children() const { return m_children.All(); }
     std::uint32_t Color() const { return m_color; } // Red in the low byte; 0 is the ordinary text colour.
     bool IsBold() const { return m_bBold; }
     bool IsSorted() const { return m_bSorted; }
@@ -31,20 +34,24 @@ public:
 
 private:
     friend class KeyedTree;
+    friend class BlockPool<TreeNode>;
 
-    std::string m_word;
-    std::string m_text;
+    TreeNode() = default;
+    ~TreeNode() = default;
+
     TreeNode* m_parent = nullptr;
-    std::vector<std::unique_ptr<TreeNode>> m_children;
-    std::uint32_t m_hash = 0; // Of the whole key.
-    std::uint32_t m_color = 0;
+    PointerList<TreeNode> m_children;
+    const WordTable::Entry* m_word = nullptr; // Null where the text is the word, as it is of stations.
+    SmallText m_text;
+    std::uint16_t m_look = 0;
     std::uint32_t m_rowHint = 0;
-    std::uint16_t m_image = 0;
-    std::uint16_t m_expandedImage = 0;
-    bool m_bBold = false;
-    bool m_bSorted = false;
-    bool m_bExpanded = false;
+    std::uint32_t m_color : 24 = 0;
+    bool m_bBold : 1 = false;
+    bool m_bSorted : 1 = false;
+    bool m_bExpanded : 1 = false;
+    bool m_bIndexed : 1 = false; // The index holds its children.
 };
+static_assert(sizeof(TreeNode) == 64 || sizeof(void*) != 8);
 
 // A tree of texts. A node is what its place says, its parent and its word: no two children of one parent have the same
 // word; case counts. Its key, the words from the root down joined into one, finds it too, but other splits of the same
@@ -56,7 +63,8 @@ public:
     KeyedTree(const KeyedTree&) = delete;
     KeyedTree& operator=(const KeyedTree&) = delete;
 
-    // Of several nodes with the key one on the highest level, a station before a fact. Null when there is none.
+    // Walks down from the roots. Of several nodes with the key one on the highest level, a station before a fact. Null
+    // when there is none.
     TreeNode* Find(std::string_view key) const;
     // The parent's child of this word, or null.
     TreeNode* Find(const TreeNode& parent, std::string_view word) const;
@@ -77,12 +85,12 @@ public:
     void SetSorted(TreeNode& node, bool bSorted);
     void SetExpanded(TreeNode& node, bool bExpanded);
 
-    const std::string& Image(const TreeNode& node) const { return m_images[node.m_image]; }
-    const std::string& ExpandedImage(const TreeNode& node) const { return m_images[node.m_expandedImage]; }
+    const std::string& Image(const TreeNode& node) const { return m_looks[node.m_look].first; }
+    const std::string& ExpandedImage(const TreeNode& node) const { return m_looks[node.m_look].second; }
 
-    const std::vector<std::unique_ptr<TreeNode>>& Roots() const { return m_root.m_children; }
+    std::span<TreeNode* const> Roots() const { return m_root.Children(); }
     std::size_t Row(const TreeNode& node) const; // Among its siblings.
-    std::size_t NodeCount() const { return m_index.size(); }
+    std::size_t NodeCount() const { return m_nodeCount; }
 
     // What commands act on; null when nothing is selected or the node is gone.
     TreeNode* Selected() const { return m_selected; }
@@ -99,45 +107,30 @@ public:
     Event<> SelectionChanged;
 
 private:
-    struct KeyHash {
-        using is_transparent = void;
-        // Equal to no node, so that a search meets every node of the hash; it leaves the highest of the key here.
-        struct Whole {
-            std::string_view key;
-            std::uint32_t hash;
-            TreeNode*& highest;
-        };
-        struct Below {
-            const TreeNode* parent; // Null for the roots.
-            std::string_view word;
-            std::uint32_t hash;
-        };
-        std::size_t operator()(const TreeNode* node) const { return node->m_hash; }
-        std::size_t operator()(const Whole& probe) const { return probe.hash; }
-        std::size_t operator()(const Below& probe) const { return probe.hash; }
-    };
-    struct KeyEqual {
-        using is_transparent = void;
-        bool operator()(const TreeNode* a, const TreeNode* b) const { return a == b; }
-        bool operator()(TreeNode* node, const KeyHash::Whole& probe) const;
-        bool operator()(const TreeNode* node, const KeyHash::Below& probe) const;
-    };
+    using Look = std::pair<std::string, std::string>; // The images of a node and of an expanded one.
+    struct Highest;                                   // Of a search for a whole key.
 
-    static std::uint32_t HashOf(std::uint32_t start, std::string_view text);
+    void SearchBelow(const TreeNode& parent, std::string_view key, std::size_t level, Highest& found) const;
+    // The work on each child whose word the key begins with.
+    template <typename Work>
+    void ForEachAhead(const TreeNode& parent, std::string_view key, const Work& work) const;
     TreeNode& AddBelow(TreeNode& parent, std::string_view word, std::string_view text, std::string_view image,
                        std::string_view expandedImage);
     std::size_t SortedRow(const TreeNode& parent, std::string_view text) const;
     void SortChildren(TreeNode& node);
+    void EnterInIndex(TreeNode& parent, TreeNode& added);
     void Forget(TreeNode& node);
-    std::uint16_t ImageIndex(std::string_view image);
+    void Drop(TreeNode& node);
+    std::uint16_t LookIndex(std::string_view image, std::string_view expandedImage);
     // What stands for a parent outside: null for the node above the roots.
     const TreeNode* Told(const TreeNode& node) const { return &node == &m_root ? nullptr : &node; }
 
-    TreeNode m_root; // Above the roots; never shown. Its hash is a seed, so that nobody on the air can choose calls
-                     // that collide.
-    // Flat, as a report pays for every cache line that it has to wait for.
-    tsl::robin_set<TreeNode*, KeyHash, KeyEqual, std::allocator<TreeNode*>, true> m_index;
-    std::vector<std::string> m_images; // The words in use; the first is the empty one.
+    WordTable m_words;
+    BlockPool<TreeNode> m_nodes;
+    TreeNode m_root;           // Above the roots; never shown.
+    TreeIndex m_index;         // The children of those that have many.
+    std::vector<Look> m_looks; // Those in use; the first is the empty one.
+    std::size_t m_nodeCount = 0;
     TreeNode* m_selected = nullptr;
 };
 

@@ -35,7 +35,8 @@ void Pushpin::SetLocation(const ruvenmark::Location& location)
 {
     m_map->CheckSerial(location);
     m_map->Pin(m_ref).point = location.Point();
-    m_map->Mark(m_ref);
+    m_map->MarkPlace(m_ref);
+    m_map->Touch();
 }
 
 const std::string& Pushpin::Note() const
@@ -58,7 +59,8 @@ std::int16_t Pushpin::Symbol() const
 void Pushpin::SetSymbol(std::int16_t symbol)
 {
     m_map->Pin(m_ref).symbol = symbol;
-    m_map->Mark(m_ref);
+    m_map->MarkLook(m_ref);
+    m_map->Touch();
 }
 
 std::int32_t Pushpin::BalloonState() const
@@ -69,7 +71,8 @@ std::int32_t Pushpin::BalloonState() const
 void Pushpin::SetBalloonState(std::int32_t state)
 {
     m_map->Pin(m_ref).balloonState = state;
-    m_map->Mark(m_ref);
+    m_map->MarkLook(m_ref);
+    m_map->Touch();
 }
 
 void Pushpin::Delete()

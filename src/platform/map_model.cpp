@@ -43,13 +43,19 @@ void Map::Touch()
     Changed.Raise();
 }
 
-// Brings the painters' copy of a pin up to date.
-void Map::Mark(SlotRef ref)
+// Two halves of bringing the painters' copy of a pin up to date.
+void Map::MarkPlace(SlotRef ref)
+{
+    const MercatorPoint at = ToMercator(Pin(ref).point);
+    m_points[ref.slot].x = ToFixed(at.x);
+    m_points[ref.slot].y = ToFixed(at.y);
+}
+
+void Map::MarkLook(SlotRef ref)
 {
     const PinData& pin = Pin(ref);
-    const MercatorPoint at = ToMercator(pin.point);
-    m_points[ref.slot] = {ToFixed(at.x), ToFixed(at.y), pin.symbol, true, pin.balloonState != 0};
-    Touch();
+    m_points[ref.slot].symbol = pin.symbol;
+    m_points[ref.slot].bBalloon = pin.balloonState != 0;
 }
 
 Location Map::GetLocation(double lat, double lon, double /*altitude*/)
@@ -66,12 +72,15 @@ double Map::Distance(const Location& from, const Location& to) const
     return GreatCircleMiles(from.Point(), to.Point());
 }
 
-std::optional<Pushpin> Map::FindPushpin(std::string_view name)
+std::optional<Pushpin> Map::FindPushpin(std::string_view name, SlotRef hint)
 {
+    const PinData* hinted = m_pins.Find(hint);
+    if (hinted && hinted->name == name && IsOldestOfName(hint))
+        return Pushpin(*this, hint);
     const auto it = m_names.find(name);
     if (it == m_names.end())
         return std::nullopt;
-    return Pushpin(*this, it->second);
+    return Pushpin(*this, m_pins.RefAt(*it));
 }
 
 Pushpin Map::AddPushpin(const Location& location, std::string_view name)
@@ -83,9 +92,12 @@ Pushpin Map::AddPushpin(const Location& location, std::string_view name)
     pin.point = location.Point();
     if (m_points.size() <= ref.slot)
         m_points.resize(ref.slot + 1);
+    m_points[ref.slot].bLive = true;
     LinkName(ref);
     m_bPinEverAdded = true;
-    Mark(ref);
+    MarkLook(ref);
+    MarkPlace(ref);
+    Touch();
     return {*this, ref};
 }
 
@@ -129,45 +141,51 @@ std::vector<Pushpin> Map::AllRecords()
 
 // --- Names
 
+bool Map::IsOldestOfName(SlotRef ref) const
+{
+    return m_pins.RefAt(m_pins.At(ref.slot)->previousOfName).id >= ref.id;
+}
+
 void Map::LinkName(SlotRef ref)
 {
     PinData& pin = Pin(ref);
-    const auto [it, bFirst] = m_names.try_emplace(pin.name, ref);
-    if (bFirst) {
-        pin.previousOfName = pin.nextOfName = ref;
+    const auto it = m_names.find(std::string_view(pin.name));
+    if (it == m_names.end()) {
+        pin.previousOfName = pin.nextOfName = ref.slot;
+        m_names.insert(ref.slot);
         return;
     }
-    const SlotRef oldest = it->second;
-    SlotRef before = Pin(oldest).previousOfName; // The newest; a renamed pin may be older than some.
-    while (before.id > ref.id && before != oldest)
-        before = Pin(before).previousOfName;
-    const bool bBecomesOldest = before.id > ref.id;
+    const auto isYounger = [&](std::uint32_t slot) { return m_pins.RefAt(slot).id > ref.id; };
+    const std::uint32_t oldest = *it;
+    std::uint32_t before = m_pins.At(oldest)->previousOfName; // The newest; a renamed pin may be older than some.
+    while (isYounger(before) && before != oldest)
+        before = m_pins.At(before)->previousOfName;
+    const bool bBecomesOldest = isYounger(before);
     if (bBecomesOldest)
-        before = Pin(oldest).previousOfName;
-    const SlotRef after = Pin(before).nextOfName;
+        before = m_pins.At(oldest)->previousOfName;
+    const std::uint32_t after = m_pins.At(before)->nextOfName;
     pin.previousOfName = before;
     pin.nextOfName = after;
-    Pin(before).nextOfName = ref;
-    Pin(after).previousOfName = ref;
+    m_pins.At(before)->nextOfName = ref.slot;
+    m_pins.At(after)->previousOfName = ref.slot;
     if (bBecomesOldest) {
         m_names.erase(it);
-        m_names.emplace(pin.name, ref);
+        m_names.insert(ref.slot);
     }
 }
 
 void Map::UnlinkName(SlotRef ref)
 {
     const PinData& pin = Pin(ref);
-    const auto it = m_names.find(pin.name);
-    const bool bOldest = it->second == ref;
+    const bool bOldest = IsOldestOfName(ref);
     if (bOldest)
-        m_names.erase(it);
-    if (pin.nextOfName == ref)
+        m_names.erase(ref.slot);
+    if (pin.nextOfName == ref.slot)
         return;
-    Pin(pin.previousOfName).nextOfName = pin.nextOfName;
-    Pin(pin.nextOfName).previousOfName = pin.previousOfName;
+    m_pins.At(pin.previousOfName)->nextOfName = pin.nextOfName;
+    m_pins.At(pin.nextOfName)->previousOfName = pin.previousOfName;
     if (bOldest)
-        m_names.emplace(Pin(pin.nextOfName).name, pin.nextOfName);
+        m_names.insert(pin.nextOfName);
 }
 
 // --- Style and view

@@ -5,12 +5,14 @@
 #include "platform/map_region.h"
 #include "platform/map_style.h"
 #include "platform/slot_pool.h"
+#include "platform/text_hash.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <tsl/robin_set.h>
 #include <vector>
 
 namespace ruvenmark {
@@ -99,10 +101,10 @@ private:
 struct PinData {
     std::string name, note;
     GeoPoint point;
-    std::int16_t symbol = kDefaultSymbol;
     std::int32_t balloonState = 0;
-    // Pins of one name, oldest first, in a ring: the oldest one's previous is the newest.
-    SlotRef previousOfName, nextOfName;
+    std::int16_t symbol = kDefaultSymbol;
+    // Slots of pins of one name, oldest first, in a ring: the oldest one's previous is the newest.
+    std::uint32_t previousOfName = 0, nextOfName = 0;
 };
 struct ShapeData {
     enum class Kind : std::uint8_t { Line, Circle };
@@ -134,8 +136,8 @@ public:
     Location GetLocation(double lat, double lon, double altitude = 0);
     double Distance(const Location& from, const Location& to) const; // Miles.
 
-    // The oldest pin of exactly this name.
-    std::optional<Pushpin> FindPushpin(std::string_view name);
+    // The oldest pin of exactly this name. One that a hint names, as it was found before, is found without a search.
+    std::optional<Pushpin> FindPushpin(std::string_view name, SlotRef hint = {});
     Pushpin AddPushpin(const Location& location, std::string_view name);
     Shape AddLine(const Location& from, const Location& to);
     Shape AddShape(std::int32_t type, const Location& centre, double width, double height);
@@ -182,14 +184,31 @@ private:
     void CheckSerial(const Location& location) const;
     PinData& Pin(SlotRef ref);
     ShapeData& ShapeOf(SlotRef ref);
-    void Mark(SlotRef ref);
+    void MarkPlace(SlotRef ref);
+    void MarkLook(SlotRef ref);
+    bool IsOldestOfName(SlotRef ref) const;
     void LinkName(SlotRef ref);
     void UnlinkName(SlotRef ref);
+
+    // Finds slots by the name of the pin in them.
+    struct NameHash {
+        using is_transparent = void;
+        const SlotPool<PinData>* pins;
+        std::size_t operator()(std::string_view name) const { return TextHash(HashSeed(), name); }
+        std::size_t operator()(std::uint32_t slot) const { return (*this)(pins->At(slot)->name); }
+    };
+    struct NameEqual {
+        using is_transparent = void;
+        const SlotPool<PinData>* pins;
+        bool operator()(std::uint32_t a, std::uint32_t b) const { return a == b; }
+        bool operator()(std::uint32_t slot, std::string_view name) const { return pins->At(slot)->name == name; }
+    };
+    using Names = tsl::robin_set<std::uint32_t, NameHash, NameEqual, std::allocator<std::uint32_t>, true>;
 
     SlotPool<PinData> m_pins;
     SlotPool<ShapeData> m_shapes;
     std::vector<PinPoint> m_points;
-    std::unordered_map<std::string_view, SlotRef> m_names; // The oldest of each name; keys are views of its name.
+    Names m_names{0, NameHash{&m_pins}, NameEqual{&m_pins}}; // The slot of the oldest of each name.
     MapView m_view;
     std::uint64_t m_serial = 0;
     std::int32_t m_style = kFirstMapStyle;

@@ -6,6 +6,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 namespace ruvenmark {
@@ -78,10 +79,38 @@ std::string_view BoolText(bool value)
     return value ? "True" : "False";
 }
 
+namespace {
+
+constexpr double kMillion = 1e6;
+constexpr double kFifteenDigits = 1e15; // Of so many, no two numbers share a double: the number is its own shortest.
+
+// A whole number of millionths.
+void AppendMillionths(std::string& text, std::int64_t millionths)
+{
+    constexpr std::uint64_t kWhole = 1000000;
+    std::array<char, 32> buffer;
+    char* end = buffer.data();
+    if (millionths < 0)
+        *end++ = '-';
+    const auto size = static_cast<std::uint64_t>(std::abs(millionths));
+    end = std::to_chars(end, buffer.data() + buffer.size(), size / kWhole).ptr;
+    std::uint64_t rest = size % kWhole;
+    if (rest != 0)
+        *end++ = '.';
+    for (std::uint64_t digit = kWhole / 10; rest != 0; digit /= 10) {
+        *end++ = static_cast<char>('0' + rest / digit);
+        rest %= digit;
+    }
+    text.append(buffer.data(), end);
+}
+
+} // namespace
+
 void AppendShortText(std::string& text, double value)
 {
-    if (value == 0)
-        value = 0;                // Minus zero reads as zero.
+    const double millionths = std::nearbyint(value * kMillion);
+    if (std::abs(millionths) < kFifteenDigits && millionths / kMillion == value) // Zero among them, minus zero too.
+        return AppendMillionths(text, static_cast<std::int64_t>(millionths));
     std::array<char, 400> buffer; // The largest double has 309 digits before the point.
     const auto [end, error] =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
+#include <memory>
 #include <vector>
 
 namespace ruvenmark {
@@ -22,43 +22,45 @@ public:
     {
         std::uint32_t slot = 0;
         if (m_free.empty()) {
-            slot = static_cast<std::uint32_t>(m_slots.size());
-            m_slots.emplace_back();
+            if (m_slotCount == m_blocks.size() * kBlock)
+                m_blocks.push_back(std::make_unique<Slot[]>(kBlock));
+            slot = static_cast<std::uint32_t>(m_slotCount++);
         } else {
             slot = m_free.back();
             m_free.pop_back();
         }
-        m_slots[slot].value = std::move(value);
-        m_slots[slot].id = ++m_lastId;
+        SlotAt(slot).value = std::move(value);
+        SlotAt(slot).id = ++m_lastId;
         ++m_count;
         return {slot, m_lastId};
     }
 
-    Value* Find(SlotRef ref) { return Holds(ref) ? &m_slots[ref.slot].value : nullptr; }
-    const Value* Find(SlotRef ref) const { return Holds(ref) ? &m_slots[ref.slot].value : nullptr; }
+    Value* Find(SlotRef ref) { return Holds(ref) ? &SlotAt(ref.slot).value : nullptr; }
+    const Value* Find(SlotRef ref) const { return Holds(ref) ? &SlotAt(ref.slot).value : nullptr; }
 
     void Remove(SlotRef ref)
     {
         if (!Find(ref))
             return;
-        m_slots[ref.slot] = Slot();
+        SlotAt(ref.slot) = Slot();
         m_free.push_back(ref.slot);
         --m_count;
     }
 
     void Clear()
     {
-        m_slots.clear();
+        m_blocks.clear();
+        m_slotCount = 0;
         m_free.clear();
         m_count = 0;
     }
 
     std::size_t Count() const { return m_count; }
-    std::size_t SlotCount() const { return m_slots.size(); }
+    std::size_t SlotCount() const { return m_slotCount; }
     // An empty reference for a slot that holds nothing.
-    SlotRef RefAt(std::size_t slot) const { return {static_cast<std::uint32_t>(slot), m_slots[slot].id}; }
-    Value* At(std::size_t slot) { return m_slots[slot].id != 0 ? &m_slots[slot].value : nullptr; }
-    const Value* At(std::size_t slot) const { return m_slots[slot].id != 0 ? &m_slots[slot].value : nullptr; }
+    SlotRef RefAt(std::size_t slot) const { return {static_cast<std::uint32_t>(slot), SlotAt(slot).id}; }
+    Value* At(std::size_t slot) { return SlotAt(slot).id != 0 ? &SlotAt(slot).value : nullptr; }
+    const Value* At(std::size_t slot) const { return SlotAt(slot).id != 0 ? &SlotAt(slot).value : nullptr; }
 
 private:
     struct Slot {
@@ -66,9 +68,14 @@ private:
         std::uint64_t id = 0;
     };
 
-    bool Holds(SlotRef ref) const { return ref.id != 0 && ref.slot < m_slots.size() && m_slots[ref.slot].id == ref.id; }
+    bool Holds(SlotRef ref) const { return ref.id != 0 && ref.slot < m_slotCount && SlotAt(ref.slot).id == ref.id; }
 
-    std::deque<Slot> m_slots;
+    static constexpr std::size_t kBlock = 256;
+    Slot& SlotAt(std::size_t slot) { return m_blocks[slot / kBlock][slot % kBlock]; }
+    const Slot& SlotAt(std::size_t slot) const { return m_blocks[slot / kBlock][slot % kBlock]; }
+
+    std::vector<std::unique_ptr<Slot[]>> m_blocks;
+    std::size_t m_slotCount = 0;
     std::vector<std::uint32_t> m_free;
     std::uint64_t m_lastId = 0;
     std::size_t m_count = 0;

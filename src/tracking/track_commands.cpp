@@ -25,7 +25,7 @@ std::optional<TrackedSelection> Selection(MainWindow& main)
     const auto station = SelectedStation(main.tvStationList);
     if (!station || !station->channel)
         return std::nullopt;
-    return TrackedSelection{station->node->Text(), main.Of(*station->channel)};
+    return TrackedSelection{std::string(station->node->Text()), main.Of(*station->channel)};
 }
 
 // Also the station's markers on other channels, its track points, and those of any longer call.

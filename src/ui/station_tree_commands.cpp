@@ -157,8 +157,8 @@ void mnuRemoveStation_Click(MainWindow& main)
     if (!station || !station->channel)
         return;
     const Channel channel = *station->channel;
-    const std::string call = station->node->Text();
-    const std::string folderWord = station->folder->Word();
+    const std::string call(station->node->Text());
+    const std::string folderWord(station->folder->Word());
     if (main.services.prompts.AskYesNo("Are you sure you want to delete report for " + call + "?"))
         RemoveStation(main, channel, call, folderWord);
 }
@@ -190,7 +190,8 @@ void mnuUnloadFolder_Click(MainWindow& main)
     const auto channel = ChannelOf(*root);
     if (channel && Traits(*channel).bRootAtStart)
         return;
-    if (!main.services.prompts.AskYesNo("Are you sure you want to unload all " + root->Text() + " reports?"))
+    if (!main.services.prompts.AskYesNo("Are you sure you want to unload all " + std::string(root->Text()) +
+                                        " reports?"))
         return;
     TreeNode* const standing = main.tvStationList.Find(key);
     if (!standing)

@@ -62,7 +62,7 @@ void NameNames(const MenuContext& at, MenuEntryState& state, bool bShow)
 {
     const std::string verb = bShow ? "Show " : "Hide ";
     if (const ChannelState* channel = ChannelAt(at)) {
-        state.caption = verb + at.node->Word() + " Station Names";
+        state.caption = verb + std::string(at.node->Word()) + " Station Names";
         state.bChecked = IsNamesState(at.main, channel->channel, bShow);
     } else if (at.node) {
         state.caption = verb + FolderName(*at.node) + " Stations";
@@ -132,7 +132,7 @@ void NamePopupConnect(const MenuContext& at, MenuEntryState& state)
 void OnChannelFilter(const MenuContext& at, MenuEntryState& state)
 {
     if (const ChannelState* channel = ChannelAt(at)) {
-        state.caption = "Filter " + at.node->Word() + " Reports";
+        state.caption = "Filter " + std::string(at.node->Word()) + " Reports";
         state.bChecked = channel->Filter.bOn;
     }
 }
@@ -140,13 +140,13 @@ void OnChannelFilter(const MenuContext& at, MenuEntryState& state)
 void NameFilterEditor(const MenuContext& at, MenuEntryState& state)
 {
     if (ChannelAt(at))
-        state.caption = "Edit " + at.node->Word() + " Filter...";
+        state.caption = "Edit " + std::string(at.node->Word()) + " Filter...";
 }
 
 void NameChannelReports(const MenuContext& at, MenuEntryState& state)
 {
     if (ChannelAt(at))
-        state.caption = "Delete " + at.node->Word() + " Reports";
+        state.caption = "Delete " + std::string(at.node->Word()) + " Reports";
 }
 
 void TickAllNames(const MenuContext& at, MenuEntryState& state)

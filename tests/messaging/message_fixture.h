@@ -100,7 +100,7 @@ protected:
     std::string BoxText(std::string_view key) const
     {
         const TreeNode* node = main.messages.tvMessageBoxes.Find(key);
-        return node ? node->Text() : "(no node)";
+        return std::string(node ? node->Text() : "(no node)");
     }
     const RowList& Inbox() const { return main.messages.lvMessageList; }
     const RowList& SentList() const { return main.messages.lvSentList; }

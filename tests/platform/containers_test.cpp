@@ -3,7 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ruvenmark {
@@ -71,6 +74,36 @@ TEST(Dictionary, CopiesAndMovesStandOnTheirOwn)
     first = moved;
     EXPECT_EQ(*first.Find("b"), 2);
     EXPECT_FALSE(first.Contains("a"));
+}
+
+// Order of first insertion, found by key, values where they were: also while the index grows, shrinks and is full of
+// holes.
+TEST(Dictionary, RandomEditsAsAListHasThem)
+{
+    std::mt19937 random(4);
+    Dictionary<int> dictionary;
+    std::vector<std::pair<std::string, int>> plain;
+    for (int i = 0; i < 20000; ++i) {
+        const std::string key = std::to_string(random() % (i < 10000 ? 300 : 20)) + std::string(random() % 2 * 30, 'k');
+        const auto at = std::find_if(plain.begin(), plain.end(), [&](const auto& entry) { return entry.first == key; });
+        const bool bStands = at != plain.end();
+        if (random() % 3 == 0) {
+            ASSERT_EQ(dictionary.Remove(key), bStands);
+            if (bStands)
+                plain.erase(at);
+        } else {
+            dictionary.Set(key, i);
+            bStands ? static_cast<void>(at->second = i) : static_cast<void>(plain.emplace_back(key, i));
+        }
+        ASSERT_EQ(dictionary.Count(), plain.size());
+    }
+    auto expected = plain.begin();
+    for (const auto& [key, value] : dictionary) {
+        EXPECT_EQ(key, expected->first);
+        EXPECT_EQ(value, expected->second);
+        EXPECT_EQ(dictionary.Find(key), &value);
+        ++expected;
+    }
 }
 
 } // namespace

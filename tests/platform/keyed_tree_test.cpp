@@ -15,7 +15,7 @@ std::vector<std::string> Texts(const TreeNode& parent)
 {
     std::vector<std::string> texts;
     for (const auto& child : parent.Children())
-        texts.push_back(child->Text());
+        texts.emplace_back(child->Text());
     return texts;
 }
 
@@ -118,8 +118,8 @@ public:
             if (node->Parent()) {
                 EXPECT_EQ(tree.Find(*node->Parent(), node->Word()), node);
             }
-            const auto& siblings = node->Parent() ? node->Parent()->Children() : tree.Roots();
-            EXPECT_EQ(siblings[tree.Row(*node)].get(), node);
+            const auto siblings = node->Parent() ? node->Parent()->Children() : tree.Roots();
+            EXPECT_EQ(siblings[tree.Row(*node)], node);
             if (node->IsSorted()) {
                 EXPECT_TRUE(
                     std::is_sorted(node->Children().begin(), node->Children().end(), [](const auto& a, const auto& b) {
@@ -137,7 +137,7 @@ private:
     static Path PathOf(const TreeNode& node)
     {
         Path path = node.Parent() ? PathOf(*node.Parent()) : Path();
-        path.push_back(node.Word());
+        path.emplace_back(node.Word());
         return path;
     }
     static std::string Joined(const Path& path)
@@ -169,7 +169,8 @@ private:
         }
         const bool bWasTaken = taken != m_nodes.end();
         try {
-            m_nodes[path] = parent ? &tree.Add(*parent, word, Word()) : &tree.AddRoot(word, Word());
+            const std::string text = Below(2) == 0 ? word : Word(); // Stations' texts are their words.
+            m_nodes[path] = parent ? &tree.Add(*parent, word, text) : &tree.AddRoot(word, text);
             EXPECT_FALSE(bWasTaken) << Joined(path);
         } catch (const Failure&) {
             EXPECT_TRUE(bWasTaken) << Joined(path);

@@ -83,7 +83,7 @@ public:
     std::string Text(std::string_view key) const
     {
         const TreeNode* node = Node(key);
-        return node ? node->Text() : "(no node)";
+        return std::string(node ? node->Text() : "(no node)");
     }
     std::string Image(std::string_view key) const
     {
@@ -95,7 +95,7 @@ public:
         std::vector<std::string> texts;
         if (const TreeNode* node = Node(key))
             for (const auto& child : node->Children())
-                texts.push_back(child->Text());
+                texts.emplace_back(child->Text());
         return texts;
     }
     void Select(std::string_view key) { main.tvStationList.Select(Node(key)); }

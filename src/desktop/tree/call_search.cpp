@@ -3,8 +3,7 @@
 #include "platform/keyed_tree.h"
 #include "platform/text.h"
 
-#include <memory>
-#include <vector>
+#include <span>
 
 namespace ruvenmark {
 
@@ -24,13 +23,13 @@ struct Walk {
     TreeNode* before = nullptr; // The first fit ahead of it.
     TreeNode* after = nullptr;  // The first fit behind it.
 
-    void Visit(const std::vector<std::unique_ptr<TreeNode>>& nodes, int level)
+    void Visit(std::span<TreeNode* const> nodes, int level)
     {
-        for (const auto& node : nodes) {
-            if (node.get() == from)
+        for (TreeNode* node : nodes) {
+            if (node == from)
                 bPassed = true;
             else if (TreeNode*& place = bPassed ? after : before; !place && BeginsWith(node->Text(), letters))
-                place = node.get();
+                place = node;
             if (level < kStationLevel && !after)
                 Visit(node->Children(), level + 1);
             if (after)

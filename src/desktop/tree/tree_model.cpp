@@ -45,8 +45,8 @@ QModelIndex TreeModel::index(int row, int column, const QModelIndex& parent) con
     if (column != 0 || row < 0 || row >= rowCount(parent))
         return {};
     const TreeNode* above = NodeAt(parent);
-    const auto& children = above ? above->Children() : m_tree.Roots();
-    return createIndex(row, 0, children[static_cast<std::size_t>(row)].get());
+    const auto children = above ? above->Children() : m_tree.Roots();
+    return createIndex(row, 0, children[static_cast<std::size_t>(row)]);
 }
 
 QModelIndex TreeModel::parent(const QModelIndex& child) const

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -34,7 +35,7 @@ protected:
 };
 
 // What the model tells must be the tree, row for row.
-void ExpectSame(const TreeModel& model, const QModelIndex& parent, const std::vector<std::unique_ptr<TreeNode>>& nodes)
+void ExpectSame(const TreeModel& model, const QModelIndex& parent, std::span<TreeNode* const> nodes)
 {
     ASSERT_EQ(model.rowCount(parent), static_cast<int>(nodes.size()));
     for (int row = 0; row < model.rowCount(parent); ++row) {
@@ -157,7 +158,7 @@ protected:
         model.Flush();
     }
 
-    std::string SelectedText() const { return tree.Selected() ? tree.Selected()->Text() : std::string(); }
+    std::string SelectedText() const { return std::string(tree.Selected() ? tree.Selected()->Text() : ""); }
     void Menu(QContextMenuEvent::Reason reason, QPoint place)
     {
         QContextMenuEvent event(reason, place, view.viewport()->mapToGlobal(place));

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace ruvenmark {
+
+// A text that mostly is short: up to 29 bytes stand in the object, longer ones in a block of their own.
+class SmallText {
+public:
+    SmallText() = default;
+    SmallText(const SmallText&) = delete;
+    SmallText& operator=(const SmallText&) = delete;
+    ~SmallText() { Drop(); }
+
+    std::string_view View() const;
+    void Set(std::string_view text); // May be a part of this text.
+
+private:
+    static constexpr std::size_t kInside = 29;
+    static constexpr unsigned char kOutside = 255;
+    struct Block {
+        char* text;
+        std::size_t size, capacity;
+    };
+
+    bool IsOutside() const { return m_size == kOutside; }
+    Block Outside() const; // The inside holds it byte by byte: the object needs no alignment.
+    void PutOutside(const Block& block);
+    void Drop();
+
+    std::array<char, kInside> m_inside{};
+    unsigned char m_size = 0;
+};
+
+} // namespace ruvenmark
