@@ -31,10 +31,7 @@ std::uint64_t KeyOf(std::string_view text)
 {
     if (text.empty())
         return kUnknownSortKey;
-    std::uint64_t key = 0;
-    for (std::size_t i = 0; i < sizeof key; ++i)
-        key = key << 8U | (i < text.size() ? static_cast<unsigned char>(ToUpper(text[i])) : 0U);
-    return std::min(key, kUnknownSortKey - 1);
+    return std::min(KeyPart(text, 0), kUnknownSortKey - 1);
 }
 
 std::int64_t LastHeard(const Record& record)
@@ -59,6 +56,15 @@ std::string WithUnit(std::optional<double> number, int decimals, std::string_vie
 }
 
 } // namespace
+
+std::uint64_t KeyPart(std::string_view text, std::size_t part)
+{
+    std::uint64_t key = 0;
+    const std::size_t first = part * sizeof key;
+    for (std::size_t i = first; i < first + sizeof key; ++i)
+        key = key << 8U | (i < text.size() ? static_cast<unsigned char>(ToUpper(text[i])) : 0U);
+    return key;
+}
 
 std::string_view TitleOf(StationColumn column)
 {

@@ -35,10 +35,6 @@ struct StationRow {
     Channel channel = Channel::RF;
     std::int64_t heard = 0; // See SecondsOfLocalText.
     std::optional<double> miles, bearing, course, speed;
-    std::uint64_t sortKey = 0;
-    bool bMarked = false;
-    bool bListed = false;  // Has a place among the sorted.
-    bool bMatches = false; // All of the filter but its time.
 };
 
 // From the station's record; nothing is measured without an own place. False where there is none any more.
@@ -48,6 +44,8 @@ std::string TextOf(const StationRow& row, StationColumn column);
 
 // Rows stand in the order of their keys; where these are equal, of their texts.
 inline constexpr std::uint64_t kUnknownSortKey = std::numeric_limits<std::uint64_t>::max();
+// The eight letters behind `part` times eight others, case ignored.
+std::uint64_t KeyPart(std::string_view text, std::size_t part);
 std::uint64_t SortKeyOf(const StationRow& row, StationColumn column);
 std::string_view SortText(const StationRow& row, StationColumn column); // Empty for a column of numbers.
 

@@ -4,7 +4,7 @@
 #include "platform/local_time.h"
 #include "platform/numbers.h"
 #include "platform/text.h"
-#include "tracking/filters.h"
+#include "tracking/pattern.h"
 
 #include <algorithm>
 #include <limits>
@@ -16,15 +16,17 @@ namespace {
 
 constexpr std::uint32_t kNowhere = std::numeric_limits<std::uint32_t>::max();
 
-// "N0CALL" becomes "*N0CALL*".
-std::string PatternsOf(std::string_view calls)
+// Without a wildcard.
+bool IsBare(std::string_view pattern)
 {
-    std::string patterns;
-    for (const std::string_view word : Words(calls)) {
-        const bool bBare = word.find_first_of("*?#[") == std::string_view::npos;
-        patterns += patterns.empty() ? "" : " ";
-        patterns += bBare ? "*" + ToUpper(word) + "*" : ToUpper(word);
-    }
+    return pattern.find_first_of("*?#[") == std::string_view::npos;
+}
+
+std::vector<std::string> PatternsOf(std::string_view calls)
+{
+    std::vector<std::string> patterns;
+    for (const std::string_view word : Words(calls))
+        patterns.push_back(ToUpper(word));
     return patterns;
 }
 
@@ -68,11 +70,11 @@ void StationRows::Observe(const TreeNode& node, bool bGone)
     const auto channel = ChannelOfWord(folder->Parent()->Word());
     if (!channel)
         return;
-    Mark(*channel, station->Word());
+    MarkCall(*channel, station->Word());
     m_lastMarked = bGone ? nullptr : station;
 }
 
-void StationRows::Mark(Channel channel, std::string_view call)
+void StationRows::MarkCall(Channel channel, std::string_view call)
 {
     auto& ids = m_ids[Index(channel)];
     const auto found = ids.find(call);
@@ -84,6 +86,7 @@ void StationRows::Mark(Channel channel, std::string_view call)
     if (m_free.empty()) {
         id = static_cast<Id>(m_rows.size());
         m_rows.emplace_back();
+        m_marks.emplace_back();
     } else {
         id = m_free.back();
         m_free.pop_back();
@@ -96,7 +99,7 @@ void StationRows::Mark(Channel channel, std::string_view call)
 
 void StationRows::MarkId(Id id)
 {
-    if (std::exchange(m_rows[id].bMarked, true))
+    if (std::exchange(m_marks[id].bMarked, true))
         return;
     m_marked.push_back(id);
     TellDue();
@@ -105,13 +108,14 @@ void StationRows::MarkId(Id id)
 void StationRows::MarkAll()
 {
     m_lastMarked = nullptr;
-    for (const ChannelState& state : m_main.channels) {
-        m_ids[Index(state.channel)].reserve(state.Stations.Count());
+    m_unseen.clear();
+    for (const ChannelState& state : m_main.channels)
         for (const auto& [call, record] : state.Stations)
-            Mark(state.channel, call);
-    }
+            m_unseen.emplace_back(state.channel, call);
     for (const Id id : m_order)
         MarkId(id);
+    if (!m_unseen.empty())
+        TellDue();
 }
 
 void StationRows::TellDue()
@@ -137,18 +141,20 @@ void StationRows::Drop(Id id)
     StationRow& row = m_rows[id];
     m_ids[Index(row.channel)].erase(row.call);
     row = StationRow();
+    m_marks[id] = Mark();
     m_free.push_back(id);
 }
 
 bool StationRows::IsBefore(Id a, Id b) const
 {
+    const std::uint64_t key = m_marks[a].sortKey, otherKey = m_marks[b].sortKey;
+    if (key != otherKey) {
+        if (key == kUnknownSortKey || otherKey == kUnknownSortKey)
+            return otherKey == kUnknownSortKey;
+        return (key < otherKey) == m_bAscending;
+    }
     const StationRow& one = m_rows[a];
     const StationRow& other = m_rows[b];
-    if (one.sortKey != other.sortKey) {
-        if (one.sortKey == kUnknownSortKey || other.sortKey == kUnknownSortKey)
-            return other.sortKey == kUnknownSortKey;
-        return (one.sortKey < other.sortKey) == m_bAscending;
-    }
     const int order = CompareIgnoringCase(SortText(one, m_column), SortText(other, m_column));
     if (order != 0)
         return (order < 0) == m_bAscending;
@@ -160,17 +166,55 @@ bool StationRows::Matches(const StationRow& row) const
 {
     if (m_filter.bDirectOnly && row.path.find('*') != std::string::npos)
         return false;
-    return m_patterns.empty() || MatchesList(ToUpper(row.call), m_patterns);
+    if (m_patterns.empty())
+        return true;
+    const std::string call = ToUpper(row.call);
+    return std::any_of(m_patterns.begin(), m_patterns.end(), [&](const std::string& pattern) {
+        return IsBare(pattern) ? call.find(pattern) != std::string::npos : MatchesPattern(call, pattern);
+    });
 }
+
+// A row as all are sorted at once: nearly every comparison ends here, without a look at the rows.
+struct StationRows::SortEntry {
+    SortEntry(const StationRows& owner, Id ofId, std::string_view text)
+        : rows(&owner), key(owner.m_marks[ofId].sortKey), id(ofId), more{KeyPart(text, 1), KeyPart(text, 2)},
+          call(KeyPart(owner.m_rows[ofId].call, 0)), bLong(text.size() > 3 * sizeof key)
+    {
+    }
+    bool operator<(const SortEntry& other) const
+    {
+        if (key != other.key)
+            return rows->IsBefore(id, other.id);
+        if (more != other.more)
+            return (more < other.more) == rows->m_bAscending;
+        if (!bLong && !other.bLong && call != other.call)
+            return call < other.call;
+        return rows->IsBefore(id, other.id);
+    }
+
+    const StationRows* rows;
+    std::uint64_t key;
+    Id id;
+    std::array<std::uint64_t, 2> more; // Of the text.
+    std::uint64_t call;
+    bool bLong;
+};
 
 void StationRows::SortBy(StationColumn column, bool bAscending)
 {
     m_column = column;
     m_bAscending = bAscending;
     Rearrange([this] {
-        for (const Id id : m_order)
-            m_rows[id].sortKey = SortKeyOf(m_rows[id], m_column);
-        std::sort(m_order.begin(), m_order.end(), [this](Id a, Id b) { return IsBefore(a, b); });
+        std::vector<SortEntry> entries;
+        entries.reserve(m_order.size());
+        for (const Id id : m_order) {
+            const StationRow& row = m_rows[id];
+            m_marks[id].sortKey = SortKeyOf(row, m_column);
+            entries.emplace_back(*this, id, SortText(row, m_column));
+        }
+        std::sort(entries.begin(), entries.end());
+        std::transform(entries.begin(), entries.end(), m_order.begin(),
+                       [](const SortEntry& entry) { return entry.id; });
     });
 }
 
@@ -182,7 +226,7 @@ void StationRows::SetFilter(const StationListFilter& filter)
     m_patterns = PatternsOf(filter.calls);
     Rearrange([this] {
         for (const Id id : m_order)
-            m_rows[id].bMatches = Matches(m_rows[id]);
+            m_marks[id].bMatches = Matches(m_rows[id]);
     });
 }
 
@@ -191,11 +235,15 @@ bool StationRows::Update()
     m_lastMarked = nullptr;
     m_bDue = true; // No one need be told of what is marked in here.
     TakeOwnPlace();
+    for (std::size_t i = 0; i < kMostAtOnce && !m_unseen.empty(); ++i) {
+        MarkCall(m_unseen.back().first, m_unseen.back().second);
+        m_unseen.pop_back();
+    }
     const std::size_t count = std::min(m_marked.size(), kMostAtOnce);
     const std::vector<Id> taken(m_marked.end() - static_cast<std::ptrdiff_t>(count), m_marked.end());
     m_marked.resize(m_marked.size() - count);
     Rearrange([&] { Merge(taken); });
-    m_bDue = !m_marked.empty();
+    m_bDue = !m_marked.empty() || !m_unseen.empty();
     return m_bDue;
 }
 
@@ -203,15 +251,17 @@ bool StationRows::Update()
 void StationRows::Merge(std::vector<Id> fresh)
 {
     for (const Id id : fresh)
-        m_rows[id].bListed = false;
-    std::erase_if(m_order, [this](Id id) { return !m_rows[id].bListed; });
+        m_marks[id].bListed = false;
+    std::erase_if(m_order, [this](Id id) { return !m_marks[id].bListed; });
     const auto kept = std::partition(fresh.begin(), fresh.end(), [this](Id id) {
         StationRow& row = m_rows[id];
-        row.bMarked = false;
+        Mark& mark = m_marks[id];
+        mark.bMarked = false;
         if (!FillRow(row, m_main, m_ownPlace))
             return false;
-        row.sortKey = SortKeyOf(row, m_column);
-        row.bMatches = Matches(row);
+        mark.sortKey = SortKeyOf(row, m_column);
+        mark.heard = row.heard;
+        mark.bMatches = Matches(row);
         return true;
     });
     std::for_each(kept, fresh.end(), [this](Id id) { Drop(id); });
@@ -225,7 +275,7 @@ void StationRows::Merge(std::vector<Id> fresh)
         const auto to = std::upper_bound(from, m_order.cend(), id, isBefore);
         merged.insert(merged.end(), from, to);
         merged.push_back(id);
-        m_rows[id].bListed = true;
+        m_marks[id].bListed = true;
         from = to;
     }
     merged.insert(merged.end(), from, m_order.cend());
@@ -241,8 +291,8 @@ void StationRows::ShowFiltered()
     m_places.assign(m_rows.size(), kNowhere);
     m_shown.clear();
     for (const Id id : m_order) {
-        const StationRow& row = m_rows[id];
-        if (!row.bMatches || row.heard < since)
+        const Mark& mark = m_marks[id];
+        if (!mark.bMatches || mark.heard < since)
             continue;
         m_places[id] = static_cast<std::uint32_t>(m_shown.size());
         m_shown.push_back(id);

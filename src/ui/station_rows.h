@@ -14,6 +14,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace ruvenmark {
@@ -37,7 +38,7 @@ class StationRows {
 public:
     // Names a station as long as it is listed.
     using Id = std::uint32_t;
-    static constexpr std::size_t kMostAtOnce = 4096;
+    static constexpr std::size_t kMostAtOnce = 1024;
 
     explicit StationRows(MainWindow& main); // Lent. All stations are marked.
     ~StationRows();
@@ -72,8 +73,18 @@ private:
         std::size_t operator()(std::string_view call) const { return std::hash<std::string_view>()(call); }
     };
 
+    // What is walked over for all stations at once, apart from their texts.
+    struct Mark {
+        std::uint64_t sortKey = 0;
+        std::int64_t heard = 0;
+        bool bMarked = false;
+        bool bListed = false;  // In m_order.
+        bool bMatches = false; // All of the filter but its time.
+    };
+    struct SortEntry;
+
     void Observe(const TreeNode& node, bool bGone);
-    void Mark(Channel channel, std::string_view call);
+    void MarkCall(Channel channel, std::string_view call);
     void MarkId(Id id);
     void MarkAll();
     void TellDue();
@@ -87,13 +98,15 @@ private:
 
     MainWindow& m_main;
     StationListFilter m_filter;
-    std::string m_patterns; // Of the filter, as they are compared.
+    std::vector<std::string> m_patterns; // Of the filter, as they are compared.
     StationColumn m_column = StationColumn::Call;
     bool m_bAscending = true;
     std::optional<GeoPoint> m_ownPlace;
 
     std::deque<StationRow> m_rows; // By id.
+    std::vector<Mark> m_marks;     // By id.
     std::vector<Id> m_free;
+    std::vector<std::pair<Channel, std::string>> m_unseen; // Calls that no id was given yet.
     std::array<std::unordered_map<std::string, Id, CallHash, std::equal_to<>>, 3> m_ids; // By channel and call.
     std::vector<Id> m_marked;
     std::vector<Id> m_order, m_shown;    // Sorted: all, and those that the filter lets through.
