@@ -86,8 +86,10 @@ void ShapeLayout::Update(const SlotPool<ShapeData>& shapes, const ViewFrame& fra
 const ShapeLayout::Projected& ShapeLayout::Project(SlotRef ref, const ShapeData& shape)
 {
     Projected& projected = m_projected[ref.slot];
-    if (projected.id != ref.id)
+    if (projected.id != ref.id) {
         projected = {ref.id, ToMercator(shape.from), ToMercator(shape.to)};
+        projected.to.x -= std::floor(projected.to.x - projected.from.x + 0.5);
+    }
     return projected;
 }
 
@@ -97,9 +99,8 @@ void ShapeLayout::AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& 
 {
     const Projected& projected = Project(ref, shape);
     const QPointF from = frame.ToPixel(projected.from);
-    double dx = projected.to.x - projected.from.x;
-    dx -= std::floor(dx + 0.5);
-    const QPointF to = from + QPointF(dx, projected.to.y - projected.from.y) * frame.world;
+    const QPointF to =
+        from + QPointF(projected.to.x - projected.from.x, projected.to.y - projected.from.y) * frame.world;
     LineItem item{ref.slot, QLineF(from, to), false, false};
     const QRectF area = Surroundings(frame);
     const bool bInside = IsInside(from, area) && IsInside(to, area);

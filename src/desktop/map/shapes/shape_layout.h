@@ -38,8 +38,8 @@ public:
 
 private:
     struct Projected {
-        std::uint64_t id = 0; // Of the shape that it was worked out for.
-        MercatorPoint from, to;
+        std::uint64_t id = 0;   // Of the shape that it was worked out for.
+        MercatorPoint from, to; // The short way round: the end may lie beyond the edge of the world.
     };
 
     const Projected& Project(SlotRef ref, const ShapeData& shape);

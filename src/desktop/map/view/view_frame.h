@@ -5,8 +5,6 @@
 #include <QPointF>
 #include <QRectF>
 
-#include <cmath>
-
 namespace ruvenmark {
 
 // A view of the map with everything worked out that a painter needs for each point.
@@ -23,7 +21,7 @@ struct ViewFrame {
     QPointF ToPixel(MercatorPoint point) const
     {
         double dx = point.x - left - width / 2.0 / world;
-        dx -= std::floor(dx + 0.5);
+        dx -= static_cast<int>(dx + 8.5) - 8; // As std::floor(dx + 0.5), which takes longer than all the rest.
         return {dx * world + width / 2.0, (point.y - top) * world};
     }
     QRectF Rect() const { return {0, 0, static_cast<double>(width), static_cast<double>(height)}; }

@@ -1,0 +1,161 @@
+#include "desktop/map/shapes/shape_layer.h"
+#include "platform/map_model.h"
+
+#include <QImage>
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <random>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+constexpr int kWidth = 500, kHeight = 400;
+
+ShapeData Step(GeoPoint from, std::mt19937& random)
+{
+    std::normal_distribution<double> step(0, 0.4);
+    ShapeData line;
+    line.from = from;
+    line.to = {from.lat + step(random), from.lon + step(random)};
+    line.weight = 1 + static_cast<std::int32_t>(random() % 3);
+    line.bEndArrowhead = random() % 2 == 0;
+    line.foreColor = random() % 2 == 0 ? 255 : kDefaultLineColor;
+    return line;
+}
+
+// Enough lines for a picture to be kept, a view over them, and the same painted with and without one.
+class ShapeLayerTest : public ::testing::Test {
+protected:
+    ShapeLayerTest()
+    {
+        std::uniform_real_distribution<double> lat(36, 44), lon(-96, -84);
+        for (std::size_t i = 0; i < 4 * ShapeLayer::kFew; ++i)
+            lines.push_back(shapes.Add(Step({lat(random), lon(random)}, random)));
+    }
+
+    // The view so many device pixels east and south of where it was at first, its corner on a device pixel of the
+    // ground: there the kept picture lies as the lines do.
+    ViewFrame FrameAt(double east, double south) const
+    {
+        const MapView view{{40, -90}, zoom, kWidth, kHeight};
+        ViewFrame frame(view);
+        const double pixels = frame.world * ratio;
+        frame.left = (std::round(frame.left * pixels) + east) / pixels;
+        frame.top = (std::round(frame.top * pixels) + south) / pixels;
+        return frame;
+    }
+
+    template <typename Paint>
+    QImage Picture(Paint paint) const
+    {
+        QImage picture(QSize(kWidth, kHeight) * ratio, QImage::Format_RGB32);
+        picture.setDevicePixelRatio(ratio);
+        picture.fill(Qt::white);
+        QPainter painter(&picture);
+        paint(painter);
+        return picture;
+    }
+
+    // Painted by the layer that all frames share.
+    QImage Kept(const ViewFrame& frame)
+    {
+        layout.Update(shapes, frame);
+        return Picture([&](QPainter& painter) { layer.Paint(painter, layout, shapes, frame, look, ratio); });
+    }
+
+    // How many pixels of the kept picture are not as those of one that is painted at once. Blending twice rounds twice.
+    int Differing(const ViewFrame& frame)
+    {
+        const QImage kept = Kept(frame);
+        const QImage whole = Picture([&](QPainter& painter) { PaintShapes(painter, layout, shapes, frame, look); });
+        int differing = 0;
+        for (int y = 0; y < kept.height(); ++y) {
+            for (int x = 0; x < kept.width(); ++x) {
+                const QRgb a = kept.pixel(x, y), b = whole.pixel(x, y);
+                const int most = std::max(
+                    {std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
+                differing += most > 12 ? 1 : 0;
+            }
+        }
+        return differing;
+    }
+
+    int RenewedPixels() const
+    {
+        int pixels = 0;
+        for (const QRect& rect : layer.Renewed())
+            pixels += rect.width() * rect.height();
+        return pixels;
+    }
+
+    std::mt19937 random{5};
+    double zoom = 7;
+    qreal ratio = 1;
+    SlotPool<ShapeData> shapes;
+    std::vector<SlotRef> lines;
+    ShapeLook look;
+    ShapeLayout layout;
+    ShapeLayer layer;
+};
+
+// Trails that are torn, doubled or left behind at the edges of what a move uncovers; heads of arrows that come and go.
+TEST_F(ShapeLayerTest, AMovedPictureIsAsOnePaintedAtOnce)
+{
+    for (const qreal device : {1.0, 1.5, 2.0}) {
+        ratio = device;
+        Kept(FrameAt(0, 0));
+        EXPECT_EQ(Differing(FrameAt(0, 0)), 0) << device;
+        double east = 0, south = 0;
+        for (int i = 0; i < 5; ++i) {
+            east += i % 3 * 15 - 7;
+            south += i % 2 * 31 - 12;
+            EXPECT_LT(Differing(FrameAt(east, south)), 20) << device << " step " << i;
+            EXPECT_LT(RenewedPixels(), kWidth * kHeight * device * device / 4);
+        }
+        EXPECT_LT(Differing(FrameAt(east + 3000, south)), 20) << device; // Nothing of the old picture is left in view.
+    }
+}
+
+// A trail that is hidden, removed or drawn anew must not wait for the next move of the map, nor repaint all the others.
+TEST_F(ShapeLayerTest, AChangedLineIsRenewedWhereItIs)
+{
+    const ViewFrame frame = FrameAt(0, 0);
+    Kept(frame);
+    Kept(frame);
+    const auto change = [&](const char* what, auto work) {
+        work();
+        EXPECT_EQ(Differing(frame), 0) << what;
+        EXPECT_GT(RenewedPixels(), 0) << what;
+        EXPECT_LT(RenewedPixels(), kWidth * kHeight / 4) << what;
+    };
+    layout.Update(shapes, frame);
+    const auto inside = [&](std::size_t nth) {
+        std::size_t found = 0;
+        for (const LineItem& item : layout.Lines())
+            if (frame.Rect().contains(item.line.p1()) && item.line.length() > 20 && found++ == nth)
+                return item.slot;
+        return layout.Lines().front().slot;
+    };
+    const SlotRef hidden = shapes.RefAt(inside(0)), removed = shapes.RefAt(inside(1)),
+                  recolored = shapes.RefAt(inside(2));
+    change("hidden", [&] { shapes.Find(hidden)->bVisible = false; });
+    change("removed", [&] { shapes.Remove(removed); });
+    change("coloured", [&] { shapes.Find(recolored)->foreColor = 0; });
+    change("heavier", [&] { shapes.Find(recolored)->weight = 8; });
+    change("added in a slot that was free", [&] { shapes.Add(Step({40, -90}, random)); });
+    look.selected = recolored.slot;
+    look.highlight = Qt::blue;
+    EXPECT_EQ(Differing(frame), 0) << "selected";
+    shapes.Clear();
+    Kept(frame);
+    EXPECT_EQ(Differing(frame), 0) << "another map";
+}
+
+} // namespace
+} // namespace ruvenmark
