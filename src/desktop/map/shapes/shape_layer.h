@@ -33,7 +33,6 @@ private:
         std::uint32_t color = 0;
         std::int32_t weight = 0;
         bool bCircle = false, bVisible = false, bBeginArrow = false, bEndArrow = false;
-        friend bool operator==(const Seen&, const Seen&) = default;
     };
 
     void Move(QPoint by);
