@@ -87,7 +87,8 @@ private:
 // Everything that lives from start to stop, in the order in which it is made.
 struct DesktopRun {
     explicit DesktopRun(const ProgramOptions& options)
-        : settings(files, options), baseMap(OpenBaseMap()), places(Base()), dialogs(icons, places),
+        : settings(files, options), baseMap(OpenBaseMap()),
+          places(Base(), DataPath(QStringLiteral("basemap/other_names.tsv"))), dialogs(icons, places),
           main({.store = settings.Store(),
                 .files = files,
                 .clock = clock,

@@ -20,6 +20,7 @@ enum class Part : std::uint8_t {
     TrackLists,
     MessageBoxes,
     FileLoad,
+    MapLook, // How the map tells places and ages.
     Tiles,
     View // What the window shows around the map, and how the map looks.
 };

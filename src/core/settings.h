@@ -138,6 +138,9 @@ enum class Setting : std::uint8_t {
     FLDelay,
     FLAdd,
     FLShow,
+    MainMaximized,
+    CoordinateForm,
+    FadeAfter,
 
     OnlineTiles,
     TileURL,

@@ -20,6 +20,7 @@ struct WindowState {
     std::int32_t splitterLeft = kFirstSplitterLeft;
     bool bShown = false; // From the first moment of the start on.
     bool bMinimised = false;
+    bool bMaximized = false;
     bool bLeftPane = true;
     bool bToolBar = true;
     bool bStatusBar = true;

@@ -19,7 +19,9 @@
 #include "desktop/tree/tree_view.h"
 #include "lifecycle/stop.h"
 #include "links/station_files.h"
+#include "map/map_settings.h"
 #include "map/pointer_tools.h"
+#include "map/show_on_map.h"
 #include "ui/layout.h"
 #include "ui/station_tree_commands.h"
 #include "ui/tree_keys.h"
@@ -29,6 +31,7 @@
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QStackedWidget>
 
 namespace ruvenmark {
@@ -49,7 +52,7 @@ MainWindowView::MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* 
       m_statusBar(new StatusBarView(
           main, icons, [this](MenuEntry entry) { Run(entry); }, this)),
       m_left(new QStackedWidget(this)), m_right(new QStackedWidget(this)), m_panes(new Panes(main, this)),
-      m_placement(main, *this)
+      m_placement(main, *this), m_escape(new QShortcut(Qt::Key_Escape, this))
 {
     setWindowIcon(icons.Program());
     setMinimumWidth(PixelsOfTwips(kMinWindowWidth));
@@ -104,9 +107,22 @@ void MainWindowView::ConnectMap()
     connect(m_map, &MapWidget::Clicked, this, [this](Qt::MouseButton button, int x, int y) {
         if (button == Qt::LeftButton)
             mpCtrl_Click(m_main, x, y);
+        else if (button == Qt::RightButton && !IsPinPointing(m_main))
+            ShowMarkerMenu({x, y});
     });
-    connect(m_map, &MapWidget::SelectionWanted, this,
-            [this](const MapSelection& selection) { SelectOnMap(m_main, selection); });
+    connect(m_map, &MapWidget::MenuWanted, this, &MainWindowView::ShowMarkerMenu);
+    connect(m_map, &MapWidget::SelectionWanted, this, [this](const MapSelection& selection) {
+        if (const auto* pin = std::get_if<Pushpin>(&selection))
+            Attempt(m_main.abandoned, "SelectionWanted", [&] { PickOut(m_main, *pin); });
+        else
+            SelectOnMap(m_main, selection);
+    });
+    connect(m_map, &MapWidget::ShowWanted, this,
+            [this](const Pushpin& pin) { Attempt(m_main.abandoned, "ShowWanted", [&] { ShowOnMap(m_main, pin); }); });
+    m_map->SetClock([this] { return m_main.services.clock.UnixSeconds(); });
+    m_escape->setEnabled(false);
+    connect(m_escape, &QShortcut::activated, this, [this] { EndPinPoint(m_main); });
+    connect(m_toolBar, &MainToolBar::CoordinatesClicked, this, [this] { ChangeCoordinateForm(m_main); });
     connect(&m_map->Tiles(), &MapTiles::ProblemFound, this, [this](const QString& problem) {
         AttemptAloud(m_main, "The tiles cannot be used", [&] { throw Failure(problem.toStdString()); });
     });
@@ -139,12 +155,21 @@ void MainWindowView::Observe()
         }),
         m_main.window.CloseWanted.Observe([this] { close(); }),
         m_main.mpCtrl.Replaced.Observe(refreshLater),
-        m_main.mpCtrl.ControlChanged.Observe(refreshLater),
+        m_main.mpCtrl.ControlChanged.Observe([this, refreshLater] {
+            m_escape->setEnabled(IsPinPointing(m_main));
+            ShowMapLook();
+            refreshLater();
+        }),
         m_main.sbStatusBar.Changed.Observe([this] {
             if (!m_pointerTimer.isActive())
                 m_pointerTimer.start();
         }),
-        m_main.map.DirectionsChanged.Observe(refreshLater),
+        m_main.map.DirectionsChanged.Observe([this, refreshLater] {
+            ShowMapLook();
+            refreshLater();
+        }),
+        m_main.map.LookChanged.Observe([this] { ShowMapLook(); }),
+        m_main.tvStationList.SelectionChanged.Observe([this] { tvStationList_Select(m_main); }),
         m_main.map.TilesChanged.Observe([this] { ShowTiles(); }),
         m_main.links.LoadEnded.Observe([this] { OfferStations(); }),
         // A flag's cost while nothing of the first steps shows.
@@ -194,6 +219,29 @@ void MainWindowView::RefreshIcons()
 void MainWindowView::ShowTiles()
 {
     m_map->Tiles().Choose(TileChoiceOf(m_main.map.tiles));
+}
+
+void MainWindowView::ShowMapLook()
+{
+    const auto& [from, to] = m_main.map.directions;
+    const bool bMeasured = m_main.mpCtrl.ItineraryVisible() && from && to;
+    m_map->SetDirections(bMeasured ? std::optional(LineEnds{from->point, to->point}) : std::nullopt);
+    m_map->SetFadeAfter(m_main.map.iFadeAfter);
+}
+
+// A marker's menu is that of its node.
+void MainWindowView::ShowMarkerMenu(QPoint at)
+{
+    const auto pin = m_map->MarkerFor(at);
+    if (!pin)
+        return;
+    Attempt(m_main.abandoned, "ShowMarkerMenu", [&] {
+        SelectOnMap(m_main, *pin);
+        TreeNode* node = NodeOfMarker(m_main, *pin);
+        const auto popup = node ? tvStationList_MouseUp(m_main, kRightButton, node) : std::nullopt;
+        if (popup)
+            PopUp(m_map->mapToGlobal(at), popup->items);
+    });
 }
 
 void MainWindowView::PopUp(QPoint place, const std::vector<MenuItem>& items)
@@ -286,6 +334,7 @@ void MainWindowView::closeEvent(QCloseEvent* event)
         return;
     }
     m_bCloseWanted = false;
+    m_placement.Keep();
     const StopResult result = StopMainWindow(m_main, m_bUnasked ? MayAsk::No : MayAsk::Yes);
     event->setAccepted(result != StopResult::GoesOn);
     if (event->isAccepted())

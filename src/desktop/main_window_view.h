@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+class QShortcut;
 class QStackedWidget;
 
 namespace ruvenmark {
@@ -75,6 +76,8 @@ private:
     void RefreshStates();
     void RefreshIcons();
     void ShowTiles();
+    void ShowMapLook();
+    void ShowMarkerMenu(QPoint at); // A pixel of the map.
     void PopUp(QPoint place, const std::vector<MenuItem>& items);
     void RunLoad(const std::function<void()>& load);
     void AfterCommand();
@@ -97,6 +100,7 @@ private:
     bool m_bFirstSteps = false; // The hint tells them.
     Panes* m_panes;
     WindowPlacement m_placement;
+    QShortcut* m_escape; // While a click on the map is waited for.
     QTimer m_stateTimer, m_pointerTimer;
     int m_running = 0;           // Commands on the stack: a load lets others in.
     bool m_bAsking = false;      // Whether a load may be ended.

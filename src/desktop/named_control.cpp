@@ -13,7 +13,7 @@ void NameControl(QWidget& control, const char* objectName, const QString& label)
 
 int CoordinatesWidth(const QWidget& field)
 {
-    return field.fontMetrics().horizontalAdvance(QStringLiteral("-88.88888, -188.88888")) + 24;
+    return field.fontMetrics().horizontalAdvance(QStringLiteral("88°88.888'N 188°88.888'W")) + 24;
 }
 
 } // namespace ruvenmark

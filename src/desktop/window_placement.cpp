@@ -5,7 +5,10 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
+
+#include <algorithm>
 
 namespace ruvenmark {
 
@@ -18,7 +21,29 @@ bool IsAtFirstPlace(const WindowState& window)
            window.height == kFirstHeight;
 }
 
+// A program there is neither told its place nor given one.
+bool HasNoPlaces()
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+QMargins FrameOf(const QWidget& window)
+{
+    const QRect inner = window.geometry(), outer = window.frameGeometry();
+    return {inner.left() - outer.left(), inner.top() - outer.top(), outer.right() - inner.right(),
+            outer.bottom() - inner.bottom()};
+}
+
 } // namespace
+
+QRect FittedPlace(const QRect& place, const QRect& screen, const QMargins& frame)
+{
+    const QRect room = screen.marginsRemoved(frame);
+    QRect fitted(place.topLeft(), place.size().boundedTo(room.size()));
+    fitted.moveLeft(std::max(room.left(), std::min(fitted.left(), room.right() + 1 - fitted.width())));
+    fitted.moveTop(std::max(room.top(), std::min(fitted.top(), room.bottom() + 1 - fitted.height())));
+    return fitted;
+}
 
 void WindowPlacement::Apply()
 {
@@ -33,6 +58,7 @@ void WindowPlacement::ShowAtLastPlace()
 {
     constexpr QSize kFirstSize(1200, 800);
     constexpr int kFirstLeftPane = 240;
+    constexpr int kFrameSettles = 200; // Milliseconds until the window manager has put its frame around.
     WindowState& window = m_main.window;
     const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
     const QSize size(PixelsOfTwips(AllowedWindowWidth(window.width)), PixelsOfTwips(window.height));
@@ -45,20 +71,48 @@ void WindowPlacement::ShowAtLastPlace()
     if (bFirstStart || !QGuiApplication::screenAt(place.center()))
         place.moveCenter(screen.center());
     m_bShown = true;
-    m_window.move(place.topLeft());
     m_window.resize(place.size());
-    m_window.show();
+    if (!HasNoPlaces())
+        m_window.move(place.topLeft());
+    if (window.bMaximized)
+        m_window.showMaximized();
+    else
+        m_window.show();
+    QTimer::singleShot(kFrameSettles, &m_window, [this] { FitIn(); });
+}
+
+// With its frame the window may be larger than the screen, and its lowest part beyond the edge.
+void WindowPlacement::FitIn()
+{
+    if (!IsOrdinary() || HasNoPlaces())
+        return;
+    const QRect place = m_window.geometry();
+    const QRect fitted = FittedPlace(place, m_window.screen()->availableGeometry(), FrameOf(m_window));
+    if (fitted != place)
+        m_window.setGeometry(fitted);
+}
+
+bool WindowPlacement::IsOrdinary() const
+{
+    return !m_window.isMaximized() && !m_window.isFullScreen() && !m_window.isMinimized();
 }
 
 void WindowPlacement::Keep()
 {
     if (!m_bShown)
         return;
-    const bool bOrdinary = !m_window.isMaximized() && !m_window.isFullScreen() && !m_window.isMinimized();
-    const QRect place = bOrdinary ? QRect(m_window.pos(), m_window.size()) : m_window.normalGeometry();
-    if (place.isValid())
-        KeepGeometry(m_main, TwipsOfPixels(place.left()), TwipsOfPixels(place.top()), TwipsOfPixels(place.width()),
-                     TwipsOfPixels(place.height()), m_window.isMinimized());
+    WindowState& window = m_main.window;
+    if (!m_window.isMinimized() && !m_window.isFullScreen())
+        window.bMaximized = m_window.isMaximized();
+    if (!IsOrdinary()) {
+        window.bMinimised = m_window.isMinimized();
+        return; // As it stood before.
+    }
+    const QPoint corner = m_window.pos();
+    const bool bNoPlaces = HasNoPlaces();
+    KeepGeometry(m_main, bNoPlaces ? window.left : TwipsOfPixels(corner.x()),
+                 bNoPlaces ? window.top : TwipsOfPixels(corner.y()), TwipsOfPixels(m_window.width()),
+                 TwipsOfPixels(m_window.height()), false);
 }
 
 } // namespace ruvenmark

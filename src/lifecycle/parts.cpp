@@ -6,6 +6,7 @@
 #include "links/import_form_rules.h"
 #include "links/server_lists.h"
 #include "links/tnc_form_rules.h"
+#include "map/map_settings.h"
 #include "map/map_start.h"
 #include "map/tile_settings.h"
 #include "messaging/message_files.h"
@@ -30,6 +31,7 @@ void LoadGeometry(MainWindow& main)
     window.top = stored.Int32(Setting::MainTop);
     window.width = stored.Int32(Setting::MainWidth);
     window.height = stored.Int32(Setting::MainHeight);
+    window.bMaximized = stored.Flag(Setting::MainMaximized);
 }
 
 // Nothing of a minimised window but its panes.
@@ -42,6 +44,7 @@ void SaveGeometry(MainWindow& main)
         stored.SetWhole(Setting::MainTop, window.top);
         stored.SetWhole(Setting::MainWidth, window.width);
         stored.SetWhole(Setting::MainHeight, window.height);
+        stored.SetFlag(Setting::MainMaximized, window.bMaximized);
     }
     stored.SetFlag(Setting::ShowTreeView, window.bLeftPane);
     stored.SetWhole(Setting::WindowSplit, window.splitterLeft);
@@ -105,6 +108,7 @@ constexpr std::array kParts = {
     PartInfo{Part::TrackLists, "The track lists", LoadTrackLists, SaveTrackLists},
     PartInfo{Part::MessageBoxes, "The messages", LoadMessageBoxes, SaveMessageBoxes},
     PartInfo{Part::FileLoad, "The settings of file loads", LoadImportSettings, SaveImportSettings},
+    PartInfo{Part::MapLook, "The settings of the map", LoadMapSettings, SaveMapSettings},
     PartInfo{Part::Tiles, "The settings of tiles", LoadTileSettings, SaveTileSettings},
     PartInfo{Part::View, "The settings of the window", LoadViewSettings, SaveViewSettings},
 };

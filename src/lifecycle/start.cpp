@@ -57,7 +57,7 @@ void StartSubsystems(MainWindow& main, AutoConnect autoConnect)
     LoadPart(main, Part::MessageBoxes);
     AddMyStationNode(main);
     for (const Part part : {Part::ServerLists, Part::Filters, Part::Comm, Part::Gps, Part::UnknownFolders,
-                            Part::TrackLists, Part::FileLoad, Part::Tiles, Part::View})
+                            Part::TrackLists, Part::FileLoad, Part::MapLook, Part::Tiles, Part::View})
         LoadPart(main, part);
     ShowOwnCall(main);
     SayHowToBegin(main);

@@ -50,9 +50,9 @@ bool SaveParts(MainWindow& main)
 {
     bool bAll = SavePart(main, Part::Geometry);
     ReleaseTracks(main);
-    for (const Part part :
-         {Part::Region, Part::Follow, Part::TrackLists, Part::Filters, Part::Settings, Part::ServerLists,
-          Part::MessageBoxes, Part::Comm, Part::Gps, Part::UnknownFolders, Part::FileLoad, Part::Tiles, Part::View})
+    for (const Part part : {Part::Region, Part::Follow, Part::TrackLists, Part::Filters, Part::Settings,
+                            Part::ServerLists, Part::MessageBoxes, Part::Comm, Part::Gps, Part::UnknownFolders,
+                            Part::FileLoad, Part::MapLook, Part::Tiles, Part::View})
         bAll &= SavePart(main, part);
     bAll &= AttemptAloud(main, "The settings could not be saved", [&] { main.stored.Flush(); });
     return bAll;

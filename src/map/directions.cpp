@@ -1,6 +1,7 @@
 #include "map/directions.h"
 
 #include "core/main_window.h"
+#include "map/coordinates.h"
 #include "map/marker_names.h"
 #include "map/pointer_tools.h"
 #include "platform/numbers.h"
@@ -14,18 +15,6 @@ namespace ruvenmark {
 namespace {
 
 constexpr double kKilometresPerMile = 1.609344;
-
-std::optional<DirectionsEnd> ReadPoint(std::string_view text)
-{
-    const auto parts = Split(text, ',');
-    if (parts.size() != 2)
-        return std::nullopt;
-    const auto lat = ReadNumber(parts[0]);
-    const auto lon = ReadNumber(parts[1]);
-    if (!lat || !lon || std::abs(*lat) > 90 || std::abs(*lon) > 180)
-        return std::nullopt;
-    return DirectionsEnd{"", {*lat, *lon}};
-}
 
 std::optional<DirectionsEnd> FindMarker(const MainWindow& main, std::string_view name)
 {
@@ -83,8 +72,8 @@ std::optional<DirectionsEnd> ReadDirectionsEnd(const MainWindow& main, std::stri
     const std::string_view typed = Trim(text);
     if (typed.empty())
         return std::nullopt;
-    if (auto point = ReadPoint(typed))
-        return point;
+    if (const auto point = ReadLatLon(typed))
+        return DirectionsEnd{"", *point};
     const std::string upper = ToUpper(typed);
     for (const std::string_view name : {typed, std::string_view(upper)}) {
         if (auto marker = FindMarker(main, name))
@@ -92,6 +81,9 @@ std::optional<DirectionsEnd> ReadDirectionsEnd(const MainWindow& main, std::stri
         if (auto station = FindStation(main, name))
             return station;
     }
+    // A call may look like a locator.
+    if (const auto point = ReadLocator(typed))
+        return DirectionsEnd{"", *point};
     return std::nullopt;
 }
 
@@ -99,8 +91,7 @@ std::string DirectionsEndText(const DirectionsEnd& end)
 {
     if (!end.name.empty())
         return end.name;
-    const LatLonText text = TextOfPoint(end.point);
-    return text.lat + ", " + text.lon;
+    return CoordinateText(end.point, CoordinateForm::Decimal);
 }
 
 bool SetDirectionsEnd(MainWindow& main, std::size_t end, std::string_view text)

@@ -27,7 +27,8 @@ Directions WorkOutDirections(GeoPoint from, GeoPoint to);
 // One of the 16 words from "N" to "NNW".
 std::string_view CompassPoint(double bearing);
 
-// What a typed text stands for: "lat, lon" in degrees, a marker's name, or a station's call on any channel.
+// What a typed text stands for: a latitude and longitude, a marker's name, a station's call on any channel, or a
+// locator.
 std::optional<DirectionsEnd> ReadDirectionsEnd(const MainWindow& main, std::string_view text);
 // How an end is shown, and read again.
 std::string DirectionsEndText(const DirectionsEnd& end);

@@ -2,8 +2,10 @@
 
 #include "core/main_window.h"
 #include "core/views.h"
+#include "map/coordinates.h"
 #include "map/marker_names.h"
 #include "map/selection.h"
+#include "map/show_on_map.h"
 #include "platform/text.h"
 
 #include <algorithm>
@@ -14,8 +16,6 @@
 namespace ruvenmark {
 
 namespace {
-
-constexpr double kNearZoom = 10;
 
 // Hits of a walk, those first that begin with what is looked for.
 class Hits {
@@ -103,20 +103,24 @@ std::vector<FoundPlace> FindMarkers(const MainWindow& main, std::string_view tex
     return hits.Take();
 }
 
+std::optional<FoundPlace> FindCoordinates(std::string_view typed)
+{
+    const auto written = ReadLatLon(typed);
+    const auto point = written ? written : ReadLocator(typed);
+    if (!point)
+        return std::nullopt;
+    FoundPlace place;
+    place.point = *point;
+    place.name = written ? CoordinateText(*point, CoordinateForm::Decimal) : std::string(typed);
+    place.detail = written ? LocatorOf(*point) : CoordinateText(*point, CoordinateForm::Minutes);
+    return place;
+}
+
 void Append(std::vector<FoundPlace>& places, std::vector<FoundPlace> more, std::size_t limit)
 {
     const std::size_t room = limit - std::min(places.size(), limit);
     more.resize(std::min(more.size(), room));
     std::move(more.begin(), more.end(), std::back_inserter(places));
-}
-
-void SelectNode(MainWindow& main, const FoundPlace& found)
-{
-    TreeNode* root = main.tvStationList.Find(Traits(found.channel).word);
-    TreeNode* folder = root ? main.tvStationList.Find(*root, kPositions) : nullptr;
-    TreeNode* node = folder ? main.tvStationList.Find(*folder, found.call) : nullptr;
-    if (node)
-        main.tvStationList.Select(node);
 }
 
 } // namespace
@@ -128,6 +132,8 @@ std::vector<FoundPlace> Find(const MainWindow& main, const IPlaceSearch& places,
     if (typed.empty())
         return {};
     std::vector<FoundPlace> onMap = places.Search(typed, limit);
+    if (auto point = FindCoordinates(typed))
+        onMap.insert(onMap.begin(), *std::move(point));
     // Neither stations nor places crowd the others out.
     const std::size_t roomForStations = std::max(limit - std::min(onMap.size(), limit), (limit + 1) / 2);
     std::vector<FoundPlace> found = FindStations(main, CallOfMarkerName(typed), roomForStations);
@@ -141,14 +147,14 @@ void GoToFound(MainWindow& main, const FoundPlace& found)
     ShowMapView(main.window);
     Attempt(main.abandoned, "GoToFound", [&] {
         Map& map = main.mpCtrl.RequireMap();
-        map.SetView(found.point, std::max(map.View().zoom, kNearZoom));
-        if (found.kind == FoundPlace::Kind::Place)
-            return;
-        if (const auto pin = map.FindPushpin(found.name))
-            SelectOnMap(main, *pin);
+        const auto pin = found.kind == FoundPlace::Kind::Place ? std::nullopt : map.FindPushpin(found.name);
+        if (pin)
+            ShowOnMap(main, *pin);
+        else
+            ShowPoint(main, found.point);
     });
     if (found.kind == FoundPlace::Kind::Station)
-        SelectNode(main, found);
+        SelectStationNode(main, {found.channel, found.call});
 }
 
 void mnuFind_Click(MainWindow& main)

@@ -32,8 +32,8 @@ public:
 };
 
 // What to offer while the operator types: the stations of all channels that have a position, other markers by name,
-// then places; of each first what begins with the text, then what holds it. At most `limit`. An empty text finds
-// nothing.
+// then places, a typed position or locator ahead of them; of each first what begins with the text, then what holds it.
+// At most `limit`. An empty text finds nothing.
 std::vector<FoundPlace> Find(const MainWindow& main, const IPlaceSearch& places, std::string_view text,
                              std::size_t limit);
 

@@ -2,6 +2,7 @@
 
 #include "core/channel.h"
 #include "core/station_record.h"
+#include "platform/map_model.h"
 #include "platform/text.h"
 
 #include <array>
@@ -96,7 +97,7 @@ std::string MarkerName(std::string_view channelWord, std::string_view call)
 
 std::string TrackPointName(std::string_view channelWord, std::string_view call)
 {
-    return MarkerName(channelWord, call) + "*";
+    return MarkerName(channelWord, call) + kTrailMark;
 }
 
 std::string_view CallOfMarkerName(std::string_view name)

@@ -3,9 +3,9 @@
 #include "core/main_window.h"
 #include "core/progress.h"
 #include "core/tree_selection.h"
-#include "core/views.h"
 #include "map/marker_names.h"
 #include "map/names_state.h"
+#include "map/show_on_map.h"
 #include "map/symbols.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
@@ -38,6 +38,7 @@ void RefreshMarkerNote(MainWindow& main, Channel channel, std::string_view call,
         return;
     record.Marker = pin->Ref();
     pin->SetNote(MarkerNote(word, record));
+    pin->SetHeard(main.services.clock.UnixSeconds());
 }
 
 void DeleteMarker(MainWindow& main, std::string_view channelWord, std::string_view markerName)
@@ -137,9 +138,8 @@ void ViewStation(MainWindow& main, const StationNode& station, const Record& rec
 {
     Pushpin pin = ShowStationMarker(main, station, record, point);
     pin.SetSymbol(SymbolId(record.Get(Field::Symbol)));
-    pin.Location().GoTo();
     main.tvStationList.SetBold(*station.node, false);
-    ShowMapView(main.window);
+    ShowOnMap(main, pin);
 }
 
 } // namespace
@@ -181,10 +181,7 @@ void mnuViewPosition_Click(MainWindow& main)
 
 void mnuViewMyPosition_Click(MainWindow& main)
 {
-    Attempt(main.abandoned, "mnuViewMyPosition", [&] {
-        ShowMyMarker(main).Location().GoTo();
-        ShowMapView(main.window);
-    });
+    Attempt(main.abandoned, "mnuViewMyPosition", [&] { ShowOnMap(main, ShowMyMarker(main)); });
 }
 
 } // namespace ruvenmark

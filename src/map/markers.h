@@ -15,7 +15,7 @@ struct GeoPoint;
 struct MainWindow;
 struct StationNode;
 
-// Writes the note of the station's marker anew, where it has one. Raises Failure.
+// A report came in: writes the note and the time of the station's marker anew, where it has one. Raises Failure.
 void RefreshMarkerNote(MainWindow& main, Channel channel, std::string_view call, Record& record);
 
 // Deletes the marker of this name if its note begins with the channel word. Raises Failure.

@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "core/views.h"
+#include "map/coordinates.h"
 #include "platform/numbers.h"
 
 namespace ruvenmark {
@@ -11,6 +12,7 @@ namespace {
 // The dialog that stood aside.
 void BringBack(MainWindow& main)
 {
+    main.sbStatusBar.SetPrompt("");
     if (const auto form = main.map.PinPointSource->form)
         main.services.dialogs.ComeBack(*form);
 }
@@ -37,16 +39,24 @@ void StartPinPoint(MainWindow& main, const PinPointTarget& target)
     ShowMapView(main.window);
     if (!IsPinPointing(main))
         main.map.mousePtr = main.mpCtrl.MousePointer();
-    main.mpCtrl.SetMousePointer(kPointerCross);
     main.map.PinPointSource = target;
+    main.mpCtrl.SetMousePointer(kPointerCross);
+    main.sbStatusBar.SetPrompt("Click the place on the map (Esc to cancel)");
 }
 
 void mpCtrl_MouseMove(MainWindow& main, double x, double y)
 {
     Attempt(main.abandoned, "mpCtrl_MouseMove", [&] {
-        const LatLonText text = TextOfPoint(main.mpCtrl.RequireMap().XYToLocation(x, y).Point());
-        main.sbStatusBar.SetCoordinates(text.lat + ", " + text.lon);
+        Map& map = main.mpCtrl.RequireMap();
+        main.map.pointed = IsOnWorld(map.View(), {x, y}) ? std::optional(map.XYToLocation(x, y).Point()) : std::nullopt;
+        ShowCoordinates(main);
     });
+}
+
+void ShowCoordinates(MainWindow& main)
+{
+    const auto& pointed = main.map.pointed;
+    main.sbStatusBar.SetCoordinates(pointed ? CoordinateText(*pointed, main.map.coordinates) : std::string());
 }
 
 bool mpCtrl_Click(MainWindow& main, double x, double y)

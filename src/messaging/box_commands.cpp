@@ -1,9 +1,9 @@
 #include "messaging/box_commands.h"
 
 #include "core/main_window.h"
-#include "core/views.h"
 #include "map/marker_names.h"
 #include "map/markers.h"
+#include "map/show_on_map.h"
 #include "map/symbols.h"
 #include "messaging/message_boxes.h"
 #include "messaging/send_message.h"
@@ -38,9 +38,8 @@ void TellDeleted(MainWindow& main, const RowList& list)
 
 void ComeToFront(MainWindow& main, Pushpin pin)
 {
-    pin.Location().GoTo();
     pin.SetBalloonState(1);
-    ShowMapView(main.window);
+    ShowOnMap(main, pin);
 }
 
 bool ShowMarkerOf(MainWindow& main, const std::string& call)

@@ -26,4 +26,9 @@ UtcTime SystemClock::UtcNow()
     return {utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min};
 }
 
+std::int64_t SystemClock::UnixSeconds()
+{
+    return std::time(nullptr);
+}
+
 } // namespace ruvenmark

@@ -17,12 +17,14 @@ public:
     // Local date and time as shown and stored: "2026-11-22 20:15:03".
     virtual std::string_view LocalNowText() = 0; // Lives until the next call.
     virtual UtcTime UtcNow() = 0;
+    virtual std::int64_t UnixSeconds() = 0; // Since 1970.
 };
 
 class SystemClock final : public IClock {
 public:
     std::string_view LocalNowText() override;
     UtcTime UtcNow() override;
+    std::int64_t UnixSeconds() override;
 
 private:
     std::int64_t m_second = -1; // What m_text was made for.

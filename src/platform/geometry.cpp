@@ -88,6 +88,12 @@ GeoPoint FromPixel(const MapView& view, PixelPoint pixel)
     return FromMercator({x, y});
 }
 
+bool IsOnWorld(const MapView& view, PixelPoint pixel)
+{
+    const double y = ToMercator(view.centre).y + (pixel.y - view.height / 2.0) / view.WorldPixels();
+    return y >= 0 && y <= 1;
+}
+
 double MetresPerPixel(const MapView& view)
 {
     return kEquatorMetres * std::cos(view.centre.lat * kDegree) / view.WorldPixels();

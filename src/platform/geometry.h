@@ -45,6 +45,8 @@ struct PixelPoint {
 };
 PixelPoint ToPixel(const MapView& view, GeoPoint point);
 GeoPoint FromPixel(const MapView& view, PixelPoint pixel);
+// Whether the pixel lies neither above nor below the world.
+bool IsOnWorld(const MapView& view, PixelPoint pixel);
 // On the ground, in the middle of the view.
 double MetresPerPixel(const MapView& view);
 // The zoom at which the world is so many pixels wide.

@@ -23,7 +23,7 @@ void Pushpin::SetName(std::string_view name)
     m_map->UnlinkName(m_ref);
     pin.name = name;
     m_map->LinkName(m_ref);
-    m_map->Touch();
+    m_map->Mark(m_ref);
 }
 
 ruvenmark::Location Pushpin::Location() const
@@ -73,6 +73,17 @@ void Pushpin::SetBalloonState(std::int32_t state)
     m_map->Pin(m_ref).balloonState = state;
     m_map->MarkLook(m_ref);
     m_map->Touch();
+}
+
+std::uint32_t Pushpin::Heard() const
+{
+    return m_map->Pin(m_ref).heard;
+}
+
+// Nothing that is painted changes with it at once.
+void Pushpin::SetHeard(std::int64_t seconds)
+{
+    m_map->Pin(m_ref).heard = static_cast<std::uint32_t>(seconds);
 }
 
 void Pushpin::Delete()

@@ -56,6 +56,7 @@ void Map::MarkLook(SlotRef ref)
     const PinData& pin = Pin(ref);
     m_points[ref.slot].symbol = pin.symbol;
     m_points[ref.slot].bBalloon = pin.balloonState != 0;
+    m_points[ref.slot].bTrail = pin.name.ends_with(kTrailMark);
 }
 
 Location Map::GetLocation(double lat, double lon, double /*altitude*/)

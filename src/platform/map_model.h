@@ -29,6 +29,7 @@ inline constexpr double kFirstZoom = 4; // Of a document that tells none.
 inline constexpr std::int32_t kUnitsMiles = 0;
 inline constexpr std::int32_t kShapeRadiusCircle = 1009;
 inline constexpr std::int16_t kDefaultSymbol = 1;
+inline constexpr char kTrailMark = '*';         // Ends the name of a marker that a moving station left behind.
 inline constexpr std::uint32_t kColorRed = 255; // Colours are 24-bit numbers with red in the low byte.
 inline constexpr std::uint32_t kDefaultLineColor = 0xC03020;
 
@@ -64,6 +65,8 @@ public:
     void SetSymbol(std::int16_t symbol);
     std::int32_t BalloonState() const; // 1 shows the name, 0 nothing.
     void SetBalloonState(std::int32_t state);
+    std::uint32_t Heard() const; // Seconds since 1970 of the last report; 0: not known.
+    void SetHeard(std::int64_t seconds);
     void Delete();
 
     SlotRef Ref() const { return m_ref; }
@@ -103,6 +106,7 @@ struct PinData {
     GeoPoint point;
     std::int32_t balloonState = 0;
     std::int16_t symbol = kDefaultSymbol;
+    std::uint32_t heard = 0; // Seconds since 1970; 0: not known. No file keeps it.
     // Slots of pins of one name, oldest first, in a ring: the oldest one's previous is the newest.
     std::uint32_t previousOfName = 0, nextOfName = 0;
 };
@@ -121,8 +125,9 @@ struct ShapeData {
 struct PinPoint {
     std::uint32_t x = 0, y = 0; // Web Mercator in units of 2^-32 of the world.
     std::int16_t symbol = kDefaultSymbol;
-    bool bLive = false;
-    bool bBalloon = false;
+    bool bLive : 1 = false;
+    bool bBalloon : 1 = false;
+    bool bTrail : 1 = false; // Left behind by a moving station.
 };
 
 // The one open map. It is replaced in place: handles of the former map die, the object stays.

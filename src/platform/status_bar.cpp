@@ -49,6 +49,12 @@ void StatusBar::SetNotice(std::string_view text)
         Changed.Raise();
 }
 
+void StatusBar::SetPrompt(std::string_view text)
+{
+    if (Renew(m_prompt, text))
+        Changed.Raise();
+}
+
 void StatusBar::SetSent(std::string_view text)
 {
     if (Renew(m_sent, text))

@@ -31,6 +31,10 @@ public:
     void SetNotice(std::string_view text);
     const std::string& Notice() const { return m_notice; }
 
+    // What the operator is to do next, above all else in that place, until it is emptied.
+    void SetPrompt(std::string_view text);
+    const std::string& Prompt() const { return m_prompt; }
+
     // The packet line is hidden while the progress bar shows.
     void ShowProgress();
     void SetProgress(int percent);
@@ -56,6 +60,7 @@ private:
     std::array<bool, 5> m_warnings{};
     std::string m_packetLine;
     std::string m_notice;
+    std::string m_prompt;
     std::string m_sent;
     std::string m_coordinates;
     int m_progress = 0;

@@ -8,6 +8,7 @@
 #include "map/documents.h"
 #include "map/edit_commands.h"
 #include "map/find.h"
+#include "map/map_settings.h"
 #include "map/markers.h"
 #include "map/range_circles.h"
 #include "map/tile_form_rules.h"
@@ -62,6 +63,12 @@ template <std::int32_t kRegion>
 void RunRegion(MainWindow& main)
 {
     ChangeRegion(main, kRegion);
+}
+
+template <std::int16_t kMinutes>
+void RunFade(MainWindow& main)
+{
+    SetFadeAfter(main, kMinutes);
 }
 
 void mnuHelpAbout_Click(MainWindow& main)
@@ -121,7 +128,7 @@ constexpr std::array kEntries = {
                   rules::TickForm<Form::frmTcpData>},
     MenuEntryInfo{E::mnuViewFullScreen, "mnuViewFullScreen", "F&ull Screen", "F11", true, mnuViewFullScreen_Click,
                   rules::TickWindow<&WindowState::bFullScreen>},
-    MenuEntryInfo{E::mnuViewOptions, "mnuViewOptions", "&Settings...", "Ctrl+,", false, mnuViewOptions_Click},
+    MenuEntryInfo{E::mnuViewOptions, "mnuViewOptions", "Settin&gs...", "Ctrl+,", false, mnuViewOptions_Click},
 
     MenuEntryInfo{E::mnuFontLargest, "mnuFontLargest", "&Largest", "", true, RunFont<0>, rules::TickFont<0>},
     MenuEntryInfo{E::mnuFontLarger, "mnuFontLarger", "L&arger", "", true, RunFont<1>, rules::TickFont<1>},
@@ -153,6 +160,13 @@ constexpr std::array kEntries = {
                   RunRegion<kRegionNorthAmerica>, rules::TickRegion<kRegionNorthAmerica>},
     MenuEntryInfo{E::mnuRegionEurope, "mnuRegionEurope", "&Europe", "", true, RunRegion<kRegionEurope>,
                   rules::TickRegion<kRegionEurope>},
+
+    MenuEntryInfo{E::mnuFadeOff, "mnuFadeOff", "&Off", "", true, RunFade<0>, rules::TickFade<0>},
+    MenuEntryInfo{E::mnuFade30Minutes, "mnuFade30Minutes", "&30 Minutes", "", true, RunFade<30>, rules::TickFade<30>},
+    MenuEntryInfo{E::mnuFade1Hour, "mnuFade1Hour", "&1 Hour", "", true, RunFade<60>, rules::TickFade<60>},
+    MenuEntryInfo{E::mnuFade2Hours, "mnuFade2Hours", "&2 Hours", "", true, RunFade<120>, rules::TickFade<120>},
+    MenuEntryInfo{E::mnuFade6Hours, "mnuFade6Hours", "&6 Hours", "", true, RunFade<360>, rules::TickFade<360>},
+    MenuEntryInfo{E::mnuFade1Day, "mnuFade1Day", "1 &Day", "", true, RunFade<1440>, rules::TickFade<1440>},
 
     MenuEntryInfo{E::mnuConnect, "mnuConnect", "Connect &TNC...", "", false, ConnectTnc, rules::NameConnectTnc},
     MenuEntryInfo{E::mnuConnectServer, "mnuConnectServer", "Connect &APRS Server...", "", false, mnuConnectServer_Click,

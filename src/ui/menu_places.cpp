@@ -43,6 +43,7 @@ constexpr std::array kView = {MenuPlace{E::mnuViewToolbar},
                               MenuPlace{E::None, Menu::MapFont},
                               MenuPlace{E::None, Menu::MapToolbars},
                               MenuPlace{E::None, Menu::Region},
+                              MenuPlace{E::None, Menu::FadeAfter},
                               MenuPlace{E::mnuZoomToStations},
                               kLine,
                               MenuPlace{E::mnuViewTncData},
@@ -66,6 +67,10 @@ constexpr std::array kMapToolbars = {MenuPlace{E::mnuStandardToolbar}, MenuPlace
                                      MenuPlace{E::mnuDrawingToolbar}, MenuPlace{E::mnuLocationScaleToolbar}};
 
 constexpr std::array kRegionMenu = {MenuPlace{E::mnuRegionNorthAmerica}, MenuPlace{E::mnuRegionEurope}};
+
+constexpr std::array kFadeAfter = {MenuPlace{E::mnuFadeOff},    MenuPlace{E::mnuFade30Minutes},
+                                   MenuPlace{E::mnuFade1Hour},  MenuPlace{E::mnuFade2Hours},
+                                   MenuPlace{E::mnuFade6Hours}, MenuPlace{E::mnuFade1Day}};
 
 constexpr std::array kCommunication = {MenuPlace{E::mnuConnect}, MenuPlace{E::mnuConnectServer},
                                        MenuPlace{E::mnuConnectGps}, MenuPlace{E::mnuConnectWx}};
@@ -154,6 +159,7 @@ constexpr std::array kMenus = {
     MenuInfo{Menu::MapStyle, "Map St&yle", kMapStyle},
     MenuInfo{Menu::MapToolbars, "Map Tool Ba&rs", kMapToolbars},
     MenuInfo{Menu::Region, "Re&gion", kRegionMenu},
+    MenuInfo{Menu::FadeAfter, "Fa&de After", kFadeAfter},
     MenuInfo{Menu::mnuStationPopup, "", kStation},
     MenuInfo{Menu::mnuRootPopup, "", kRoot},
     MenuInfo{Menu::mnuMyStationPopup, "", kMyStation},

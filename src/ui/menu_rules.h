@@ -58,6 +58,12 @@ void TickRegion(const MenuContext& at, MenuEntryState& state)
     state.bChecked = at.main.mpCtrl.MapRegion() == kRegion;
 }
 
+template <std::int16_t kMinutes>
+void TickFade(const MenuContext& at, MenuEntryState& state)
+{
+    state.bChecked = at.main.map.iFadeAfter == kMinutes;
+}
+
 template <bool WindowState::*kFlag>
 void TickWindow(const MenuContext& at, MenuEntryState& state)
 {

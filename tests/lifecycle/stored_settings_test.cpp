@@ -78,6 +78,11 @@ std::string Moved(const M& main, GeoPoint MapView::*centre, double GeoPoint::*pa
     return now == FirstView(main).*centre.*part ? "" : ShortText(now);
 }
 
+std::string CoordinateFormText(const M& main)
+{
+    return Shown(static_cast<std::int32_t>(main.map.coordinates));
+}
+
 struct Row {
     const char* key;
     const char* byDefault;
@@ -91,6 +96,7 @@ constexpr Row kRows[] = {
     {"MainTop", "1000", "40", In<&M::window, &W::top>},
     {"MainWidth", "6500", "7001", In<&M::window, &W::width>},
     {"MainHeight", "6500", "8001", In<&M::window, &W::height>},
+    {"MainMaximized", "False", "True", In<&M::window, &W::bMaximized>},
     {"ShowTreeView", "True", "False", In<&M::window, &W::bLeftPane>},
     {"WindowSplit", "2000", "2500", In<&M::window, &W::splitterLeft>},
     {"Region", "1", "2", In<&M::map, &MapSession::Region>}, // 1: asked for, and closed without an answer.
@@ -212,6 +218,8 @@ constexpr Row kRows[] = {
     {"FLAdd", "True", "False", In<&M::frmImport, &ImportForm::bFLAdd>},
     {"FLShow", "True", "False", In<&M::frmImport, &ImportForm::bFLShow>},
 
+    {"CoordinateForm", "0", "2", CoordinateFormText},
+    {"FadeAfter", "0", "120", In<&M::map, &MapSession::iFadeAfter>},
     {"OnlineTiles", "False", "True", Tiles<&TileSettings::bOnline>},
     {"TileURL", "https://tile.openstreetmap.org/{z}/{x}/{y}.png", "https://tiles.example/{z}/{x}/{y}",
      Tiles<&TileSettings::urlTemplate>},

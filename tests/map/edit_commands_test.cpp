@@ -96,7 +96,7 @@ TEST_F(EditCommands, OtherTextsAreNotPasted)
 {
     MapDocument empty;
     MapDocument one;
-    one.pins.push_back({"X", "", {1, 2}, 1, 0, {}, {}});
+    one.pins.push_back({"X", "", {1, 2}, 1, 0, 0, {}, {}});
     const std::vector<std::string> others = {"",
                                              "hello",
                                              "{",

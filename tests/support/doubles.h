@@ -43,6 +43,7 @@ public:
         const std::tm utc = *std::gmtime(&seconds);
         return {utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min};
     }
+    std::int64_t UnixSeconds() override { return (m_now + std::chrono::hours(5)).time_since_epoch().count(); }
     void Advance(std::chrono::seconds seconds) { m_now += seconds; }
 
 private:

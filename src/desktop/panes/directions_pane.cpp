@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShowEvent>
 
 namespace ruvenmark {
 
@@ -28,7 +29,7 @@ constexpr std::array<EndTexts, 2> kEndTexts = {
     {{"txtDirectionsFrom", "PickFrom", "Fro&m", "Take the start from a click on the map"},
      {"txtDirectionsTo", "PickTo", "T&o", "Take the end from a click on the map"}}};
 
-constexpr const char* kHint = "Call, marker, or lat, lon";
+constexpr const char* kHint = "Call, marker, lat and lon, locator";
 constexpr const char* kMissing = "Name a start and an end, or pick them on the map.";
 
 } // namespace
@@ -88,6 +89,18 @@ void DirectionsPane::AddEnd(QGridLayout& layout, std::size_t end)
     layout.addWidget(edit, row, 1);
     layout.addWidget(pick, row, 2);
     m_ends[end] = {edit, pick};
+}
+
+// Opened: one types at once, where an end is missing.
+void DirectionsPane::showEvent(QShowEvent* event)
+{
+    QFrame::showEvent(event);
+    if (event->spontaneous())
+        return;
+    const bool bToMissing = m_main.map.directions[0] && !m_main.map.directions[1];
+    QLineEdit* edit = m_ends[bToMissing ? 1 : 0].text;
+    edit->setFocus();
+    edit->selectAll();
 }
 
 // A text that stands for nothing stays to be mended.

@@ -24,6 +24,9 @@ public:
 
     void RefreshIcons();
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     struct End {
         QLineEdit* text = nullptr;

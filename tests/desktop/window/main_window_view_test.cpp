@@ -12,6 +12,7 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QTableView>
@@ -227,6 +228,46 @@ TEST(MainWindowViewTest, AClickedMarkerIsSelectedAndDeleted)
     button.trigger();
     EXPECT_EQ(map.RecordCount(), 0);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !button.isEnabled(); }));
+}
+
+TEST(MainWindowViewTest, MarkerAndTreeAreLinkedBothWays)
+{
+    WindowProgram program;
+    program.Hear(Channel::FL, "N0CALL", 40, -90);
+    program.Hear(Channel::FL, "N1CALL", 40, -91);
+    Map& map = program.main.mpCtrl.RequireMap();
+    map.SetView({40, -90}, 8);
+    QCoreApplication::processEvents();
+    MapWidget& view = program.window.Map();
+    view.repaint();
+    TreeNode* node = program.main.tvStationList.Find("FLPositionsN0CALL");
+    QTest::mouseClick(&view, Qt::LeftButton, {}, view.rect().center());
+    EXPECT_EQ(program.main.tvStationList.Selected(), node);
+    program.main.tvStationList.Select(program.main.tvStationList.Find("FLPositionsN1CALL"));
+    EXPECT_EQ(program.main.map.Selection, MapSelection(*map.FindPushpin("N1CALL(f)")));
+
+    QTest::mouseClick(&view, Qt::RightButton, {}, view.rect().center());
+    EXPECT_EQ(program.main.tvStationList.Selected(), node);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr) << "the menu of the station";
+    EXPECT_EQ(menu->actions().front()->text(), QStringLiteral("View Position"));
+    menu->close();
+}
+
+TEST(MainWindowViewTest, EscapeEndsAPinpointAndTheBoxOfThePlaceChangesItsForm)
+{
+    WindowProgram program;
+    program.window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program.window));
+    program.Action("mnuDirections").trigger();
+    program.Find<QAbstractButton>("PickFrom").click();
+    EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerCross);
+    QTest::keyClick(program.window.focusWidget(), Qt::Key_Escape);
+    EXPECT_NE(program.main.mpCtrl.MousePointer(), kPointerCross);
+    EXPECT_EQ(program.main.sbStatusBar.Prompt(), "");
+
+    QTest::mouseClick(&program.Find<QLineEdit>("txtTbCoordinates"), Qt::LeftButton);
+    EXPECT_EQ(program.main.map.coordinates, CoordinateForm::Minutes);
 }
 
 TEST(MainWindowViewTest, ATileFileThatCannotBeUsedIsToldAndCounted)

@@ -96,6 +96,33 @@ TEST(WindowLayoutTest, TheLeftPaneTheBarsAndFullScreenFollowTheirCommands)
     EXPECT_TRUE(program.Find<QWidget>("mapToolBar4").isVisible());
 }
 
+// The frame is drawn outside of the window: without counting it the status bar lies beyond the screen's edge.
+TEST(WindowLayoutTest, AWindowFitsItsScreenWithItsFrame)
+{
+    const QRect screen(0, 30, 800, 570);
+    const QMargins frame(4, 22, 4, 4);
+    EXPECT_EQ(FittedPlace({0, 30, 800, 570}, screen, frame), QRect(4, 52, 792, 544));
+    EXPECT_EQ(FittedPlace({300, 200, 600, 300}, screen, frame), QRect(196, 200, 600, 300));
+    EXPECT_EQ(FittedPlace({100, 100, 600, 300}, screen, frame), QRect(100, 100, 600, 300));
+    EXPECT_EQ(FittedPlace({-50, 0, 600, 300}, screen, frame), QRect(4, 52, 600, 300));
+}
+
+TEST(WindowLayoutTest, MaximizedComesBackAndKeepsThePlaceBelow)
+{
+    WindowProgram program;
+    const std::int32_t width = program.main.window.width;
+    program.window.showMaximized();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return program.main.window.bMaximized; }));
+    EXPECT_EQ(program.main.window.width, width);
+    program.window.close();
+    EXPECT_EQ(program.store.Get("MainMaximized", ""), "True");
+
+    WindowProgram next(false);
+    next.store.Set("MainMaximized", "True");
+    StartMainWindow(next.main);
+    EXPECT_TRUE(next.window.isMaximized());
+}
+
 TEST(WindowLayoutTest, GeometryComesBack)
 {
     WindowProgram program(false);

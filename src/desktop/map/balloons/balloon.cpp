@@ -1,6 +1,8 @@
 #include "desktop/map/balloons/balloon.h"
 
 #include "desktop/shown_text.h"
+#include "map/age.h"
+#include "map/coordinates.h"
 #include "platform/map_model.h"
 #include "platform/text.h"
 
@@ -58,6 +60,15 @@ BalloonText BalloonOf(const PinData& pin)
         text.lines.append(ForDisplay(line));
     while (!text.lines.isEmpty() && text.lines.last().trimmed().isEmpty())
         text.lines.removeLast();
+    return text;
+}
+
+BalloonText FullBalloonOf(const PinData& pin, std::int64_t now)
+{
+    BalloonText text = BalloonOf(pin);
+    text.lines.append(ForDisplay(LocatorOf(pin.point) + ", " + CoordinateText(pin.point, CoordinateForm::Minutes)));
+    if (const std::string age = AgeText(now, pin.heard); !age.empty())
+        text.lines.append(QStringLiteral("Last heard ") + ForDisplay(age));
     return text;
 }
 

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <cstdint>
+
 class QPainter;
 
 namespace ruvenmark {
@@ -19,6 +21,8 @@ struct BalloonText {
     QStringList lines;
 };
 BalloonText BalloonOf(const PinData& pin);
+// The same with the place as radio amateurs tell it, and how long ago it was heard; now: seconds since 1970.
+BalloonText FullBalloonOf(const PinData& pin, std::int64_t now);
 
 // A balloon at a point of the map: the name and the note, clipped with an ellipsis where they are too long.
 class Balloon {

@@ -27,6 +27,7 @@ BalloonText ListOf(const Map& map, const std::vector<std::uint32_t>& members)
         text.lines.append(BalloonOf(*map.Pins().At(members[i])).title);
     if (members.size() > kMostListed)
         text.lines.append(QStringLiteral("and %1 more").arg(members.size() - kMostListed));
+    text.lines.append(QStringLiteral("Click for the whole list"));
     return text;
 }
 
@@ -49,15 +50,9 @@ void Balloons::DropTheGone(const Map* map)
 BalloonText Balloons::TextOf(const BalloonGround& ground, const MarkerItem& item, Kind kind)
 {
     const PinData& pin = *ground.map.Pins().At(item.slot);
-    if (item.count == 1 || kind == Kind::Still)
-        return BalloonOf(pin);
-    const std::vector<std::uint32_t> members = ground.markers.Members(ground.map.PinPoints(), item);
-    if (kind == Kind::Hovered)
-        return ListOf(ground.map, members);
-    BalloonText text = BalloonOf(pin);
-    const auto at = std::find(members.begin(), members.end(), item.slot) - members.begin() + 1;
-    text.lines.append(QStringLiteral("%1 of %2 here; click again for the next").arg(at).arg(members.size()));
-    return text;
+    if (item.count == 1 || kind != Kind::Hovered)
+        return FullBalloonOf(pin, ground.now);
+    return ListOf(ground.map, ground.markers.Members(ground.map.PinPoints(), item));
 }
 
 // Nothing for a marker that lies outside the view.
@@ -72,7 +67,8 @@ std::optional<Balloon> Balloons::Make(const BalloonGround& ground, SlotRef ref, 
     const QRectF area = frame.Rect().adjusted(kMargin, kMargin, -kMargin, -kMargin);
     if (!area.adjusted(-kBeyond, -kBeyond, kBeyond, kBeyond).contains(at))
         return std::nullopt;
-    return Balloon(item ? TextOf(ground, *item, kind) : BalloonOf(*pin), at, area, ground.look, kind == Kind::Pinned);
+    return Balloon(item ? TextOf(ground, *item, kind) : FullBalloonOf(*pin, ground.now), at, area, ground.look,
+                   kind == Kind::Pinned);
 }
 
 void Balloons::Paint(QPainter& painter, const BalloonGround& ground)

@@ -20,6 +20,7 @@ struct BalloonGround {
     const MapView& view;
     const MarkerLayout& markers; // As they lie in this view.
     const MapLook& look;
+    std::int64_t now = 0; // Seconds since 1970.
 };
 
 // Which balloons are open: one that a click pinned, and one that shows while the pointer rests on a marker.
@@ -42,7 +43,6 @@ public:
     void PaintStill(QPainter& painter, const BalloonGround& ground) const;
 
 private:
-    // Pinned: tells how to reach the others of a group.
     enum class Kind : std::uint8_t { Hovered, Pinned, Still };
 
     static std::optional<Balloon> Make(const BalloonGround& ground, SlotRef pin, Kind kind);

@@ -86,6 +86,11 @@ std::string FoldForSearch(QStringView text)
     return WithoutSpecialLetters(plain.toLower()).toStdString();
 }
 
+bool BeginsWith(std::string_view foldedName, std::string_view foldedStart)
+{
+    return CompareStart(foldedName, foldedStart) == 0;
+}
+
 std::vector<std::size_t> FindPlaces(const BaseMap& map, QStringView text, std::size_t most)
 {
     const std::string prefix = FoldForSearch(text.trimmed());

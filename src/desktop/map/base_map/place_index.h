@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ruvenmark {
@@ -16,5 +17,8 @@ std::string FoldForSearch(QStringView text);
 // Numbers of the places whose names begin with the text, then of those in whose names a later word does, the largest
 // place of each kind first; at most `most`. Nothing for an empty text.
 std::vector<std::size_t> FindPlaces(const BaseMap& map, QStringView text, std::size_t most);
+
+// Whether the name of a place begins so; the beginning is folded.
+bool BeginsWith(std::string_view foldedName, std::string_view foldedStart);
 
 } // namespace ruvenmark

@@ -19,18 +19,25 @@ constexpr std::size_t kMostKept = 10000;
 constexpr std::size_t kMostCharacters = 200; // Measured of a name.
 constexpr double kHalo = 1.5;                // Pixels around the letters.
 constexpr double kHalf = kMarkerPixels / 2.0;
-constexpr double kGap = 1, kRingGap = 5;                      // Pixels from the marker, and from a selected one.
-constexpr QSizeF kCore(kMarkerPixels - 6, kMarkerPixels - 6); // What no name may cover of a marker.
+constexpr double kGap = 1, kRingGap = 5; // Pixels from the marker, and from a selected one.
+
+// What no name may cover of a marker.
+QSizeF CoreOf(const MarkerItem& item)
+{
+    const double side = 2 * HalfOf(item) - (item.bTrail ? 2 : 6);
+    return {side, side};
+}
 
 QRectF Around(QPointF centre, QSizeF size)
 {
     return {centre.x() - size.width() / 2, centre.y() - size.height() / 2, size.width(), size.height()};
 }
 
-// Beside a marker: right, left, below, above; for one in view first where the whole name is in view too.
-std::array<QPointF, 4> NamePlaces(QPointF at, QSizeF size, double gap, const QRectF& view)
+// Beside a marker, so many pixels from its middle: right, left, below, above; for one in view first where the whole
+// name is in view too.
+std::array<QPointF, 4> NamePlaces(QPointF at, QSizeF size, double away, const QRectF& view)
 {
-    const double sideways = kHalf + gap + size.width() / 2, upright = kHalf + gap + size.height() / 2;
+    const double sideways = away + size.width() / 2, upright = away + size.height() / 2;
     std::array places{at + QPointF(sideways, 0), at - QPointF(sideways, 0), at + QPointF(0, upright),
                       at - QPointF(0, upright)};
     if (view.contains(at)) {
@@ -121,20 +128,68 @@ void StationLabels::Place(const std::vector<MarkerItem>& items, const SlotPool<P
     SetGround(frame);
     for (const QRectF& rect : taken)
         m_grid.Block(rect.translated(m_onGround));
+    const auto isSelected = [&](const MarkerItem& item) { return selected == item.slot; };
+    for (const MarkerItem& item : items)
+        if (isSelected(item))
+            PlaceSelected(item, pins);
     for (std::size_t i = items.size(); i-- > 0;)
         if (items[i].count > 1)
             PlaceBadge(items[i]);
     for (const MarkerItem& item : items)
-        m_grid.Block(Around(item.at, kCore).translated(m_onGround));
+        m_grid.Block(Around(item.at, CoreOf(item)).translated(m_onGround));
     for (std::size_t i = items.size(); i-- > 0;)
-        if (items[i].bBalloon || selected == items[i].slot)
-            PlaceName(items[i], pins, selected == items[i].slot ? kRingGap : kGap);
+        if (items[i].bBalloon && !items[i].bTrail && !items[i].bFaded && !isSelected(items[i]))
+            PlaceName(items[i], pins);
+}
+
+void StationLabels::PlaceTrails(const std::vector<MarkerItem>& items, const SlotPool<PinData>& pins,
+                                const ViewFrame& frame, LabelGrid& grid)
+{
+    std::vector<const Text*> written;
+    for (std::size_t i = items.size(); i-- > 0;) {
+        const MarkerItem& item = items[i];
+        const PinData* pin = item.bTrail && item.bBalloon && !item.bFaded ? pins.At(item.slot) : nullptr;
+        if (!pin || !frame.Rect().contains(item.at))
+            continue;
+        Text& text = Name(pin->name);
+        if (std::find(written.begin(), written.end(), &text) != written.end())
+            continue;
+        for (const QPointF centre : NamePlaces(item.at, text.size, HalfOf(item) + kGap, m_view)) {
+            const QRectF rect = Around(centre, text.size);
+            if (!grid.TryPlace(rect))
+                continue;
+            Write(item.slot, text, rect);
+            written.push_back(&text);
+            break;
+        }
+    }
+}
+
+// Over whatever lies there, where no side is free.
+void StationLabels::PlaceSelected(const MarkerItem& item, const SlotPool<PinData>& pins)
+{
+    const PinData* pin = pins.At(item.slot);
+    if (!pin || pin->name.empty() || !m_view.adjusted(-kHalf, -kHalf, kHalf, kHalf).contains(item.at))
+        return;
+    Text& text = Name(pin->name);
+    const auto places = NamePlaces(item.at, text.size, kHalf + kRingGap, m_view);
+    const auto isFree = [&](QPointF centre) { return m_grid.IsFree(Around(centre, text.size).translated(m_onGround)); };
+    const auto* free = std::find_if(places.begin(), places.end(), isFree);
+    const QRectF rect = Around(free == places.end() ? places.front() : *free, text.size);
+    m_grid.Block(rect.translated(m_onGround));
+    Write(item.slot, text, rect);
+}
+
+void StationLabels::Write(std::uint32_t slot, Text& text, const QRectF& rect)
+{
+    m_nameTodo.push_back({&text, rect});
+    m_namesPlaced.push_back({slot, rect});
 }
 
 void StationLabels::BlockIn(LabelGrid& grid, const std::vector<MarkerItem>& items) const
 {
     for (const MarkerItem& item : items)
-        grid.Block(Around(item.at, kCore));
+        grid.Block(Around(item.at, CoreOf(item)));
     for (const Placed& name : m_namesPlaced)
         grid.Block(name.rect);
     for (const Placed& badge : m_badgesPlaced)
@@ -161,13 +216,13 @@ void StationLabels::PlaceBadge(const MarkerItem& item)
     Take(item.slot, BadgePlaces(item.at), Badge(item.count), m_badgeTodo, m_badgesPlaced);
 }
 
-void StationLabels::PlaceName(const MarkerItem& item, const SlotPool<PinData>& pins, double gap)
+void StationLabels::PlaceName(const MarkerItem& item, const SlotPool<PinData>& pins)
 {
     const PinData* pin = pins.At(item.slot);
     if (!pin || pin->name.empty())
         return;
     Text& text = Name(pin->name);
-    Take(item.slot, NamePlaces(item.at, text.size, gap, m_view), text, m_nameTodo, m_namesPlaced);
+    Take(item.slot, NamePlaces(item.at, text.size, kHalf + kGap, m_view), text, m_nameTodo, m_namesPlaced);
 }
 
 void StationLabels::PaintName(QPainter& painter, const Text& text, const QRectF& rect) const

@@ -20,9 +20,10 @@ class QPainter;
 
 namespace ruvenmark {
 
-// The names beside markers and the counts on those that stand for several. The newest choose their place first; who
-// finds none is left out. They are placed on squares that are fixed to the ground, so that names neither flicker nor
-// jump while the map is moved. Texts are measured and drawn once and kept.
+// The names beside markers and the counts on those that stand for several. The selected marker's name is always
+// written; of the others the newest choose their place first, and who finds none is left out. Names of trails yield to
+// all others, those of places too; a faded marker has none. They are placed on squares that are fixed to the ground, so
+// that names neither flicker nor jump while the map is moved. Texts are measured and drawn once and kept.
 class StationLabels {
 public:
     static constexpr double kMostWidth = 170; // Pixels of a name; a longer one ends in an ellipsis.
@@ -37,6 +38,9 @@ public:
     // Nothing is written where the window shows something else.
     void Place(const std::vector<MarkerItem>& items, const SlotPool<PinData>& pins, const ViewFrame& frame,
                std::optional<std::uint32_t> selected, std::span<const QRectF> taken);
+    // The names of trails, each once, where `grid`, which holds all others by now, is free.
+    void PlaceTrails(const std::vector<MarkerItem>& items, const SlotPool<PinData>& pins, const ViewFrame& frame,
+                     LabelGrid& grid);
     // Keeps the places of markers, names and counts free of other names.
     void BlockIn(LabelGrid& grid, const std::vector<MarkerItem>& items) const;
     // Letters as curves instead of kept pictures, for printers and vector files.
@@ -63,7 +67,9 @@ private:
     Text& Badge(std::uint32_t count);
     void SetGround(const ViewFrame& frame);
     void PlaceBadge(const MarkerItem& item);
-    void PlaceName(const MarkerItem& item, const SlotPool<PinData>& pins, double gap);
+    void PlaceName(const MarkerItem& item, const SlotPool<PinData>& pins);
+    void PlaceSelected(const MarkerItem& item, const SlotPool<PinData>& pins);
+    void Write(std::uint32_t slot, Text& text, const QRectF& rect);
     void Take(std::uint32_t slot, const std::array<QPointF, 4>& centres, Text& text, std::vector<Todo>& todo,
               std::vector<Placed>& placed);
     void PaintName(QPainter& painter, const Text& text, const QRectF& rect) const;

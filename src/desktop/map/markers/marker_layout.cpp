@@ -9,6 +9,7 @@ namespace ruvenmark {
 namespace {
 
 constexpr double kUnits = 4294967296.0; // Of a PinPoint in the world.
+constexpr std::size_t kTrailSpots = 2;  // A side of a square: the line shows between the dots.
 
 } // namespace
 
@@ -50,12 +51,34 @@ void MarkerLayout::EachInWindow(const std::vector<PinPoint>& points, Visit visit
     }
 }
 
-// Which of several markers is seen: the selected one, else one that shows its name, else the newest.
+// Which of several markers is seen: one that shows its name, else the newest.
 int MarkerLayout::Rank(std::uint32_t slot) const
 {
-    if (m_selected == slot)
-        return 2;
     return m_points[slot].bBalloon ? 1 : 0;
+}
+
+// Stands for itself alone: the selected one, and the newest point of a trail in each spot.
+void MarkerLayout::AddAlone(const PinPoint& point, const Spot& spot)
+{
+    if (m_selected == spot.slot || !point.bTrail)
+        return Add(spot, 1);
+    const std::size_t perRow = static_cast<std::size_t>(m_window.columns) * kTrailSpots;
+    const std::size_t rows = static_cast<std::size_t>(m_window.rows) * kTrailSpots;
+    const auto column = static_cast<std::size_t>((double{spot.x} + m_window.shiftX) * kTrailSpots / kSquare);
+    const auto row = static_cast<std::size_t>((double{spot.y} + m_window.shiftY) * kTrailSpots / kSquare);
+    const std::size_t at = std::min(row, rows - 1) * perRow + std::min(column, perRow - 1);
+    if (m_trails[at])
+        return;
+    m_trails[at] = true;
+    Add(spot, 1);
+}
+
+bool MarkerLayout::IsBelow(const MarkerItem& a, const MarkerItem& b) const
+{
+    const bool bSelectedA = m_selected == a.slot, bSelectedB = m_selected == b.slot;
+    if (bSelectedA != bSelectedB)
+        return bSelectedB;
+    return a.bTrail != b.bTrail ? a.bTrail : a.slot < b.slot;
 }
 
 void MarkerLayout::Update(const std::vector<PinPoint>& points, const ViewFrame& frame,
@@ -65,13 +88,17 @@ void MarkerLayout::Update(const std::vector<PinPoint>& points, const ViewFrame& 
     m_selected = selected;
     SetWindow(frame);
     m_squares.assign(static_cast<std::size_t>(m_window.columns) * static_cast<std::size_t>(m_window.rows), {});
+    m_trails.assign(m_squares.size() * kTrailSpots * kTrailSpots, false);
+    m_items.clear();
     // For each of a million: what it reads stays in registers.
     Square* const squares = m_squares.data();
     const Window window = m_window;
     const std::uint64_t selectedSlot = selected ? *selected : std::numeric_limits<std::uint64_t>::max();
-    EachInWindow(points, [=](const PinPoint& point, const Spot& spot) {
+    EachInWindow(points, [=, this](const PinPoint& point, const Spot& spot) {
+        if (spot.slot == selectedSlot || point.bTrail)
+            return AddAlone(point, spot);
         Square& square = squares[window.SquareAt(spot)];
-        const int rank = spot.slot == selectedSlot ? 2 : static_cast<int>(point.bBalloon); // As Rank tells.
+        const int rank = static_cast<int>(point.bBalloon); // As Rank tells.
         if (rank > square.bestRank) {
             square.best = spot;
             square.bestRank = rank;
@@ -80,17 +107,12 @@ void MarkerLayout::Update(const std::vector<PinPoint>& points, const ViewFrame& 
             square.spots[square.count] = spot;
         ++square.count;
     });
-    m_items.clear();
     for (const Square& square : m_squares)
         if (square.count > kMostInSquare)
             Add(square.best, square.count);
         else
             Thin(square);
-    const auto isBelow = [this](const MarkerItem& a, const MarkerItem& b) {
-        const bool bSelectedA = m_selected == a.slot, bSelectedB = m_selected == b.slot;
-        return bSelectedA != bSelectedB ? bSelectedB : a.slot < b.slot;
-    };
-    std::sort(m_items.begin(), m_items.end(), isBelow);
+    std::sort(m_items.begin(), m_items.end(), [this](const auto& a, const auto& b) { return IsBelow(a, b); });
     m_points = nullptr;
 }
 
@@ -121,19 +143,26 @@ void MarkerLayout::Thin(const Square& square)
 void MarkerLayout::Add(const Spot& spot, std::uint32_t count)
 {
     const PinPoint& point = m_points[spot.slot];
-    m_items.push_back({spot.slot, point.symbol, point.bBalloon, count,
-                       QPointF(static_cast<double>(spot.x) - kMargin, static_cast<double>(spot.y) - kMargin)});
+    m_items.push_back({.slot = spot.slot,
+                       .symbol = point.symbol,
+                       .bBalloon = point.bBalloon,
+                       .count = count,
+                       .at = QPointF(static_cast<double>(spot.x) - kMargin, static_cast<double>(spot.y) - kMargin),
+                       .bTrail = point.bTrail && m_selected != spot.slot});
 }
 
 std::vector<std::uint32_t> MarkerLayout::Members(const std::vector<PinPoint>& points, const MarkerItem& item) const
 {
     std::vector<std::uint32_t> members;
+    if (item.count == 1)
+        return {item.slot};
     const Spot at{item.slot, static_cast<float>(item.at.x() + kMargin), static_cast<float>(item.at.y() + kMargin)};
     const std::size_t square = m_window.SquareAt(at);
     const bool bWholeSquare = m_squares[square].count > kMostInSquare;
-    EachInWindow(points, [&](const PinPoint&, const Spot& spot) {
+    EachInWindow(points, [&](const PinPoint& point, const Spot& spot) {
         const bool bNear = std::abs(spot.x - at.x) < kHides && std::abs(spot.y - at.y) < kHides;
-        if (m_window.SquareAt(spot) == square && (bWholeSquare || bNear))
+        const bool bAlone = m_selected == spot.slot || point.bTrail;
+        if (m_window.SquareAt(spot) == square && (bWholeSquare || bNear) && !bAlone)
             members.push_back(spot.slot);
     });
     return members;

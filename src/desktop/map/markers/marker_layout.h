@@ -21,11 +21,22 @@ struct MarkerItem {
     bool bBalloon = false;
     std::uint32_t count = 1;
     QPointF at;
+    bool bTrail = false; // A place that a moving station left: a dot.
+    bool bFaded = false; // Heard too long ago; whoever paints tells it.
 };
+
+// Pixels from the middle of an item's picture to its side.
+constexpr double HalfOf(const MarkerItem& item)
+{
+    constexpr double kMarkerHalf = 12, kTrailHalf = 5;
+    return item.bTrail ? kTrailHalf : kMarkerHalf;
+}
 
 // Which markers are painted, and where. Markers within 4 pixels of each other count as one; where more than a few crowd
 // into one square of the ground, one stands for all. So a million markers cost a look at each and no more pictures than
-// fit on the screen. The squares are fixed to the ground: nothing flickers while the map is moved.
+// fit on the screen. The squares are fixed to the ground: nothing flickers while the map is moved. The selected marker
+// always stands for itself alone. Of points of trails that hide each other one is painted and stands for itself: they
+// are no crowd.
 class MarkerLayout {
 public:
     static constexpr int kMargin = 160; // Pixels around the view, so that names reach into it.
@@ -36,10 +47,19 @@ public:
     // The selected marker is never hidden by another.
     void Update(const std::vector<PinPoint>& points, const ViewFrame& frame, std::optional<std::uint32_t> selected);
 
-    // In the order of painting: what was added last lies on top, the selected one above all.
+    // In the order of painting: trails lie lowest, what was added last on top of the others, the selected one above
+    // all.
     const std::vector<MarkerItem>& Items() const { return m_items; }
 
-    // The markers an item stands for, newest first.
+    // Tells which are faded, until the next Update: isOld(slot).
+    template <typename IsOld>
+    void Fade(IsOld isOld)
+    {
+        for (MarkerItem& item : m_items)
+            item.bFaded = isOld(item.slot);
+    }
+
+    // The markers an item stands for, newest first; of the view that was last arranged.
     std::vector<std::uint32_t> Members(const std::vector<PinPoint>& points, const MarkerItem& item) const;
 
 private:
@@ -70,9 +90,11 @@ private:
     };
 
     void SetWindow(const ViewFrame& frame);
+    void AddAlone(const PinPoint& point, const Spot& spot);
     int Rank(std::uint32_t slot) const;
     void Thin(const Square& square);
     void Add(const Spot& spot, std::uint32_t count);
+    bool IsBelow(const MarkerItem& a, const MarkerItem& b) const;
     template <typename Visit>
     void EachInWindow(const std::vector<PinPoint>& points, Visit visit) const;
 
@@ -80,6 +102,7 @@ private:
     std::optional<std::uint32_t> m_selected;
     Window m_window;
     std::vector<Square> m_squares;
+    std::vector<bool> m_trails; // Which spots of the window have a point of a trail.
     std::vector<MarkerItem> m_items;
 };
 

@@ -16,7 +16,7 @@ class MapAtlas;
 
 inline constexpr int kMarkerPixels = 24; // A side of a marker's picture.
 
-// Paints the markers' pictures in one go from the atlas of kMarkerPixels; the selected one is ringed.
+// Paints the markers' pictures in one go from the atlas of kMarkerPixels, trails as dots; the selected one is ringed.
 void PaintMarkers(QPainter& painter, const std::vector<MarkerItem>& items, const MapAtlas& atlas, qreal ratio,
                   std::optional<std::uint32_t> selected, const QColor& ring);
 

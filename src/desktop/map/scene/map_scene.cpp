@@ -4,6 +4,7 @@
 #include "desktop/map/markers/marker_painter.h"
 #include "desktop/map/scene/map_ground.h"
 #include "desktop/map/scene/scale_bar.h"
+#include "map/age.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -51,6 +52,8 @@ void MapScene::Arrange(const Map& map, const MapView& view, const MapSelection& 
 MapLook MapScene::Paint(QPainter& painter, const Map& map, const MapView& view, const ScenePaint& how)
 {
     Arrange(map, view, how.selection);
+    if (how.fadeAfter > 0)
+        m_markers.Fade([&](std::uint32_t slot) { return IsFaded(how.now, map.Pins().At(slot)->heard, how.fadeAfter); });
     const ViewFrame frame(view);
     const bool bDark = IsDark(how.palette) && !m_ground.ShowsTiles(map.MapStyle());
     MapLook look(how.palette, how.font, map.MapFont(), bDark);
@@ -70,6 +73,9 @@ MapLook MapScene::Paint(QPainter& painter, const Map& map, const MapView& view, 
 
     m_ground.Paint(painter, frame, ground);
     m_ground.PaintAbove(painter, frame, m_grid, ground);
+    m_labels.PlaceTrails(m_markers.Items(), map.Pins(), frame, m_grid);
+    if (how.directions)
+        PaintDirectionsLine(painter, frame, *how.directions, look.accent);
     const ShapeLook shapes{SelectedIn<Shape>(map.Shapes(), how.selection), look.accent, bDark};
     if (how.bVector || how.bWait)
         PaintShapes(painter, m_shapes, map.Shapes(), frame, shapes);

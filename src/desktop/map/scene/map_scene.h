@@ -2,6 +2,7 @@
 
 #include "desktop/map/labels/station_labels.h"
 #include "desktop/map/markers/marker_layout.h"
+#include "desktop/map/scene/directions_line.h"
 #include "desktop/map/shapes/shape_layer.h"
 #include "map/selection.h"
 
@@ -23,10 +24,13 @@ struct ScenePaint {
     MapSelection selection;
     QPalette palette;
     QFont font;
-    QRectF buttons;       // Lie over the map; empty: there are none.
-    qreal ratio = 1;      // Device pixels for one of the view.
-    bool bVector = false; // For a printer or a vector file: nothing as a picture that can be drawn.
-    bool bWait = false;   // The ground has to be whole: the picture is not painted again.
+    QRectF buttons;                     // Lie over the map; empty: there are none.
+    qreal ratio = 1;                    // Device pixels for one of the view.
+    bool bVector = false;               // For a printer or a vector file: nothing as a picture that can be drawn.
+    bool bWait = false;                 // The ground has to be whole: the picture is not painted again.
+    std::int64_t now = 0;               // Seconds since 1970.
+    std::int32_t fadeAfter = 0;         // Minutes; 0: never.
+    std::optional<LineEnds> directions; // What is measured.
 };
 
 // What is seen of a map in one view: the ground, shapes, markers, names, scale bar and credits.

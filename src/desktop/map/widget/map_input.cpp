@@ -117,7 +117,7 @@ void MapInput::Release(const QMouseEvent& event)
 void MapInput::DoubleClick(const QMouseEvent& event)
 {
     if (event.button() == Qt::LeftButton && !m_bPinpointed)
-        m_mover.ZoomAbout(event.position(), event.modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1);
+        emit DoubleClicked(event.position(), event.modifiers().testFlag(Qt::ShiftModifier));
 }
 
 // Wheels with fine steps and touch pads send parts of a notch.

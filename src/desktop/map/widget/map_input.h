@@ -36,6 +36,7 @@ signals:
     void PointerLeft();
     void Picked(QPointF at);                          // A click that is not for the logic.
     void Clicked(Qt::MouseButton button, QPointF at); // Any click, after Picked.
+    void DoubleClicked(QPointF at, bool bOut);        // Zooms in, or out.
     void DraggingChanged();
 
 protected:

@@ -6,9 +6,22 @@
 #include "platform/map_control.h"
 
 #include <algorithm>
-#include <vector>
+#include <utility>
 
 namespace ruvenmark {
+
+const MarkerItem* MapPicker::UnderBadge(QPointF at) const
+{
+    const auto& badges = m_scene.Labels().Badges();
+    const auto badge =
+        std::find_if(badges.begin(), badges.end(), [&](const auto& one) { return one.rect.contains(at); });
+    if (badge == badges.end())
+        return nullptr;
+    const auto& items = m_scene.Markers().Items();
+    const auto item =
+        std::find_if(items.begin(), items.end(), [&](const MarkerItem& one) { return one.slot == badge->slot; });
+    return item == items.end() ? nullptr : &*item;
+}
 
 const MarkerItem* MapPicker::MarkerAt(QPointF at)
 {
@@ -16,44 +29,49 @@ const MarkerItem* MapPicker::MarkerAt(QPointF at)
     if (!map)
         return nullptr;
     m_scene.Arrange(*map, map->View(), m_selection);
-    const MarkerItem* item = MarkerUnder(m_scene.Markers(), at);
+    const MarkerItem* badge = UnderBadge(at);
+    const MarkerItem* item = badge ? badge : MarkerUnder(m_scene.Markers(), at);
     return item && map->Pins().At(item->slot) ? item : nullptr;
 }
 
-std::optional<MapSelection> MapPicker::Click(QPointF at)
+std::vector<SlotRef> MapPicker::MarkersAt(QPointF at)
+{
+    std::vector<SlotRef> refs;
+    if (const MarkerItem* item = MarkerAt(at)) {
+        Map& map = m_control.RequireMap();
+        for (const std::uint32_t slot : m_scene.Markers().Members(map.PinPoints(), *item))
+            refs.push_back(map.PinAt(slot).Ref());
+    }
+    return refs;
+}
+
+Picked MapPicker::Click(QPointF at)
 {
     if (m_balloons.PinnedRect().contains(at)) {
         if (m_balloons.CrossRect().contains(at))
             m_balloons.Close();
-        return std::nullopt;
+        return {};
     }
-    if (const MarkerItem* item = MarkerAt(at))
-        return ClickMarker(*item);
+    std::vector<SlotRef> markers = MarkersAt(at);
+    if (markers.size() == 1)
+        return {ClickMarker(markers.front()), {}};
     m_balloons.Close();
+    if (!markers.empty())
+        return {std::nullopt, std::move(markers)};
     Map* map = m_control.ActiveMap();
     const auto shape = map ? ShapeUnder(m_scene.Shapes(), map->Shapes(), at) : std::nullopt;
-    return shape ? MapSelection(map->ShapeAt(*shape)) : MapSelection();
+    return {shape ? MapSelection(map->ShapeAt(*shape)) : MapSelection(), {}};
 }
 
-// The first click opens the marker's balloon; further clicks go through the markers of a group, then close it.
-std::optional<MapSelection> MapPicker::ClickMarker(const MarkerItem& item)
+// The first click opens the marker's balloon, the next closes it.
+std::optional<MapSelection> MapPicker::ClickMarker(SlotRef ref)
 {
-    Map& map = m_control.RequireMap();
-    const std::vector<std::uint32_t> members = m_scene.Markers().Members(map.PinPoints(), item);
-    std::uint32_t next = item.slot;
-    if (m_balloons.Pinned() == map.PinAt(item.slot).Ref()) {
-        const auto at = std::find(members.begin(), members.end(), item.slot);
-        if (at == members.end() || at + 1 == members.end()) {
-            m_balloons.Close();
-            return std::nullopt;
-        }
-        next = *(at + 1);
-    } else if (item.count > 1) {
-        next = members.empty() ? item.slot : members.front();
+    if (m_balloons.Pinned() == ref) {
+        m_balloons.Close();
+        return std::nullopt;
     }
-    const Pushpin pin = map.PinAt(next);
-    m_balloons.Pin(pin.Ref());
-    return pin;
+    m_balloons.Pin(ref);
+    return m_control.RequireMap().PinAt(ref.slot);
 }
 
 bool MapPicker::Rest(QPointF at)

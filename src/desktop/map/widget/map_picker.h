@@ -6,12 +6,19 @@
 #include <QPointF>
 
 #include <optional>
+#include <vector>
 
 namespace ruvenmark {
 
 class Balloons;
 class MapControl;
 class MapScene;
+
+// What a click picks out.
+struct Picked {
+    std::optional<MapSelection> selection; // To be selected now; nothing: what was selected stays so.
+    std::vector<SlotRef> heap;             // The markers that one picture stands for; else empty.
+};
 
 // What a click or a resting pointer on the map picks out.
 class MapPicker {
@@ -21,14 +28,17 @@ public:
     {
     }
 
-    // Opens and closes the pinned balloon. Returns what is to be selected now; nothing: what was selected stays so.
-    std::optional<MapSelection> Click(QPointF at);
+    // Opens and closes the pinned balloon.
+    Picked Click(QPointF at);
+    // The marker or the markers there, with nothing opened or closed.
+    std::vector<SlotRef> MarkersAt(QPointF at);
     // Returns whether the balloon of another marker shows than before.
     bool Rest(QPointF at);
 
 private:
     const MarkerItem* MarkerAt(QPointF at);
-    std::optional<MapSelection> ClickMarker(const MarkerItem& item);
+    const MarkerItem* UnderBadge(QPointF at) const;
+    std::optional<MapSelection> ClickMarker(SlotRef ref);
 
     MapControl& m_control;
     MapScene& m_scene;

@@ -4,6 +4,8 @@
 #include "desktop/map/widget/zoom_buttons.h"
 #include "platform/map_model.h"
 
+#include <QContextMenuEvent>
+#include <QDateTime>
 #include <QEvent>
 #include <QImage>
 #include <QKeyEvent>
@@ -20,6 +22,7 @@ constexpr qint64 kGatherMs = 45;         // What reports do is painted so soon w
 constexpr qint64 kShare = 200;           // else so seldom that it takes no more than this part of a processor,
 constexpr qint64 kLongestGatherMs = 500; // but so often in any case.
 constexpr int kButtonMargin = 12;
+constexpr int kAgeMilliseconds = 20000; // Ages are told in minutes.
 
 } // namespace
 
@@ -27,7 +30,9 @@ MapWidget::MapWidget(MapControl& control, IconSet& icons, const BaseMap* base, c
                      QWidget* parent)
     : QWidget(parent), m_control(control), m_selection(selection), m_ground(base), m_scene(icons, m_ground),
       m_mover(control), m_input(control, m_mover, *this), m_picker(control, m_scene, m_balloons, selection),
-      m_buttons(new ZoomButtons(icons, this))
+      m_buttons(new ZoomButtons(icons, this)), m_clock(QDateTime::currentSecsSinceEpoch),
+      m_heap(new HeapList(
+          control, icons, [this] { return m_clock(); }, this))
 {
     setObjectName(QStringLiteral("mpCtrl"));
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -36,12 +41,20 @@ MapWidget::MapWidget(MapControl& control, IconSet& icons, const BaseMap* base, c
     setMinimumSize(120, 90);
     setAccessibleName(QStringLiteral("Map"));
     setAccessibleDescription(QStringLiteral(
-        "Arrow keys move the map, plus and minus zoom, Home shows the whole region, Escape closes the balloon."));
+        "Arrow keys move the map, plus and minus zoom, Home shows the whole region, Escape closes balloon and list."));
     m_gather.setSingleShot(true);
     connect(&m_gather, &QTimer::timeout, this, &MapWidget::GatheredChange);
     connect(&m_ground, &MapGround::Changed, this, qOverload<>(&QWidget::update));
     connect(m_buttons, &ZoomButtons::ZoomIn, this, [this] { m_mover.ZoomBy(1); });
     connect(m_buttons, &ZoomButtons::ZoomOut, this, [this] { m_mover.ZoomBy(-1); });
+    connect(m_heap, &HeapList::Chosen, this, [this](SlotRef ref) {
+        Map& map = m_control.RequireMap();
+        if (map.Pins().Find(ref))
+            emit ShowWanted(map.PinAt(ref.slot));
+    });
+    m_ageTimer.setInterval(kAgeMilliseconds);
+    connect(&m_ageTimer, &QTimer::timeout, this, &MapWidget::RefreshAges);
+    m_ageTimer.start();
     ConnectInput();
     m_controlEvents.push_back(m_control.Replaced.Observe([this] { ObserveMap(); }));
     m_controlEvents.push_back(m_control.ControlChanged.Observe([this] { UpdatePointer(); }));
@@ -56,13 +69,16 @@ void MapWidget::ConnectInput()
     connect(&m_input, &MapInput::PointerMoved, this, [this](QPointF at) {
         if (m_balloons.Hovered() && !m_input.IsDragging())
             Hover(at);
-        emit PointerMoved(static_cast<int>(std::lround(at.x())), static_cast<int>(std::lround(at.y())));
+        m_pointer = at;
+        TellPointer();
     });
     connect(&m_input, &MapInput::PointerRested, this, &MapWidget::Hover);
     connect(&m_input, &MapInput::PointerLeft, this, [this] {
         m_balloons.Hover(std::nullopt);
+        m_pointer.reset();
         update();
     });
+    connect(&m_input, &MapInput::DoubleClicked, this, &MapWidget::ZoomAt);
     connect(&m_input, &MapInput::Picked, this, &MapWidget::Click);
     connect(&m_input, &MapInput::Clicked, this, [this](Qt::MouseButton button, QPointF at) {
         const QPoint pixel = at.toPoint();
@@ -74,6 +90,7 @@ void MapWidget::ConnectInput()
 void MapWidget::ObserveMap()
 {
     m_mapEvents.clear();
+    m_heap->Close();
     Map* map = m_control.ActiveMap();
     if (!map)
         return;
@@ -93,8 +110,15 @@ void MapWidget::MapChanged()
     m_gather.start(static_cast<int>(std::max({kGatherMs, pause - since, 4 * m_lastPaintNs / 1'000'000})));
 }
 
+void MapWidget::TellPointer()
+{
+    if (m_pointer)
+        emit PointerMoved(static_cast<int>(std::lround(m_pointer->x())), static_cast<int>(std::lround(m_pointer->y())));
+}
+
 void MapWidget::ViewChanged()
 {
+    TellPointer(); // Another place lies under it.
     if (!m_mover.IsMoving())
         return MapChanged();
     m_balloons.Hover(std::nullopt);
@@ -106,6 +130,26 @@ void MapWidget::GatheredChange()
 {
     DropTheGone();
     UpdateButtons();
+    m_heap->Refresh();
+    update();
+}
+
+void MapWidget::RefreshAges()
+{
+    m_heap->Refresh();
+    if (m_fadeAfter > 0 || m_balloons.Pinned())
+        update();
+}
+
+void MapWidget::SetFadeAfter(std::int32_t minutes)
+{
+    m_fadeAfter = minutes;
+    update();
+}
+
+void MapWidget::SetDirections(const std::optional<LineEnds>& ends)
+{
+    m_directions = ends;
     update();
 }
 
@@ -137,10 +181,31 @@ void MapWidget::UpdateButtons()
 
 void MapWidget::Click(QPointF at)
 {
-    const auto picked = m_picker.Click(at);
-    if (picked && *picked != m_selection)
-        emit SelectionWanted(*picked);
+    Picked picked = m_picker.Click(at);
+    if (picked.heap.empty())
+        m_heap->Close();
+    else
+        m_heap->Open(std::move(picked.heap), at);
+    if (picked.selection && *picked.selection != m_selection)
+        emit SelectionWanted(*picked.selection);
     update();
+}
+
+// Not on a marker: two quick clicks there are one.
+void MapWidget::ZoomAt(QPointF at, bool bOut)
+{
+    if (m_picker.MarkersAt(at).empty())
+        m_mover.ZoomAbout(at, bOut ? -1 : 1);
+}
+
+std::optional<Pushpin> MapWidget::MarkerFor(QPoint at)
+{
+    std::vector<SlotRef> markers = m_picker.MarkersAt(at);
+    if (markers.size() == 1)
+        return m_control.RequireMap().PinAt(markers.front().slot);
+    if (!markers.empty())
+        m_heap->Open(std::move(markers), at);
+    return std::nullopt;
 }
 
 void MapWidget::Hover(QPointF at)
@@ -155,6 +220,9 @@ ScenePaint MapWidget::HowToPaint() const
     how.selection = m_selection;
     how.palette = palette();
     how.font = font();
+    how.now = m_clock();
+    how.fadeAfter = m_fadeAfter;
+    how.directions = m_directions;
     return how;
 }
 
@@ -172,7 +240,7 @@ void MapWidget::paintEvent(QPaintEvent*)
     how.ratio = devicePixelRatioF();
     how.buttons = m_buttons->geometry();
     const MapLook look = m_scene.Paint(painter, *map, map->View(), how);
-    m_balloons.Paint(painter, {*map, map->View(), m_scene.Markers(), look});
+    m_balloons.Paint(painter, {*map, map->View(), m_scene.Markers(), look, how.now});
     if (m_input.IsKeyboardHere()) {
         painter.setPen(QPen(palette().highlight(), 2));
         painter.drawRect(rect().adjusted(1, 1, -1, -1));
@@ -187,7 +255,7 @@ void MapWidget::PaintStill(QPainter& painter, const MapView& view, const ScenePa
 {
     const Map& map = m_control.RequireMap();
     const MapLook look = m_scene.Paint(painter, map, view, how);
-    m_balloons.PaintStill(painter, {map, view, m_scene.Markers(), look});
+    m_balloons.PaintStill(painter, {map, view, m_scene.Markers(), look, how.now});
     update();
 }
 
@@ -234,6 +302,7 @@ void MapWidget::resizeEvent(QResizeEvent*)
 {
     m_buttons->move(width() - m_buttons->width() - kButtonMargin, kButtonMargin);
     m_mover.Resize(size());
+    m_heap->KeepInside();
 }
 
 void MapWidget::changeEvent(QEvent* event)
@@ -243,10 +312,23 @@ void MapWidget::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
 }
 
+// By mouse it comes as a click.
+void MapWidget::contextMenuEvent(QContextMenuEvent* event)
+{
+    const Map* map = m_control.ActiveMap();
+    const auto selected = map ? SelectedIn<Pushpin>(map->Pins(), m_selection) : std::nullopt;
+    if (event->reason() != QContextMenuEvent::Keyboard || !selected)
+        return;
+    const PixelPoint at = ToPixel(map->View(), map->Pins().At(*selected)->point);
+    emit MenuWanted(QPointF(at.x, at.y).toPoint());
+}
+
 void MapWidget::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() != Qt::Key_Escape || !m_balloons.Pinned())
+    const bool bOpen = m_heap->isVisible() || m_balloons.Pinned();
+    if (event->key() != Qt::Key_Escape || !bOpen)
         return QWidget::keyPressEvent(event);
+    m_heap->Close();
     m_balloons.Close();
     update();
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/map/balloons/balloons.h"
+#include "desktop/map/heap/heap_list.h"
 #include "desktop/map/scene/map_ground.h"
 #include "desktop/map/scene/map_scene.h"
 #include "desktop/map/view/map_mover.h"
@@ -13,6 +14,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace ruvenmark {
@@ -41,6 +44,14 @@ public:
     bool IsReady() const { return m_ground.IsReady() && !m_gather.isActive() && !m_mover.IsMoving(); }
     int Paints() const { return m_paints; }
 
+    // Seconds since 1970, for ages; the machine's own clock at first.
+    void SetClock(HeapList::Clock clock) { m_clock = std::move(clock); }
+    void SetFadeAfter(std::int32_t minutes); // 0: never.
+    // What the directions measure is drawn; nothing: no line.
+    void SetDirections(const std::optional<LineEnds>& ends);
+    // The marker under a pixel; where several stand under one picture their list opens instead.
+    std::optional<Pushpin> MarkerFor(QPoint at);
+
     // As on the screen, at any size, without what belongs to the pointer.
     QImage Picture(QSize size, qreal ratio);
     // For printers: what the screen shows lies wholly in `target`, as lines and letters.
@@ -50,9 +61,12 @@ signals:
     void PointerMoved(int x, int y);
     void Clicked(Qt::MouseButton button, int x, int y); // The pointer may be the cross: then nothing is selected.
     void SelectionWanted(const ruvenmark::MapSelection& selection);
+    void ShowWanted(const ruvenmark::Pushpin& pin); // Chosen from a list of several.
+    void MenuWanted(QPoint at);                     // By a key, for the selected marker.
 
 protected:
     void changeEvent(QEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -67,6 +81,9 @@ private:
     void UpdatePointer();
     void UpdateButtons();
     void Click(QPointF at);
+    void ZoomAt(QPointF at, bool bOut);
+    void TellPointer();
+    void RefreshAges();
     void Hover(QPointF at);
     ScenePaint HowToPaint() const;
     void PaintStill(QPainter& painter, const MapView& view, const ScenePaint& how);
@@ -80,6 +97,12 @@ private:
     MapInput m_input;
     MapPicker m_picker;
     ZoomButtons* m_buttons;
+    HeapList::Clock m_clock;
+    HeapList* m_heap;
+    std::optional<QPointF> m_pointer; // While it is over the map.
+    std::optional<LineEnds> m_directions;
+    std::int32_t m_fadeAfter = 0;
+    QTimer m_ageTimer;
     std::vector<Subscription> m_controlEvents, m_mapEvents;
     QTimer m_gather;
     QElapsedTimer m_sincePaint;

@@ -1,7 +1,5 @@
 #include "desktop/map/widget/under_pointer.h"
 
-#include "desktop/map/markers/marker_painter.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -24,17 +22,16 @@ double DistanceToSegment(QPointF point, const QLineF& segment)
 
 const MarkerItem* MarkerUnder(const MarkerLayout& layout, QPointF at)
 {
-    constexpr double kHalf = kMarkerPixels / 2.0;
     const MarkerItem* nearest = nullptr;
-    double nearestDistance = kHalf + kReach;
+    double nearestMiss = kReach;
     const auto& items = layout.Items();
     for (std::size_t i = items.size(); i-- > 0;) {
         const QPointF away = items[i].at - at;
-        if (std::abs(away.x()) <= kHalf && std::abs(away.y()) <= kHalf)
+        const double miss = std::max(std::abs(away.x()), std::abs(away.y())) - HalfOf(items[i]);
+        if (miss <= 0)
             return &items[i];
-        const double distance = std::max(std::abs(away.x()), std::abs(away.y()));
-        if (distance < nearestDistance) {
-            nearestDistance = distance;
+        if (miss < nearestMiss) {
+            nearestMiss = miss;
             nearest = &items[i];
         }
     }

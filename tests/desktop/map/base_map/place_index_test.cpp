@@ -1,3 +1,4 @@
+#include "desktop/map/base_map/other_names.h"
 #include "desktop/map/base_map/place_index.h"
 #include "desktop/map/base_map/world_map.h"
 #include "mapfiles/base_map.h"
@@ -79,6 +80,23 @@ TEST_F(PlaceIndexTest, LaterWordsAreFoundAfterFirstOnes)
     EXPECT_EQ(FindPlaces(map, u"Angeles", 2).size(), 2U);
     const auto twice = FindPlaces(map, u"baden", 1000);
     EXPECT_EQ(std::set(twice.begin(), twice.end()).size(), twice.size()) << "Baden-Baden is one place";
+}
+
+// The table and the map come from two runs of tools: rows must fit, and no other place may be shown for a name.
+TEST_F(PlaceIndexTest, PlacesAreFoundUnderTheirOtherNames)
+{
+    const OtherNames others(map, QString::fromLatin1(kOtherNamesPath));
+    const auto placeOf = [&](QStringView typed) {
+        const auto rows = others.Find(FoldForSearch(typed));
+        return rows.empty() ? std::string() : std::string(map.Place(rows.front().place).name);
+    };
+    EXPECT_EQ(placeOf(u"München"), "Munich");
+    EXPECT_EQ(placeOf(u"wien"), "Vienna");
+    EXPECT_EQ(placeOf(u"Praha"), "Prague");
+    EXPECT_EQ(placeOf(u"cologne"), "Köln");
+    EXPECT_EQ(placeOf(u"Roma"), "Rome");
+    EXPECT_TRUE(others.Find("").empty());
+    EXPECT_TRUE(OtherNames(map, QStringLiteral("/no/such")).Find("wien").empty());
 }
 
 TEST_F(PlaceIndexTest, AnyTextIsTaken)

@@ -13,6 +13,7 @@
 namespace ruvenmark {
 
 inline const std::string kWorldMapPath = RUVENMARK_SOURCE_DIR "/data/basemap/world.rvm";
+inline constexpr const char* kOtherNamesPath = RUVENMARK_SOURCE_DIR "/data/basemap/other_names.tsv";
 
 inline ViewFrame FrameAt(GeoPoint centre, double zoom, int width, int height)
 {

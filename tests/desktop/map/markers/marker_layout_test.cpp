@@ -50,7 +50,7 @@ TEST(MarkerLayout, MarkersThatHideEachOtherAreOneAndOthersStayApart)
     EXPECT_NEAR(layout.Items()[1].at.x(), 300, 0.1);
 }
 
-TEST(MarkerLayout, NamedAndSelectedMarkersStandForTheirGroup)
+TEST(MarkerLayout, ANamedMarkerStandsForItsGroupAndTheSelectedOneForItself)
 {
     std::vector<PinPoint> points;
     points.reserve(20);
@@ -62,8 +62,11 @@ TEST(MarkerLayout, NamedAndSelectedMarkersStandForTheirGroup)
     EXPECT_EQ(layout.Items()[0].slot, 4U);
     EXPECT_EQ(layout.Members(points, layout.Items()[0]).size(), 20U);
     layout.Update(points, ViewFrame(kView), 11);
+    ASSERT_EQ(layout.Items().size(), 2U);
     EXPECT_EQ(layout.Items().back().slot, 11U);
-    EXPECT_EQ(layout.Items().back().count, 20U);
+    EXPECT_EQ(layout.Items().back().count, 1U);
+    EXPECT_EQ(layout.Items().front().count, 19U);
+    EXPECT_EQ(layout.Members(points, layout.Items().front()).size(), 19U);
 }
 
 TEST(MarkerLayout, ViewAcrossTheDateLineAndWiderThanTheWorld)

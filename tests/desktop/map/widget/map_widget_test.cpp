@@ -7,6 +7,7 @@
 #include <QPdfWriter>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTreeView>
 
 namespace ruvenmark {
 namespace {
@@ -72,19 +73,145 @@ TEST_F(MapWidgetTest, MarkerBeatsLineBeatsCircle)
     EXPECT_EQ(selection, MapSelection(pin));
 }
 
-TEST_F(MapWidgetTest, RepeatedClicksGoThroughTheMarkersOfOneSpot)
-{
-    std::vector<SlotRef> pins;
-    for (const char* name : {"A", "B", "C"})
-        pins.push_back(AddPin({300, 200}, name).Ref());
-    Painted();
-    ASSERT_EQ(widget.Scene().Markers().Items().size(), 1U);
-    for (const std::size_t expected : {2U, 1U, 0U}) {
-        Click({300, 200});
-        EXPECT_EQ(widget.OpenBalloons().Pinned(), pins[expected]);
+class HeapTest : public MapFixture {
+protected:
+    HeapTest()
+    {
+        for (const char* name : {"C", "A", "B"})
+            pins.push_back(AddPin({300, 200}, name, {}, false));
+        pins[0].SetHeard(1000);
+        widget.SetClock([] { return 1000 + 300; });
+        QObject::connect(&widget, &MapWidget::ShowWanted, [this](const Pushpin& pin) { shown.push_back(pin.Name()); });
+        Painted();
     }
+    QString Cell(int row, int column) const { return rows.model()->index(row, column).data().toString(); }
+
+    std::vector<Pushpin> pins;
+    std::vector<std::string> shown;
+    QWidget& list = *widget.findChild<QWidget*>(QStringLiteral("heapList"));
+    QTreeView& rows = *widget.findChild<QTreeView*>(QStringLiteral("heapRows"));
+};
+
+// The members must not change under the hands of who goes through them, neither by clicks nor by reports.
+TEST_F(HeapTest, AClickOpensAFixedListOfAll)
+{
+    ASSERT_EQ(widget.Scene().Markers().Items().size(), 1U);
     Click({300, 200});
-    EXPECT_FALSE(widget.OpenBalloons().Pinned());
+    ASSERT_TRUE(list.isVisible());
+    EXPECT_EQ(selection, MapSelection());
+    EXPECT_EQ(Cell(0, 0) + Cell(1, 0) + Cell(2, 0), QStringLiteral("ABC"));
+    EXPECT_EQ(Cell(2, 1), QStringLiteral("5 min ago"));
+    EXPECT_EQ(Cell(0, 1), QString());
+    AddPin({300, 200}, "D");
+    pins[1].Delete();
+    Painted();
+    EXPECT_EQ(rows.model()->rowCount(), 3);
+    EXPECT_EQ(Cell(0, 0), QStringLiteral("(gone)"));
+    QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualRect(rows.model()->index(0, 0)).center());
+    EXPECT_TRUE(shown.empty());
+    QTest::mouseClick(rows.viewport(), Qt::LeftButton, {}, rows.visualRect(rows.model()->index(1, 0)).center());
+    EXPECT_EQ(shown, std::vector<std::string>{"B"});
+    EXPECT_TRUE(list.isVisible());
+    Click({600, 500});
+    EXPECT_FALSE(list.isVisible());
+}
+
+TEST_F(HeapTest, KeysGoThroughIt)
+{
+    Click({300, 200});
+    const MapView before = TheMap().View();
+    QTest::keyClick(&rows, Qt::Key_Down);
+    QTest::keyClick(&rows, Qt::Key_Down);
+    QTest::keyClick(&rows, Qt::Key_Return);
+    EXPECT_EQ(shown, std::vector<std::string>{"C"});
+    EXPECT_EQ(TheMap().View().centre, before.centre) << "the keys are not the map's";
+    QTest::keyClick(&rows, Qt::Key_Escape);
+    EXPECT_FALSE(list.isVisible());
+    EXPECT_EQ(rows.model()->rowCount(), 0);
+}
+
+TEST_F(HeapTest, TwoQuickClicksDoNotZoomAndTheBadgeCountsAsThePicture)
+{
+    const double zoom = TheMap().View().zoom;
+    ASSERT_EQ(widget.Scene().Labels().Badges().size(), 1U);
+    const QPoint badge = widget.Scene().Labels().Badges()[0].rect.center().toPoint();
+    Click(badge);
+    EXPECT_TRUE(list.isVisible());
+    QTest::mouseDClick(&widget, Qt::LeftButton, Qt::NoModifier, badge);
+    EXPECT_EQ(TheMap().View().zoom, zoom);
+    EXPECT_TRUE(list.isVisible());
+    Wheel(QPointF(list.geometry().center()), 0);
+    control.NewMap(kRegionEurope);
+    EXPECT_FALSE(list.isVisible()) << "its markers are gone";
+}
+
+TEST_F(HeapTest, TheSelectedOneStandsAloneOnTop)
+{
+    selection = pins[1];
+    widget.update();
+    Painted();
+    const auto& items = widget.Scene().Markers().Items();
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_EQ(items.back().slot, pins[1].Ref().slot);
+    EXPECT_EQ(items.front().count, 2U);
+    const auto& names = widget.Scene().Labels().Names();
+    ASSERT_EQ(names.size(), 1U);
+    EXPECT_EQ(names[0].slot, pins[1].Ref().slot);
+}
+
+TEST_F(MapWidgetTest, PointsOfATrailAreSmallAndNoCrowd)
+{
+    for (int i = 0; i < 40; ++i)
+        AddPin(QPointF(300 + i, 200), "N0CALL(r)*");
+    const Pushpin station = AddPin({340, 200}, "N0CALL(r)");
+    const QImage picture = Painted();
+    const auto& items = widget.Scene().Markers().Items();
+    EXPECT_LT(items.size(), 9U);
+    EXPECT_EQ(items.back().slot, station.Ref().slot);
+    EXPECT_TRUE(widget.Scene().Labels().Badges().empty());
+    EXPECT_EQ(picture.pixel(302, 209), picture.pixel(20, 300)) << "ground shows beside a dot";
+}
+
+// What a report does not renew must not stand as if it were news.
+TEST_F(MapWidgetTest, WhatWasHeardLongAgoFadesOnceThatIsAskedFor)
+{
+    Pushpin pin = AddPin({300, 200}, "K1ABC");
+    pin.SetHeard(10000);
+    widget.SetClock([] { return 10000 + 3601; });
+    const QImage fresh = Painted();
+    widget.SetFadeAfter(60);
+    EXPECT_NE(Painted(), fresh);
+    EXPECT_TRUE(widget.Scene().Labels().Names().empty());
+    selection = pin;
+    widget.update();
+    Painted();
+    EXPECT_EQ(widget.Scene().Labels().Names().size(), 1U) << "the selected one always has its name";
+    selection = {};
+    widget.SetFadeAfter(120);
+    EXPECT_EQ(Painted(), fresh);
+}
+
+TEST_F(MapWidgetTest, ThePlaceUnderARestingPointerIsToldAnewWhenTheViewMoves)
+{
+    QTest::mouseMove(&widget, {300, 200});
+    QSignalSpy moves(&widget, &MapWidget::PointerMoved);
+    QTest::keyClick(&widget, Qt::Key_Right);
+    Wheel({300, 200}, 120);
+    ASSERT_GE(moves.size(), 2);
+    EXPECT_EQ(moves.back()[0].toInt(), 300);
+}
+
+TEST_F(MapWidgetTest, TheWayOfTheDirectionsIsDrawnAcrossTheDateLineToo)
+{
+    TheMap().SetView({0, 180}, 4);
+    const QImage bare = Painted();
+    widget.SetDirections(LineEnds{GeoPoint{0, 170}, GeoPoint{0, -170}});
+    const QImage drawn = Painted();
+    int changed = 0;
+    for (int x = 290; x < 510; ++x)
+        changed += drawn.pixel(x, 300) != bare.pixel(x, 300) ? 1 : 0;
+    EXPECT_GT(changed, 150) << "from one end to the other";
+    EXPECT_EQ(drawn.pixel(100, 300), bare.pixel(100, 300)) << "and not around the world";
 }
 
 TEST_F(MapWidgetTest, WhatIsDeletedOrReplacedIsNoLongerSelected)

@@ -1,0 +1,160 @@
+#include "map/directions.h"
+#include "map/find.h"
+#include "map/map_settings.h"
+#include "map/markers.h"
+#include "map/pointer_tools.h"
+#include "map/selection.h"
+#include "map/show_on_map.h"
+#include "support/test_program.h"
+#include "ui/web_page.h"
+
+#include <gtest/gtest.h>
+
+namespace ruvenmark {
+namespace {
+
+class Showing : public testing::Test {
+protected:
+    Showing()
+    {
+        p.Position(Channel::TCP, "N0CALL", 48, 11);
+        p.Position(Channel::TCP, "N1CALL", 48, 11);
+        p.TheMap().SetView({0, 0}, 3);
+    }
+    void ExpectShown(const char* marker, const char* node)
+    {
+        EXPECT_EQ(p.main.window.rightView, RightView::Map);
+        EXPECT_NEAR(p.TheMap().View().centre.lat, 48, 1e-9);
+        EXPECT_GE(p.TheMap().View().zoom, 10);
+        EXPECT_EQ(p.main.map.Selection, MapSelection(*p.Marker(marker)));
+        EXPECT_EQ(p.Tree().Selected(), p.Node(node));
+    }
+
+    TestProgram p;
+};
+
+// Every road ends alike: a station that one asked for is never left hidden in a heap.
+TEST_F(Showing, EveryRoadCentresNearsSelectsAndFindsTheNode)
+{
+    p.Select("TCPPositionsN0CALL");
+    mnuViewPosition_Click(p.main);
+    ExpectShown("N0CALL(t)", "TCPPositionsN0CALL");
+
+    p.TheMap().SetView({0, 0}, 3);
+    mnuRuvenmarkHelp_Click(p.main);
+    GoToFound(p.main, Find(p.main, FakePlaces(), "n1call", 1).at(0));
+    ExpectShown("N1CALL(t)", "TCPPositionsN1CALL");
+
+    p.TheMap().SetView({0, 0}, 3);
+    ShowOnMap(p.main, *p.Marker("N0CALL(t)"));
+    ExpectShown("N0CALL(t)", "TCPPositionsN0CALL");
+
+    p.TheMap().SetView({0, 0}, 12);
+    mnuViewPosition_Click(p.main);
+    EXPECT_EQ(p.TheMap().View().zoom, 12) << "who is nearer stays nearer";
+}
+
+TEST_F(Showing, MarkerAndNodeFollowEachOther)
+{
+    const MapView before = p.TheMap().View();
+    PickOut(p.main, *p.Marker("N1CALL(t)"));
+    EXPECT_EQ(p.Tree().Selected(), p.Node("TCPPositionsN1CALL"));
+    EXPECT_EQ(p.TheMap().View().centre, before.centre);
+    p.Select("TCPPositionsN0CALL");
+    tvStationList_Select(p.main);
+    EXPECT_EQ(p.main.map.Selection, MapSelection(*p.Marker("N0CALL(t)")));
+    p.Select("TCP"); // No station: what is selected on the map stays.
+    tvStationList_Select(p.main);
+    EXPECT_EQ(p.main.map.Selection, MapSelection(*p.Marker("N0CALL(t)")));
+
+    // A point of the trail is not exchanged for its station, else Delete would hit the wrong one.
+    const Location there = p.TheMap().GetLocation(47, 11);
+    const Pushpin point = p.TheMap().AddPushpin(there, "N1CALL(t)*");
+    PickOut(p.main, point);
+    tvStationList_Select(p.main);
+    EXPECT_EQ(p.Tree().Selected(), p.Node("TCPPositionsN1CALL"));
+    EXPECT_EQ(p.main.map.Selection, MapSelection(point));
+
+    // Whoever reads a fact, or the station's status, is not torn away from it.
+    for (const char* node : {"TCPPositionsN0CALLPath", "TCPPositionsN0CALL"}) {
+        p.Select(node);
+        PickOut(p.main, *p.Marker("N0CALL(t)"));
+        EXPECT_EQ(p.Tree().Selected(), p.Node(node));
+    }
+}
+
+TEST_F(Showing, TrailsAndOddNamesBelongToTheirStations)
+{
+    const auto callOf = [&](const char* name) {
+        const auto station = StationOfMarker(p.main, name);
+        return station ? station->call : "(none)";
+    };
+    p.Position(Channel::RF, "A(t)", 1, 2);
+    EXPECT_EQ(callOf("N0CALL(t)"), "N0CALL");
+    EXPECT_EQ(callOf("N0CALL(t)*"), "N0CALL");
+    EXPECT_EQ(callOf("A(t)(r)"), "A(t)");
+    EXPECT_EQ(callOf("N0CALL(r)"), "(none)");
+    EXPECT_EQ(callOf("N0CALL"), "(none)");
+    EXPECT_EQ(callOf("*"), "(none)");
+}
+
+TEST_F(Showing, TypedPlacesAreFoundAndACallBeatsALocator)
+{
+    const FakePlaces places;
+    for (const char* typed : {"48.25, 11.5", "48°15.0'N 11°30.0'E"}) {
+        const auto found = Find(p.main, places, typed, 5);
+        ASSERT_EQ(found.size(), 1U) << typed;
+        EXPECT_EQ(found[0].detail, "JN58sg");
+        GoToFound(p.main, found[0]);
+        EXPECT_NEAR(p.TheMap().View().centre.lat, 48.25, 1e-6);
+    }
+    EXPECT_EQ(Find(p.main, places, "jn58td", 5).at(0).name, "jn58td");
+    EXPECT_NEAR(ReadDirectionsEnd(p.main, "jn58td")->point.lat, 48.1458, 1e-3);
+    EXPECT_EQ(ReadDirectionsEnd(p.main, "48 15 N 11 30 E")->point, (GeoPoint{48.25, 11.5}));
+    p.Position(Channel::RF, "JN58TD", 1, 2);
+    EXPECT_EQ(ReadDirectionsEnd(p.main, "jn58td")->name, "JN58TD(r)");
+}
+
+TEST_F(Showing, TheCoordinateBoxChangesItsFormAndEmptiesOffTheWorld)
+{
+    p.TheMap().SetSize(800, 600);
+    p.TheMap().SetView({47.123456, 8.5}, 12);
+    mpCtrl_MouseMove(p.main, 400, 300);
+    ChangeCoordinateForm(p.main); // With the pointer at rest.
+    EXPECT_EQ(p.main.sbStatusBar.Coordinates(), "47°07.407'N 008°30.000'E");
+    ChangeCoordinateForm(p.main);
+    EXPECT_EQ(p.main.sbStatusBar.Coordinates(), "JN47gc");
+    ChangeCoordinateForm(p.main);
+    EXPECT_EQ(p.main.sbStatusBar.Coordinates(), "47.12346, 8.5");
+    p.TheMap().SetView({84, 8.5}, 2);
+    mpCtrl_MouseMove(p.main, 400, 5);
+    EXPECT_EQ(p.main.sbStatusBar.Coordinates(), "");
+}
+
+// The next packet must not wipe away what the operator is to do.
+TEST_F(Showing, PinpointSaysWhatToDoUntilItEnds)
+{
+    const std::string prompt = "Click the place on the map (Esc to cancel)";
+    PinPointDirectionsEnd(p.main, 0);
+    p.main.sbStatusBar.SetPacketLine("N0CALL>APRS:>x");
+    EXPECT_EQ(p.main.sbStatusBar.Prompt(), prompt);
+    EndPinPoint(p.main);
+    EXPECT_EQ(p.main.sbStatusBar.Prompt(), "");
+    EXPECT_FALSE(mpCtrl_Click(p.main, 400, 300));
+    PinPointDirectionsEnd(p.main, 0);
+    EXPECT_TRUE(mpCtrl_Click(p.main, 400, 300));
+    EXPECT_EQ(p.main.sbStatusBar.Prompt(), "");
+}
+
+TEST_F(Showing, AReportTellsItsMarkerWhenItWasHeard)
+{
+    const std::uint32_t first = p.Marker("N0CALL(t)")->Heard();
+    EXPECT_EQ(first, p.clock.UnixSeconds());
+    p.clock.Advance(std::chrono::hours(2));
+    p.Position(Channel::TCP, "N1CALL", 48, 11);
+    EXPECT_EQ(p.Marker("N1CALL(t)")->Heard(), first + 7200);
+    EXPECT_EQ(p.Marker("N0CALL(t)")->Heard(), first);
+}
+
+} // namespace
+} // namespace ruvenmark
