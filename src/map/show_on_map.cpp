@@ -37,7 +37,7 @@ bool IsUnderSelection(const MainWindow& main, const TreeNode& node)
 TreeNode* OwnNode(MainWindow& main)
 {
     TreeNode* entry = main.tvStationList.Find("MyPosition");
-    return entry && !entry->Children().empty() ? entry->Children().front().get() : entry;
+    return entry && !entry->Children().empty() ? entry->Children().front() : entry;
 }
 
 std::optional<MarkedStation> SelectedMarkerStation(const MainWindow& main)

@@ -23,7 +23,8 @@ void Pushpin::SetName(std::string_view name)
     m_map->UnlinkName(m_ref);
     pin.name = name;
     m_map->LinkName(m_ref);
-    m_map->Mark(m_ref);
+    m_map->MarkLook(m_ref);
+    m_map->Touch();
 }
 
 ruvenmark::Location Pushpin::Location() const

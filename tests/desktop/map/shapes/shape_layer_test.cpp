@@ -152,6 +152,7 @@ TEST_F(ShapeLayerTest, AChangedLineIsRenewedWhereItIs)
     look.selected = recolored.slot;
     look.highlight = Qt::blue;
     EXPECT_EQ(Differing(frame), 0) << "selected";
+    look.selected.reset();
     shapes.Clear();
     Kept(frame);
     EXPECT_EQ(Differing(frame), 0) << "another map";

@@ -8,8 +8,8 @@
 #include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QTemporaryDir>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace ruvenmark {
