@@ -103,7 +103,7 @@ TreeNode& KeyedTree::AddBelow(TreeNode& parent, std::string_view word, std::stri
     node.m_parent = &parent == &m_root ? nullptr : &parent;
     node.m_look = look;
 
-    const std::size_t row = parent.m_bSorted ? SortedRow(parent, text) : parent.m_children.size();
+    const std::size_t row = parent.m_bSorted ? SortedRow(parent, text) : parent.m_children.Count();
     node.m_rowHint = static_cast<std::uint32_t>(row);
     WillInsert.Raise(Told(parent), row);
     parent.m_children.Insert(row, &node);
@@ -117,7 +117,7 @@ void KeyedTree::EnterInIndex(TreeNode& parent, TreeNode& added)
 {
     if (parent.m_bIndexed) {
         m_index.Add(added);
-    } else if (parent.m_children.size() > kFewChildren) {
+    } else if (parent.m_children.Count() > kFewChildren) {
         for (TreeNode* child : parent.Children())
             m_index.Add(*child);
         parent.m_bIndexed = true;

@@ -20,9 +20,9 @@ public:
     PointerList& operator=(const PointerList&) = delete;
     ~PointerList() { ::operator delete(m_block); }
 
-    std::size_t size() const { return m_block ? m_block->count : 0; }
-    std::span<Value* const> All() const { return {Values(), size()}; }
-    std::span<Value*> All() { return {Values(), size()}; }
+    std::size_t Count() const { return m_block ? m_block->count : 0; }
+    std::span<Value* const> All() const { return {Values(), Count()}; }
+    std::span<Value*> All() { return {Values(), Count()}; }
 
     void Insert(std::size_t row, Value* value)
     {
@@ -52,7 +52,7 @@ private:
     // To two, six, fourteen and on: with the head, what the heap gives anyway.
     void Grow()
     {
-        const std::size_t count = size();
+        const std::size_t count = Count();
         const std::size_t capacity = 2 * (m_block ? m_block->capacity + std::size_t{1} : 1);
         if (capacity > std::numeric_limits<std::uint32_t>::max())
             throw std::bad_alloc();
