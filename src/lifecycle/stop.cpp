@@ -68,7 +68,7 @@ StopResult StopMainWindow(MainWindow& main, MayAsk mayAsk)
     for (const Form form : kForms)
         main.services.dialogs.Hide(form);
     bool bAll = SaveParts(main);
-    bAll &= SaveMonitorLogs(main);
+    bAll &= SaveMonitorLogs(main, mayAsk == MayAsk::Yes);
     main.Settings = {};
     main.serverLists = {};
     main.loaded = {}; // What was let go of cannot be saved once more.

@@ -1,6 +1,7 @@
 #include "links/monitors.h"
 
 #include "core/main_window.h"
+#include "core/notices.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
 
@@ -24,15 +25,17 @@ bool LogsTcpData(const MainWindow& main)
 }
 
 // An empty log leaves the file of an earlier run.
-bool SaveLog(MainWindow& main, const TextLog& log, Setting setting, std::string_view complaint)
+bool SaveLog(MainWindow& main, const TextLog& log, Setting setting, std::string_view complaint, bool bMayAsk)
 {
     const std::string& path = SettingText(main.Settings, setting);
     if (path.empty() || log.IsEmpty())
         return true;
     const bool bSaved =
         Attempt(main.abandoned, complaint, [&] { main.services.files.WriteText(log.Text(), path, FileKind::List); });
-    if (!bSaved)
+    if (!bSaved && bMayAsk)
         main.services.prompts.Message(std::string(complaint) + path);
+    else if (!bSaved)
+        Tell(main, std::string(complaint) + path);
     return bSaved;
 }
 
@@ -72,10 +75,10 @@ void mnuViewTcpData_Click(MainWindow& main)
     Toggle(main, Form::frmTcpData);
 }
 
-bool SaveMonitorLogs(MainWindow& main)
+bool SaveMonitorLogs(MainWindow& main, bool bMayAsk)
 {
-    bool bAll = SaveLog(main, main.monitors.txtTNCData, Setting::TNCLog, "Failed to save tnc log to ");
-    bAll &= SaveLog(main, main.monitors.txtTCPData, Setting::TCPLog, "Failed to save tcp log to ");
+    bool bAll = SaveLog(main, main.monitors.txtTNCData, Setting::TNCLog, "Failed to save tnc log to ", bMayAsk);
+    bAll &= SaveLog(main, main.monitors.txtTCPData, Setting::TCPLog, "Failed to save tcp log to ", bMayAsk);
     return bAll;
 }
 

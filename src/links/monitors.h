@@ -18,7 +18,7 @@ void mnuViewTncData_Click(MainWindow& main);
 void mnuViewTcpData_Click(MainWindow& main);
 
 // At the end of a run, while the settings are there: each log replaces that of the run before. False where one could
-// not be saved, which the operator is told.
-bool SaveMonitorLogs(MainWindow& main);
+// not be saved, which is told: in a box where somebody may be asked.
+bool SaveMonitorLogs(MainWindow& main, bool bMayAsk);
 
 } // namespace ruvenmark

@@ -88,12 +88,13 @@ void ReplayPace::Note(const std::optional<LineTime>& time)
     const bool bFirst = !noted;
     const bool bNews = bFirst || std::chrono::floor<std::chrono::seconds>(noted->at) !=
                                      std::chrono::floor<std::chrono::seconds>(time->at);
-    if (!bFirst && !time->bDated && time->at + 12h < noted->at)
+    const bool bOtherForm = !bFirst && noted->bDated != time->bDated; // Nothing tells how far apart they are.
+    if (!bFirst && !bOtherForm && !time->bDated && time->at + 12h < noted->at)
         m_day += 24h;
     noted = time;
     const Time due = time->at + m_day;
     // A time before the last one's is that of a machine whose clock was set: from there on it goes by the new time.
-    if (bFirst || due < m_due)
+    if (bFirst || bOtherForm || due < m_due)
         m_position = due;
     m_due = due;
     if (bNews)

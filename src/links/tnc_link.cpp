@@ -31,12 +31,17 @@ IReportSource& Source(MainWindow& main)
     return *main.links.aprs;
 }
 
-void Drop(MainWindow& main, std::string_view text)
+void DropSource(MainWindow& main)
 {
     main.links.bSerialConnected = false;
     main.links.bSocketConnected = false;
     main.links.aprs.reset();
     EndRadioStatus(main);
+}
+
+void Drop(MainWindow& main, std::string_view text)
+{
+    DropSource(main);
     Show(main, text);
 }
 
@@ -113,7 +118,7 @@ void ConnectTnc(MainWindow& main)
 void ConnectSerialTnc(MainWindow& main)
 {
     const TncForm& form = main.commDialog;
-    main.links.aprs.reset(); // One that is still connecting.
+    DropSource(main); // One that is still connecting, or that connected behind the dialog.
     const bool bWell = AttemptAloud(main, kFailed, [&] {
         main.links.aprs = main.services.sources.CreateTnc(main.links.SinkOf(Channel::RF));
         Source(main).OpenPort(form.sSerialPort, form.lLastBaudRate, kAccessToken);
@@ -132,7 +137,7 @@ void ConnectSerialTnc(MainWindow& main)
 void ConnectAgw(MainWindow& main)
 {
     const TncForm& form = main.commDialog;
-    main.links.aprs.reset(); // One that is still connecting.
+    DropSource(main); // One that is still connecting, or that connected behind the dialog.
     const bool bWell = AttemptAloud(main, kFailed, [&] {
         main.links.aprs = main.services.sources.CreateAgw(main.links.SinkOf(Channel::RF));
         Source(main).ConnectSocket(form.sSocketAddress, form.iSocketPort, kAccessToken);

@@ -16,6 +16,7 @@ namespace {
 
 constexpr std::string_view kDelimiter = "#####", kLineEnd = "\r\n";
 constexpr std::string_view kBold = "bold", kNotBold = "notbold";
+constexpr const char* kBeside = ".new"; // Ends the name of what keeps new messages while the box cannot be read.
 constexpr std::size_t kColumns = std::tuple_size_v<ListRow::Texts>;
 
 struct Box {
@@ -51,27 +52,6 @@ BoxFile LoadRows(RowList& list, const std::string& text, std::size_t fields)
     return found;
 }
 
-void LoadBox(MainWindow& main, const Box& box)
-{
-    IFiles& files = main.services.files;
-    const std::string path = JoinPath(main.services.programFolder, box.name);
-    BoxState& state = main.messages.*box.state;
-    RowList& list = main.messages.*box.list;
-    list.Clear();
-    state = {};
-    if (!files.Exists(path))
-        return;
-    try {
-        state.file = LoadRows(list, files.ReadText(path, FileKind::List), kColumns + (box.bBoldKept ? 1 : 0));
-    } catch (const Failure&) {
-        state.file = BoxFile::Unreadable;
-    }
-    if (state.file == BoxFile::Damaged)
-        Tell(main, path + " could not be read whole; it is kept as " + path + ".bak before it is written anew");
-    else if (state.file == BoxFile::Unreadable)
-        Tell(main, path + " could not be read");
-}
-
 // A copy under the first free name; raises Failure.
 void KeepCopy(IFiles& files, const std::string& path)
 {
@@ -80,6 +60,34 @@ void KeepCopy(IFiles& files, const std::string& path)
     for (int i = 2; files.Exists(copy); ++i)
         copy = path + ".bak" + std::to_string(i);
     files.WriteText(text, copy, FileKind::List);
+}
+
+void LoadBox(MainWindow& main, const Box& box)
+{
+    IFiles& files = main.services.files;
+    const std::string path = JoinPath(main.services.programFolder, box.name);
+    BoxState& state = main.messages.*box.state;
+    RowList& list = main.messages.*box.list;
+    list.Clear();
+    state = {};
+    const std::size_t fields = kColumns + (box.bBoldKept ? 1 : 0);
+    try {
+        if (files.Exists(path))
+            state.file = LoadRows(list, files.ReadText(path, FileKind::List), fields);
+    } catch (const Failure&) {
+        state.file = BoxFile::Unreadable;
+    }
+    const std::string beside = path + kBeside;
+    if (files.Exists(beside))
+        Attempt(main.abandoned, box.complaint, [&] {
+            if (LoadRows(list, files.ReadText(beside, FileKind::List), fields) == BoxFile::Damaged)
+                KeepCopy(files, beside);
+            state.bChanged = true;
+        });
+    if (state.file == BoxFile::Damaged)
+        Tell(main, path + " could not be read whole; it is kept as " + path + ".bak before it is written anew");
+    else if (state.file == BoxFile::Unreadable)
+        Tell(main, path + " could not be read");
 }
 
 // At once, as a record a row would take most of the time of a save.
@@ -110,20 +118,27 @@ void SaveBox(MainWindow& main, const Box& box)
     const std::string path = JoinPath(main.services.programFolder, box.name);
     const RowList& list = main.messages.*box.list;
     BoxState& state = main.messages.*box.state;
+    const std::string beside = path + kBeside;
     if (state.file == BoxFile::Unreadable && files.Exists(path)) {
-        if (!list.IsEmpty()) {
-            files.WriteText(BoxText(list, box.bBoldKept), path + ".new", FileKind::List);
-            throw Failure(path + " could not be read; what came since is in " + path + ".new");
+        if (list.IsEmpty()) {
+            files.Remove(beside);
+        } else {
+            files.WriteText(BoxText(list, box.bBoldKept), beside, FileKind::List);
+            state.bChanged = false; // Told once, not every few seconds.
+            throw Failure(path + " could not be read; what came since is in " + beside);
         }
     } else {
-        if (state.file == BoxFile::Damaged && state.bChanged && files.Exists(path))
+        if (state.file == BoxFile::Damaged && state.bChanged && files.Exists(path)) {
             KeepCopy(files, path);
+            state.file = BoxFile::Whole; // One copy is enough, should what follows fail.
+        }
         if (state.file != BoxFile::Damaged || state.bChanged) {
             if (list.IsEmpty())
                 files.Remove(path);
             else
                 files.WriteText(BoxText(list, box.bBoldKept), path, FileKind::List);
             state.file = BoxFile::Whole;
+            files.Remove(beside);
         }
     }
     state.bChanged = state.bFailureTold = false;

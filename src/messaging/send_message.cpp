@@ -62,6 +62,15 @@ void FileSent(MainWindow& main, const Message& message)
     ShowSentCount(state);
 }
 
+// Without the blank that parts it from the delimiter in the box.
+std::string TextOf(const ListRow& row)
+{
+    std::string text = row.Text(column::kText);
+    if (text.ends_with("# "))
+        text.pop_back();
+    return text;
+}
+
 void RunMessageForm(MainWindow& main)
 {
     frmMessage_Load(main);
@@ -124,7 +133,7 @@ void mnuMsgForward_Click(MainWindow& main)
     if (!row)
         return;
     main.frmMessage.bPrefillText = true;
-    main.frmMessage.sText = row->Text(column::kText);
+    main.frmMessage.sText = TextOf(*row);
     mnuSendMessage_Click(main);
 }
 
@@ -138,7 +147,7 @@ void mnuMsgSendAgain_Click(MainWindow& main)
     roads.chkRF = main.links.IsOnAir();
     roads.chkTCP = main.links.bServerConnected;
     SendAprsMessage(main, row->Text(column::kSentFrom), row->Text(column::kItem), row->Text(column::kSentVia),
-                    row->Text(column::kText), row->Text(column::kNumber));
+                    TextOf(*row), row->Text(column::kNumber));
     roads.chkRF = former.chkRF;
     roads.chkTCP = former.chkTCP;
 }

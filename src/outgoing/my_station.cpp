@@ -60,6 +60,10 @@ void UpdateRow(MainWindow& main, TreeNode& branch, const RowInfo& row)
     KeyedTree& tree = main.tvStationList;
     const std::string& value = SettingText(main.Settings, row.setting);
     TreeNode* node = tree.Find(branch, row.key);
+    if (node && tree.Image(*node) == kCommentImage) { // A comment that looks like this row; it comes again behind it.
+        tree.Remove(*node);
+        node = nullptr;
+    }
     if (value.empty()) {
         if (node)
             tree.Remove(*node);

@@ -9,8 +9,9 @@ namespace ruvenmark {
 
 namespace {
 
-// More pieces than this go in one reset: each would move all rows behind it.
-constexpr std::size_t kMostRemovedSingly = 32;
+// More than this go in one reset: each piece would move all rows behind it, and each row looks for itself among those
+// of its key.
+constexpr std::size_t kMostPieces = 32, kMostRows = 1000;
 
 std::size_t HashOf(std::string_view key)
 {
@@ -80,15 +81,17 @@ void RowList::ClearBold()
 void RowList::RemoveSelected()
 {
     std::vector<std::pair<std::size_t, std::size_t>> pieces;
+    std::size_t rows = 0;
     for (const auto& row : m_rows) {
         if (!row->m_bSelected)
             continue;
+        ++rows;
         if (!pieces.empty() && pieces.back().second + 1 == row->m_row)
             pieces.back().second = row->m_row;
         else
             pieces.emplace_back(row->m_row, row->m_row);
     }
-    if (pieces.size() > kMostRemovedSingly)
+    if (pieces.size() > kMostPieces || rows > kMostRows)
         RemoveAtOnce();
     else
         for (auto piece = pieces.rbegin(); piece != pieces.rend(); ++piece)

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <utility>
 
 namespace ruvenmark {
 
@@ -44,10 +45,19 @@ std::int64_t LastHeard(const Record& record)
 
 std::string_view LastPath(const Record& record)
 {
-    for (const Field field : {Field::PositionPath, Field::StatusPath, Field::WeatherPath})
-        if (record.Has(field))
-            return record.Get(field);
-    return {};
+    constexpr std::array<std::pair<Field, Field>, 3> kPaths = {{{Field::PositionReceived, Field::PositionPath},
+                                                                {Field::StatusReceived, Field::StatusPath},
+                                                                {Field::WeatherReceived, Field::WeatherPath}}};
+    std::string_view last;
+    std::int64_t heard = -1;
+    for (const auto& [received, path] : kPaths) {
+        const std::int64_t at = SecondsOfLocalText(record.Get(received));
+        if (at > heard && record.Has(path)) {
+            heard = at;
+            last = record.Get(path);
+        }
+    }
+    return last;
 }
 
 std::string WithUnit(std::optional<double> number, int decimals, std::string_view unit)

@@ -30,6 +30,14 @@ std::vector<std::string> PatternsOf(std::string_view calls)
     return patterns;
 }
 
+// Over radio, repeated by nobody, and by no gateway brought over the Internet.
+bool IsDirect(const StationRow& row)
+{
+    const std::string& path = row.path;
+    return row.channel != Channel::TCP && path.find('*') == std::string::npos && !path.starts_with("qA") &&
+           path.find(",qA") == std::string::npos;
+}
+
 } // namespace
 
 StationRows::StationRows(MainWindow& main) : m_main(main)
@@ -65,7 +73,7 @@ void StationRows::Observe(const TreeNode& node, bool bGone)
     }
     const TreeNode* station = above->Parent() ? parent : &node;
     const TreeNode* folder = station->Parent();
-    if (station == m_lastMarked || folder->Word() == kUnknown)
+    if ((station == m_lastMarked && !bGone) || folder->Word() == kUnknown)
         return;
     const auto channel = ChannelOfWord(folder->Parent()->Word());
     if (!channel)
@@ -130,10 +138,11 @@ void StationRows::TakeOwnPlace()
     const auto lat = ReadNumber(SettingText(m_main.Settings, Setting::Lat));
     const auto lon = ReadNumber(SettingText(m_main.Settings, Setting::Lon));
     const std::optional<GeoPoint> place = lat && lon ? std::optional(GeoPoint{*lat, *lon}) : std::nullopt;
-    if (place == m_ownPlace)
+    if (place == m_ownPlace || m_marked.size() >= kMostAtOnce) // The last move's marks come first.
         return;
     m_ownPlace = place;
-    MarkAll();
+    for (const Id id : m_order)
+        MarkId(id);
 }
 
 void StationRows::Drop(Id id)
@@ -164,7 +173,7 @@ bool StationRows::IsBefore(Id a, Id b) const
 
 bool StationRows::Matches(const StationRow& row) const
 {
-    if (m_filter.bDirectOnly && row.path.find('*') != std::string::npos)
+    if (m_filter.bDirectOnly && !IsDirect(row))
         return false;
     if (m_patterns.empty())
         return true;

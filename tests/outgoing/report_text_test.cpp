@@ -101,7 +101,7 @@ TEST(ReportText, WeatherAndObjects)
     EXPECT_FALSE(ObjectReportText(fields, {10, 9, 5, 56}));
 }
 
-TEST(SymbolLists, GiveTheDefaultOutsideAndTheToldCharactersInside)
+TEST(SymbolLists, GiveTheDefaultOutsideAndTheirCharactersInside)
 {
     for (const auto& [index, code] :
          {std::pair(-1, ')'), {0, ')'}, {3, '\''}, {9, '>'}, {21, '\\'}, {30, 'y'}, {31, ')'}})

@@ -73,6 +73,7 @@ TEST(StationRows, FiltersByCallAgeAndRoad)
     program.clock.Advance(std::chrono::minutes(30));
     program.Hear(Channel::RF, "DL2ABC-7>APRS,WIDE1-1:!4903.50N/07201.75W>");
     program.Hear(Channel::TCP, "N0CALL>APRS,TCPIP*,qAC,SERVER:!4903.50N/07201.75W>");
+    program.Hear(Channel::FL, "W1AW>APRS,WIDE1-1,qAR,GATE:!4903.50N/07201.75W>");
     StationRows rows(program.main);
     UpdateAll(rows);
     const auto listed = [&](const StationListFilter& filter) {
@@ -81,13 +82,13 @@ TEST(StationRows, FiltersByCallAgeAndRoad)
     };
     EXPECT_THAT(listed({"2abc"}), ElementsAre("DL2ABC-7"));
     EXPECT_THAT(listed({"dl*c n?call"}), ElementsAre("DL1ABC", "N0CALL"));
-    EXPECT_THAT(listed({"", 15}), ElementsAre("DL2ABC-7", "N0CALL"));
+    EXPECT_THAT(listed({"", 15}), ElementsAre("DL2ABC-7", "N0CALL", "W1AW"));
     EXPECT_THAT(listed({"", 0, true}), ElementsAre("DL2ABC-7"));
     rows.SetFilter({"", 15});
     program.clock.Advance(std::chrono::minutes(20)); // They go by the time alone.
     UpdateAll(rows);
     EXPECT_EQ(rows.Count(), 0U);
-    EXPECT_EQ(rows.Total(), 3U);
+    EXPECT_EQ(rows.Total(), 4U);
 }
 
 // A report costs a mark, told once until it is taken in.

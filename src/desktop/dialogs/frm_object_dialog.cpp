@@ -54,6 +54,11 @@ FrmObjectDialog::FrmObjectDialog(MainWindow& main, QWidget* parent) : FormDialog
     connect(pinPoint, &QPushButton::clicked, this, [this] { frmObject_PinPoint(m_main); });
     auto* foot = new QHBoxLayout;
     foot->addWidget(pinPoint);
+    auto* minimize = new QPushButton(QStringLiteral("Minimi&ze"), this);
+    NameControl(*minimize, "Minimize", QStringLiteral("Minimize this window"));
+    minimize->setAutoDefault(false);
+    connect(minimize, &QPushButton::clicked, this, &QWidget::showMinimized);
+    foot->addWidget(minimize);
     foot->addLayout(buttons.row);
     rows->addRow(foot);
 }

@@ -49,6 +49,11 @@ FrmPositionDialog::FrmPositionDialog(MainWindow& main, QWidget* parent) : FormDi
     connect(pinPoint, &QPushButton::clicked, this, [this] { frmPosition_PinPoint(m_main); });
     auto* foot = new QHBoxLayout;
     foot->addWidget(pinPoint);
+    auto* minimize = new QPushButton(QStringLiteral("Minimi&ze"), this);
+    NameControl(*minimize, "Minimize", QStringLiteral("Minimize this window"));
+    minimize->setAutoDefault(false);
+    connect(minimize, &QPushButton::clicked, this, &QWidget::showMinimized);
+    foot->addWidget(minimize);
     foot->addLayout(buttons.row);
     rows->addRow(foot);
 }

@@ -33,7 +33,7 @@ MonitorDialog::MonitorDialog(TextLog& log, MonitorTexts texts, QWidget* parent)
     m_view->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     m_view->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    layout->setContentsMargins(kMargin, kMargin, 0, 0);
     layout->addWidget(m_view);
     resize(kWidth, kHeight);
     m_timer.setSingleShot(true);

@@ -3,6 +3,7 @@
 #include "desktop/map/heap/heap_model.h"
 #include "platform/map_model.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -94,9 +95,11 @@ void HeapList::Close()
 {
     if (isHidden())
         return;
+    const bool bHadFocus = isAncestorOf(QApplication::focusWidget());
     hide();
     m_model->SetMembers({});
-    parentWidget()->setFocus();
+    if (bHadFocus)
+        parentWidget()->setFocus();
 }
 
 void HeapList::Refresh()

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <span>
 
 namespace ruvenmark {
 
@@ -116,28 +117,38 @@ void MarkerLayout::Update(const std::vector<PinPoint>& points, const ViewFrame& 
     m_points = nullptr;
 }
 
-void MarkerLayout::Thin(const Square& square)
+// Calls `take` with each group of markers that hide one another, the first of a group ahead.
+template <typename Take>
+void MarkerLayout::EachGroup(const Square& square, const Take& take)
 {
     std::array<bool, kMostInSquare> taken{};
-    const std::size_t count = square.count;
-    for (std::size_t i = 0; i < count; ++i) {
+    std::array<const Spot*, kMostInSquare> group{};
+    for (std::size_t i = 0; i < square.count; ++i) {
         if (taken[i])
             continue;
-        Spot best = square.spots[i];
-        std::uint32_t together = 1;
-        for (std::size_t j = i + 1; j < count; ++j) {
+        const Spot& first = square.spots[i];
+        std::size_t size = 0;
+        group[size++] = &first;
+        for (std::size_t j = i + 1; j < square.count; ++j) {
             const Spot& other = square.spots[j];
-            const bool bHidden =
-                std::abs(other.x - square.spots[i].x) < kHides && std::abs(other.y - square.spots[i].y) < kHides;
-            if (taken[j] || !bHidden)
+            if (taken[j] || std::abs(other.x - first.x) >= kHides || std::abs(other.y - first.y) >= kHides)
                 continue;
             taken[j] = true;
-            ++together;
-            if (Rank(other.slot) > Rank(best.slot))
-                best = other;
+            group[size++] = &other;
         }
-        Add(best, together);
+        take(std::span(group.data(), size));
     }
+}
+
+void MarkerLayout::Thin(const Square& square)
+{
+    EachGroup(square, [this](std::span<const Spot* const> group) {
+        const Spot* best = group.front();
+        for (const Spot* other : group)
+            if (Rank(other->slot) > Rank(best->slot))
+                best = other;
+        Add(*best, static_cast<std::uint32_t>(group.size()));
+    });
 }
 
 void MarkerLayout::Add(const Spot& spot, std::uint32_t count)
@@ -156,15 +167,21 @@ std::vector<std::uint32_t> MarkerLayout::Members(const std::vector<PinPoint>& po
     std::vector<std::uint32_t> members;
     if (item.count == 1)
         return {item.slot};
-    const Spot at{item.slot, static_cast<float>(item.at.x() + kMargin), static_cast<float>(item.at.y() + kMargin)};
-    const std::size_t square = m_window.SquareAt(at);
-    const bool bWholeSquare = m_squares[square].count > kMostInSquare;
-    EachInWindow(points, [&](const PinPoint& point, const Spot& spot) {
-        const bool bNear = std::abs(spot.x - at.x) < kHides && std::abs(spot.y - at.y) < kHides;
-        const bool bAlone = m_selected == spot.slot || point.bTrail;
-        if (m_window.SquareAt(spot) == square && (bWholeSquare || bNear) && !bAlone)
-            members.push_back(spot.slot);
-    });
+    const Spot spot{item.slot, static_cast<float>(item.at.x() + kMargin), static_cast<float>(item.at.y() + kMargin)};
+    const std::size_t at = m_window.SquareAt(spot);
+    const Square& square = m_squares[at];
+    if (square.count > kMostInSquare)
+        EachInWindow(points, [&](const PinPoint& point, const Spot& other) {
+            if (m_window.SquareAt(other) == at && m_selected != other.slot && !point.bTrail)
+                members.push_back(other.slot);
+        });
+    else
+        EachGroup(square, [&](std::span<const Spot* const> group) {
+            if (std::none_of(group.begin(), group.end(), [&](const Spot* one) { return one->slot == item.slot; }))
+                return;
+            for (const Spot* one : group)
+                members.push_back(one->slot);
+        });
     return members;
 }
 

@@ -92,6 +92,8 @@ private:
     void SetWindow(const ViewFrame& frame);
     void AddAlone(const PinPoint& point, const Spot& spot);
     int Rank(std::uint32_t slot) const;
+    template <typename Take>
+    static void EachGroup(const Square& square, const Take& take);
     void Thin(const Square& square);
     void Add(const Spot& spot, std::uint32_t count);
     bool IsBelow(const MarkerItem& a, const MarkerItem& b) const;
