@@ -40,7 +40,8 @@ void MarkerLayout::EachInWindow(const std::vector<PinPoint>& points, Visit visit
     const Window window = m_window;
     const double right = static_cast<double>(window.spanX) * window.scale;
     const PinPoint* const first = points.data();
-    for (const PinPoint* point = first + points.size(); point-- != first;) {
+    for (const PinPoint* point = first + points.size(); point != first;) {
+        --point;
         const std::uint32_t dx = point->x - window.left;
         const auto dy = static_cast<std::uint64_t>(static_cast<std::int64_t>(point->y) - window.top);
         if (dx >= window.spanX || dy >= window.spanY || !point->bLive)
