@@ -16,7 +16,7 @@ namespace ruvenmark {
 namespace {
 
 constexpr int kPictureSize = 20;
-enum Column : std::uint8_t { kName, kAge, kColumns };
+constexpr int kNameColumn = 0, kColumns = 2; // The second tells the age.
 
 } // namespace
 
@@ -57,13 +57,13 @@ int HeapModel::rowCount(const QModelIndex& parent) const
 
 int HeapModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : int{kColumns};
+    return parent.isValid() ? 0 : kColumns;
 }
 
 QVariant HeapModel::data(const QModelIndex& index, int role) const
 {
     const PinData* pin = PinAt(index.row());
-    const bool bName = index.column() == kName;
+    const bool bName = index.column() == kNameColumn;
     if (role == Qt::DisplayRole && !pin)
         return bName ? QStringLiteral("(gone)") : QString();
     if (role == Qt::DisplayRole)
