@@ -91,11 +91,13 @@ void RowList::RemoveSelected()
         else
             pieces.emplace_back(row->m_row, row->m_row);
     }
-    if (pieces.size() > kMostPieces || rows > kMostRows)
+    if (pieces.size() > kMostPieces || rows > kMostRows) {
         RemoveAtOnce();
-    else
-        for (auto piece = pieces.rbegin(); piece != pieces.rend(); ++piece)
-            RemoveRange(piece->first, piece->second);
+    } else {
+        std::reverse(pieces.begin(), pieces.end()); // The places of what stands ahead of a piece stay.
+        for (const auto& [first, last] : pieces)
+            RemoveRange(first, last);
+    }
     if (!pieces.empty())
         SelectionChanged.Raise();
 }
