@@ -105,7 +105,7 @@ void MeasureStationList(Program& program)
     const auto source = program.machine.sources.CreateFile(*program.main.links.sinks[Index(Channel::FL)]);
     for (int i = 0; i < 200; ++i) {
         for (int j = 0; j < 50; ++j)
-            source->ParseLine(CallOf((i * 50 + j) * 7) + ">APRS,WIDE1-1:!" +
+            source->ParseLine(packet_text::Call((i * 50 + j) * 7) + ">APRS,WIDE1-1:!" +
                               packet_text::PlainPosition({40.0 + j * 0.01, -90.0 - i * 0.01}, "/>") + "moved");
         reports = std::max(reports, settle(20));
         if (i % 10 == 0) {
