@@ -26,11 +26,11 @@ std::string CountText(std::string_view label, std::size_t count)
 
 void CheckNode(const KeyedTree& tree, const TreeNode& node, std::vector<TreeNode*>& nodes)
 {
-    for (const auto& child : node.Children()) {
-        Require(tree.Find(node, child->Word()) == child.get());
+    for (TreeNode* const child : node.Children()) {
+        Require(tree.Find(node, child->Word()) == child);
         const TreeNode* found = tree.Find(child->Key());
         Require(found && found->Key() == child->Key());
-        nodes.push_back(child.get());
+        nodes.push_back(child);
         CheckNode(tree, *child, nodes);
     }
 }
@@ -125,8 +125,8 @@ private:
     {
         const KeyedTree& tree = m_program.Tree();
         m_nodes.clear();
-        for (const auto& root : tree.Roots()) {
-            m_nodes.push_back(root.get());
+        for (TreeNode* const root : tree.Roots()) {
+            m_nodes.push_back(root);
             CheckNode(tree, *root, m_nodes);
         }
         Require(m_nodes.size() == tree.NodeCount());
