@@ -26,6 +26,7 @@ struct ChannelTraits {
     Channel channel;
     std::string_view word; // First part of every tree key, first letters of every note.
     std::string_view rootText;
+    std::string_view markerEnding;       // Of the names of its markers, behind the call.
     Setting firstFilterSetting;          // Six texts, then three flags.
     std::optional<Setting> namesSetting; // Balloon state of new markers; FL has it in frmImport instead.
     Setting unknownSetting;              // Whether packets that could not be decoded are kept.
@@ -35,11 +36,11 @@ struct ChannelTraits {
 };
 
 inline constexpr std::array<ChannelTraits, 3> kChannelTraits = {{
-    {Channel::RF, "RF", "RF reports", Setting::rfFilterDest, Setting::ShowRFNames, Setting::ShowRFUnknown,
+    {Channel::RF, "RF", "RF reports", "(r)", Setting::rfFilterDest, Setting::ShowRFNames, Setting::ShowRFUnknown,
      Setting::TrackedRFStations, true, true},
-    {Channel::TCP, "TCP", "TCP reports", Setting::tcpFilterDest, Setting::ShowTCPNames, Setting::ShowTCPUnknown,
+    {Channel::TCP, "TCP", "TCP reports", "(t)", Setting::tcpFilterDest, Setting::ShowTCPNames, Setting::ShowTCPUnknown,
      Setting::TrackedTCPStations, false, true},
-    {Channel::FL, "FL", "FL reports", Setting::flFilterDest, std::nullopt, Setting::ShowFLUnknown,
+    {Channel::FL, "FL", "FL reports", "(f)", Setting::flFilterDest, std::nullopt, Setting::ShowFLUnknown,
      Setting::TrackedFLStations, false, false},
 }};
 

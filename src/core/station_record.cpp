@@ -5,24 +5,27 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <string>
 
 namespace ruvenmark {
 
 namespace {
 
-// A size is a byte, or this byte and four more.
-constexpr unsigned char kLongSize = 255;
-constexpr std::size_t kShortHead = 2, kLongHead = 6;
 constexpr std::size_t kLargestRecord = std::size_t{1} << 30U;
 constexpr std::size_t kGrain = 16; // What the heap gives anyway; it keeps eight bytes of its first for itself.
 
-std::size_t HeadSize(std::size_t textSize)
+} // namespace
+
+Record::Entry Record::LongEntryAt(const char* at)
 {
-    return textSize < kLongSize ? kShortHead : kLongHead;
+    std::uint32_t size = 0;
+    std::memcpy(&size, at + kShortHead, sizeof(size));
+    return {static_cast<Field>(at[0]), {at + kLongHead, size}};
 }
 
-char* WriteHead(char* at, Field field, std::size_t textSize)
+// Returns where the text stands.
+char* Record::WriteHead(char* at, Field field, std::size_t textSize)
 {
     at[0] = static_cast<char>(field);
     at[1] = static_cast<char>(std::min<std::size_t>(textSize, kLongSize));
@@ -33,19 +36,6 @@ char* WriteHead(char* at, Field field, std::size_t textSize)
     return at + HeadSize(textSize);
 }
 
-} // namespace
-
-Record::Entry Record::EntryAt(const char* at)
-{
-    const auto field = static_cast<Field>(at[0]);
-    const auto shortSize = static_cast<unsigned char>(at[1]);
-    if (shortSize < kLongSize)
-        return {field, {at + kShortHead, shortSize}};
-    std::uint32_t longSize = 0;
-    std::memcpy(&longSize, at + kShortHead, sizeof(longSize));
-    return {field, {at + kLongHead, longSize}};
-}
-
 std::string_view Record::Find(Field field) const
 {
     for (const auto [found, text] : *this)
@@ -54,21 +44,47 @@ std::string_view Record::Find(Field field) const
     return {};
 }
 
-void Record::Set(Field field, std::string_view value)
+std::size_t Record::PlaceOf(Field field, std::size_t start) const
 {
-    const std::string_view old = Find(field);
-    if (old.data() && old.size() == value.size()) {
+    const char* const block = m_block.get();
+    const auto search = [&](std::size_t at, std::size_t end) {
+        while (at < end && block[at] != static_cast<char>(field)) {
+            const std::string_view text = EntryAt(block + at).second;
+            at = static_cast<std::size_t>(text.data() - block) + text.size();
+        }
+        return at;
+    };
+    const std::size_t behind = search(start, m_size);
+    if (behind < m_size)
+        return behind;
+    const std::size_t ahead = search(0, start);
+    return ahead < start ? ahead : m_size;
+}
+
+void Record::Set(std::span<const Entry> values)
+{
+    std::size_t place = 0;
+    for (const auto& [field, text] : values)
+        place = SetFrom(place, field, text);
+}
+
+std::size_t Record::SetFrom(std::size_t start, Field field, std::string_view value)
+{
+    const std::size_t at = PlaceOf(field, start);
+    const std::size_t size = HeadSize(value.size()) + value.size();
+    const std::size_t oldTextSize = at < m_size ? EntryAt(m_block.get() + at).second.size() : 0;
+    if (at < m_size && oldTextSize == value.size()) {
         if (!value.empty())
-            std::memmove(m_block.get() + (old.data() - m_block.get()), value.data(), value.size());
-        return;
+            std::memmove(m_block.get() + at + HeadSize(oldTextSize), value.data(), value.size());
+        return at + size;
     }
-    const std::string own(value); // It may be a part of the block.
-    const std::size_t oldSize = old.data() ? HeadSize(old.size()) + old.size() : 0;
-    const std::size_t at =
-        old.data() ? static_cast<std::size_t>(old.data() - m_block.get()) - HeadSize(old.size()) : m_size;
-    Replace(at, oldSize, HeadSize(own.size()) + own.size());
-    char* const text = WriteHead(m_block.get() + at, field, own.size());
-    std::copy(own.begin(), own.end(), text);
+    std::string copy;
+    if (const std::less<> before; !before(value.data(), m_block.get()) && before(value.data(), m_block.get() + m_size))
+        value = copy = value; // A part of the block, which moves.
+    Replace(at, at < m_size ? HeadSize(oldTextSize) + oldTextSize : 0, size);
+    char* const text = WriteHead(m_block.get() + at, field, value.size());
+    std::copy(value.begin(), value.end(), text);
+    return at + size;
 }
 
 // Makes room for newSize bytes in the place of the size bytes at `at`.

@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string_view>
 
 namespace ruvenmark {
@@ -113,7 +114,9 @@ public:
     std::string_view Get(Field field) const { return Find(field); }
 
     // Raises Failure for a record beyond all reason.
-    void Set(Field field, std::string_view value);
+    void Set(Field field, std::string_view value) { SetFrom(0, field, value); }
+    // One after the other. It is quickest in the order in which they were first given.
+    void Set(std::span<const Entry> values);
 
     // Where the marker that these reports move was last found; it may be gone or bear another name by now.
     SlotRef Marker;
@@ -122,8 +125,23 @@ public:
     Iterator end() const { return Iterator(m_block.get() + m_size); }
 
 private:
-    static Entry EntryAt(const char* at);
+    // A size is a byte, or this byte and four more.
+    static constexpr unsigned char kLongSize = 255;
+    static constexpr std::size_t kShortHead = 2, kLongHead = 6;
+
+    static Entry EntryAt(const char* at)
+    {
+        const auto shortSize = static_cast<unsigned char>(at[1]);
+        return shortSize < kLongSize ? Entry{static_cast<Field>(at[0]), {at + kShortHead, shortSize}} : LongEntryAt(at);
+    }
+    static Entry LongEntryAt(const char* at);
+    static std::size_t HeadSize(std::size_t textSize) { return textSize < kLongSize ? kShortHead : kLongHead; }
+    static char* WriteHead(char* at, Field field, std::size_t textSize);
+
     std::string_view Find(Field field) const; // No data where there is none.
+    // Where its entry begins, looked for from the start on and then ahead of it; the record's size where there is none.
+    std::size_t PlaceOf(Field field, std::size_t start) const;
+    std::size_t SetFrom(std::size_t start, Field field, std::string_view value); // The place behind the entry.
     void Replace(std::size_t at, std::size_t size, std::size_t newSize);
 
     std::unique_ptr<char[]> m_block;

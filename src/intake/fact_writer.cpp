@@ -32,11 +32,13 @@ FactWriter::FactWriter(KeyedTree& tree, Channel channel, std::string_view folder
 void FactWriter::Station(std::string_view call, std::string_view image)
 {
     m_station = &UpdateStationNode(m_tree, m_folder, call, call, image);
+    m_nextRow = 0;
 }
 
 void FactWriter::Fact(std::string_view word, std::string_view text, std::string_view image)
 {
-    UpdateStationNode(m_tree, *m_station, word, text, image);
+    const TreeNode& fact = UpdateStationNode(m_tree, *m_station, word, text, image, m_nextRow);
+    m_nextRow = m_tree.Row(fact) + 1;
 }
 
 void FactWriter::Fact(std::string_view word, std::string_view label, std::string_view value, std::string_view unit,

@@ -44,6 +44,7 @@ private:
     TreeNode& m_folder;
     std::size_t m_stationsBefore;
     TreeNode* m_station = nullptr;
+    std::size_t m_nextRow = 0; // Where the next fact stands if they came in this order before.
     std::string m_text;
 };
 

@@ -12,6 +12,7 @@
 #include "tracking/track_lines.h"
 #include "tracking/track_lists.h"
 
+#include <array>
 #include <string>
 
 namespace ruvenmark {
@@ -73,12 +74,12 @@ void WritePositionNodes(MainWindow& main, Channel channel, const PosReport& repo
 
 void WritePositionRecord(Record& record, const PosReport& report, const PositionTexts& texts)
 {
-    record.Set(Field::Lat, texts.lat);
-    record.Set(Field::Lon, texts.lon);
-    record.Set(Field::PositionPath, report.path);
-    record.Set(Field::Symbol, report.symbol);
-    record.Set(Field::Comment, report.comment);
-    record.Set(Field::PositionReceived, texts.received);
+    record.Set(std::array<Record::Entry, 6>{{{Field::Lat, texts.lat},
+                                             {Field::Lon, texts.lon},
+                                             {Field::PositionPath, report.path},
+                                             {Field::Symbol, report.symbol},
+                                             {Field::Comment, report.comment},
+                                             {Field::PositionReceived, texts.received}}});
 }
 
 Record& WriteMovement(MainWindow& main, Channel channel, const PosExtReport& report)

@@ -74,7 +74,7 @@ void AddMyStationTree(KeyedTree& tree)
 
 TreeNode& RequireFolder(KeyedTree& tree, Channel channel, std::string_view folderWord)
 {
-    TreeNode* root = tree.Find(Traits(channel).word);
+    TreeNode* root = tree.FindRoot(Traits(channel).word);
     TreeNode* folder = root ? tree.Find(*root, folderWord) : nullptr;
     if (!folder)
         throw Failure("the folder does not stand");
@@ -82,9 +82,9 @@ TreeNode& RequireFolder(KeyedTree& tree, Channel channel, std::string_view folde
 }
 
 TreeNode& UpdateStationNode(KeyedTree& tree, TreeNode& parent, std::string_view word, std::string_view text,
-                            std::string_view image)
+                            std::string_view image, std::size_t likelyRow)
 {
-    TreeNode* node = tree.Find(parent, word);
+    TreeNode* node = tree.Find(parent, word, likelyRow);
     if (!node) {
         node = &tree.Add(parent, word, text, image);
     } else {
@@ -111,7 +111,7 @@ void WriteCounts(KeyedTree& tree, Channel channel, TreeNode& folder)
 
 void RefreshFolderCounts(KeyedTree& tree, Channel channel)
 {
-    TreeNode* root = tree.Find(Traits(channel).word);
+    TreeNode* root = tree.FindRoot(Traits(channel).word);
     if (!root)
         return;
     for (const auto& folder : root->Children())
@@ -181,7 +181,7 @@ void ClearChannelReports(MainWindow& main, Channel channel)
     state.Stations.Clear();
 
     KeyedTree& tree = main.tvStationList;
-    TreeNode* root = tree.Find(Traits(channel).word);
+    TreeNode* root = tree.FindRoot(Traits(channel).word);
     if (!root)
         return;
     std::vector<std::string> open; // Folders are open again as they were.

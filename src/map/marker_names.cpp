@@ -5,6 +5,7 @@
 #include "platform/map_model.h"
 #include "platform/text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <initializer_list>
@@ -20,11 +21,11 @@ constexpr std::string_view kLineEnd = "\r\n";
 // Text from the air is made valid before it stands beside our own.
 void AppendShortened(std::string& note, std::string_view heard, std::size_t characters)
 {
-    const std::string valid = IsUtf8(heard) ? std::string() : ShownText(heard);
-    const std::string_view text = valid.empty() ? heard : valid;
-    const std::string_view shown = FirstCharacters(text, characters);
+    if (!IsUtf8(heard))
+        return AppendShortened(note, ShownText(heard), characters);
+    const std::string_view shown = FirstCharacters(heard, characters);
     note += shown;
-    if (shown.size() < text.size())
+    if (shown.size() < heard.size())
         note += "...";
 }
 
@@ -56,10 +57,10 @@ void AppendLine(std::string& note, const Write& write)
     const std::size_t start = note.size();
     write();
     const std::string_view line = Trim(std::string_view(note).substr(start));
-    if (line.empty()) {
-        note.resize(end);
+    if (line.empty())
+        return note.resize(end);
+    if (line.size() == note.size() - start)
         return;
-    }
     const auto blanks = static_cast<std::size_t>(line.data() - note.data()) - start;
     note.resize(start + blanks + line.size());
     note.erase(start, blanks);
@@ -68,12 +69,14 @@ void AppendLine(std::string& note, const Write& write)
 // A line of those pieces that are given. Only the blanks at its ends are taken off, so a comma may stand last.
 void AppendPieces(std::string& note, const FieldTexts& texts, std::initializer_list<Piece> pieces)
 {
+    const auto isGiven = [&](const Piece& piece) { return !texts[piece.field].empty(); };
+    if (std::none_of(pieces.begin(), pieces.end(), isGiven))
+        return;
     AppendLine(note, [&] {
         for (const auto& piece : pieces) {
-            const std::string_view value = texts[piece.field];
-            if (value.empty())
+            if (!isGiven(piece))
                 continue;
-            note += value;
+            note += texts[piece.field];
             note += piece.unit;
         }
     });
@@ -86,11 +89,12 @@ std::string MarkerName(std::string_view channelWord, std::string_view call)
     std::string name(call);
     if (channelWord.empty())
         return name;
+    if (const auto channel = ChannelOfWord(channelWord)) {
+        name += Traits(*channel).markerEnding;
+        return name;
+    }
     name += '(';
-    if (ChannelOfWord(channelWord))
-        name += ToLower(channelWord.front());
-    else
-        name += channelWord;
+    name += channelWord;
     name += ')';
     return name;
 }

@@ -79,6 +79,14 @@ TreeNode* KeyedTree::Find(const TreeNode& parent, std::string_view word) const
     return nullptr;
 }
 
+TreeNode* KeyedTree::Find(const TreeNode& parent, std::string_view word, std::size_t likelyRow) const
+{
+    const auto children = parent.Children();
+    if (likelyRow < children.size() && children[likelyRow]->Word() == word)
+        return children[likelyRow];
+    return Find(parent, word);
+}
+
 TreeNode& KeyedTree::AddRoot(std::string_view key, std::string_view text, std::string_view image,
                              std::string_view expandedImage)
 {

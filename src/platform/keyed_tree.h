@@ -68,6 +68,9 @@ public:
     TreeNode* Find(std::string_view key) const;
     // The parent's child of this word, or null.
     TreeNode* Find(const TreeNode& parent, std::string_view word) const;
+    // The same where it likely stands in this row.
+    TreeNode* Find(const TreeNode& parent, std::string_view word, std::size_t likelyRow) const;
+    TreeNode* FindRoot(std::string_view word) const { return Find(m_root, word); }
 
     // Raises Failure when the parent, or the roots, have the word. A sorted parent takes the node at its place, any
     // other at the end.

@@ -23,7 +23,7 @@ void Pushpin::SetName(std::string_view name)
     m_map->UnlinkName(m_ref);
     pin.name = name;
     m_map->LinkName(m_ref);
-    m_map->MarkLook(m_ref);
+    m_map->MarkLook(m_ref, pin);
     m_map->Touch();
 }
 
@@ -35,8 +35,9 @@ ruvenmark::Location Pushpin::Location() const
 void Pushpin::SetLocation(const ruvenmark::Location& location)
 {
     m_map->CheckSerial(location);
-    m_map->Pin(m_ref).point = location.Point();
-    m_map->MarkPlace(m_ref);
+    PinData& pin = m_map->Pin(m_ref);
+    pin.point = location.Point();
+    m_map->MarkPlace(m_ref, pin);
     m_map->Touch();
 }
 
@@ -59,8 +60,9 @@ std::int16_t Pushpin::Symbol() const
 
 void Pushpin::SetSymbol(std::int16_t symbol)
 {
-    m_map->Pin(m_ref).symbol = symbol;
-    m_map->MarkLook(m_ref);
+    PinData& pin = m_map->Pin(m_ref);
+    pin.symbol = symbol;
+    m_map->MarkLook(m_ref, pin);
     m_map->Touch();
 }
 
@@ -71,8 +73,9 @@ std::int32_t Pushpin::BalloonState() const
 
 void Pushpin::SetBalloonState(std::int32_t state)
 {
-    m_map->Pin(m_ref).balloonState = state;
-    m_map->MarkLook(m_ref);
+    PinData& pin = m_map->Pin(m_ref);
+    pin.balloonState = state;
+    m_map->MarkLook(m_ref, pin);
     m_map->Touch();
 }
 

@@ -44,19 +44,19 @@ void Map::Touch()
 }
 
 // Two halves of bringing the painters' copy of a pin up to date.
-void Map::MarkPlace(SlotRef ref)
+void Map::MarkPlace(SlotRef ref, const PinData& pin)
 {
-    const MercatorPoint at = ToMercator(Pin(ref).point);
+    const MercatorPoint at = ToMercator(pin.point);
     m_points[ref.slot].x = ToFixed(at.x);
     m_points[ref.slot].y = ToFixed(at.y);
 }
 
-void Map::MarkLook(SlotRef ref)
+void Map::MarkLook(SlotRef ref, const PinData& pin)
 {
-    const PinData& pin = Pin(ref);
-    m_points[ref.slot].symbol = pin.symbol;
-    m_points[ref.slot].bBalloon = pin.balloonState != 0;
-    m_points[ref.slot].bTrail = pin.name.ends_with(kTrailMark);
+    PinPoint& point = m_points[ref.slot];
+    point.symbol = pin.symbol;
+    point.bBalloon = pin.balloonState != 0;
+    point.bTrail = pin.name.ends_with(kTrailMark);
 }
 
 Location Map::GetLocation(double lat, double lon, double /*altitude*/)
@@ -96,8 +96,8 @@ Pushpin Map::AddPushpin(const Location& location, std::string_view name)
     m_points[ref.slot].bLive = true;
     LinkName(ref);
     m_bPinEverAdded = true;
-    MarkLook(ref);
-    MarkPlace(ref);
+    MarkLook(ref, pin);
+    MarkPlace(ref, pin);
     Touch();
     return {*this, ref};
 }

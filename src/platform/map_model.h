@@ -189,8 +189,8 @@ private:
     void CheckSerial(const Location& location) const;
     PinData& Pin(SlotRef ref);
     ShapeData& ShapeOf(SlotRef ref);
-    void MarkPlace(SlotRef ref);
-    void MarkLook(SlotRef ref);
+    void MarkPlace(SlotRef ref, const PinData& pin);
+    void MarkLook(SlotRef ref, const PinData& pin);
     bool IsOldestOfName(SlotRef ref) const;
     void LinkName(SlotRef ref);
     void UnlinkName(SlotRef ref);

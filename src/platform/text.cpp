@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 
 namespace ruvenmark {
 
@@ -36,6 +37,21 @@ std::size_t SequenceLength(std::string_view text)
         return 4;
     }
     return 0;
+}
+
+// A count of bytes at the head that are ASCII; some more may follow.
+std::size_t AsciiAhead(std::string_view text)
+{
+    constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+    std::size_t count = 0;
+    for (std::uint64_t eight = 0; count + sizeof(eight) <= text.size(); count += sizeof(eight)) {
+        std::memcpy(&eight, text.data() + count, sizeof(eight));
+        if ((eight & kHighBits) != 0)
+            return count;
+    }
+    while (count < text.size() && static_cast<std::uint8_t>(text[count]) < 0x80)
+        ++count;
+    return count;
 }
 
 char32_t CodePoint(std::string_view sequence)
@@ -127,6 +143,7 @@ bool ContainsIgnoringCase(std::string_view text, std::string_view part)
 
 bool IsUtf8(std::string_view bytes)
 {
+    bytes.remove_prefix(AsciiAhead(bytes));
     while (!bytes.empty()) {
         const std::size_t length = SequenceLength(bytes);
         if (length == 0)
@@ -196,7 +213,7 @@ std::string_view FirstCharacters(std::string_view text, std::size_t count)
 {
     if (text.size() <= count)
         return text;
-    if (!IsUtf8(text))
+    if (AsciiAhead(text) >= count || !IsUtf8(text))
         return text.substr(0, count);
     std::size_t end = 0;
     while (count-- > 0 && end < text.size())
