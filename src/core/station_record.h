@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/expect_memory.h"
 #include "platform/geometry.h"
 #include "platform/slot_pool.h"
 
@@ -12,6 +13,8 @@
 #include <string_view>
 
 namespace ruvenmark {
+
+class TreeNode;
 
 enum class Field : std::uint8_t {
     Call,
@@ -120,6 +123,11 @@ public:
 
     // Where the marker that these reports move was last found; it may be gone or bear another name by now.
     SlotRef Marker;
+    // Its node under "Positions", in the same way.
+    TreeNode* PositionNode = nullptr;
+
+    // The fields will be needed.
+    void Expect() const { ExpectMemory(m_block.get(), m_size); }
 
     Iterator begin() const { return Iterator(m_block.get()); }
     Iterator end() const { return Iterator(m_block.get() + m_size); }

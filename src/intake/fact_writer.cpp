@@ -4,7 +4,15 @@
 #include "intake/station_store.h"
 #include "platform/numbers.h"
 
+#include <algorithm>
+
 namespace ruvenmark {
+
+namespace {
+
+constexpr std::size_t kUsualText = 64; // Bytes; longer facts take more.
+
+} // namespace
 
 std::string GivenText(double value)
 {
@@ -25,29 +33,38 @@ void SetGiven(Record& record, std::span<const FactValue> values)
 
 FactWriter::FactWriter(KeyedTree& tree, Channel channel, std::string_view folderWord)
     : m_tree(tree), m_channel(channel), m_folder(RequireFolder(tree, channel, folderWord)),
-      m_stationsBefore(m_folder.Children().size())
+      m_stationsBefore(m_folder.Children().size()), m_text(kUsualText, '\0')
 {
 }
 
-void FactWriter::Station(std::string_view call, std::string_view image)
+TreeNode& FactWriter::Station(std::string_view call, std::string_view image, TreeNode* hint)
 {
-    m_station = &UpdateStationNode(m_tree, m_folder, call, call, image);
+    m_station = &UpdateStationNode(m_tree, m_folder, call, call, image, hint);
     m_nextRow = 0;
+    return *m_station;
 }
 
 void FactWriter::Fact(std::string_view word, std::string_view text, std::string_view image)
 {
-    const TreeNode& fact = UpdateStationNode(m_tree, *m_station, word, text, image, m_nextRow);
-    m_nextRow = m_tree.Row(fact) + 1;
+    const auto facts = m_station->Children();
+    TreeNode* fact = m_tree.Find(*m_station, word, m_nextRow < facts.size() ? facts[m_nextRow] : nullptr);
+    if (fact)
+        m_tree.SetText(*fact, text);
+    else
+        fact = &m_tree.Add(*m_station, word, text, image);
+    m_nextRow = m_tree.Row(*fact) + 1;
 }
 
 void FactWriter::Fact(std::string_view word, std::string_view label, std::string_view value, std::string_view unit,
                       std::string_view image)
 {
-    m_text = label;
-    m_text += value;
-    m_text += unit;
-    Fact(word, m_text, image);
+    const std::size_t size = label.size() + value.size() + unit.size();
+    if (size > m_text.size())
+        m_text.resize(size);
+    char* end = std::copy(label.begin(), label.end(), m_text.data());
+    end = std::copy(value.begin(), value.end(), end);
+    std::copy(unit.begin(), unit.end(), end);
+    Fact(word, std::string_view(m_text).substr(0, size), image);
 }
 
 void FactWriter::Given(std::span<const FactValue> values)

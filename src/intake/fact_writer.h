@@ -29,7 +29,9 @@ public:
     // Raises Failure where the folder does not stand.
     FactWriter(KeyedTree& tree, Channel channel, std::string_view folderWord);
 
-    void Station(std::string_view call, std::string_view image = {});
+    // The hint is the node as it was found before.
+    TreeNode& Station(std::string_view call, std::string_view image = {}, TreeNode* hint = nullptr);
+    // Facts of one word have one image.
     void Fact(std::string_view word, std::string_view text, std::string_view image);
     // The same with a label in front and a unit behind.
     void Fact(std::string_view word, std::string_view label, std::string_view value, std::string_view unit,
@@ -45,7 +47,7 @@ private:
     std::size_t m_stationsBefore;
     TreeNode* m_station = nullptr;
     std::size_t m_nextRow = 0; // Where the next fact stands if they came in this order before.
-    std::string m_text;
+    std::string m_text;        // Room for one that is put together.
 };
 
 } // namespace ruvenmark

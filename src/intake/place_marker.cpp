@@ -29,12 +29,11 @@ void PlaceMarker(MainWindow& main, Channel channel, const PosReport& report, Slo
 {
     Map& map = main.mpCtrl.RequireMap();
     const Location location = map.GetLocation(report.lat, report.lon);
-    const std::string_view word = Traits(channel).word;
-    const std::string name = MarkerName(word, report.call);
+    const std::string name = MarkerName(channel, report.call);
     auto pin = map.FindPushpin(name, hint);
     if (!pin) {
         AddMarker(main, channel, location, name, report.symbol, bTracked);
-    } else if (bTracked && pin->Note().starts_with(word)) {
+    } else if (bTracked && pin->NoteBeginsWith(Traits(channel).word)) {
         AddTrackPoint(main, channel, report.call, *pin, location, report.symbol);
     } else {
         pin->SetLocation(location);

@@ -8,6 +8,7 @@
 #include "intake/station_store.h"
 #include "map/markers.h"
 #include "platform/numbers.h"
+#include "platform/small_text.h"
 #include "tracking/filters.h"
 #include "tracking/track_lines.h"
 #include "tracking/track_lists.h"
@@ -54,15 +55,31 @@ void ShowOnMap(MainWindow& main, Channel channel, const PosReport& report, const
         PlayTrackSound(main);
 }
 
+// What a report costs with many stations is the waits for their memory, so all that this one needs is asked for at
+// once.
+Record* ExpectStation(MainWindow& main, Channel channel, std::string_view call)
+{
+    Record* known = main.Of(channel).Stations.Find(call);
+    if (!known)
+        return nullptr;
+    main.tvStationList.Expect(known->PositionNode);
+    if (const Map* map = main.mpCtrl.ActiveMap())
+        map->Expect(known->Marker);
+    known->Expect();
+    return known;
+}
+
 struct PositionTexts {
     std::string lat, lon;
     std::string_view received;
 };
 
-void WritePositionNodes(MainWindow& main, Channel channel, const PosReport& report, const PositionTexts& texts)
+// The station's node.
+TreeNode& WritePositionNodes(MainWindow& main, Channel channel, const PosReport& report, const PositionTexts& texts,
+                             TreeNode* hint)
 {
     FactWriter writer(main.tvStationList, channel, kPositions);
-    writer.Station(report.call, report.symbol);
+    TreeNode& node = writer.Station(report.call, report.symbol, hint);
     writer.Fact("Lat", "Lat: ", texts.lat, "°", "Parallel");
     writer.Fact("Lon", "Lon: ", texts.lon, "°", "Parallel");
     writer.Fact("Path", "Path: ", report.path, "", "Path");
@@ -70,6 +87,7 @@ void WritePositionNodes(MainWindow& main, Channel channel, const PosReport& repo
         writer.Fact("Comment", report.comment, "Info");
     writer.Fact("Received", "Received: ", texts.received, "", "Received");
     writer.Counts();
+    return node;
 }
 
 void WritePositionRecord(Record& record, const PosReport& report, const PositionTexts& texts)
@@ -118,13 +136,16 @@ void aprs_ReportPos(MainWindow& main, Channel channel, const PosReport& report)
 {
     if (IsFiltered(main, channel, report.call, report.dest, report.lat, report.lon))
         return;
-    const std::string received(main.services.clock.LocalNowText());
-    Record* known = main.Of(channel).Stations.Find(report.call);
+    SmallText received; // The clock's own text goes on.
+    received.Set(main.services.clock.LocalNowText());
+    Record* known = ExpectStation(main, channel, report.call);
     Attempt(main.abandoned, "ReportPos, map", [&] { ShowOnMap(main, channel, report, known); });
     Attempt(main.abandoned, "ReportPos", [&] {
-        const PositionTexts texts{ShortText(report.lat), ShortText(report.lon), received};
-        WritePositionNodes(main, channel, report, texts);
+        main.tvStationList.ExpectChildren(known ? known->PositionNode : nullptr);
+        const PositionTexts texts{ShortText(report.lat), ShortText(report.lon), received.View()};
+        TreeNode& node = WritePositionNodes(main, channel, report, texts, known ? known->PositionNode : nullptr);
         Record& record = known ? *known : EnsureRecord(main.Of(channel), report.call);
+        record.PositionNode = &node;
         WritePositionRecord(record, report, texts);
         RefreshMarkerNote(main, channel, report.call, record);
     });

@@ -5,6 +5,7 @@
 #include "map/marker_names.h"
 #include "map/markers.h"
 #include "map/range_circles.h"
+#include "map/station_notes.h"
 #include "platform/failure.h"
 #include "tracking/track_lines.h"
 
@@ -82,9 +83,9 @@ TreeNode& RequireFolder(KeyedTree& tree, Channel channel, std::string_view folde
 }
 
 TreeNode& UpdateStationNode(KeyedTree& tree, TreeNode& parent, std::string_view word, std::string_view text,
-                            std::string_view image, std::size_t likelyRow)
+                            std::string_view image, TreeNode* hint)
 {
-    TreeNode* node = tree.Find(parent, word, likelyRow);
+    TreeNode* node = tree.Find(parent, word, hint);
     if (!node) {
         node = &tree.Add(parent, word, text, image);
     } else {
@@ -137,7 +138,7 @@ void RemoveStation(MainWindow& main, Channel channel, std::string_view call, std
         const std::string_view word = Traits(channel).word;
         Attempt(main.abandoned, "RemoveStation", [&] { DeleteMarker(main, word, MarkerName(word, call)); });
     }
-    state.Stations.Remove(call);
+    ForgetStation(main, channel, call);
     Attempt(main.abandoned, "RemoveStation", [&] {
         TreeNode& folder = RequireFolder(main.tvStationList, channel, folderWord);
         if (TreeNode* node = main.tvStationList.Find(folder, call))
@@ -164,7 +165,7 @@ void DeleteChannelMarkers(MainWindow& main, Channel channel)
     if (main.mpCtrl.RequireMap().RecordCount() == 0)
         return;
     WalkMarkers(main, [&](Pushpin& pin) {
-        if (pin.Note().starts_with(word))
+        if (pin.NoteBeginsWith(word))
             pin.Delete();
     });
 }
@@ -178,7 +179,7 @@ void ClearChannelReports(MainWindow& main, Channel channel)
     Attempt(main.abandoned, "ClearChannelReports", [&] { DeleteChannelMarkers(main, channel); });
     state.StationRanges.Clear();
     DeleteAllCircles(main, state, "ClearChannelReports");
-    state.Stations.Clear();
+    ForgetStations(main, channel);
 
     KeyedTree& tree = main.tvStationList;
     TreeNode* root = tree.FindRoot(Traits(channel).word);

@@ -2,7 +2,6 @@
 
 #include "core/channel.h"
 
-#include <cstddef>
 #include <string_view>
 
 namespace ruvenmark {
@@ -22,10 +21,10 @@ void AddMyStationTree(KeyedTree& tree);
 TreeNode& RequireFolder(KeyedTree& tree, Channel channel, std::string_view folderWord);
 
 // Writes the node whose key is the parent's key and the word, adding it below the parent where there is none; an empty
-// image leaves a node's image. A node right under a folder becomes bold, and RF folders are sorted. One that stands in
-// the likely row is found without a search.
+// image leaves a node's image. A node right under a folder becomes bold, and RF folders are sorted. The hint
+// is the node as it was found before.
 TreeNode& UpdateStationNode(KeyedTree& tree, TreeNode& parent, std::string_view word, std::string_view text,
-                            std::string_view image, std::size_t likelyRow = 0);
+                            std::string_view image, TreeNode* hint = nullptr);
 
 // The text of one folder and of its root after a report. The root keeps its text where the sum does not fit 16 bits.
 void WriteCounts(KeyedTree& tree, Channel channel, TreeNode& folder);

@@ -9,9 +9,11 @@
 #include "links/server_link.h"
 #include "links/tnc_link.h"
 #include "map/map_start.h"
+#include "map/station_notes.h"
 #include "outgoing/my_station.h"
 #include "platform/program_name.h"
 
+#include <memory>
 #include <string>
 
 namespace ruvenmark {
@@ -21,6 +23,7 @@ namespace {
 // Ahead of all that can fail: a file can be loaded even where the start ended early.
 void MakeSinks(MainWindow& main)
 {
+    main.mpCtrl.SetNoteMaker(std::make_unique<StationNotes>(main.channels));
     for (const Channel channel : kChannels)
         main.links.sinks[Index(channel)] = MakeReportSink(main, channel);
 }

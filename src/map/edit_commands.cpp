@@ -23,7 +23,7 @@ bool CopySelection(MainWindow& main)
     const Map& map = main.mpCtrl.RequireMap();
     MapDocument document = main.mpCtrl.EmptyDocument();
     if (kind == SelectionKind::Pushpin)
-        document.pins.push_back(*map.Pins().At(std::get<Pushpin>(main.map.Selection).Ref().slot));
+        map.SettleNote(document.pins.emplace_back(*map.Pins().At(std::get<Pushpin>(main.map.Selection).Ref().slot)));
     else
         document.shapes.push_back(*map.Shapes().At(std::get<Shape>(main.map.Selection).Ref().slot));
     main.services.desktop.SetClipboardText(WriteMapDocument(document));

@@ -1,6 +1,5 @@
 #include "map/marker_names.h"
 
-#include "core/channel.h"
 #include "core/station_record.h"
 #include "platform/map_model.h"
 #include "platform/text.h"
@@ -86,16 +85,21 @@ void AppendPieces(std::string& note, const FieldTexts& texts, std::initializer_l
 
 std::string MarkerName(std::string_view channelWord, std::string_view call)
 {
+    if (const auto channel = ChannelOfWord(channelWord))
+        return MarkerName(*channel, call);
     std::string name(call);
     if (channelWord.empty())
         return name;
-    if (const auto channel = ChannelOfWord(channelWord)) {
-        name += Traits(*channel).markerEnding;
-        return name;
-    }
     name += '(';
     name += channelWord;
     name += ')';
+    return name;
+}
+
+std::string MarkerName(Channel channel, std::string_view call)
+{
+    std::string name(call);
+    name += Traits(channel).markerEnding;
     return name;
 }
 

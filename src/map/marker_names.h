@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/channel.h"
+
 #include <string>
 #include <string_view>
 
@@ -10,6 +12,7 @@ class Record;
 // The name of a station's marker: the call alone for an empty channel word, "CALL(r)", "CALL(t)" or "CALL(f)" for RF,
 // TCP and FL, "CALL(word)" for any other word.
 std::string MarkerName(std::string_view channelWord, std::string_view call);
+std::string MarkerName(Channel channel, std::string_view call);
 
 // The name of a marker that a moving tracked station left behind: the marker's name and "*".
 std::string TrackPointName(std::string_view channelWord, std::string_view call);

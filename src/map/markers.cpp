@@ -6,6 +6,7 @@
 #include "map/marker_names.h"
 #include "map/names_state.h"
 #include "map/show_on_map.h"
+#include "map/station_notes.h"
 #include "map/symbols.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
@@ -32,19 +33,18 @@ std::pair<Pushpin, bool> MarkerAt(Map& map, std::string_view name, const Locatio
 
 void RefreshMarkerNote(MainWindow& main, Channel channel, std::string_view call, Record& record)
 {
-    const std::string_view word = Traits(channel).word;
-    auto pin = main.mpCtrl.RequireMap().FindPushpin(MarkerName(word, call), record.Marker);
+    auto pin = main.mpCtrl.RequireMap().FindPushpin(MarkerName(channel, call), record.Marker);
     if (!pin)
         return;
     record.Marker = pin->Ref();
-    pin->SetNote(MarkerNote(word, record));
+    pin->SetNoteSource(NoteSourceOf(channel));
     pin->SetHeard(main.services.clock.UnixSeconds());
 }
 
 void DeleteMarker(MainWindow& main, std::string_view channelWord, std::string_view markerName)
 {
     auto pin = main.mpCtrl.RequireMap().FindPushpin(markerName);
-    if (pin && pin->Note().starts_with(channelWord))
+    if (pin && pin->NoteBeginsWith(channelWord))
         pin->Delete();
 }
 
@@ -97,7 +97,7 @@ void ForEachMarkerOfRoot(MainWindow& main, const TreeNode& root, const std::func
     const TreeNode* folder = main.tvStationList.Find(root, kPositions);
     if (!folder)
         throw Failure("the folder does not stand");
-    const auto matches = [&](const Pushpin& pin) { return pin.Note().starts_with(key); };
+    const auto matches = [&](const Pushpin& pin) { return pin.NoteBeginsWith(key); };
     if (folder->Children().size() < static_cast<std::size_t>(map.RecordCount())) {
         ProgressWalk walk(main.sbStatusBar, folder->Children().size());
         for (const auto& station : folder->Children()) {

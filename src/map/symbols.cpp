@@ -14,7 +14,7 @@ struct WordSymbol {
     std::int16_t symbol;
 };
 
-// Sorted by word for the search.
+// In the order of their sizes.
 constexpr auto kSymbols = [] {
     std::array<WordSymbol, 58> symbols = {{
         {"Digi", 169},      {"Weather", 250},    {"Car", 82},         {"Wheeler18", 81},   {"Jeep", 181},
@@ -30,17 +30,30 @@ constexpr auto kSymbols = [] {
         {"Num1", 208},      {"Num2", 209},       {"Num3", 210},       {"Num4", 211},       {"Num5", 212},
         {"Num6", 213},      {"Num7", 214},       {"Num8", 215},
     }};
-    std::sort(symbols.begin(), symbols.end(), [](const auto& a, const auto& b) { return a.word < b.word; });
+    std::sort(symbols.begin(), symbols.end(),
+              [](const auto& a, const auto& b) { return a.word.size() < b.word.size(); });
     return symbols;
+}();
+
+// Where the words of each size begin; two more than the longest word has letters.
+constexpr auto kFirstOfSize = [] {
+    std::array<std::size_t, kSymbols.back().word.size() + 2> first{};
+    for (std::size_t size = 0; size < first.size(); ++size)
+        for (const WordSymbol& symbol : kSymbols)
+            first[size] += symbol.word.size() < size ? 1 : 0;
+    return first;
 }();
 
 } // namespace
 
 std::int16_t SymbolId(std::string_view word)
 {
-    const auto found = std::lower_bound(kSymbols.begin(), kSymbols.end(), word,
-                                        [](const WordSymbol& symbol, std::string_view w) { return symbol.word < w; });
-    return found != kSymbols.end() && found->word == word ? found->symbol : kDefaultSymbol;
+    if (word.size() >= kFirstOfSize.size() - 1)
+        return kDefaultSymbol;
+    for (std::size_t i = kFirstOfSize[word.size()]; i < kFirstOfSize[word.size() + 1]; ++i)
+        if (kSymbols[i].word == word)
+            return kSymbols[i].symbol;
+    return kDefaultSymbol;
 }
 
 } // namespace ruvenmark

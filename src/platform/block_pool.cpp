@@ -1,6 +1,7 @@
 #include "platform/block_pool.h"
 
 #include <cstdlib>
+#include <new>
 
 #ifdef __linux__
 #include <sys/mman.h>

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <new>
 #include <vector>
 
 namespace ruvenmark {
@@ -12,8 +11,7 @@ inline constexpr std::size_t kBlockAlignment = 64;
 void* TakeBlock(std::size_t size);
 void ReturnBlock(void* block);
 
-// Values of one type, made side by side in blocks; each stays where it is. Whoever makes a value drops it: the pool
-// only keeps the memory.
+// Values of one type, made side by side in blocks. Each stays where it is, and lives as long as the pool.
 template <typename Value>
 class BlockPool {
 public:
@@ -22,58 +20,42 @@ public:
     BlockPool& operator=(const BlockPool&) = delete;
     ~BlockPool()
     {
-        for (void* block : m_blocks)
-            ReturnBlock(block);
+        for (const Block& block : m_blocks) {
+            for (std::size_t i = 0; i < block.made; ++i)
+                block.values[i].~Value();
+            ReturnBlock(block.values);
+        }
     }
 
-    Value& Make() { return *new (TakeSlot()) Value(); }
-    void Drop(Value& value)
+    Value& Make()
     {
-        value.~Value();
-        m_free = new (&value) Slot{m_free};
+        if (m_blocks.empty() || m_blocks.back().made == m_blocks.back().room)
+            AddBlock();
+        Block& block = m_blocks.back();
+        Value& value = *new (block.values + block.made) Value();
+        ++block.made;
+        ++m_made;
+        return value;
     }
 
 private:
-    // What stands in the place of a value that is gone.
-    struct Slot {
-        Slot* next;
+    struct Block {
+        Value* values;
+        std::size_t made, room;
     };
-    static_assert(sizeof(Value) >= sizeof(Slot) && alignof(Value) >= alignof(Slot));
     static_assert(alignof(Value) <= kBlockAlignment);
 
     static constexpr std::size_t kSmallestBlock = 32, kLargestBlock = 32768; // Values.
 
-    void* TakeSlot()
-    {
-        if (m_free) {
-            Slot* slot = m_free;
-            m_free = slot->next;
-            return slot;
-        }
-        if (m_left == 0)
-            AddBlock();
-        --m_left;
-        void* place = m_next;
-        m_next += sizeof(Value);
-        return place;
-    }
-
     // Each block is an eighth of all before it, so that little stands unused.
     void AddBlock()
     {
-        const std::size_t count = std::clamp(m_made / 8, kSmallestBlock, kLargestBlock);
+        const std::size_t room = std::clamp(m_made / 8, kSmallestBlock, kLargestBlock);
         m_blocks.reserve(m_blocks.size() + 1);
-        void* block = TakeBlock(count * sizeof(Value));
-        m_blocks.push_back(block);
-        m_next = static_cast<std::byte*>(block);
-        m_left = count;
-        m_made += count;
+        m_blocks.push_back({static_cast<Value*>(TakeBlock(room * sizeof(Value))), 0, room});
     }
 
-    std::vector<void*> m_blocks;
-    Slot* m_free = nullptr;
-    std::byte* m_next = nullptr;
-    std::size_t m_left = 0;
+    std::vector<Block> m_blocks;
     std::size_t m_made = 0;
 };
 

@@ -1,5 +1,6 @@
 #include "platform/keyed_tree.h"
 
+#include "platform/expect_memory.h"
 #include "platform/failure.h"
 #include "platform/text.h"
 
@@ -24,11 +25,7 @@ std::string TreeNode::Key() const
 
 KeyedTree::KeyedTree() : m_looks(1) {}
 
-KeyedTree::~KeyedTree()
-{
-    for (TreeNode* root : m_root.m_children.All())
-        Drop(*root);
-}
+KeyedTree::~KeyedTree() = default;
 
 struct KeyedTree::Highest {
     TreeNode* node = nullptr;
@@ -69,7 +66,20 @@ void KeyedTree::SearchBelow(const TreeNode& parent, std::string_view key, std::s
     });
 }
 
-TreeNode* KeyedTree::Find(const TreeNode& parent, std::string_view word) const
+void KeyedTree::Expect(const TreeNode* node) const
+{
+    constexpr std::size_t kNodes = 6; // A station and its first facts.
+    if (node)
+        ExpectMemory(node, kNodes * sizeof(TreeNode));
+}
+
+void KeyedTree::ExpectChildren(const TreeNode* node) const
+{
+    if (node && !node->Children().empty())
+        ExpectMemory(node->Children().data(), sizeof(TreeNode));
+}
+
+TreeNode* KeyedTree::Search(const TreeNode& parent, std::string_view word) const
 {
     if (parent.m_bIndexed)
         return m_index.Find(Told(parent), word);
@@ -77,14 +87,6 @@ TreeNode* KeyedTree::Find(const TreeNode& parent, std::string_view word) const
         if (child->Word() == word)
             return child;
     return nullptr;
-}
-
-TreeNode* KeyedTree::Find(const TreeNode& parent, std::string_view word, std::size_t likelyRow) const
-{
-    const auto children = parent.Children();
-    if (likelyRow < children.size() && children[likelyRow]->Word() == word)
-        return children[likelyRow];
-    return Find(parent, word);
 }
 
 TreeNode& KeyedTree::AddRoot(std::string_view key, std::string_view text, std::string_view image,
@@ -105,7 +107,7 @@ TreeNode& KeyedTree::AddBelow(TreeNode& parent, std::string_view word, std::stri
     if (Find(parent, word))
         throw Failure("the key is taken");
     const std::uint16_t look = LookIndex(image, expandedImage);
-    TreeNode& node = m_nodes.Make();
+    TreeNode& node = TakeNode();
     node.m_text.Set(text);
     node.m_word = word == text ? nullptr : &m_words.Take(word);
     node.m_parent = &parent == &m_root ? nullptr : &parent;
@@ -166,13 +168,23 @@ void KeyedTree::Forget(TreeNode& node)
         m_selected = nullptr;
 }
 
+TreeNode& KeyedTree::TakeNode()
+{
+    if (m_unused.empty())
+        return m_nodes.Make();
+    TreeNode& node = *m_unused.back();
+    m_unused.pop_back();
+    return node;
+}
+
 void KeyedTree::Drop(TreeNode& node)
 {
     for (TreeNode* child : node.Children())
         Drop(*child);
     if (node.m_word)
         m_words.Return(*node.m_word);
-    m_nodes.Drop(node);
+    node.~TreeNode();
+    m_unused.push_back(new (&node) TreeNode());
 }
 
 void KeyedTree::SetText(TreeNode& node, std::string_view text)

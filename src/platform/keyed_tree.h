@@ -66,11 +66,17 @@ public:
     // Walks down from the roots. Of several nodes with the key one on the highest level, a station before a fact. Null
     // when there is none.
     TreeNode* Find(std::string_view key) const;
-    // The parent's child of this word, or null.
-    TreeNode* Find(const TreeNode& parent, std::string_view word) const;
-    // The same where it likely stands in this row.
-    TreeNode* Find(const TreeNode& parent, std::string_view word, std::size_t likelyRow) const;
-    TreeNode* FindRoot(std::string_view word) const { return Find(m_root, word); }
+    // The parent's child of this word, or null. A hint is a node that was found before; it may be gone since. Where it
+    // is the one, there is no search.
+    TreeNode* Find(const TreeNode& parent, std::string_view word, TreeNode* hint = nullptr) const
+    {
+        return hint && hint->m_parent == &parent && hint->Word() == word ? hint : Search(parent, word);
+    }
+    TreeNode* FindRoot(std::string_view word) const { return Search(m_root, word); }
+    // The node, and what was added below it at once, will be needed. It may be gone.
+    void Expect(const TreeNode* node) const;
+    // What tells its children will be needed; the node was expected before.
+    void ExpectChildren(const TreeNode* node) const;
 
     // Raises Failure when the parent, or the roots, have the word. A sorted parent takes the node at its place, any
     // other at the end.
@@ -113,6 +119,7 @@ private:
     using Look = std::pair<std::string, std::string>; // The images of a node and of an expanded one.
     struct Highest;                                   // Of a search for a whole key.
 
+    TreeNode* Search(const TreeNode& parent, std::string_view word) const;
     void SearchBelow(const TreeNode& parent, std::string_view key, std::size_t level, Highest& found) const;
     // The work on each child whose word the key begins with.
     template <typename Work>
@@ -123,6 +130,7 @@ private:
     void SortChildren(TreeNode& node);
     void EnterInIndex(TreeNode& parent, TreeNode& added);
     void Forget(TreeNode& node);
+    TreeNode& TakeNode();
     void Drop(TreeNode& node);
     std::uint16_t LookIndex(std::string_view image, std::string_view expandedImage);
     // What stands for a parent outside: null for the node above the roots.
@@ -130,9 +138,10 @@ private:
 
     WordTable m_words;
     BlockPool<TreeNode> m_nodes;
-    TreeNode m_root;           // Above the roots; never shown.
-    TreeIndex m_index;         // The children of those that have many.
-    std::vector<Look> m_looks; // Those in use; the first is the empty one.
+    std::vector<TreeNode*> m_unused; // Nodes that are gone: blank, and so no hint's.
+    TreeNode m_root;                 // Above the roots; never shown.
+    TreeIndex m_index;               // The children of those that have many.
+    std::vector<Look> m_looks;       // Those in use; the first is the empty one.
     std::size_t m_nodeCount = 0;
     TreeNode* m_selected = nullptr;
 };

@@ -74,6 +74,13 @@ Shape AddShape(Map& map, const ShapeData& shape)
     return added;
 }
 
+void MapControl::SetNoteMaker(std::unique_ptr<INoteMaker> maker)
+{
+    if (m_map)
+        m_map->SetNoteMaker(maker.get());
+    m_noteMaker = std::move(maker);
+}
+
 Map& MapControl::RequireMap() const
 {
     if (!m_map)
@@ -87,6 +94,7 @@ Map& MapControl::StartMap(std::int32_t region)
         throw Failure("no such map region");
     if (!m_map)
         m_map = std::make_unique<Map>();
+    m_map->SetNoteMaker(m_noteMaker.get());
     m_region = region;
     m_map->Replace(region);
     return *m_map;
@@ -118,6 +126,8 @@ void MapControl::SaveMapAs(std::string_view path)
     Map& map = RequireMap();
     MapDocument document = EmptyDocument();
     document.pins = OldestFirst(map.Pins());
+    for (PinData& pin : document.pins)
+        map.SettleNote(pin);
     document.shapes = OldestFirst(map.Shapes());
     m_files.WriteText(WriteMapDocument(document), path, FileKind::Map);
     map.SetSaved(true);

@@ -26,6 +26,9 @@ class MapControl {
 public:
     explicit MapControl(IFiles& files) : m_files(files) {}
 
+    // Of all maps from now on.
+    void SetNoteMaker(std::unique_ptr<INoteMaker> maker);
+
     // Null until a map was made.
     Map* ActiveMap() const { return m_map.get(); }
     // The active map; raises Failure where there is none.
@@ -55,6 +58,7 @@ private:
     Map& StartMap(std::int32_t region);
 
     IFiles& m_files;
+    std::unique_ptr<INoteMaker> m_noteMaker;
     std::unique_ptr<Map> m_map;
     std::array<bool, 4> m_toolbars{};
     std::int32_t m_region = 0;

@@ -20,6 +20,7 @@ void Pushpin::SetName(std::string_view name)
     PinData& pin = m_map->Pin(m_ref);
     if (pin.name == name)
         return;
+    m_map->SettleNote(pin);
     m_map->UnlinkName(m_ref);
     pin.name = name;
     m_map->LinkName(m_ref);
@@ -41,16 +42,38 @@ void Pushpin::SetLocation(const ruvenmark::Location& location)
     m_map->Touch();
 }
 
-const std::string& Pushpin::Note() const
+std::string Pushpin::Note() const
 {
-    return m_map->Pin(m_ref).note;
+    return m_map->NoteOf(m_map->Pin(m_ref));
+}
+
+bool Pushpin::NoteBeginsWith(std::string_view text) const
+{
+    const PinData& pin = m_map->Pin(m_ref);
+    if (pin.noteSource != kOwnNote && m_map->m_noteMaker)
+        if (const std::string_view beginning = m_map->m_noteMaker->Beginning(pin.noteSource);
+            beginning.starts_with(text))
+            return true;
+    return m_map->NoteOf(pin).starts_with(text);
 }
 
 void Pushpin::SetNote(std::string_view note)
 {
     PinData& pin = m_map->Pin(m_ref);
     pin.note = note;
+    pin.noteSource = kOwnNote;
     m_map->Touch();
+}
+
+void Pushpin::SetNoteSource(std::uint8_t source)
+{
+    m_map->Pin(m_ref).noteSource = source;
+    m_map->Touch();
+}
+
+void Pushpin::SettleNote()
+{
+    m_map->SettleNote(m_map->Pin(m_ref));
 }
 
 std::int16_t Pushpin::Symbol() const

@@ -84,6 +84,13 @@ std::optional<Pushpin> Map::FindPushpin(std::string_view name, SlotRef hint)
     return Pushpin(*this, m_pins.RefAt(*it));
 }
 
+void Map::Expect(SlotRef hint) const
+{
+    m_pins.Expect(hint.slot);
+    if (hint.slot < m_points.size())
+        ExpectMemory(&m_points[hint.slot], sizeof(PinPoint));
+}
+
 Pushpin Map::AddPushpin(const Location& location, std::string_view name)
 {
     CheckSerial(location);
@@ -187,6 +194,30 @@ void Map::UnlinkName(SlotRef ref)
     m_pins.At(pin.nextOfName)->previousOfName = pin.previousOfName;
     if (bOldest)
         m_names.insert(pin.nextOfName);
+}
+
+// --- Notes
+
+std::string Map::NoteOf(const PinData& pin) const
+{
+    if (pin.noteSource == kOwnNote || !m_noteMaker)
+        return pin.note;
+    return m_noteMaker->Note(pin.noteSource, pin.name).value_or(pin.note);
+}
+
+void Map::SettleNote(PinData& pin) const
+{
+    if (pin.noteSource == kOwnNote)
+        return;
+    pin.note = NoteOf(pin);
+    pin.noteSource = kOwnNote;
+}
+
+void Map::SettleNotes(std::uint8_t source)
+{
+    for (std::size_t slot = 0; slot < m_pins.SlotCount(); ++slot)
+        if (PinData* pin = m_pins.At(slot); pin && pin->noteSource == source)
+            SettleNote(*pin);
 }
 
 // --- Style and view

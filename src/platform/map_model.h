@@ -53,14 +53,34 @@ private:
     GeoPoint m_point;
 };
 
+// Makes notes that change with every report and are read seldom, when they are read.
+class INoteMaker {
+public:
+    INoteMaker() = default;
+    INoteMaker(const INoteMaker&) = delete;
+    INoteMaker& operator=(const INoteMaker&) = delete;
+    virtual ~INoteMaker() = default;
+
+    // Nothing where it knows no marker of this name; the note is the one it had before.
+    virtual std::optional<std::string> Note(std::uint8_t source, std::string_view name) const = 0;
+    // What all notes of the source begin with.
+    virtual std::string_view Beginning(std::uint8_t source) const = 0;
+};
+inline constexpr std::uint8_t kOwnNote = 0; // Not made by anyone.
+
 class Pushpin {
 public:
     const std::string& Name() const;
     void SetName(std::string_view name);
     ruvenmark::Location Location() const;
     void SetLocation(const ruvenmark::Location& location);
-    const std::string& Note() const; // Lines end in CR LF.
+    std::string Note() const; // Lines end in CR LF.
+    bool NoteBeginsWith(std::string_view text) const;
     void SetNote(std::string_view note);
+    // From now on the note is what the map's maker of notes says of this source when somebody reads it, until it is set
+    // or settled. A new name settles it.
+    void SetNoteSource(std::uint8_t source);
+    void SettleNote(); // It stays as it is now.
     std::int16_t Symbol() const;
     void SetSymbol(std::int16_t symbol);
     std::int32_t BalloonState() const; // 1 shows the name, 0 nothing.
@@ -106,7 +126,8 @@ struct PinData {
     GeoPoint point;
     std::int32_t balloonState = 0;
     std::int16_t symbol = kDefaultSymbol;
-    std::uint32_t heard = 0; // Seconds since 1970; 0: not known. No file keeps it.
+    std::uint8_t noteSource = kOwnNote; // Who makes the note; `note` is then what it was before.
+    std::uint32_t heard = 0;            // Seconds since 1970; 0: not known. No file keeps it.
     // Slots of pins of one name, oldest first, in a ring: the oldest one's previous is the newest.
     std::uint32_t previousOfName = 0, nextOfName = 0;
 };
@@ -143,6 +164,8 @@ public:
 
     // The oldest pin of exactly this name. One that a hint names, as it was found before, is found without a search.
     std::optional<Pushpin> FindPushpin(std::string_view name, SlotRef hint = {});
+    // What a hint names will be needed.
+    void Expect(SlotRef hint) const;
     Pushpin AddPushpin(const Location& location, std::string_view name);
     Shape AddLine(const Location& from, const Location& to);
     Shape AddShape(std::int32_t type, const Location& centre, double width, double height);
@@ -166,6 +189,11 @@ public:
     std::int32_t LocationToY(const Location& location) const;
     std::int32_t Width() const { return m_view.width; }
     std::int32_t Height() const { return m_view.height; }
+
+    void SetNoteMaker(const INoteMaker* maker) { m_noteMaker = maker; }
+    std::string NoteOf(const PinData& pin) const;
+    void SettleNote(PinData& pin) const; // Of a copy as well.
+    void SettleNotes(std::uint8_t source);
 
     // For painters and files.
     const SlotPool<PinData>& Pins() const { return m_pins; }
@@ -214,6 +242,7 @@ private:
     SlotPool<ShapeData> m_shapes;
     std::vector<PinPoint> m_points;
     Names m_names{0, NameHash{&m_pins}, NameEqual{&m_pins}}; // The slot of the oldest of each name.
+    const INoteMaker* m_noteMaker = nullptr;
     MapView m_view;
     std::uint64_t m_serial = 0;
     std::int32_t m_style = kFirstMapStyle;

@@ -82,6 +82,7 @@ std::string_view BoolText(bool value)
 namespace {
 
 constexpr double kMillion = 1e6;
+constexpr int kMillionDigits = 6;
 constexpr double kFifteenDigits = 1e15; // Of so many, no two numbers share a double: the number is its own shortest.
 
 // A whole number of millionths.
@@ -94,12 +95,14 @@ void AppendMillionths(std::string& text, std::int64_t millionths)
         *end++ = '-';
     const auto size = static_cast<std::uint64_t>(std::abs(millionths));
     end = std::to_chars(end, buffer.data() + buffer.size(), size / kWhole).ptr;
-    std::uint64_t rest = size % kWhole;
-    if (rest != 0)
-        *end++ = '.';
-    for (std::uint64_t digit = kWhole / 10; rest != 0; digit /= 10) {
-        *end++ = static_cast<char>('0' + rest / digit);
-        rest %= digit;
+    if (std::uint64_t rest = size % kWhole; rest != 0) {
+        int digits = kMillionDigits;
+        for (; rest % 10 == 0; rest /= 10)
+            --digits;
+        *end = '.';
+        for (int i = digits; i > 0; --i, rest /= 10)
+            end[i] = static_cast<char>('0' + rest % 10);
+        end += 1 + digits;
     }
     text.append(buffer.data(), end);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/expect_memory.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -53,6 +55,13 @@ public:
         m_slotCount = 0;
         m_free.clear();
         m_count = 0;
+    }
+
+    // The value in the slot will be needed.
+    void Expect(std::size_t slot) const
+    {
+        if (slot < m_slotCount)
+            ExpectMemory(&SlotAt(slot), sizeof(Slot));
     }
 
     std::size_t Count() const { return m_count; }

@@ -4,26 +4,11 @@
 
 namespace ruvenmark {
 
-SmallText::Block SmallText::Outside() const
-{
-    Block block{};
-    std::memcpy(&block, m_inside.data(), sizeof(block));
-    return block;
-}
-
 void SmallText::PutOutside(const Block& block)
 {
     static_assert(sizeof(block) <= kInside);
     std::memcpy(m_inside.data(), &block, sizeof(block));
     m_size = kOutside;
-}
-
-std::string_view SmallText::View() const
-{
-    if (!IsOutside())
-        return {m_inside.data(), m_size};
-    const Block block = Outside();
-    return {block.text, block.size};
 }
 
 void SmallText::Set(std::string_view text)

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstring>
 #include <string_view>
 
 namespace ruvenmark {
@@ -14,7 +15,13 @@ public:
     SmallText& operator=(const SmallText&) = delete;
     ~SmallText() { Drop(); }
 
-    std::string_view View() const;
+    std::string_view View() const
+    {
+        if (!IsOutside())
+            return {m_inside.data(), m_size};
+        const Block block = Outside();
+        return {block.text, block.size};
+    }
     void Set(std::string_view text); // May be a part of this text.
 
 private:
@@ -26,7 +33,13 @@ private:
     };
 
     bool IsOutside() const { return m_size == kOutside; }
-    Block Outside() const; // The inside holds it byte by byte: the object needs no alignment.
+    // The inside holds it byte by byte: the object needs no alignment.
+    Block Outside() const
+    {
+        Block block{};
+        std::memcpy(&block, m_inside.data(), sizeof(block));
+        return block;
+    }
     void PutOutside(const Block& block);
     void Drop();
 

@@ -7,6 +7,7 @@
 #include "links/tnc_link.h"
 #include "map/markers.h"
 #include "map/range_circles.h"
+#include "map/station_notes.h"
 #include "tracking/filter_form_rules.h"
 #include "ui/call_sign_page.h"
 #include "ui/web_page.h"
@@ -54,7 +55,7 @@ void UnloadChannel(MainWindow& main, Channel channel)
     ChannelState& state = main.Of(channel);
     state.StationRanges.Clear();
     DeleteAllCircles(main, state, "mnuUnloadFolder");
-    state.Stations.Clear();
+    ForgetStations(main, channel);
 }
 
 } // namespace

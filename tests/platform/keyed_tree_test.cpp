@@ -166,6 +166,8 @@ private:
         const auto taken = m_nodes.find(path);
         if (parent) {
             EXPECT_EQ(tree.Find(*parent, word), taken == m_nodes.end() ? nullptr : taken->second);
+            // A hint that is right, stands elsewhere or is gone makes no difference.
+            EXPECT_EQ(tree.Find(*parent, word, Hint()), tree.Find(*parent, word));
         }
         const bool bWasTaken = taken != m_nodes.end();
         try {
@@ -176,8 +178,11 @@ private:
             EXPECT_TRUE(bWasTaken) << Joined(path);
         }
     }
+    TreeNode* Hint() { return m_hints.empty() ? nullptr : m_hints[Below(m_hints.size())]; }
     void Remove(TreeNode& node)
     {
+        m_hints.push_back(&node);
+        m_hints.push_back(&Any());
         Forget(node);
         tree.Remove(node);
     }
@@ -189,6 +194,7 @@ private:
     }
 
     std::map<Path, TreeNode*> m_nodes;
+    std::vector<TreeNode*> m_hints;
     std::mt19937 m_random{20261122};
 };
 

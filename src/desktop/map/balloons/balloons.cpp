@@ -47,11 +47,16 @@ void Balloons::DropTheGone(const Map* map)
             pin->reset();
 }
 
+BalloonText Balloons::TextOf(const BalloonGround& ground, PinData pin)
+{
+    ground.map.SettleNote(pin);
+    return FullBalloonOf(pin, ground.now);
+}
+
 BalloonText Balloons::TextOf(const BalloonGround& ground, const MarkerItem& item, Kind kind)
 {
-    const PinData& pin = *ground.map.Pins().At(item.slot);
     if (item.count == 1 || kind != Kind::Hovered)
-        return FullBalloonOf(pin, ground.now);
+        return TextOf(ground, *ground.map.Pins().At(item.slot));
     return ListOf(ground.map, ground.markers.Members(ground.map.PinPoints(), item));
 }
 
@@ -67,7 +72,7 @@ std::optional<Balloon> Balloons::Make(const BalloonGround& ground, SlotRef ref, 
     const QRectF area = frame.Rect().adjusted(kMargin, kMargin, -kMargin, -kMargin);
     if (!area.adjusted(-kBeyond, -kBeyond, kBeyond, kBeyond).contains(at))
         return std::nullopt;
-    return Balloon(item ? TextOf(ground, *item, kind) : FullBalloonOf(*pin, ground.now), at, area, ground.look,
+    return Balloon(item ? TextOf(ground, *item, kind) : TextOf(ground, *pin), at, area, ground.look,
                    kind == Kind::Pinned);
 }
 

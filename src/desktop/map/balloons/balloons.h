@@ -46,6 +46,7 @@ private:
     enum class Kind : std::uint8_t { Hovered, Pinned, Still };
 
     static std::optional<Balloon> Make(const BalloonGround& ground, SlotRef pin, Kind kind);
+    static BalloonText TextOf(const BalloonGround& ground, PinData pin);
     static BalloonText TextOf(const BalloonGround& ground, const MarkerItem& item, Kind kind);
 
     std::optional<SlotRef> m_pinned, m_hovered;
