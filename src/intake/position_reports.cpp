@@ -139,10 +139,10 @@ void aprs_ReportPos(MainWindow& main, Channel channel, const PosReport& report)
     SmallText received; // The clock's own text goes on.
     received.Set(main.services.clock.LocalNowText());
     Record* known = ExpectStation(main, channel, report.call);
+    const PositionTexts texts{ShortText(report.lat), ShortText(report.lon), received.View()};
     Attempt(main.abandoned, "ReportPos, map", [&] { ShowOnMap(main, channel, report, known); });
     Attempt(main.abandoned, "ReportPos", [&] {
         main.tvStationList.ExpectChildren(known ? known->PositionNode : nullptr);
-        const PositionTexts texts{ShortText(report.lat), ShortText(report.lon), received.View()};
         TreeNode& node = WritePositionNodes(main, channel, report, texts, known ? known->PositionNode : nullptr);
         Record& record = known ? *known : EnsureRecord(main.Of(channel), report.call);
         record.PositionNode = &node;

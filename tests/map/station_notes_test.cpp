@@ -1,0 +1,87 @@
+#include "core/main_window.h"
+#include "intake/station_store.h"
+#include "map/edit_commands.h"
+#include "map/marker_names.h"
+#include "map/selection.h"
+#include "map/station_notes.h"
+#include "support/test_program.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <string>
+
+namespace ruvenmark {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+class StationNotesTest : public testing::Test {
+protected:
+    void SetUp() override { p.Position(Channel::RF, "N0CALL", 48, 11, "Van", "at home"); }
+    std::string Note() const { return p.Note("N0CALL(r)"); }
+
+    TestProgram p;
+};
+
+// Made when it is read, a note must still be of the last report: not of one before it.
+TEST_F(StationNotesTest, AreOfTheLastReport)
+{
+    EXPECT_THAT(Note(), StartsWith("RF, 2026-11-22"));
+    EXPECT_THAT(Note(), EndsWith("48°, 11°\r\nat home"));
+    p.clock.Advance(std::chrono::seconds(60));
+    const std::string before = Note();
+    p.Position(Channel::RF, "N0CALL", 49, 11, "Van", "away");
+    EXPECT_THAT(Note(), EndsWith("49°, 11°\r\naway"));
+    EXPECT_NE(Note().substr(0, Note().find('\r')), before.substr(0, before.find('\r')));
+    EXPECT_TRUE(p.Marker("N0CALL(r)")->NoteBeginsWith("RF"));
+    EXPECT_TRUE(p.Marker("N0CALL(r)")->NoteBeginsWith(Note()));
+    EXPECT_FALSE(p.Marker("N0CALL(r)")->NoteBeginsWith("FL"));
+}
+
+// A note that is only made of the record is lost with it.
+TEST_F(StationNotesTest, OutlastTheRecord)
+{
+    const std::string note = Note();
+    ForgetStation(p.main, Channel::RF, "N0CALL");
+    EXPECT_EQ(Note(), note);
+
+    p.Hear(Channel::RF, "N0CALL>APRS:>on the air"); // A new record, of the status alone.
+    EXPECT_EQ(Note(), note);
+    p.Position(Channel::RF, "N0CALL", 50, 12);
+    const std::string last = Note();
+    EXPECT_THAT(last, EndsWith("50°, 12°"));
+    ForgetStations(p.main, Channel::RF);
+    p.Hear(Channel::RF, "N0CALL>APRS:>again");
+    EXPECT_EQ(Note(), last);
+}
+
+// What the note is worked out by is the name: a pin that is renamed keeps what it had.
+TEST_F(StationNotesTest, StayWithThePinAndGoWhereItIsCopied)
+{
+    const std::string note = Note();
+    Pushpin pin = *p.Marker("N0CALL(r)");
+    SelectOnMap(p.main, pin);
+    mnuEditCopy_Click(p.main);
+    EXPECT_THAT(p.desktop.clipboard, HasSubstr("at home"));
+    p.main.mpCtrl.SaveMapAs("/notes.ptm");
+    EXPECT_THAT(p.files.texts["/notes.ptm"], HasSubstr("at home"));
+
+    pin.SetName("Home");
+    EXPECT_EQ(pin.Note(), note);
+    p.Position(Channel::RF, "N0CALL", 50, 12, "Van", "elsewhere");
+    EXPECT_EQ(pin.Note(), note);
+    EXPECT_THAT(Note(), EndsWith("elsewhere"));
+
+    Pushpin second = *p.Marker("N0CALL(r)");
+    second.SetNote("by hand");
+    EXPECT_EQ(second.Note(), "by hand");
+    p.Position(Channel::RF, "N0CALL", 51, 13);
+    EXPECT_THAT(second.Note(), EndsWith("51°, 13°"));
+}
+
+} // namespace
+} // namespace ruvenmark
