@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "core/notices.h"
+#include "core/stored_fields.h"
 #include "links/gps_form_rules.h"
 #include "links/import_form_rules.h"
 #include "links/server_lists.h"
@@ -16,38 +17,41 @@
 
 #include <array>
 #include <string>
+#include <utility>
 
 namespace ruvenmark {
 
 namespace {
 
+template <class Window, class Field>
+void EachPaneField(Window& window, const Field& field)
+{
+    field(Setting::ShowTreeView, window.bLeftPane);
+    field(Setting::WindowSplit, window.splitterLeft);
+}
+
+template <class Window, class Field>
+void EachPlaceField(Window& window, const Field& field)
+{
+    field(Setting::MainLeft, window.left);
+    field(Setting::MainTop, window.top);
+    field(Setting::MainWidth, window.width);
+    field(Setting::MainHeight, window.height);
+    field(Setting::MainMaximized, window.bMaximized);
+}
+
 void LoadGeometry(MainWindow& main)
 {
-    StoredSettings& stored = main.stored;
-    WindowState& window = main.window;
-    window.splitterLeft = stored.Int32(Setting::WindowSplit);
-    window.bLeftPane = stored.Flag(Setting::ShowTreeView);
-    window.left = stored.Int32(Setting::MainLeft);
-    window.top = stored.Int32(Setting::MainTop);
-    window.width = stored.Int32(Setting::MainWidth);
-    window.height = stored.Int32(Setting::MainHeight);
-    window.bMaximized = stored.Flag(Setting::MainMaximized);
+    EachPaneField(main.window, LoadField{main.stored});
+    EachPlaceField(main.window, LoadField{main.stored});
 }
 
 // Nothing of a minimised window but its panes.
 void SaveGeometry(MainWindow& main)
 {
-    const WindowState& window = main.window;
-    StoredSettings& stored = main.stored;
-    if (!window.bMinimised) {
-        stored.SetWhole(Setting::MainLeft, window.left);
-        stored.SetWhole(Setting::MainTop, window.top);
-        stored.SetWhole(Setting::MainWidth, window.width);
-        stored.SetWhole(Setting::MainHeight, window.height);
-        stored.SetFlag(Setting::MainMaximized, window.bMaximized);
-    }
-    stored.SetFlag(Setting::ShowTreeView, window.bLeftPane);
-    stored.SetWhole(Setting::WindowSplit, window.splitterLeft);
+    if (!main.window.bMinimised)
+        EachPlaceField(std::as_const(main.window), SaveField{main.stored});
+    EachPaneField(std::as_const(main.window), SaveField{main.stored});
 }
 
 void SaveRegion(MainWindow& main)

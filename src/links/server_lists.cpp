@@ -1,12 +1,14 @@
 #include "links/server_lists.h"
 
 #include "core/main_window.h"
+#include "core/stored_fields.h"
 #include "platform/failure.h"
 #include "platform/records.h"
 
 #include <array>
 #include <cstddef>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ruvenmark {
@@ -23,36 +25,21 @@ constexpr std::array<ListFile, 3> kListFiles = {{{"servers.txt", &ServerLists::S
                                                  {"ports.txt", &ServerLists::PortList},
                                                  {"filters.txt", &ServerLists::ServerFilterList}}};
 
-void LoadServerForm(StoredSettings& stored, ServerForm& form)
+template <class Form, class Field>
+void EachStoredField(Form& form, const Field& field)
 {
-    form.sServerAddress = stored.Text(Setting::PrimaryServer);
-    form.iServerPort = stored.Int16(Setting::PrimaryPort);
-    form.sServerFilter = stored.Text(Setting::PrimaryFilter);
-    form.bServerBeacon = stored.Flag(Setting::ServerBeacon);
-    form.bAddTCPSymbol = stored.Flag(Setting::AddTCPSymbol);
-    form.bReconnectServer = stored.Flag(Setting::ReconnectServer);
-    form.iReconnectAttempt = stored.Int16(Setting::ReconnectAttempt);
-    form.sBackupServer = stored.Text(Setting::BackupServer);
-    form.iBackupPort = stored.Int16(Setting::BackupPort);
-    form.sBackupFilter = stored.Text(Setting::BackupFilter);
-    form.bBackupBeacon = stored.Flag(Setting::BackupBeacon);
-    form.bAutoTCP = stored.Flag(Setting::AutoTCP);
-}
-
-void SaveServerForm(StoredSettings& stored, const ServerForm& form)
-{
-    stored.Set(Setting::PrimaryServer, form.sServerAddress);
-    stored.SetWhole(Setting::PrimaryPort, form.iServerPort);
-    stored.Set(Setting::PrimaryFilter, form.sServerFilter);
-    stored.SetFlag(Setting::ServerBeacon, form.bServerBeacon);
-    stored.SetFlag(Setting::AddTCPSymbol, form.bAddTCPSymbol);
-    stored.SetFlag(Setting::ReconnectServer, form.bReconnectServer);
-    stored.SetWhole(Setting::ReconnectAttempt, form.iReconnectAttempt);
-    stored.Set(Setting::BackupServer, form.sBackupServer);
-    stored.SetWhole(Setting::BackupPort, form.iBackupPort);
-    stored.Set(Setting::BackupFilter, form.sBackupFilter);
-    stored.SetFlag(Setting::BackupBeacon, form.bBackupBeacon);
-    stored.SetFlag(Setting::AutoTCP, form.bAutoTCP);
+    field(Setting::PrimaryServer, form.sServerAddress);
+    field(Setting::PrimaryPort, form.iServerPort);
+    field(Setting::PrimaryFilter, form.sServerFilter);
+    field(Setting::ServerBeacon, form.bServerBeacon);
+    field(Setting::AddTCPSymbol, form.bAddTCPSymbol);
+    field(Setting::ReconnectServer, form.bReconnectServer);
+    field(Setting::ReconnectAttempt, form.iReconnectAttempt);
+    field(Setting::BackupServer, form.sBackupServer);
+    field(Setting::BackupPort, form.iBackupPort);
+    field(Setting::BackupFilter, form.sBackupFilter);
+    field(Setting::BackupBeacon, form.bBackupBeacon);
+    field(Setting::AutoTCP, form.bAutoTCP);
 }
 
 std::vector<std::string> Keys(const Dictionary<std::string>& list)
@@ -97,12 +84,12 @@ void LoadServerLists(MainWindow& main)
     for (std::size_t i = 0; i < kListFiles.size(); ++i)
         LoadList(main.services.files, JoinPath(main.services.programFolder, kListFiles[i].name),
                  lists.*kListFiles[i].list, lists.files[i]);
-    LoadServerForm(main.stored, main.frmTcp);
+    EachStoredField(main.frmTcp, LoadField{main.stored});
 }
 
 void SaveServerLists(MainWindow& main)
 {
-    SaveServerForm(main.stored, main.frmTcp);
+    EachStoredField(std::as_const(main.frmTcp), SaveField{main.stored});
     const ServerLists& lists = main.serverLists;
     std::string unsaved;
     for (std::size_t i = 0; i < kListFiles.size() && main.services.store.IsKept(); ++i) {

@@ -1,11 +1,13 @@
 #include "links/tnc_form_rules.h"
 
 #include "core/main_window.h"
+#include "core/stored_fields.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace ruvenmark {
 
@@ -81,6 +83,23 @@ bool AcceptSerial(TncForm& form, IPrompts& prompts)
     form.bAddRFSymbol = form.chkAdd;
     form.iBaudListIndex = BaudPosition(form.cboSerialBaud);
     return true;
+}
+
+template <class Form, class Field>
+void EachStoredField(Form& form, const Field& field)
+{
+    field(Setting::ConnectSocket, form.bConnectSocket);
+    field(Setting::SerialPort, form.sSerialPort);
+    field(Setting::BaudIndex, form.iBaudListIndex);
+    field(Setting::SentenceIndex, form.iSentenceIndex);
+    field(Setting::UpdateRateIndex, form.iUpdateRateIndex);
+    field(Setting::LastBaudRate, form.lLastBaudRate);
+    field(Setting::AddRFSymbol, form.bAddRFSymbol);
+    field(Setting::TncGps, form.bTncGps);
+    field(Setting::SerialAutoConnect, form.bAutoConnect);
+    field(Setting::AutoConnectType, form.bAutoSerialPort);
+    field(Setting::SocketAddress, form.sSocketAddress);
+    field(Setting::SocketPort, form.iSocketPort);
 }
 
 } // namespace
@@ -165,38 +184,12 @@ void commDialog_Cancel(TncForm& form)
 
 void LoadCommSettings(MainWindow& main)
 {
-    TncForm& form = main.commDialog;
-    StoredSettings& stored = main.stored;
-    form.bConnectSocket = stored.Flag(Setting::ConnectSocket);
-    form.sSerialPort = stored.Text(Setting::SerialPort);
-    form.iBaudListIndex = stored.Int16(Setting::BaudIndex);
-    form.iSentenceIndex = stored.Int16(Setting::SentenceIndex);
-    form.iUpdateRateIndex = stored.Int16(Setting::UpdateRateIndex);
-    form.lLastBaudRate = stored.Int32(Setting::LastBaudRate);
-    form.bAddRFSymbol = stored.Flag(Setting::AddRFSymbol);
-    form.bTncGps = stored.Flag(Setting::TncGps);
-    form.bAutoConnect = stored.Flag(Setting::SerialAutoConnect);
-    form.bAutoSerialPort = stored.Flag(Setting::AutoConnectType);
-    form.sSocketAddress = stored.Text(Setting::SocketAddress);
-    form.iSocketPort = stored.Int16(Setting::SocketPort);
+    EachStoredField(main.commDialog, LoadField{main.stored});
 }
 
 void SaveCommSettings(MainWindow& main)
 {
-    const TncForm& form = main.commDialog;
-    StoredSettings& stored = main.stored;
-    stored.SetFlag(Setting::ConnectSocket, form.bConnectSocket);
-    stored.Set(Setting::SerialPort, form.sSerialPort);
-    stored.SetWhole(Setting::BaudIndex, form.iBaudListIndex);
-    stored.SetWhole(Setting::SentenceIndex, form.iSentenceIndex);
-    stored.SetWhole(Setting::UpdateRateIndex, form.iUpdateRateIndex);
-    stored.SetWhole(Setting::LastBaudRate, form.lLastBaudRate);
-    stored.SetFlag(Setting::AddRFSymbol, form.bAddRFSymbol);
-    stored.SetFlag(Setting::TncGps, form.bTncGps);
-    stored.SetFlag(Setting::SerialAutoConnect, form.bAutoConnect);
-    stored.SetFlag(Setting::AutoConnectType, form.bAutoSerialPort);
-    stored.Set(Setting::SocketAddress, form.sSocketAddress);
-    stored.SetWhole(Setting::SocketPort, form.iSocketPort);
+    EachStoredField(std::as_const(main.commDialog), SaveField{main.stored});
 }
 
 } // namespace ruvenmark

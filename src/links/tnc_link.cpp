@@ -9,8 +9,10 @@
 #include "platform/records.h"
 #include "platform/text.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace ruvenmark {
 
@@ -107,6 +109,14 @@ void Toggle(MainWindow& main)
     }
 }
 
+// Whatever fails ends the link.
+void OpenLink(MainWindow& main, const std::function<void()>& open)
+{
+    DropSource(main); // One that is still connecting, or that connected behind the dialog.
+    if (!AttemptAloud(main, kFailed, open))
+        Drop(main, kFailed);
+}
+
 } // namespace
 
 void ConnectTnc(MainWindow& main)
@@ -117,9 +127,7 @@ void ConnectTnc(MainWindow& main)
 
 void ConnectSerialTnc(MainWindow& main)
 {
-    const TncForm& form = main.commDialog;
-    DropSource(main); // One that is still connecting, or that connected behind the dialog.
-    const bool bWell = AttemptAloud(main, kFailed, [&] {
+    OpenLink(main, [&main, &form = std::as_const(main.commDialog)] {
         main.links.aprs = main.services.sources.CreateTnc(main.links.SinkOf(Channel::RF));
         Source(main).OpenPort(form.sSerialPort, form.lLastBaudRate, kAccessToken);
         main.links.bSerialConnected = true;
@@ -130,21 +138,15 @@ void ConnectSerialTnc(MainWindow& main)
              "Connected to port " + form.sSerialPort + " at " + ShortText(std::int64_t{form.lLastBaudRate}) + "bps");
         BeginRadioStatus(main);
     });
-    if (!bWell)
-        Drop(main, kFailed);
 }
 
 void ConnectAgw(MainWindow& main)
 {
-    const TncForm& form = main.commDialog;
-    DropSource(main); // One that is still connecting, or that connected behind the dialog.
-    const bool bWell = AttemptAloud(main, kFailed, [&] {
+    OpenLink(main, [&main, &form = std::as_const(main.commDialog)] {
         main.links.aprs = main.services.sources.CreateAgw(main.links.SinkOf(Channel::RF));
         Source(main).ConnectSocket(form.sSocketAddress, form.iSocketPort, kAccessToken);
         Show(main, "Connecting to AGW Packet Engine");
     });
-    if (!bWell)
-        Drop(main, kFailed);
 }
 
 void SendTncSettings(MainWindow& main)
