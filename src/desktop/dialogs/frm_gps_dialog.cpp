@@ -14,17 +14,16 @@ namespace ruvenmark {
 FrmGpsDialog::FrmGpsDialog(MainWindow& main, QWidget* parent) : FormDialog(parent), m_main(main)
 {
     setWindowTitle(QStringLiteral("Connect GPS"));
-    QComboBox* port = MakePortBox(*this, main.services.wires.SerialPorts());
-    QComboBox* baud = MakeBaudBox(*this, kGpsBauds);
+    QFormLayout* fields = MakeSerialRows(*this, Bound(),
+                                         {.ports = main.services.wires.SerialPorts(),
+                                          .bauds = kGpsBauds,
+                                          .cboPort = main.frmGps.cboPort,
+                                          .cboBaud = main.frmGps.cboBaud});
     auto* tracking = new QCheckBox(QStringLiteral("&Track GPS"), this);
     auto* autoGps = new QCheckBox(QStringLiteral("Connect upon &startup"), this);
     NameControl(*tracking, "chkTracking", tracking->text());
     NameControl(*autoGps, "chkAutoGPS", autoGps->text());
     const DialogButtons buttons = MakeDialogButtons(*this, QStringLiteral("&Connect"));
-
-    auto* fields = new QFormLayout;
-    fields->addRow(QStringLiteral("&Port"), port);
-    fields->addRow(QStringLiteral("&Baud rate"), baud);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(fields);
     layout->addWidget(tracking);
@@ -32,8 +31,6 @@ FrmGpsDialog::FrmGpsDialog(MainWindow& main, QWidget* parent) : FormDialog(paren
     layout->addLayout(buttons.row);
     layout->setSizeConstraint(QLayout::SetFixedSize);
 
-    Bound().Bind(*port, main.frmGps.cboPort);
-    Bound().Bind(*baud, main.frmGps.cboBaud);
     Bound().Bind(*tracking, main.frmGps.chkTracking);
     Bound().Bind(*autoGps, main.frmGps.chkAutoGPS);
 }

@@ -13,20 +13,16 @@ namespace ruvenmark {
 FrmWxDialog::FrmWxDialog(MainWindow& main, QWidget* parent) : FormDialog(parent), m_main(main)
 {
     setWindowTitle(QStringLiteral("Connect Wx Station"));
-    QComboBox* port = MakePortBox(*this, main.services.wires.SerialPorts());
-    QComboBox* baud = MakeBaudBox(*this, kWxBauds);
+    QFormLayout* fields = MakeSerialRows(*this, Bound(),
+                                         {.ports = main.services.wires.SerialPorts(),
+                                          .bauds = kWxBauds,
+                                          .cboPort = main.frmWx.cboPort,
+                                          .cboBaud = main.frmWx.cboBaud});
     const DialogButtons buttons = MakeDialogButtons(*this, QStringLiteral("&Connect"));
-
-    auto* fields = new QFormLayout;
-    fields->addRow(QStringLiteral("&Port"), port);
-    fields->addRow(QStringLiteral("&Baud rate"), baud);
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(fields);
     layout->addLayout(buttons.row);
     layout->setSizeConstraint(QLayout::SetFixedSize);
-
-    Bound().Bind(*port, main.frmWx.cboPort);
-    Bound().Bind(*baud, main.frmWx.cboBaud);
 }
 
 void FrmWxDialog::accept()

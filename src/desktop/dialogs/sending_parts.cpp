@@ -1,7 +1,12 @@
 #include "desktop/dialogs/sending_parts.h"
 
+#include "core/number_rule.h"
+#include "desktop/dialogs/field_check.h"
+#include "desktop/dialogs/form_dialog.h"
 #include "desktop/named_control.h"
 #include "outgoing/road_boxes.h"
+#include "outgoing/symbol_lists.h"
+#include "platform/prompts.h"
 
 #include <QDialog>
 #include <QFormLayout>
@@ -9,6 +14,18 @@
 #include <QPushButton>
 
 namespace ruvenmark {
+
+namespace {
+
+QPushButton* MakeSideButton(QDialog& dialog, const char* name, const QString& text, const QString& told)
+{
+    auto* button = new QPushButton(text, &dialog);
+    NameControl(*button, name, told);
+    button->setAutoDefault(false);
+    return button;
+}
+
+} // namespace
 
 QLineEdit* AddEdit(QDialog& dialog, Binder& binder, QFormLayout& rows, const char* name, const QString& label,
                    std::string& field)
@@ -25,6 +42,29 @@ void AddCalls(QDialog& dialog, Binder& binder, QFormLayout& rows, CallBoxes& cal
     AddEdit(dialog, binder, rows, "txtFrom", QStringLiteral("&From"), calls.txtFrom);
     AddEdit(dialog, binder, rows, "txtTo", QStringLiteral("&To"), calls.txtTo);
     AddEdit(dialog, binder, rows, "txtVia", QStringLiteral("&Via"), calls.txtVia);
+}
+
+void AddSymbols(QDialog& dialog, Binder& binder, QFormLayout& rows, std::span<const SymbolChoice> symbols,
+                std::int32_t& choice)
+{
+    auto* list = new QComboBox(&dialog);
+    NameControl(*list, "cboSymbol", QStringLiteral("Symbol"));
+    for (const SymbolChoice& symbol : symbols)
+        list->addItem(ForDisplay(symbol.text));
+    binder.Bind(*list, choice);
+    rows.addRow(QStringLiteral("S&ymbol"), list);
+}
+
+void CheckWhenLeft(FormDialog& dialog, QLineEdit& edit, const DialogButtons& buttons, std::string& field,
+                   const NumberRule& rule, IPrompts& prompts)
+{
+    new FieldCheck(edit, *buttons.cancel, [&] {
+        if (const auto message = CheckNumber(field, rule)) {
+            dialog.Refresh();
+            prompts.Message(*message);
+        }
+        return true;
+    });
 }
 
 std::function<void()> AddRoads(QDialog& dialog, Binder& binder, QFormLayout& rows, RoadBoxes& roads,
@@ -50,6 +90,21 @@ std::function<void()> AddRoads(QDialog& dialog, Binder& binder, QFormLayout& row
     QObject::connect(tcp, &QCheckBox::toggled, &dialog, show);
     show();
     return show;
+}
+
+void AddFoot(QDialog& dialog, QFormLayout& rows, const DialogButtons& buttons, const std::function<void()>& pinPoint)
+{
+    QPushButton* place = MakeSideButton(dialog, "PinPoint", QStringLiteral("P&inPoint"),
+                                        QStringLiteral("Take latitude and longitude from a click on the map"));
+    QPushButton* minimize =
+        MakeSideButton(dialog, "Minimize", QStringLiteral("Minimi&ze"), QStringLiteral("Minimize this window"));
+    QObject::connect(place, &QPushButton::clicked, &dialog, pinPoint);
+    QObject::connect(minimize, &QPushButton::clicked, &dialog, &QWidget::showMinimized);
+    auto* foot = new QHBoxLayout;
+    foot->addWidget(place);
+    foot->addWidget(minimize);
+    foot->addLayout(buttons.row);
+    rows.addRow(foot);
 }
 
 } // namespace ruvenmark

@@ -3,14 +3,20 @@
 #include "desktop/dialogs/binder.h"
 #include "desktop/dialogs/dialog_buttons.h"
 
+#include <cstdint>
 #include <functional>
+#include <span>
 
 class QFormLayout;
 
 namespace ruvenmark {
 
+class FormDialog;
+class IPrompts;
 struct CallBoxes;
+struct NumberRule;
 struct RoadBoxes;
+struct SymbolChoice;
 
 // What the dialogs that send have in common.
 
@@ -19,8 +25,16 @@ QLineEdit* AddEdit(QDialog& dialog, Binder& binder, QFormLayout& rows, const cha
                    std::string& field);
 // txtFrom, txtTo and txtVia.
 void AddCalls(QDialog& dialog, Binder& binder, QFormLayout& rows, CallBoxes& calls);
+// cboSymbol.
+void AddSymbols(QDialog& dialog, Binder& binder, QFormLayout& rows, std::span<const SymbolChoice> symbols,
+                std::int32_t& choice);
+// Tells what is wrong with the number once its box is left, and shows what then stands there. All outlive the box.
+void CheckWhenLeft(FormDialog& dialog, QLineEdit& edit, const DialogButtons& buttons, std::string& field,
+                   const NumberRule& rule, IPrompts& prompts);
 // chkRF and chkTCP; "OK" works while a box counts. Gives what shows that anew.
 std::function<void()> AddRoads(QDialog& dialog, Binder& binder, QFormLayout& rows, RoadBoxes& roads,
                                const DialogButtons& buttons);
+// "PinPoint" and "Minimize" before the dialog's own buttons.
+void AddFoot(QDialog& dialog, QFormLayout& rows, const DialogButtons& buttons, const std::function<void()>& pinPoint);
 
 } // namespace ruvenmark

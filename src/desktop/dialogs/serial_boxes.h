@@ -5,14 +5,21 @@
 #include <string>
 #include <vector>
 
-class QComboBox;
-class QWidget;
+class QDialog;
+class QFormLayout;
 
 namespace ruvenmark {
 
-// cboPort: takes any name and offers those given.
-QComboBox* MakePortBox(QWidget& parent, const std::vector<std::string>& ports);
-// cboBaud: one of the rates.
-QComboBox* MakeBaudBox(QWidget& parent, std::span<const std::int32_t> bauds);
+class Binder;
+
+// What a serial port is chosen with.
+struct SerialFields {
+    std::vector<std::string> ports;
+    std::span<const std::int32_t> bauds;
+    std::string& cboPort;
+    std::int32_t& cboBaud;
+};
+// cboPort, which takes any name and offers the ports, and cboBaud.
+QFormLayout* MakeSerialRows(QDialog& dialog, Binder& binder, const SerialFields& fields);
 
 } // namespace ruvenmark
