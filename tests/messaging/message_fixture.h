@@ -2,43 +2,17 @@
 
 #include "messaging/message_form_rules.h"
 #include "messaging/send_message.h"
-#include "support/test_program.h"
+#include "support/noted_source.h"
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace ruvenmark {
 
 using Texts = std::vector<std::string>;
-
-// A link that writes down what it is told, and fails on demand.
-class NotedLink final : public IReportSource {
-public:
-    NotedLink(Texts& lines, const bool& bFail) : m_lines(lines), m_bFail(bFail) {}
-    void EnterCommandMode() override { Note("command mode"); }
-    void SendCommand(std::string_view line) override { Note(std::string(line)); }
-    void SendFrame(std::string_view source, std::string_view dest, std::string_view via, std::string_view info) override
-    {
-        Note("frame " + std::string(source) + '|' + std::string(dest) + '|' + std::string(via) + '|' +
-             std::string(info));
-    }
-    void SendServerLine(std::string_view line) override { Note("server " + std::string(line)); }
-
-private:
-    void Note(std::string line)
-    {
-        if (m_bFail)
-            throw Failure("lost");
-        m_lines.push_back(std::move(line));
-    }
-    Texts& m_lines;
-    const bool& m_bFail;
-};
 
 // A row as "a|b|c|date|text|number", bold ones with "*" behind.
 inline Texts RowsOf(const RowList& list)
@@ -53,26 +27,13 @@ inline Texts RowsOf(const RowList& list)
     return rows;
 }
 
-// A started program of N0CALL with links of the test's making, all closed.
-class MessageTest : public testing::Test {
+class MessageTest : public NotedLinks {
 protected:
     MessageTest()
     {
-        main.links.aprs = std::make_unique<NotedLink>(sent, bRfFails);
-        main.links.aprstcp = std::make_unique<NotedLink>(sent, bServerFails);
-        for (const auto& [setting, text] :
-             {std::pair(Setting::Call, "N0CALL"), std::pair(Setting::Dest, "APRS"), std::pair(Setting::Path, "WIDE1-1"),
-              std::pair(Setting::MatchSSID, "False"), std::pair(Setting::All, "0")})
-            Set(setting, text);
+        Set(Setting::MatchSSID, "False");
+        Set(Setting::All, "0");
     }
-    void Set(Setting setting, std::string_view text) { SetSetting(main.Settings, setting, text); }
-    void Open(bool bTnc, bool bAgw, bool bServer)
-    {
-        main.links.bSerialConnected = bTnc;
-        main.links.bSocketConnected = bAgw;
-        main.links.bServerConnected = bServer;
-    }
-    Texts Take() { return std::exchange(sent, {}); }
 
     // The operator fills the dialog, ticks both boxes and presses "Send"; what keeps it open is given back.
     std::string SendByDialog(std::string_view to, std::string_view text, std::int32_t type = 0)
@@ -104,11 +65,6 @@ protected:
     }
     const RowList& Inbox() const { return main.messages.lvMessageList; }
     const RowList& SentList() const { return main.messages.lvSentList; }
-
-    TestProgram program;
-    MainWindow& main = program.main;
-    bool bRfFails = false, bServerFails = false;
-    Texts sent;
 };
 
 } // namespace ruvenmark

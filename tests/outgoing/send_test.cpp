@@ -6,11 +6,10 @@
 #include "outgoing/status_report.h"
 #include "outgoing/weather_report.h"
 #include "outgoing/weather_report_form_rules.h"
-#include "support/test_program.h"
+#include "support/noted_source.h"
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -19,53 +18,14 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// A link that writes down what it is told, and fails on demand.
-class NotedSource final : public IReportSource {
-public:
-    NotedSource(Lines& lines, const bool& bFail) : m_lines(lines), m_bFail(bFail) {}
-    void EnterCommandMode() override { Note("command mode"); }
-    void SendCommand(std::string_view line) override { Note(std::string(line)); }
-    void SendFrame(std::string_view source, std::string_view dest, std::string_view via, std::string_view info) override
-    {
-        Note("frame " + std::string(source) + '|' + std::string(dest) + '|' + std::string(via) + '|' +
-             std::string(info));
-    }
-    void SendServerLine(std::string_view line) override { Note("server " + std::string(line)); }
-
-private:
-    void Note(std::string line)
-    {
-        if (m_bFail)
-            throw Failure("lost");
-        m_lines.push_back(std::move(line));
-    }
-    Lines& m_lines;
-    const bool& m_bFail;
-};
-
-class Sending : public testing::Test {
+class Sending : public NotedLinks {
 protected:
     Sending()
     {
-        program.main.links.aprs = std::make_unique<NotedSource>(sent, bRfFails);
-        program.main.links.aprstcp = std::make_unique<NotedSource>(sent, bServerFails);
-        for (const auto& [setting, text] :
-             {std::pair(Setting::Call, "N0CALL"), std::pair(Setting::Dest, "APRS"), std::pair(Setting::Path, "WIDE1-1"),
-              std::pair(Setting::Lat, "37.5"), std::pair(Setting::Lon, "-122.25"), std::pair(Setting::Symbol, "9")})
-            Set(setting, text);
+        Set(Setting::Lat, "37.5");
+        Set(Setting::Lon, "-122.25");
+        Set(Setting::Symbol, "9");
     }
-    void Set(Setting setting, std::string_view text) { SetSetting(program.main.Settings, setting, text); }
-    void Open(bool bTnc, bool bAgw, bool bServer)
-    {
-        program.main.links.bSerialConnected = bTnc;
-        program.main.links.bSocketConnected = bAgw;
-        program.main.links.bServerConnected = bServer;
-    }
-    Lines Take() { return std::exchange(sent, {}); }
-
-    TestProgram program;
-    bool bRfFails = false, bServerFails = false;
-    Lines sent;
 };
 
 constexpr const char* kText = "!3730.00N/12215.00W>";
@@ -73,21 +33,21 @@ constexpr const char* kText = "!3730.00N/12215.00W>";
 TEST_F(Sending, TheRoadsInTheirOrder)
 {
     Open(true, true, true);
-    SendPositionReport(program.main, true);
+    SendPositionReport(main, true);
     EXPECT_EQ(Take(), (Lines{"command mode", "MYCALL N0CALL", "UNPROTO APRS VIA WIDE1-1", "CONV", kText,
                              std::string("frame N0CALL|APRS|WIDE1-1|") + kText,
                              std::string("server N0CALL>APRS,TCPIP*:") + kText}));
-    EXPECT_EQ(program.main.sbStatusBar.Sent(), "Sent over TNC, AGW, server at 20:15:03");
+    EXPECT_EQ(main.sbStatusBar.Sent(), "Sent over TNC, AGW, server at 20:15:03");
     Set(Setting::Path, "");
     Set(Setting::Tactical, "BASE");
     Set(Setting::BeaconTactical, "True");
     Open(true, false, true);
-    SendPositionReport(program.main, true);
+    SendPositionReport(main, true);
     EXPECT_EQ(Take()[2], "UNPROTO APRS");
-    SendPositionReport(program.main, false);
+    SendPositionReport(main, false);
     EXPECT_EQ(Take(), Lines{std::string("server BASE>APRS,TCPIP*:") + kText});
     Open(false, false, false);
-    SendPositionReport(program.main, true);
+    SendPositionReport(main, true);
     EXPECT_EQ(Take(), Lines{});
 }
 
@@ -95,8 +55,8 @@ TEST_F(Sending, TheRoadsInTheirOrder)
 TEST_F(Sending, TheFirstOneIsAnnounced)
 {
     Open(false, true, true);
-    SendPositionReport(program.main, false);
-    SendPositionReport(program.main, false);
+    SendPositionReport(main, false);
+    SendPositionReport(main, false);
     EXPECT_EQ(program.notices.lines, Lines{"Reports go out over AGW, server"});
 }
 
@@ -104,27 +64,27 @@ TEST_F(Sending, AFailureSkipsTheLaterRoads)
 {
     Open(true, false, true);
     bRfFails = true;
-    SendPositionReport(program.main, true);
+    SendPositionReport(main, true);
     EXPECT_EQ(Take(), Lines{});
     EXPECT_TRUE(program.prompts.messages.empty());
-    program.dialogs.onRun[Form::frmStatus] = [](MainWindow& main) {
+    program.dialogs.onRun[Form::frmStatus] = [&](MainWindow& /*of*/) {
         main.frmStatus.roads.chkRF = main.frmStatus.roads.chkTCP = true;
         main.frmStatus.txtStatus = "here";
         EXPECT_EQ(frmStatus_Accept(main), "");
     };
-    mnuSendStatus_Click(program.main);
+    mnuSendStatus_Click(main);
     EXPECT_EQ(program.prompts.messages, Lines{"Status report not sent correctly, check TNC connection!"});
     bRfFails = false;
     bServerFails = true;
-    mnuSendStatus_Click(program.main);
-    EXPECT_EQ(program.main.sbStatusBar.Sent(), "Sent over TNC at 20:15:03"); // What did go out is told.
+    mnuSendStatus_Click(main);
+    EXPECT_EQ(main.sbStatusBar.Sent(), "Sent over TNC at 20:15:03"); // What did go out is told.
 }
 
 TEST_F(Sending, NobodySendsWithoutACall)
 {
     Open(false, false, true);
     Set(Setting::Call, "");
-    SendPositionReport(program.main, true);
+    SendPositionReport(main, true);
     EXPECT_EQ(Take(), Lines{});
 }
 
@@ -135,13 +95,13 @@ TEST_F(Sending, MotionTakesThePlaceOfTheAntennaWhileTheFixIsValid)
     Set(Setting::Height, "40");
     Set(Setting::Speed, "11.5");
     Set(Setting::Course, "90");
-    SendPositionReport(program.main, false);
+    SendPositionReport(main, false);
     EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText});
     Set(Setting::Power, "-1");
-    SendPositionReport(program.main, false);
+    SendPositionReport(main, false);
     EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText});
-    program.main.gps.bValidFix = true;
-    SendPositionReport(program.main, false);
+    main.gps.bValidFix = true;
+    SendPositionReport(main, false);
     EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText + "090/010"});
 }
 
@@ -153,10 +113,10 @@ TEST_F(Sending, WeatherOfTheSettingsAndOfTheDialog)
     Set(Setting::Gust, "5");
     Set(Setting::Temperature, "-10");
     Set(Setting::Humidity, "100");
-    SendWeatherReport(program.main);
+    SendWeatherReport(main);
     EXPECT_EQ(Take(), Lines{"server N0CALL>APRS,TCPIP*:_11230115c220s004g005t-10r000p000P000h00b00000"});
     Lines refused;
-    program.dialogs.onRun[Form::frmWeather] = [&](MainWindow& main) {
+    program.dialogs.onRun[Form::frmWeather] = [&](MainWindow& /*of*/) {
         auto& boxes = main.frmWeather.boxes;
         main.frmWeather.roads.chkTCP = true;
         refused.emplace_back(frmWeather_Accept(main));
@@ -170,33 +130,32 @@ TEST_F(Sending, WeatherOfTheSettingsAndOfTheDialog)
         main.frmWeather.calls.txtFrom = "n1call";
         refused.emplace_back(frmWeather_Accept(main));
     };
-    mnuSendWeather_Click(program.main);
+    mnuSendWeather_Click(main);
     EXPECT_EQ(refused, (Lines{"Wind direction, speed, gust and temperature are required!",
                               "Enter an interger between 0 and 360 for wind direction!",
                               "Enter an interger between 0 and 99 for humidity!", ""}));
     EXPECT_EQ(Take(), Lines{"server N1CALL>APRS,TCPIP*:_11230115c360s007g007t007r000p000P000h00b00000"});
     program.dialogs.onRun.clear(); // The window is closed.
-    mnuSendWeather_Click(program.main);
+    mnuSendWeather_Click(main);
     EXPECT_EQ(Take(), Lines{});
 }
 
 TEST_F(Sending, TheStatusDialogsLimits)
 {
-    StatusForm& form = program.main.frmStatus;
-    frmStatus_Load(program.main);
+    StatusForm& form = main.frmStatus;
+    frmStatus_Load(main);
     EXPECT_EQ(form.calls.txtFrom, "N0CALL");
-    EXPECT_EQ(frmStatus_Accept(program.main), "Status field can not be empty!");
+    EXPECT_EQ(frmStatus_Accept(main), "Status field can not be empty!");
     form.txtStatus.assign(63, 'x');
-    EXPECT_EQ(frmStatus_Accept(program.main), "Status text can not have more than 62 characters!");
+    EXPECT_EQ(frmStatus_Accept(main), "Status text can not have more than 62 characters!");
     form.calls.txtTo = "";
-    EXPECT_EQ(frmStatus_Accept(program.main), "You must enter call sign and unproto!");
+    EXPECT_EQ(frmStatus_Accept(main), "You must enter call sign and unproto!");
     EXPECT_TRUE(form.bCancelled);
 }
 
 TEST_F(Sending, ThePositionDialogKeepsSendsAndRefuses)
 {
     Open(false, true, false);
-    MainWindow& main = program.main;
     mnuSendPosition_Click(main);
     PositionForm& form = main.frmPosition;
     EXPECT_FALSE(form.roads.CanSend());
@@ -231,7 +190,6 @@ TEST_F(Sending, ThePositionDialogKeepsSendsAndRefuses)
 TEST_F(Sending, TheObjectDialogRefusesInItsOrder)
 {
     Open(false, false, true);
-    MainWindow& main = program.main;
     mnuSendObject_Click(main);
     ObjectForm& form = main.frmObject;
     form.roads.chkTCP = true;
@@ -258,7 +216,6 @@ TEST_F(Sending, TheObjectDialogRefusesInItsOrder)
 // The counts stand still with nothing open and outlast a change of the interval.
 TEST_F(Sending, BeaconsCountTheirTicks)
 {
-    MainWindow& main = program.main;
     Set(Setting::PositionInt, "3");
     AddMyStationNode(main);
     intervalTimer_Timer(main);
@@ -290,10 +247,10 @@ TEST_F(Sending, ABeaconWithTooLongACommentIsTold)
     Open(false, false, true);
     Set(Setting::PositionInt, "1");
     Set(Setting::Comment, std::string(44, 'x'));
-    AddMyStationNode(program.main);
-    intervalTimer_Timer(program.main);
-    program.main.beacons.bTailBoxOpen = true; // It still stands.
-    intervalTimer_Timer(program.main);
+    AddMyStationNode(main);
+    intervalTimer_Timer(main);
+    main.beacons.bTailBoxOpen = true; // It still stands.
+    intervalTimer_Timer(main);
     EXPECT_EQ(program.prompts.messages, Lines{"Comment can not be longer than 43 characters!"});
     EXPECT_EQ(program.notices.lines, Lines{"The position is not reported: its comment is too long"});
     EXPECT_EQ(Take(), Lines{});

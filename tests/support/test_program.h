@@ -1,16 +1,11 @@
 #pragma once
 
 #include "core/main_window.h"
-#include "devices/gps_server.h"
-#include "devices/report_sources.h"
-#include "devices/weather_server.h"
 #include "intake/station_store.h"
 #include "lifecycle/start.h"
 #include "lifecycle/stop.h"
-#include "support/doubles.h"
-#include "support/fake_byte_links.h"
-#include "support/recording_desktop.h"
 #include "support/recording_store.h"
+#include "support/test_machine.h"
 
 #include <memory>
 #include <optional>
@@ -21,41 +16,13 @@
 namespace ruvenmark {
 
 // The whole program with a machine and an operator of the test's making. Set up settings and files before Start.
-class TestProgram {
+class TestProgram : public TestMachine<RecordingStore, ScriptedYield> {
 public:
-    RecordingStore store;
-    MemoryFiles files;
-    FakeClock clock;
-    RecordingSound sound;
-    RecordingSleep sleep;
-    ScriptedYield yield;
-    RecordingPrompts prompts;
-    RecordingNotices notices;
     RecordingDialogs dialogs;
-    RecordingDesktop desktop;
-    FakeByteLinks wires;
-    ReportSources sources{wires};
-    GpsServers gpsServers{wires};
-    WeatherServers weatherServers{wires};
-    MainWindow main{Services{.store = store,
-                             .files = files,
-                             .clock = clock,
-                             .sound = sound,
-                             .sleep = sleep,
-                             .yield = yield,
-                             .prompts = prompts,
-                             .notices = notices,
-                             .dialogs = dialogs,
-                             .desktop = desktop,
-                             .wires = wires,
-                             .sources = sources,
-                             .gpsServers = gpsServers,
-                             .weatherServers = weatherServers,
-                             .programFolder = "/program"}};
+    MainWindow main{Lend(dialogs)};
 
     explicit TestProgram(bool bStart = true)
     {
-        store.Set("Region", "1");
         if (bStart)
             StartMainWindow(main);
     }

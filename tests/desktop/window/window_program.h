@@ -5,16 +5,11 @@
 #include "desktop/adapters/qt_yield.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/main_window_view.h"
-#include "devices/gps_server.h"
-#include "devices/report_sources.h"
-#include "devices/weather_server.h"
 #include "intake/station_store.h"
 #include "lifecycle/start.h"
 #include "lifecycle/stop.h"
 #include "platform/settings_store.h"
-#include "support/doubles.h"
-#include "support/fake_byte_links.h"
-#include "support/recording_desktop.h"
+#include "support/test_machine.h"
 
 #include <QAction>
 #include <QApplication>
@@ -30,43 +25,16 @@
 namespace ruvenmark {
 
 // The whole program in its window, with the machine and the boxes of the test's making.
-struct WindowProgram {
-    MemorySettingsStore store;
-    MemoryFiles files;
-    FakeClock clock;
-    RecordingSound sound;
-    RecordingSleep sleep;
-    QtYield yield;
-    RecordingPrompts prompts;
-    RecordingNotices notices;
+template <class Wires>
+struct WindowProgramOver : TestMachine<MemorySettingsStore, QtYield, Wires> {
     IconSet icons;
     FakePlaces places;
     QtDialogs dialogs{icons, places};
-    RecordingDesktop desktop;
-    FakeByteLinks wires;
-    ReportSources sources{wires};
-    GpsServers gpsServers{wires};
-    WeatherServers weatherServers{wires};
-    MainWindow main{Services{.store = store,
-                             .files = files,
-                             .clock = clock,
-                             .sound = sound,
-                             .sleep = sleep,
-                             .yield = yield,
-                             .prompts = prompts,
-                             .notices = notices,
-                             .dialogs = dialogs,
-                             .desktop = desktop,
-                             .wires = wires,
-                             .sources = sources,
-                             .gpsServers = gpsServers,
-                             .weatherServers = weatherServers,
-                             .programFolder = "/program"}};
+    MainWindow main{this->Lend(dialogs)};
     MainWindowView window{main, icons, nullptr};
 
-    explicit WindowProgram(bool bStart = true)
+    explicit WindowProgramOver(bool bStart = true)
     {
-        store.Set("Region", "1");
         dialogs.SetWindow(&window);
         if (bStart)
             Start();
@@ -97,6 +65,8 @@ struct WindowProgram {
         return *widget;
     }
 };
+
+using WindowProgram = WindowProgramOver<FakeByteLinks>;
 
 // Once a modal window has come up, does the work with it. The work must close it.
 inline void WhenModal(const std::function<void(QDialog&)>& work)
