@@ -15,6 +15,7 @@
 #include "desktop/data_path.h"
 #include "desktop/icons/icon_set.h"
 #include "desktop/main_window_view.h"
+#include "desktop/paint_only.h"
 #include "desktop/screenshot.h"
 #include "desktop/termination.h"
 #include "desktop/theme.h"
@@ -32,7 +33,6 @@
 #include "ui/opened_file.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTimer>
 
@@ -63,26 +63,6 @@ std::optional<BaseMap> OpenBaseMap()
         return std::nullopt;
     }
 }
-
-// While a connect holds everything up: the window is painted, whole now and then as what the window system asks for
-// waits too, and nothing else happens.
-class PaintOnly {
-public:
-    explicit PaintOnly(QWidget& window) : m_window(window) {}
-    void operator()()
-    {
-        constexpr int kWholeMilliseconds = 500;
-        if (!m_sinceWhole.isValid() || m_sinceWhole.hasExpired(kWholeMilliseconds)) {
-            m_window.update();
-            m_sinceWhole.start();
-        }
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
-    }
-
-private:
-    QWidget& m_window;
-    QElapsedTimer m_sinceWhole;
-};
 
 // Everything that lives from start to stop, in the order in which it is made.
 struct DesktopRun {

@@ -1,16 +1,12 @@
 #include "platform/failure.h"
 #include "ports/noting_sink.h"
 #include "ports/qt_byte_links.h"
+#include "support/black_hole.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>
 
 #include <gtest/gtest.h>
-
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
-#include <vector>
 
 namespace ruvenmark {
 namespace {
@@ -135,40 +131,22 @@ TEST_F(Sockets, NameTheCauseOfARefusal)
     EXPECT_EQ(sink.opened, 0);
 }
 
-// A listener whose queue is full lets connects hang, as an address does that swallows everything.
 TEST_F(Sockets, GiveUpAtTheLimitAndOnlyPaintMeanwhile)
 {
-    const int listener = socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    auto* plain = reinterpret_cast<sockaddr*>(&address);
-    socklen_t size = sizeof address;
-    ASSERT_EQ(bind(listener, plain, size), 0);
-    ASSERT_EQ(listen(listener, 0), 0);
-    ASSERT_EQ(getsockname(listener, plain, &size), 0);
-    std::vector<int> queued;
-    for (int i = 0; i < 4; ++i) {
-        queued.push_back(socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK, 0));
-        (void)connect(queued.back(), plain, size);
-    }
-
+    const BlackHole swallowing;
     int painted = 0, timers = 0;
     QTimer logic;
     QObject::connect(&logic, &QTimer::timeout, &logic, [&] { ++timers; });
     logic.start(1);
     QtByteLinks painting([&] { ++painted; });
     try {
-        painting.ConnectSocket(kHost, ntohs(address.sin_port), 1s, sink);
+        painting.ConnectSocket(kHost, swallowing.Port(), 1s, sink);
         ADD_FAILURE() << "connected";
     } catch (const Failure& failure) {
         EXPECT_NE(std::string(failure.what()).find("timed out"), std::string::npos);
     }
     EXPECT_GT(painted, 2);
     EXPECT_EQ(timers, 0);
-    for (const int number : queued)
-        close(number);
-    close(listener);
 }
 
 // An other end that stands still must not eat the memory.

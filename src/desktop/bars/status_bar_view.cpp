@@ -90,9 +90,11 @@ void StatusBarView::OnChanged()
     ShowPointer(m_model.IsWaitPointer());
     if (!m_refreshTimer.isActive())
         m_refreshTimer.start();
-    // A walk under the wait pointer lets no events in: the bar must paint itself.
-    if (!m_model.IsWaitPointer() || !m_model.IsProgressVisible() || !isVisible())
+    // What holds everything up under the wait pointer lets no timer in: the bar must tell of it at once.
+    if (!m_model.IsWaitPointer() || !isVisible())
         return;
+    if (!m_model.IsProgressVisible())
+        return Refresh(); // A connect, for which the window is painted.
     if (m_sinceRepaint.isValid() && m_sinceRepaint.elapsed() < kIntervalMs)
         return;
     Refresh();
