@@ -12,31 +12,18 @@
 namespace ruvenmark {
 namespace {
 
-class LinkProgram : public testing::Test {
+class LinkProgram : public testing::Test, protected StationProgram {
 protected:
     void SetUp() override
     {
         Listen(server);
         ASSERT_TRUE(folder.isValid());
     }
-    void TearDown() override
-    {
-        program.kill();
-        program.waitForFinished();
-    }
 
-    void Start(const QStringList& more)
+    void StartWith(const QString& links, const QStringList& more) { Start("W1AW-7", links, more); }
+    void StartAtServer(const QStringList& more)
     {
         StartWith(QStringLiteral("server=127.0.0.1:%1").arg(server.serverPort()), more);
-    }
-    void StartWith(const QString& links, const QStringList& more)
-    {
-        const QStringList always = {"--headless", "--settings",  folder.filePath("settings.ini"),
-                                    "--folder",   folder.path(), "--region",
-                                    "2",          "--set",       "Call=W1AW-7",
-                                    "--connect",  links};
-        program.start(QStringLiteral(RUVENMARK_PROGRAM), always + more);
-        ASSERT_TRUE(program.waitForStarted());
     }
     // The next connection, once its login line has come.
     QTcpSocket* Login(QTcpServer& at)
@@ -50,25 +37,6 @@ protected:
             return nullptr;
         EXPECT_TRUE(line.startsWith("user W1AW-7 pass 25988 vers Ruvenmark ")) << line.toStdString();
         return peer;
-    }
-    bool Prints(const QByteArray& text)
-    {
-        return RunUntil([&] { return (out += program.readAllStandardOutput()).contains(text); });
-    }
-    bool Says(const QByteArray& text)
-    {
-        return RunUntil([&] { return (err += program.readAllStandardError()).contains(text); });
-    }
-    // The status; what is printed meanwhile is kept.
-    int End()
-    {
-        ::kill(static_cast<pid_t>(program.processId()), SIGTERM);
-        RunUntil([&] {
-            out += program.readAllStandardOutput();
-            return program.state() == QProcess::NotRunning;
-        });
-        out += program.readAllStandardOutput();
-        return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
     }
     // Of the program up to now, in seconds.
     double ProcessorTime() const
@@ -88,16 +56,13 @@ protected:
         file.write("n0call:1\r\nw1aw:25988\r\n");
     }
 
-    QTemporaryDir folder;
     QTcpServer server;
-    QProcess program;
-    QByteArray out, err;
 };
 
 TEST_F(LinkProgram, LogsInHearsPrintsAndEndsOnASignal)
 {
     WritePassword();
-    Start({"--follow", "--print", "tree"});
+    StartAtServer({"--follow", "--print", "tree"});
     QTcpSocket* peer = Login(server);
     ASSERT_NE(peer, nullptr);
     peer->write("# logresp W1AW-7 verified, server T2TEST\r\nN0CALL>APRS,TCPIP*:!4903.5");
@@ -107,13 +72,13 @@ TEST_F(LinkProgram, LogsInHearsPrintsAndEndsOnASignal)
     ASSERT_TRUE(Prints("N2CALL>APRS:>ab\nN1CALL>APRS:>busy\n")) << out.toStdString();
     EXPECT_EQ(End(), 0);
     EXPECT_TRUE(out.contains("TCP reports (3)\n")) << out.toStdString();
-    EXPECT_FALSE((out + err + program.readAllStandardError()).contains("25988")); // The password is nobody's to read.
+    EXPECT_FALSE((out + err).contains("25988")); // The password is nobody's to read.
 }
 
 TEST_F(LinkProgram, LosesNothingOfAFloodNorMemoryToALineWithoutAnEnd)
 {
     WritePassword();
-    Start({"--print", "counts"});
+    StartAtServer({});
     QTcpSocket* peer = Login(server);
     ASSERT_NE(peer, nullptr);
     constexpr int kLines = 50'000;
@@ -135,8 +100,8 @@ TEST_F(LinkProgram, TriesThreeTimesAndGoesToTheBackupServerOnTheFourthLoss)
     WritePassword();
     QTcpServer backup;
     Listen(backup);
-    Start({"--set", "ReconnectServer=True", "--set", "ReconnectAttempt=3", "--set", "BackupServer=127.0.0.1", "--set",
-           QStringLiteral("BackupPort=%1").arg(backup.serverPort())});
+    StartAtServer({"--set", "ReconnectServer=True", "--set", "ReconnectAttempt=3", "--set", "BackupServer=127.0.0.1",
+                   "--set", QStringLiteral("BackupPort=%1").arg(backup.serverPort())});
     for (const char* mark : {" [1]", " [2]", " [3]", " [B]"}) {
         QTcpSocket* peer = Login(server);
         ASSERT_NE(peer, nullptr);
@@ -172,7 +137,6 @@ TEST_F(LinkProgram, APortThatHangsUpIsToldOnceAndCostsNothing)
     RunUntil([&] { return passed.hasExpired(2000); });
     EXPECT_LT(ProcessorTime() - before, static_cast<double>(passed.elapsed()) / 1000 / 10);
     EXPECT_EQ(End(), 0);
-    err += program.readAllStandardError();
     EXPECT_EQ(err.count("TNC connection unexpectedly closed"), 1) << err.toStdString();
     EXPECT_EQ(err.count("GPS connection error"), 1) << err.toStdString();
 }
@@ -226,12 +190,8 @@ TEST_F(LinkProgram, HearsAPacketByDirewolf)
 TEST_F(LinkProgram, TellsWhyNothingCouldBeConnected)
 {
     server.close();
-    program.start(QStringLiteral(RUVENMARK_PROGRAM),
-                  {"--headless", "--settings", folder.filePath("settings.ini"), "--folder", folder.path(), "--region",
-                   "2", "--connect", "server=127.0.0.1:1,tnc=/dev/no-such-port:9600", "--for", "1"});
-    ASSERT_TRUE(RunUntil([&] { return program.state() == QProcess::NotRunning; }));
-    EXPECT_EQ(program.exitCode(), 1);
-    err = program.readAllStandardError();
+    StartWith("server=127.0.0.1:1,tnc=/dev/no-such-port:9600", {"--for", "1"});
+    EXPECT_EQ(Status(), 1);
     EXPECT_TRUE(err.contains("refused")) << err.toStdString();
     EXPECT_TRUE(err.contains("/dev/no-such-port")) << err.toStdString();
 }

@@ -1,12 +1,11 @@
 // Reports that the command line asks for, over real wires: what went out, what is said of it, and the status.
 
 #include "hubs.h"
+#include "support/pseudo_terminal.h"
 
 #include <QSocketNotifier>
 
-#include <array>
 #include <fcntl.h>
-#include <stdlib.h>
 #include <unistd.h>
 
 namespace ruvenmark {
@@ -70,44 +69,32 @@ TEST(SendOption, WhatGoesNowhereMakesTheStatusOne)
 // A TNC at the other end of a pseudo terminal that answers each line.
 class TncAtAPort {
 public:
-    explicit TncAtAPort(QByteArray answer)
-        : m_answer(std::move(answer)), m_master(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK))
+    explicit TncAtAPort(QByteArray answer) : m_answer(std::move(answer))
     {
-        if (grantpt(m_master) != 0 || unlockpt(m_master) != 0)
-            ADD_FAILURE() << "no pseudo terminal";
-        m_held = ::open(ptsname(m_master), O_RDWR | O_NOCTTY); // Nothing is lost between two who open it.
-        m_notifier = std::make_unique<QSocketNotifier>(m_master, QSocketNotifier::Read);
-        QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { Read(); });
+        QObject::connect(&m_notifier, &QSocketNotifier::activated, [this] { Read(); });
     }
     TncAtAPort(const TncAtAPort&) = delete;
     TncAtAPort& operator=(const TncAtAPort&) = delete;
-    ~TncAtAPort()
-    {
-        m_notifier.reset();
-        ::close(m_held);
-        ::close(m_master);
-    }
-    QString Link() const { return QStringLiteral("tnc=%1:9600").arg(ptsname(m_master)); }
+    ~TncAtAPort() { ::close(m_held); }
+    QString Link() const { return QStringLiteral("tnc=%1:9600").arg(QString::fromStdString(m_terminal.Name())); }
 
     QByteArray typed;
 
 private:
     void Read()
     {
-        std::array<char, 256> bytes{};
-        const ssize_t count = ::read(m_master, bytes.data(), bytes.size());
-        for (ssize_t i = 0; i < count; ++i) {
-            typed += bytes[static_cast<std::size_t>(i)];
-            if (typed.endsWith('\x03') || typed.endsWith('\r')) {
-                const QByteArray said = typed.endsWith('\x03') ? QByteArray("\r\ncmd:") : m_answer;
-                EXPECT_EQ(::write(m_master, said.data(), static_cast<std::size_t>(said.size())), said.size());
-            }
+        const QByteArray all = QByteArray::fromStdString(m_terminal.Heard());
+        for (const char c : all.mid(typed.size())) {
+            typed += c;
+            if (c == '\x03' || c == '\r')
+                m_terminal.Say(c == '\x03' ? "\r\ncmd:" : m_answer.toStdString());
         }
     }
 
     QByteArray m_answer;
-    int m_master, m_held = -1;
-    std::unique_ptr<QSocketNotifier> m_notifier;
+    PseudoTerminal m_terminal;
+    int m_held = ::open(m_terminal.Name().c_str(), O_RDWR | O_NOCTTY); // Nothing is lost between two who open it.
+    QSocketNotifier m_notifier{m_terminal.Number(), QSocketNotifier::Read};
 };
 
 TEST(SendOption, WaitsForTheTncsPrompt)

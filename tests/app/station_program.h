@@ -56,6 +56,10 @@ public:
         program.start(QStringLiteral(RUVENMARK_PROGRAM), always + more);
         ASSERT_TRUE(program.waitForStarted());
     }
+    bool Prints(const QByteArray& text)
+    {
+        return RunUntil([&] { return (out += program.readAllStandardOutput()).contains(text); });
+    }
     bool Says(const QByteArray& text)
     {
         return RunUntil([&] { return (err += program.readAllStandardError()).contains(text); });
@@ -63,7 +67,11 @@ public:
     // The status, once it has ended.
     int Status()
     {
-        RunUntil([&] { return program.state() == QProcess::NotRunning; });
+        RunUntil([&] {
+            out += program.readAllStandardOutput();
+            return program.state() == QProcess::NotRunning;
+        });
+        out += program.readAllStandardOutput();
         err += program.readAllStandardError();
         return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
     }
@@ -80,7 +88,7 @@ public:
 
     QTemporaryDir folder;
     QProcess program;
-    QByteArray err; // So far.
+    QByteArray out, err; // So far.
 };
 
 } // namespace ruvenmark

@@ -91,6 +91,12 @@ TEST(AgwFrames, ReadsHeadersAsEnginesWriteThem)
     EXPECT_EQ(frame->to, "0123456789");
     EXPECT_EQ(frame->data, "xy");
     EXPECT_FALSE(reader.Next());
+    for (const bool bTooMuch : {false, true}) { // 8192 bytes, and one more.
+        AgwReader next;
+        next.Take(bytes.replace(28, 2, bTooMuch ? "\x01\x20"s : "\0\x20"s));
+        EXPECT_FALSE(next.Next());
+        EXPECT_EQ(next.IsBroken(), bTooMuch);
+    }
 }
 
 TEST_F(Agw, SendsWholeFramesOnTheFirstPort)
@@ -148,9 +154,9 @@ TEST_F(Agw, AnAbsurdLengthEndsTheLinkBehindWhatCameWhole)
 TEST_F(Agw, ASilentEngineIsALostOne)
 {
     source->ConnectSocket("engine", 8000, kAccessToken);
-    links.Tick(14s);
+    links.Tick(14750ms);
     EXPECT_THAT(recorded.events, IsEmpty());
-    links.Tick(2s);
+    links.Tick(250ms);
     EXPECT_THAT(recorded.events, ElementsAre("SocketConnectionError"));
 
     source = std::make_unique<AgwSource>(links, recorded.sink, counts);

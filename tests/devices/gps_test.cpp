@@ -91,6 +91,8 @@ TEST_F(Gps, PutsSentencesOfOneTimeTogether)
 
 TEST_F(Gps, TakesWhatReceiversSend)
 {
+    EXPECT_THAT(FixesOf(Rmc("123519") + WithSum("GPGLL,4807.038,N,01131.000,E,123519,A")),
+                ElementsAre("48.1173 11.516667 alt -999 course 84 speed 22"));
     constexpr std::string_view kNoCourse = "48.1173 11.516667 alt 1789 course -999 speed -999";
     constexpr std::string_view kPlace = "48.1173 11.516667 alt -999 course -999 speed -999";
     EXPECT_THAT(FixesOf(Gga("1") + Gga("2") + Gga("3")), ElementsAre(kNoCourse, kNoCourse, kNoCourse));
@@ -129,8 +131,9 @@ TEST_F(Gps, TellsSilenceOnceWhateverElseIsSent)
     Open();
     links.Tick(9750ms);
     EXPECT_THAT(recorded.events, IsEmpty());
-    links.Tick(20s);
+    links.Tick(250ms);
     EXPECT_THAT(recorded.events, ElementsAre("lost"));
+    links.Tick(20s);
     for (int second = 0; second < 30; ++second) {
         links.Say(Rmc(std::to_string(second)));
         links.Tick(1s);

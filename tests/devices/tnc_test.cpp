@@ -41,7 +41,7 @@ const std::vector<HeardForm> kHeardForms{
 constexpr std::string_view kChatter =
     "\r\n\r\nTAPR TNC 2\r\nAX.25 Level 2 Version 2.0\r\nChecksum $3C\r\n\x07"
     "cmd:MYCALL   was NOCALL\r\n*** CONNECTED to W1AW\r\nW1AW>N0CALL <I C S0 R0>:hi\r\n"
-    ">:,*\r\nTOOLONGCALL>APRS:no\r\nA>B no packet\r\ncmd:";
+    ">:,*\r\nTOOLONGCAL>APRS:no\r\nA>B no packet\r\ncmd:";
 
 struct Tnc : testing::Test {
     FakeByteLinks links;
@@ -153,12 +153,41 @@ TEST_F(Tnc, GivesUpARunWhosePromptDoesNotComeAndSaysSoAtTheNext)
     links.Tick(750ms);
     links.Say("cmd:");
     EXPECT_EQ(links.Written(), ">two\r\x03MYCALL W1AW\r");
-    links.Tick(6s); // Silent in the middle.
+    links.Tick(4750ms); // Silent in the middle.
+    EXPECT_EQ(fates.size(), 2U);
+    links.Tick(250ms);
     EXPECT_THAT(fates, ElementsAre("given up >one", "typed >two", "given up >three"));
     EXPECT_THROW(source->SendCommand("CONV"), Failure);
     links.Say("cmd:");
     links.Tick(1s);
     EXPECT_EQ(links.Written(), "");
+}
+
+TEST_F(Tnc, GivesUpOneThatIsBusyForAMinute)
+{
+    OpenToPrompt();
+    Send({"MYCALL W1AW", "CONV", ">Hi"});
+    links.Say("cmd:");
+    for (int i = 0; i < 14; ++i) {
+        links.Tick(4s);
+        links.Say("LISTS PAGES\r\n");
+    }
+    links.Tick(3750ms);
+    EXPECT_THAT(fates, IsEmpty());
+    links.Tick(250ms);
+    EXPECT_THAT(fates, ElementsAre("given up >Hi"));
+}
+
+// What comes later is no information of a header that lost its own.
+TEST_F(Tnc, AHeaderWaitsTwoSeconds)
+{
+    Open();
+    for (const auto pause : {2000ms, 2250ms}) {
+        links.Say("N0CALL>APRS: <UI>:\r\n");
+        links.Tick(pause);
+        links.Say(">Hi\r\n");
+    }
+    EXPECT_THAT(recorded.Raw(), ElementsAre("N0CALL>APRS:>Hi"));
 }
 
 // Refused the call or the way, the text would go out under the last ones.
@@ -233,6 +262,14 @@ TEST_F(Tnc, ClosingSendsWhatStillWaitsAndGivesUpOnASilentTnc)
     links.answer = nullptr;
     source->ClosePort();
     EXPECT_LE(links.Now() - begun, 4s);
+
+    source = std::make_unique<TncSource>(links, recorded.sink, counts);
+    OpenToPrompt();
+    Send({"LTM 0"});
+    const Moment busy = links.Now();
+    links.answer = [](const std::string& written) { return written.ends_with('\x03') ? "cmd:"s : "LISTS PAGES\r\n"s; };
+    source->ClosePort();
+    EXPECT_EQ(links.Now() - busy, 15s);
 }
 
 TEST_F(Tnc, RefusesWhatWouldPileUp)

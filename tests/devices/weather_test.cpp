@@ -115,11 +115,14 @@ TEST_F(Weather, KeepsPeaksAndRainAsLongAsReportsTellThem)
     EXPECT_EQ(say(32, 9000), "268/2g2 t74.7 r7p7P- h57 b10096"); // Read wrongly, and back.
     EXPECT_EQ(say(32, 1008), "268/2g2 t74.7 r7p7P- h57 b10096");
     EXPECT_EQ(say(32, 1009), "268/2g2 t74.7 r8p8P- h57 b10096");
+    EXPECT_EQ(say(32, 1020), "268/2g2 t74.7 r8p8P- h57 b10096"); // More than falls at once.
     links.Tick(57min);
     EXPECT_EQ(say(32, 2), "268/2g2 t74.7 r8p8P- h57 b10096"); // The counter was reset.
     links.Tick(2min);
     EXPECT_EQ(say(32, 3), "268/2g2 t74.7 r2p9P- h57 b10096");
-    links.Tick(24h);
+    links.Tick(23h + 59min);
+    EXPECT_EQ(say(32, 3), "268/2g2 t74.7 r0p1P- h57 b10096");
+    links.Tick(1min);
     EXPECT_EQ(say(32, 3), "268/2g2 t74.7 r0p0P- h57 b10096");
 }
 
@@ -205,6 +208,14 @@ TEST_F(Weather, FindsDavisPacketsAmongNoise)
     links.Say("\n\r");
     links.Tick(2s);
     EXPECT_EQ(links.Written(), "\nEEBRD 2B 01\nLOOP 200\n");
+
+    server = std::make_unique<WeatherServer>(links, recorded);
+    Open(19200);
+    links.Tick(250ms);
+    links.Say("\n\r");
+    links.Say("\x06" + WithCrc("\x20")); // 0.1 mm a click.
+    links.Say("\x06" + DavisPacket(100));
+    EXPECT_EQ(recorded.events.back(), "268/6g6 t74.7 r0p0P39 h57 b10096");
 }
 
 // An Ultimeter may be set to the same rate: it is no longer woken once it has spoken.

@@ -47,46 +47,16 @@ TEST(Start, TheFirstOneAsksForTheRegionAndComesUpWithDefaults)
     }
 }
 
-TEST(Start, TakesWhatIsStored)
-{
-    Stored p{{"Region", "2"},
-             {"Call", "N0CALL"},
-             {"MainLeft", "-30"},
-             {"ShowTreeView", "0"},
-             {"FLDelay", "5"},
-             {"FLAdd", "False"},
-             {"ShowTCPUnknown", "True"},
-             {"TrackStationPosition", "False"},
-             {"AddTCPSymbol", "False"},
-             {"Dest", ""},
-             {"tcpFilterCall", "N1*"},
-             {"flTracked", "False"},
-             {"TrackedRFStations", " n0call  B n0call"}};
-    p.Start();
-    EXPECT_THAT(p.dialogs.calls, IsEmpty());
-    EXPECT_EQ(SettingText(p.main.Settings, Setting::Dest), ""); // Stored, so no default.
-    EXPECT_EQ(TrackListText(p.main.Of(Channel::RF)), "N0CALL B");
-    EXPECT_EQ(p.main.Of(Channel::TCP).Filter.Call, "N1*");
-    EXPECT_FALSE(p.main.Of(Channel::FL).Filter.bTracked);
-    EXPECT_TRUE(p.main.Of(Channel::RF).Filter.bTracked);
-    EXPECT_EQ(p.main.sbStatusBar.PanelText(Panel::Call), "N0CALL");
-    EXPECT_EQ(p.main.window.left, -30);
-    EXPECT_FALSE(p.main.window.bLeftPane);
-    EXPECT_EQ(p.main.frmImport.iFLDelay, 5);
-    EXPECT_FALSE(p.main.frmImport.bFLAdd);
-    EXPECT_TRUE(p.main.Of(Channel::TCP).bShowUnknown);
-    EXPECT_FALSE(p.main.Of(Channel::RF).bShowUnknown);
-    EXPECT_FALSE(p.main.tracking.bTrackStationPosition);
-    EXPECT_FALSE(p.main.frmTcp.bAddTCPSymbol);
-}
-
 // A value that cannot be read must cost neither the others nor itself: the operator may want to mend it.
 TEST(Start, AnUnreadableValueCountsAsItsDefaultAndStaysUntilItIsChanged)
 {
-    Stored p{{"MainLeft", "left"},     {"MainWidth", "4000"}, {"PrimaryPort", "40000"},
-             {"rfFilterOn", "maybe"},  {"TrackLineSize", ""}, {"TrackedRFStations", "N0CALL"},
-             {"ShowTreeView", "tall"}, {"FLDelay", "1e9"},    {"tcpFilterCall", "N1CALL"}};
+    Stored p{{"MainLeft", "left"},        {"MainWidth", "4000"},
+             {"PrimaryPort", "40000"},    {"rfFilterOn", "maybe"},
+             {"TrackLineSize", ""},       {"TrackedRFStations", "N0CALL"},
+             {"ShowTreeView", "tall"},    {"FLDelay", "1e9"},
+             {"tcpFilterCall", "N1CALL"}, {"Dest", ""}};
     p.Start();
+    EXPECT_EQ(SettingText(p.main.Settings, Setting::Dest), ""); // Stored, so no default.
     EXPECT_EQ(p.main.window.left, 1000);
     EXPECT_EQ(p.main.window.width, 4000);
     EXPECT_TRUE(p.main.window.bLeftPane);

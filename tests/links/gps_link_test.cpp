@@ -53,9 +53,11 @@ struct GpsLink : testing::Test {
 
 TEST_F(GpsLink, TakesPlaceAndMotionFromTheReceiverUntilItIsDisconnected)
 {
+    main.gps.GpsUpdateSeconds = 100; // Of the receiver behind a TNC.
     Connect();
     EXPECT_EQ(program.wires.opened, "serial /dev/ttyS0 4800");
     EXPECT_EQ(Status(), "Acquiring GPS...");
+    EXPECT_EQ(main.gps.GpsUpdateSeconds, 1);
     Hear(kFix);
     EXPECT_EQ(Status(), "GPS Position Fix");
     EXPECT_THAT(Text(Setting::Lat), StartsWith("48.1173"));
@@ -96,10 +98,12 @@ TEST_F(GpsLink, MissingValuesLeaveTheFormerOnes)
     Connect();
     Fix(40, -90, 10);
     EXPECT_EQ(Text(Setting::Speed), "12");
+    Fix(40, -90, 100);
+    EXPECT_EQ(Text(Setting::Speed), "115");
     main.links.gpsSink->PositionFix({.lat = 40, .lon = -90, .altitude = -998.6, .course = 2.5, .bValid = true});
     main.links.gpsSink->PositionFix(
         {.lat = 40, .lon = -90, .altitude = -999, .course = -1000, .speed = -2000, .bValid = true});
-    EXPECT_EQ(Text(Setting::Alt) + '/' + Text(Setting::Course) + '/' + Text(Setting::Speed), "-999/2/12");
+    EXPECT_EQ(Text(Setting::Alt) + '/' + Text(Setting::Course) + '/' + Text(Setting::Speed), "-999/2/115");
 }
 
 TEST_F(GpsLink, MapFollowsAMarkerThatLeavesItsMiddle)
@@ -220,6 +224,9 @@ TEST_F(GpsPanel, TellsHowLongTheWayTakesOnceTheStationComesNearer)
     EXPECT_EQ(panel.lblDuration, kNoGpsValue);
     Fix(40 + 1.0 / 3910, -90);
     EXPECT_EQ(panel.lblDuration, "1h:5m:9s");
+    main.gps.GpsUpdateSeconds = 2;
+    Fix(40 + 2.0 / 3910, -90);
+    EXPECT_EQ(panel.lblDuration, "2h:10m:16s");
     EXPECT_EQ(panel.lblStatus + '/' + panel.lblAlt + '/' + panel.lblSpeed, "Valid Position Fix/ feet/");
     Set(Setting::DestLon, "");
     Fix(40, -90);

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <memory>
 
 namespace ruvenmark {
@@ -135,6 +136,9 @@ TEST_F(ServerLinkTest, GoesToTheBackupOnTheFourthLossAndStaysThere)
     }
     EXPECT_EQ(program.wires.opened, "connect spare 10152 15");
     EXPECT_EQ(main.links.ReconnectCount, 5);
+    main.links.ReconnectCount = std::numeric_limits<std::int16_t>::max(); // As after a year of losses.
+    Lose();
+    EXPECT_EQ(Shown(), "Connected to spare:10152 [B]");
 
     mnuConnectServer_Click(main);
     ConnectServerLink(main);

@@ -1,6 +1,7 @@
 #include "map/range_circles.h"
 #include "map/symbols.h"
 #include "platform/failure.h"
+#include "support/map_shapes.h"
 #include "support/test_program.h"
 
 #include <gmock/gmock.h>
@@ -13,16 +14,7 @@ using testing::IsEmpty;
 
 class RangeCircles : public testing::Test {
 protected:
-    // Live circles, oldest slot first.
-    std::vector<ShapeData> Circles()
-    {
-        std::vector<ShapeData> circles;
-        const auto& shapes = p.TheMap().Shapes();
-        for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot)
-            if (shapes.At(slot))
-                circles.push_back(*shapes.At(slot));
-        return circles;
-    }
+    std::vector<ShapeData> Circles() { return ShapesOf(p.TheMap()); }
     void Station(Channel channel, const char* call)
     {
         p.Position(channel, call, 48, 11);

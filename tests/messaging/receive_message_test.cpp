@@ -72,19 +72,6 @@ TEST_F(MessageTest, ARepeatIsAnsweredEachTimeAndFiledOnce)
               (Texts{"frame N0CALL|APRS|WIDE1-1|:W1AW     :ack7", "server N0CALL>APRS,TCPIP*::W1AW     :ack7"}));
 }
 
-// A replay must never key the transmitter; all else goes on as live.
-TEST_F(MessageTest, AReplayedFileIsFiledAndNeverAnswered)
-{
-    Open(true, true, true);
-    SendAprsMessage(main, "N0CALL", "W1AW", "", "hello", "3");
-    Take();
-    program.Hear(Channel::FL, "W1AW>APRS::N0CALL   :hi{7");
-    program.Hear(Channel::FL, "W1AW>APRS::N0CALL   :ack3");
-    EXPECT_EQ(Take(), Texts{});
-    EXPECT_EQ(Inbox().Count(), 1U);
-    EXPECT_EQ(SentList().CountBold(), 0U);
-}
-
 TEST_F(MessageTest, AnAcknowledgementClearsTheFirstRowOfItsNumber)
 {
     for (const char* number : {"3", "33", "3"})
@@ -105,7 +92,7 @@ TEST_F(MessageTest, AnAcknowledgementClearsTheFirstRowOfItsNumber)
     EXPECT_EQ(bold(), ".**");
     Hear(Channel::RF, "N0CALL", "ACK3"); // The first one that fits, read or not.
     EXPECT_EQ(bold(), ".**");
-    Hear(Channel::TCP, "N0CALL", "ack33");
+    Hear(Channel::FL, "N0CALL", "ack33"); // Of a file, too.
     EXPECT_EQ(bold(), "..*");
 }
 

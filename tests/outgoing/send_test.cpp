@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -93,7 +94,7 @@ TEST_F(Sending, MotionTakesThePlaceOfTheAntennaWhileTheFixIsValid)
     Open(false, false, true);
     Set(Setting::Power, "6000"); // Out of bounds: as none.
     Set(Setting::Height, "40");
-    Set(Setting::Speed, "11.5");
+    Set(Setting::Speed, "115");
     Set(Setting::Course, "90");
     SendPositionReport(main, false);
     EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText});
@@ -102,7 +103,7 @@ TEST_F(Sending, MotionTakesThePlaceOfTheAntennaWhileTheFixIsValid)
     EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText});
     main.gps.bValidFix = true;
     SendPositionReport(main, false);
-    EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText + "090/010"});
+    EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText + "090/100"});
 }
 
 TEST_F(Sending, WeatherOfTheSettingsAndOfTheDialog)
@@ -179,12 +180,36 @@ TEST_F(Sending, ThePositionDialogKeepsSendsAndRefuses)
     EXPECT_EQ(form.Comment, "");
     form.txtComment = "hi";
     form.calls.txtFrom = "n1call";
+    form.txtAlt = "300";
+    form.txtPower = "25";
+    form.txtHeight = "40";
+    form.txtGain = "3";
+    form.txtDir = "90";
     frmPosition_Send(main);
-    EXPECT_EQ(Take(), Lines{"frame N1CALL|APRS|WIDE1-1|!0130.00S/12215.00W)hi"});
+    EXPECT_EQ(Take(), Lines{"frame N1CALL|APRS|WIDE1-1|!0130.00S/12215.00W)PHG5232/A=000300hi"});
     EXPECT_FALSE(program.dialogs.IsVisible(Form::frmPosition));
     mnuSendPosition_Click(main);
     EXPECT_EQ(form.txtLat, "-1.5");
     EXPECT_EQ(form.txtComment, "hi");
+    EXPECT_EQ(form.txtAlt + '|' + form.txtPower + '|' + form.txtHeight + '|' + form.txtGain + '|' + form.txtDir,
+              "300|25|40|3|90");
+}
+
+// A bound that is another one than the operator is told.
+TEST(NumberBoxes, TakeWhatTheirMessagesSay)
+{
+    const auto expectTold = [](const NumberRule& rule) {
+        double lowest = 0, highest = 0;
+        ASSERT_EQ(std::sscanf(rule.message.data(), "%*[^-0-9]%lf and %lf", &lowest, &highest), 2) << rule.message;
+        EXPECT_EQ(rule.lowest, lowest) << rule.message;
+        EXPECT_EQ(rule.highest, highest) << rule.message;
+    };
+    for (const PositionBox& box : kPositionBoxes)
+        expectTold(box.rule);
+    for (const ObjectBox& box : kObjectBoxes)
+        expectTold(box.rule);
+    for (const auto& box : kWeatherBoxes)
+        expectTold(box.rule);
 }
 
 TEST_F(Sending, TheObjectDialogRefusesInItsOrder)

@@ -48,6 +48,8 @@ TEST_F(Sockets, StartCarryAndEnd)
     EXPECT_TRUE(PeerHears(QByteArray("a\0b", 3)));
     peer->write("answer");
     EXPECT_TRUE(RunUntil([&] { return sink.bytes == "answer"; }));
+    peer->write(" more"); // Right behind it, told a moment later.
+    EXPECT_TRUE(RunUntil([&] { return sink.bytes == "answer more"; }, 5s));
     // What is written right before the link is dropped is sent all the same.
     link->Write("bye");
     link.reset();

@@ -1,6 +1,5 @@
 #include "support/test_program.h"
 #include "tracking/filter_form_rules.h"
-#include "tracking/filters.h"
 #include "tracking/track_list_form_rules.h"
 #include "tracking/track_lists.h"
 
@@ -60,12 +59,6 @@ TEST(FilterForm, SavesUpperCaseListsThatCountFromTheNextReportOn)
     program.Hear(Channel::TCP, "N2CALL>APRS:!4000.00N/08000.00W>");
     EXPECT_EQ(program.ChildTexts("TCPPositions"), (Texts{"N0CALL", "N1CALL"}));
     EXPECT_EQ(program.RecordText(Channel::TCP, "N0CALL", Field::Lat), "40");
-
-    SaveFilters(program.main);
-    EXPECT_EQ(program.store.Get("tcpFilterDest", ""), "APRS*");
-    EXPECT_EQ(program.store.Get("tcpFilterReject", ""), "N0CALL");
-    EXPECT_EQ(program.store.Get("tcpFilterRange", ""), "1e2");
-    EXPECT_EQ(program.store.Get("rfFilterOn", ""), "False");
 }
 
 TEST(FilterForm, OpensWithTheFiltersAsTheyStandButNeverOverWhatIsTyped)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/map_shapes.h"
 #include "support/test_program.h"
 #include "tracking/track_lists.h"
 
@@ -25,15 +26,7 @@ protected:
             markers.push_back(pin.Name() + "=" + std::to_string(pin.BalloonState()));
         return markers;
     }
-    std::vector<ShapeData> Lines()
-    {
-        std::vector<ShapeData> lines;
-        const auto& shapes = p.TheMap().Shapes();
-        for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot)
-            if (shapes.At(slot))
-                lines.push_back(*shapes.At(slot));
-        return lines;
-    }
+    std::vector<ShapeData> Lines() { return ShapesOf(p.TheMap()); }
     void Set(Setting setting, const char* value) { SetSetting(p.main.Settings, setting, value); }
 
     TestProgram p;

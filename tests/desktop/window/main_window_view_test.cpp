@@ -33,7 +33,6 @@ std::string ManyLines(int count)
 }
 
 // Ctrl+C in the manual copies from the manual; the menu's entry of that key is the map's.
-
 TEST(MainWindowViewTest, TheManualKeepsItsCopyKeys)
 {
     WindowProgram program;
@@ -43,8 +42,6 @@ TEST(MainWindowViewTest, TheManualKeepsItsCopyKeys)
     QCoreApplication::sendEvent(&program.Find<QWidget>("webCtrl"), &copy);
     EXPECT_TRUE(copy.isAccepted());
 }
-
-// Where the operator has placed only the splitter, the window is still placed by the program.
 
 TEST(MainWindowViewTest, ClosingAsksAndCancelKeepsRunning)
 {
@@ -58,7 +55,6 @@ TEST(MainWindowViewTest, ClosingAsksAndCancelKeepsRunning)
 }
 
 // At the end of a session nobody answers the question for the map; what else is to be kept is kept.
-
 TEST(MainWindowViewTest, ASignalEndsItWithoutAsking)
 {
     WindowProgram program;
@@ -78,9 +74,7 @@ TEST(MainWindowViewTest, ASignalEndsItWithoutAsking)
 }
 
 // Ended from outside, an open dialog is cancelled: what it would have done must not be done to a program that has
-
 // saved.
-
 TEST(MainWindowViewTest, ASignalCancelsTheDialogThatIsOpen)
 {
     WindowProgram program;
