@@ -70,10 +70,13 @@ TEST_F(MessageTest, OnlyTickedLinksAreTaken)
     main.frmMessage.roads.chkTCP = true;
     SendAprsMessage(main, "N0CALL", "W1AW", "", "one", "");
     EXPECT_EQ(Take(), Texts{"server N0CALL>APRS,TCPIP*::W1AW     :one{0"});
+    main.frmMessage.roads = {.chkRF = true};
+    SendAprsMessage(main, "N0CALL", "W1AW", "", "by radio", "");
+    EXPECT_EQ(Take(), Texts{"frame N0CALL|APRS||:W1AW     :by radio{0"});
     Open(false, false, false);
     SendByDialog("W1AW", "two");
     EXPECT_EQ(Take(), Texts{});
-    EXPECT_EQ(SentList().Count(), 2U);
+    EXPECT_EQ(SentList().Count(), 3U);
     EXPECT_TRUE(program.prompts.messages.empty());
 }
 

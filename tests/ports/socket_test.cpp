@@ -125,6 +125,7 @@ TEST_F(Sockets, NameTheCauseOfARefusal)
     EXPECT_NE(refusal("no-such-host.invalid", 80).find("no-such-host.invalid:80: the host is not found"),
               std::string::npos);
     EXPECT_EQ(refusal(kHost, 65536 + 80), "there is no port 65616");
+    EXPECT_EQ(refusal(kHost, 0), "there is no port 0");
     EXPECT_EQ(refusal("", 80), "no host is given");
 
     const auto link = links.StartSocket(kHost, port, sink);
