@@ -56,26 +56,6 @@ TEST(Counts, TheRootStopsAtSixteenBitsAndTheReportGoesOn)
     EXPECT_TRUE(p.main.abandoned.IsEmpty());
 }
 
-TEST(Trees, HaveTheirFoldersAndPictures)
-{
-    TestProgram p;
-    AddChannelTree(p.Tree(), Channel::FL);
-    EXPECT_THAT(RootKeys(p), ElementsAre("My", "RF", "TCP", "FL"));
-    for (const char* root : {"My", "RF", "TCP", "FL"}) {
-        EXPECT_EQ(p.Image(root), "Closed");
-        EXPECT_EQ(p.Tree().ExpandedImage(*p.Node(root)), "Open");
-        EXPECT_TRUE(p.Node(root)->IsBold());
-    }
-    EXPECT_EQ(p.Text("My"), "My station");
-    EXPECT_THAT(p.ChildTexts("My"), ElementsAre("Position", "Weather"));
-    for (const auto& [key, image] :
-         {std::pair("RFPositions", "Position"), std::pair("TCPStatus", "Status"), std::pair("FLWeather", "Letterw"),
-          std::pair("RFUnknown", "Unknown"), std::pair("MyPosition", "Position"), std::pair("MyWeather", "Letterw")}) {
-        EXPECT_EQ(p.Image(key), image) << key;
-        EXPECT_TRUE(p.Node(key)->IsBold()) << key;
-    }
-}
-
 class FullStation : public testing::Test {
 protected:
     FullStation()

@@ -11,8 +11,6 @@
 namespace ruvenmark {
 namespace {
 
-using testing::ElementsAre;
-
 using M = MainWindow;
 using S = Setting;
 using W = WindowState;
@@ -289,22 +287,6 @@ TEST(StoredSettings, EachGoesToItsOwnPlaceAndBack)
             EXPECT_EQ(p.store.Lasting(row.key), &Lasting(row) == &Lasting(changed) ? row.other : Lasting(row).byDefault)
                 << row.key << " where " << changed.key << " was stored";
     }
-}
-
-// What comes later may need what came before: the map its region, the opening of a map the settings, the links all.
-TEST(StoredSettings, AreReadPartByPart)
-{
-    TestProgram p;
-    std::vector<std::string> first;
-    for (const std::string& key : p.store.read)
-        for (const char* part :
-             {"MainLeft", "Region", "Call", "DestLon", "TrackStationPosition", "PrimaryServer", "rfFilterDest",
-              "ConnectSocket", "GPSPort", "ShowRFUnknown", "TrackedRFStations", "ShowTrackLine", "FLDelay"})
-            if (key == part)
-                first.push_back(key);
-    EXPECT_THAT(first, ElementsAre("MainLeft", "Region", "Call", "DestLon", "TrackStationPosition", "PrimaryServer",
-                                   "rfFilterDest", "ConnectSocket", "GPSPort", "ShowRFUnknown", "TrackedRFStations",
-                                   "ShowTrackLine", "FLDelay"));
 }
 
 } // namespace

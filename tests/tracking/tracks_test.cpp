@@ -95,20 +95,18 @@ TEST_F(Tracks, TheMapFollowsOnlyWhereWanted)
     EXPECT_NEAR(p.TheMap().View().centre.lat, 48, 1e-9);
 }
 
+// Outside its table each is nothing.
 TEST_F(Tracks, LooksFollowTheirIndices)
 {
-    const std::vector<std::int32_t> weights = {0, 1, 2, 3, 4, 5, 8, 11, 13};
-    const std::vector<std::pair<bool, bool>> arrows = {{false, false}, {false, true}, {true, false}, {true, true}};
-    const std::vector<std::uint32_t> colors = {0, 255, 65280, 65535, 16711680, 16711935, 16776960, 16777215};
-    for (int index = -1; index <= 9; ++index) { // Outside its table each is nothing.
-        const std::size_t at = index < 0 ? 99 : static_cast<std::size_t>(index);
+    std::string looks;
+    for (const char* index : {"-1", "0", "1", "8", "9"}) {
         for (const Setting setting : {Setting::TrackLineSize, Setting::TrackLineStyle, Setting::MobileColor})
-            Set(setting, std::to_string(index).c_str());
-        EXPECT_EQ(TrackLineWeight(p.main.Settings), at < weights.size() ? weights[at] : 0) << index;
-        EXPECT_EQ(TrackBeginArrow(p.main.Settings), at < arrows.size() && arrows[at].first) << index;
-        EXPECT_EQ(TrackEndArrow(p.main.Settings), at < arrows.size() && arrows[at].second) << index;
-        EXPECT_EQ(MobileColor(p.main.Settings), at < colors.size() ? colors[at] : 0) << index;
+            Set(setting, index);
+        const SettingsState& settings = p.main.Settings;
+        looks += std::to_string(TrackLineWeight(settings)) + (TrackBeginArrow(settings) ? "<" : "-") +
+                 (TrackEndArrow(settings) ? ">" : "-") + std::to_string(MobileColor(settings)) + ' ';
     }
+    EXPECT_EQ(looks, "0--0 0--0 1->255 13--0 0--0 ");
 }
 
 // An unusable setting ends the map work; tree and record go on.
