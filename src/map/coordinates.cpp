@@ -20,8 +20,9 @@ std::string MinutesText(double degrees, int digits, char positive, char negative
     constexpr double kParts = 60000; // Thousandths of a minute in a degree.
     const long long parts = std::llround(std::abs(degrees) * kParts);
     std::array<char, 48> text{};
-    std::snprintf(text.data(), text.size(), "%0*lld°%06.3f'%c", digits, parts / 60000,
-                  static_cast<double>(parts % 60000) / 1000, degrees < 0 ? negative : positive);
+    // In whole numbers: the system's locale may have a comma.
+    std::snprintf(text.data(), text.size(), "%0*lld°%02lld.%03lld'%c", digits, parts / 60000, parts % 60000 / 1000,
+                  parts % 1000, degrees < 0 ? negative : positive);
     return text.data();
 }
 
