@@ -79,7 +79,7 @@ void LoadBox(MainWindow& main, const Box& box)
     }
     const std::string beside = path + kBeside;
     if (files.Exists(beside))
-        Attempt(main.abandoned, box.complaint, [&] {
+        state.bBesideLeft = !Attempt(main.abandoned, box.complaint, [&] {
             if (LoadRows(list, files.ReadText(beside, FileKind::List), fields) == BoxFile::Damaged)
                 KeepCopy(files, beside);
             state.bChanged = true;
@@ -88,6 +88,8 @@ void LoadBox(MainWindow& main, const Box& box)
         Tell(main, path + " could not be read whole; it is kept as " + path + ".bak before it is written anew");
     else if (state.file == BoxFile::Unreadable)
         Tell(main, path + " could not be read");
+    if (state.bBesideLeft)
+        Tell(main, beside + " could not be read");
 }
 
 // At once, as a record a row would take most of the time of a save.
@@ -119,13 +121,17 @@ void SaveBox(MainWindow& main, const Box& box)
     const RowList& list = main.messages.*box.list;
     BoxState& state = main.messages.*box.state;
     const std::string beside = path + kBeside;
+    const bool bBesideLeft = state.bBesideLeft && files.Exists(beside);
     if (state.file == BoxFile::Unreadable && files.Exists(path)) {
         if (list.IsEmpty()) {
-            files.Remove(beside);
+            if (!bBesideLeft)
+                files.Remove(beside);
         } else {
-            files.WriteText(BoxText(list, box.bBoldKept), beside, FileKind::List);
+            if (!bBesideLeft)
+                files.WriteText(BoxText(list, box.bBoldKept), beside, FileKind::List);
             state.bChanged = false; // Told once, not every few seconds.
-            throw Failure(path + " could not be read; what came since is in " + beside);
+            throw Failure(bBesideLeft ? path + " and " + beside + " could not be read"
+                                      : path + " could not be read; what came since is in " + beside);
         }
     } else {
         if (state.file == BoxFile::Damaged && state.bChanged && files.Exists(path)) {
@@ -138,7 +144,8 @@ void SaveBox(MainWindow& main, const Box& box)
             else
                 files.WriteText(BoxText(list, box.bBoldKept), path, FileKind::List);
             state.file = BoxFile::Whole;
-            files.Remove(beside);
+            if (!bBesideLeft)
+                files.Remove(beside);
         }
     }
     state.bChanged = state.bFailureTold = false;
@@ -151,16 +158,15 @@ void LoadMessageBoxes(MainWindow& main)
     BuildBoxTree(main.messages.tvMessageBoxes);
     for (const Box& box : kBoxes)
         LoadBox(main, box);
-    if (!main.messages.lvSentList.IsEmpty())
-        ShowSentCount(main.messages);
+    ShowSentCount(main.messages);
 }
 
 void SaveMessageBoxes(MainWindow& main)
 {
+    if (!main.services.store.IsKept())
+        return;
     std::string unsaved;
     for (const Box& box : kBoxes) {
-        if (!main.services.store.IsKept())
-            continue;
         try {
             SaveBox(main, box);
         } catch (const Failure& failure) { // The other box can be saved all the same.

@@ -9,7 +9,7 @@ struct MainWindow;
 
 // The boxes' files in the program folder, a row a line with "#####" between the fields. What cannot be read whole is
 // kept as "Inbox.txt.bak" ahead of the first overwriting; what cannot be read at all is neither overwritten nor
-// deleted, and the rows go into "Inbox.txt.new" then.
+// deleted, and the rows go into "Inbox.txt.new" then; nor is that one where it cannot be read itself.
 void LoadMessageBoxes(MainWindow& main);
 // Both; raises Failure in the end where one could not be saved.
 void SaveMessageBoxes(MainWindow& main);

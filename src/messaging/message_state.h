@@ -29,6 +29,7 @@ struct BoxState {
     bool bChanged = false;     // Since it was saved last.
     bool bFailureTold = false; // That it could not be saved.
     BoxFile file = BoxFile::Whole;
+    bool bBesideLeft = false; // What was kept beside could not be taken in.
 };
 
 // The two boxes of messages, their tree and their count.

@@ -70,6 +70,34 @@ TEST(MessageFiles, NothingThatWasNotReadIsLost)
     EXPECT_EQ(program.File("/program/Sent.txt.new").substr(0, 19), "W1AW#####N0CALL####");
 }
 
+// Written over or removed, the messages of the run before would be gone for good.
+TEST(MessageFiles, WhatWasKeptBesideAndCannotBeReadStays)
+{
+    constexpr const char* kBeside = "/program/Inbox.txt.new";
+    for (const bool bBoxReadable : {false, true}) {
+        Kept program({{kInbox, "a#####b#####c#####d#####e#####f"}, {kBeside, "those of the run before"}});
+        program.files.unreadable.insert(kBeside);
+        if (!bBoxReadable)
+            program.files.unreadable.insert(kInbox);
+        MessageState& state = program.Start();
+        EXPECT_EQ(program.notices.lines.back(), "/program/Inbox.txt.new could not be read");
+        SaveMessageBoxes(program.main); // Nothing came, and nothing may go.
+        SetSetting(program.main.Settings, Setting::Call, "N0CALL");
+        program.Sink(Channel::RF).ReportAprsMsg({"W1AW", "APRS", "", "N0CALL", "new", ""});
+        SaveChangedBoxes(program.main);
+        EXPECT_FALSE(state.inbox.bChanged);
+        EXPECT_EQ(program.File(kBeside), "those of the run before");
+        EXPECT_EQ(program.File(kInbox).find("#####new#####") != std::string::npos, bBoxReadable);
+        EXPECT_EQ(program.notices.lines.back().ends_with(" and /program/Inbox.txt.new could not be read"),
+                  !bBoxReadable);
+        if (bBoxReadable)
+            continue;
+        program.files.texts.erase(kBeside); // The operator has put it elsewhere.
+        EXPECT_EQ(StopMainWindow(program.main), StopResult::StoppedWithLoss);
+        EXPECT_NE(program.File(kBeside).find("#####new#####"), std::string::npos);
+    }
+}
+
 // What another program, a full disk or a fault of the disk made of it: the rows that can be read come, the file stays
 // until something changes, and then a copy of it stays for good.
 TEST(MessageFiles, ADamagedBoxComesAsFarAsItGoes)
@@ -201,7 +229,7 @@ TEST_F(MessageTest, DeletingCountsAnew)
     lvMessageList_LostFocus(main);
     Hear(Channel::RF, "N0CALL", "four");
     Hear(Channel::RF, "N0CALL", "five");
-    main.messages.lvMessageList.SelectOnly(2);
+    main.messages.lvMessageList.Select(2, true);
     program.prompts.answers = {Answer::Yes};
     mnuMsgDelete_Click(main);
     EXPECT_EQ(BoxText("MessagesInbox"), "Inbox (1)"); // One of the two that are left was read.
@@ -239,8 +267,9 @@ TEST_F(MessageTest, AMessageIsOpenedAndAnswered)
         EXPECT_EQ(frmMessage_Send(opened.frmMessage), "");
     };
     for (const std::size_t row : {0U, 1U}) {
-        main.messages.lvMessageList.SelectOnly(row);
+        main.messages.lvMessageList.Select(row, true);
         mnuMsgOpen_Click(main);
+        main.messages.lvMessageList.Select(row, false);
     }
     EXPECT_EQ(captions, (Texts{"Message 7", "Bulletin "}));
     EXPECT_EQ(to, "W1AW");
@@ -258,8 +287,9 @@ TEST_F(MessageTest, TheSenderIsLocated)
         Hear(Channel::RF, "N0CALL", "hi", "", source);
     for (std::size_t row = 0; row < 3; ++row) {
         mnuViewMessages_Click(main);
-        main.messages.lvMessageList.SelectOnly(row);
+        main.messages.lvMessageList.Select(row, true);
         mnuMsgLocate_Click(main);
+        main.messages.lvMessageList.Select(row, false);
         EXPECT_EQ(main.window.rightView, row == 1 ? RightView::Inbox : RightView::Map);
     }
     EXPECT_EQ(program.prompts.messages, Texts{"No position report available for station N3CALL"});
