@@ -269,7 +269,9 @@ void TncTerminal::GiveUp()
 {
     m_bMute = true;
     m_stage = Stage::Free;
-    m_typed.clear();
+    if (!std::exchange(m_typed, {}).empty()) // Held up until now: none of it has been written.
+        for (Fate& fate : m_fates)
+            fate.bTyped = false;
     DropRun();
 }
 

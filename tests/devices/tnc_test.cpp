@@ -239,6 +239,26 @@ TEST_F(Tnc, ObeysXoffButNotForever)
     EXPECT_THAT(recorded.Raw(), ElementsAre("W1XM>APRS:>Hi"));
 }
 
+// While a sound plays or a server is called the program stands still: a text that the TNC held up all the time has not
+// been sent where its link is then given up.
+TEST_F(Tnc, ATextThatIsStillHeldUpWhenTheLinkIsGivenUpWasNotSent)
+{
+    OpenToPrompt();
+    Send({"CONV"});
+    links.Say("cmd:");
+    links.Tick(750ms);
+    links.Say("\x13");
+    source->SendCommand(">one");
+    Send({"MYCALL W1AW"});
+    links.Tick(1s);
+    EXPECT_THAT(fates, IsEmpty());
+    links.Advance(8s);
+    links.Say("\x11");
+    links.Tick(250ms);
+    EXPECT_EQ(links.Written().find(">one"), std::string::npos);
+    EXPECT_THAT(fates, ElementsAre("given up >one"));
+}
+
 // Closing follows at once on the commands that put the TNC back as it was.
 TEST_F(Tnc, ClosingSendsWhatStillWaitsAndGivesUpOnASilentTnc)
 {
