@@ -23,7 +23,7 @@ void ShowServer(TileForm& form)
 
 void Replace(std::string& text, std::string_view part, int number)
 {
-    if (const std::size_t at = text.find(part); at != std::string::npos)
+    for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at))
         text.replace(at, part.size(), std::to_string(number));
 }
 

@@ -82,11 +82,11 @@ TEST(TileForm, TheTestAsksForTheTileInViewAndTellsWhatCame)
     EXPECT_NE(form.lblResult.find("{z}, {x} and {y}"), std::string::npos);
 
     program.TheMap().SetView({47.0, 8.0}, 6);
-    form.txtUrl = " http://localhost/{z}/{x}/{y}.png";
+    form.txtUrl = " http://localhost/{z}/{x}/{y}.png?zoom={z}";
     frmTiles_txtUrl_Change(form);
     EXPECT_EQ(form.cboServer, -1);
     frmTiles_Test(program.main);
-    EXPECT_EQ(program.desktop.pictureAsked, "http://localhost/6/33/22.png");
+    EXPECT_EQ(program.desktop.pictureAsked, "http://localhost/6/33/22.png?zoom=6");
     program.desktop.takePicture({200, "", 1234, 256, 256});
     EXPECT_EQ(form.lblResult, "A tile of 256 x 256 pixels came, 1234 bytes.");
     program.desktop.takePicture({403, "Forbidden", 9, 0, 0});
