@@ -38,4 +38,10 @@ inline QString ForDisplay(std::string_view bytes)
     return text;
 }
 
+// A tip that shows just this text: tips guess whether theirs is rich.
+inline QString PlainTip(const QString& text)
+{
+    return QStringLiteral("<span>") + text.toHtmlEscaped() + QStringLiteral("</span>");
+}
+
 } // namespace ruvenmark

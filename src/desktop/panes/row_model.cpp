@@ -79,8 +79,9 @@ QVariant RowModel::data(const QModelIndex& index, int role) const
     const ListRow& row = m_list.At(static_cast<std::size_t>(index.row()));
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return ForDisplay(row.Text(static_cast<std::size_t>(index.column())));
+    case Qt::ToolTipRole:
+        return PlainTip(ForDisplay(row.Text(static_cast<std::size_t>(index.column()))));
     case Qt::DecorationRole:
         return index.column() == 0 ? QVariant(IconOf(m_icons, row.Icon())) : QVariant();
     case Qt::FontRole: {

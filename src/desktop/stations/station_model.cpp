@@ -21,11 +21,6 @@ bool IsNumber(StationColumn column)
            column == StationColumn::Speed;
 }
 
-QString Tip(const QString& text)
-{
-    return QStringLiteral("<span>") + text.toHtmlEscaped() + QStringLiteral("</span>");
-}
-
 } // namespace
 
 StationModel::StationModel(MainWindow& main, const IconSet& icons, QObject* parent)
@@ -63,7 +58,7 @@ QVariant StationModel::data(const QModelIndex& index, int role) const
     case Qt::DisplayRole:
         return ForDisplay(m_rows.Text(id, column));
     case Qt::ToolTipRole:
-        return Tip(ForDisplay(m_rows.Text(id, column)));
+        return PlainTip(ForDisplay(m_rows.Text(id, column)));
     case Qt::DecorationRole:
         return column == StationColumn::Call ? QVariant(m_icons.Tree(m_rows.SymbolWord(id))) : QVariant();
     case Qt::TextAlignmentRole:

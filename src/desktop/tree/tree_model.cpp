@@ -78,8 +78,8 @@ QVariant TreeModel::data(const QModelIndex& index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         return ForDisplay(node->Text());
-    case Qt::ToolTipRole: // Escaped, for tips guess whether a text is rich.
-        return QStringLiteral("<span>") + ForDisplay(node->Text()).toHtmlEscaped() + QStringLiteral("</span>");
+    case Qt::ToolTipRole:
+        return PlainTip(ForDisplay(node->Text()));
     case Qt::DecorationRole: {
         const std::string& expanded = m_tree.ExpandedImage(*node);
         return m_icons.Tree(node->IsExpanded() && !expanded.empty() ? expanded : m_tree.Image(*node));
