@@ -76,8 +76,12 @@ PlayerBar::PlayerBar(MainWindow& main, const IconSet& icons, const std::function
     for (QWidget* widget :
          {static_cast<QWidget*>(m_pause), static_cast<QWidget*>(m_speed), static_cast<QWidget*>(m_stop)})
         layout->addWidget(widget);
+    m_pause->setCheckable(true);
     connect(m_progress, &SeekBar::Wanted, this, [this](int percent) { JumpInReplay(m_main, percent); });
-    connect(m_pause, &QToolButton::clicked, this, [this] { ToggleReplayPause(m_main); });
+    connect(m_pause, &QToolButton::clicked, this, [this] {
+        ToggleReplayPause(m_main);
+        ShowIcons();
+    });
     connect(m_speed, &QComboBox::activated, this, [this](int speed) { SetReplaySpeed(m_main, speed); });
     connect(m_stop, &QToolButton::clicked, this, [this, run] {
         if (m_main.links.FileLoading)
@@ -118,7 +122,7 @@ void PlayerBar::Refresh()
     for (QWidget* widget :
          {static_cast<QWidget*>(m_pause), static_cast<QWidget*>(m_speed), static_cast<QWidget*>(m_stop)})
         widget->setVisible(replay.bRunning);
-    if (m_pause->isChecked() != replay.bPaused || m_pause->icon().isNull())
+    if (m_pause->isChecked() != replay.bPaused)
         ShowIcons();
     m_speed->setCurrentIndex(m_main.frmImport.speed);
     m_speed->setEnabled(replay.time.has_value());
@@ -134,7 +138,6 @@ void PlayerBar::PaintNow()
 void PlayerBar::ShowIcons()
 {
     const bool bPaused = m_main.replay.bPaused;
-    m_pause->setCheckable(true);
     m_pause->setChecked(bPaused);
     m_pause->setIcon(m_icons.Action(bPaused ? QStringLiteral("play") : QStringLiteral("pause"), palette()));
     m_pause->setToolTip(bPaused ? QStringLiteral("Go on") : QStringLiteral("Pause"));

@@ -52,7 +52,7 @@ StatusBarView::StatusBarView(MainWindow& main, const IconSet& icons, const std::
     addWidget(m_place, 1);
     m_sent->setObjectName(QStringLiteral("lblSent"));
     m_sent->setAccessibleName(QStringLiteral("Last sent"));
-    m_sent->setToolTip(QStringLiteral("What this station sent last, and over which links"));
+    m_sent->SetTip(QStringLiteral("What this station sent last, and over which links"));
     addPermanentWidget(m_sent);
     m_refreshTimer.setSingleShot(true);
     m_refreshTimer.setInterval(kIntervalMs);

@@ -357,6 +357,7 @@ TEST(MainWindowViewTest, ThePlayerPausesJumpsAndStops)
         EXPECT_EQ(speed.currentText(), QStringLiteral("1x"));
         pause.click();
         EXPECT_TRUE(program.main.replay.bPaused);
+        EXPECT_EQ(pause.toolTip(), QStringLiteral("Go on")); // The click itself has checked the button.
         QTest::mouseClick(&bar, Qt::LeftButton, {}, QPoint(bar.width() / 2, bar.height() / 2));
         EXPECT_NEAR(program.main.replay.jumpTo.value_or(0), 50, 1);
         speed.setCurrentIndex(0);
