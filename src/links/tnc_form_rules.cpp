@@ -155,14 +155,9 @@ bool IsSerialShown(const TncForm& form)
     return form.cboConnect == 0;
 }
 
-bool IsTncGpsEnabled(const TncForm& form)
-{
-    return IsSerialShown(form);
-}
-
 bool AreGpsListsEnabled(const TncForm& form)
 {
-    return IsTncGpsEnabled(form) && form.chkTncGps;
+    return IsSerialShown(form) && form.chkTncGps;
 }
 
 bool commDialog_Accept(MainWindow& main)

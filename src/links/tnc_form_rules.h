@@ -26,7 +26,6 @@ void commDialog_cboConnect_Click(TncForm& form);
 // At once, whatever then becomes of the dialog.
 void commDialog_chkAuto_Click(TncForm& form);
 bool IsSerialShown(const TncForm& form); // Else the controls of the AGW Packet Engine show.
-bool IsTncGpsEnabled(const TncForm& form);
 bool AreGpsListsEnabled(const TncForm& form);
 // Takes what was entered, or tells the operator what is wrong with it. Whether the window closes.
 bool commDialog_Accept(MainWindow& main);

@@ -54,6 +54,8 @@ public:
     // The text of an editable list, typed or chosen.
     void Bind(QComboBox& list, std::string& field)
     {
+        list.setInsertPolicy(QComboBox::NoInsert);
+        list.setCompleter(nullptr); // It would show more than was typed.
         const auto take = [&list, &field] { field = list.currentText().toStdString(); };
         QObject::connect(list.lineEdit(), &QLineEdit::textEdited, &list, take);
         QObject::connect(&list, &QComboBox::activated, &list, take);

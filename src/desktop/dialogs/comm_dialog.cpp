@@ -7,7 +7,6 @@
 
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace ruvenmark {
@@ -111,14 +110,6 @@ QWidget* CommDialog::MakeGpsFrame()
     return frame;
 }
 
-QCheckBox* CommDialog::MakeBox(const char* name, const QString& text, bool& field)
-{
-    auto* box = new QCheckBox(text, this);
-    NameControl(*box, name, text);
-    Bound().Bind(*box, field);
-    return box;
-}
-
 void CommDialog::ShowState()
 {
     const auto show = [this](QWidget* control, bool bShow) {
@@ -129,7 +120,7 @@ void CommDialog::ShowState()
         show(control, IsSerialShown(m_form));
     for (QWidget* control : m_socket)
         show(control, !IsSerialShown(m_form));
-    m_gps->setEnabled(IsTncGpsEnabled(m_form));
+    m_gps->setEnabled(IsSerialShown(m_form));
     m_sentence->setEnabled(AreGpsListsEnabled(m_form));
     m_rate->setEnabled(AreGpsListsEnabled(m_form));
 }

@@ -20,7 +20,6 @@ public:
 private:
     void AddLinkFields(QFormLayout& fields);
     QWidget* MakeGpsFrame();
-    QCheckBox* MakeBox(const char* name, const QString& text, bool& field);
     void ShowState();
 
     MainWindow& m_main;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/dialogs/binder.h"
+#include "desktop/named_control.h"
 
 #include <QDialog>
 #include <QHideEvent>
@@ -29,6 +30,13 @@ public:
 
 protected:
     Binder& Bound() { return m_binder; }
+    QCheckBox* MakeBox(const char* name, const QString& text, bool& field)
+    {
+        auto* box = new QCheckBox(text, this);
+        NameControl(*box, name, text);
+        m_binder.Bind(*box, field);
+        return box;
+    }
     void hideEvent(QHideEvent* event) override
     {
         if (!event->spontaneous())

@@ -113,21 +113,12 @@ QComboBox* FrmTcpDialog::MakeList(const char* name, const QString& label, const 
     constexpr int kCharacters = 28;
     auto* list = new QComboBox(this);
     list->setEditable(true);
-    list->setInsertPolicy(QComboBox::NoInsert);
     list->setMinimumContentsLength(kCharacters);
     for (const auto& [key, value] : items)
         list->addItem(ForDisplay(key));
     NameControl(*list, name, label);
     Bound().Bind(*list, field);
     return list;
-}
-
-QCheckBox* FrmTcpDialog::MakeBox(const char* name, const QString& text, bool& field)
-{
-    auto* box = new QCheckBox(text, this);
-    NameControl(*box, name, text);
-    Bound().Bind(*box, field);
-    return box;
 }
 
 void FrmTcpDialog::Check(QWidget& field, QAbstractButton& cancel, std::string (*rule)(const ServerForm&))

@@ -30,7 +30,6 @@ private:
     void EnableBackup();
     QComboBox* MakeList(const char* name, const QString& label, const Dictionary<std::string>& items,
                         std::string& field);
-    QCheckBox* MakeBox(const char* name, const QString& text, bool& field);
     void Check(QWidget& field, QAbstractButton& cancel, std::string (*rule)(const ServerForm&));
 
     MainWindow& m_main;

@@ -64,14 +64,6 @@ void FrmTrackListDialog::AddLineFields(QVBoxLayout& layout)
     layout.addLayout(fields);
 }
 
-QCheckBox* FrmTrackListDialog::MakeBox(const char* name, const QString& text, bool& field)
-{
-    auto* box = new QCheckBox(text, this);
-    NameControl(*box, name, text);
-    Bound().Bind(*box, field);
-    return box;
-}
-
 QComboBox* FrmTrackListDialog::MakeList(const char* name, const QString& label,
                                         std::span<const std::string_view> entries, std::int32_t& field)
 {

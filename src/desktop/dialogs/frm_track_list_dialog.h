@@ -24,7 +24,6 @@ private:
     void AddLineFields(QVBoxLayout& layout);
     void AddSoundFields(QVBoxLayout& layout);
 
-    QCheckBox* MakeBox(const char* name, const QString& text, bool& field);
     QComboBox* MakeList(const char* name, const QString& label, std::span<const std::string_view> entries,
                         std::int32_t& field);
 

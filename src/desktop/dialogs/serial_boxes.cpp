@@ -16,8 +16,6 @@ QComboBox* MakePortBox(QWidget& parent, const std::vector<std::string>& ports)
     auto* box = new QComboBox(&parent);
     NameControl(*box, "cboPort", QStringLiteral("Port"));
     box->setEditable(true);
-    box->setInsertPolicy(QComboBox::NoInsert);
-    box->setCompleter(nullptr); // It would show more than was typed.
     box->setMinimumContentsLength(20);
     for (const std::string& port : ports)
         box->addItem(ForDisplay(port));

@@ -1,3 +1,4 @@
+#include "desktop/dialogs/binder.h"
 #include "desktop/map/widget/map_widget.h"
 #include "links/gps_link.h"
 #include "links/gps_panel.h"
@@ -304,6 +305,23 @@ TEST_F(DialogsTest, SerialLinksTakeATypedPortAndAChosenRate)
     });
     mnuConnectWx_Click(program.main);
     EXPECT_EQ(program.wires.opened, "serial /dev/ttyS0 2400");
+}
+
+// Completed by itself, a box would show a port that nobody chose while the field held what was typed.
+TEST(BinderTest, AnEditableListShowsWhatItsFieldHolds)
+{
+    QComboBox list;
+    list.setEditable(true);
+    list.addItem(QStringLiteral("/dev/ttyS0"));
+    std::string field;
+    Binder binder;
+    binder.Bind(list, field);
+    list.show();
+    list.setFocus();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list.hasFocus(); }));
+    QTest::keyClicks(list.lineEdit(), QStringLiteral("/dev"));
+    EXPECT_EQ(field, "/dev");
+    EXPECT_EQ(list.currentText(), QStringLiteral("/dev"));
 }
 
 TEST_F(DialogsTest, GpsPanelFollowsTheFixesAndIsHiddenByItsFrame)
