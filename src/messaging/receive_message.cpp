@@ -23,8 +23,10 @@ bool IsBulletin(std::string_view to)
 void TakeAck(MainWindow& main, const MessageReport& report)
 {
     MessageState& state = main.messages;
-    const std::string key = ToUpper(report.to) + '\0' + std::string(report.text.substr(kAckLength));
-    ListRow* row = state.lvSentList.FindFirst(kByNumber, key);
+    ListRow::Texts sent;
+    sent[message_column::kSentFrom] = report.to;
+    sent[message_column::kNumber] = report.text.substr(kAckLength);
+    ListRow* row = state.lvSentList.FindFirst(kByNumber, sent);
     if (!row || !row->IsBold())
         return;
     state.lvSentList.SetBold(*row, false);
@@ -64,7 +66,7 @@ void TakeMessage(MainWindow& main, Channel channel, const MessageReport& report)
 {
     const SettingsState& settings = main.Settings;
     const std::string& subnet = SettingText(settings, Setting::MessageSubnet);
-    if (!subnet.empty() && ToUpper(subnet) != ToUpper(report.dest))
+    if (!subnet.empty() && CompareIgnoringCase(subnet, report.dest) != 0)
         return;
     const bool bBulletin = IsBulletin(report.to);
     if (bBulletin && !SettingBool(settings, Setting::ReceiveBulletin))
@@ -76,7 +78,7 @@ void TakeMessage(MainWindow& main, Channel channel, const MessageReport& report)
                           std::string(report.text),   std::string(report.messageNumber)};
     for (std::string& field : row)
         field = CarriedText(field);
-    if (main.messages.lvMessageList.FindFirst(kByMessage, ToUpper(row[0] + row[1] + row[4] + row[5])))
+    if (main.messages.lvMessageList.FindFirst(kByMessage, row))
         return;
     const bool bForMe = IsMessageForMe(main, report.to);
     if (SettingBool(settings, Setting::All) || bForMe || bBulletin)
@@ -92,7 +94,8 @@ bool IsMessageForMe(const MainWindow& main, std::string_view to)
     if (to == call)
         return true;
     const std::string_view base = to.substr(0, to.find('-'));
-    return call.size() >= base.size() && ToUpper(std::string_view(call).substr(0, base.size())) == ToUpper(base) &&
+    return call.size() >= base.size() &&
+           CompareIgnoringCase(std::string_view(call).substr(0, base.size()), base) == 0 &&
            !SettingBool(main.Settings, Setting::MatchSSID);
 }
 

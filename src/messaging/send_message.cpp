@@ -53,8 +53,7 @@ void FileSent(MainWindow& main, const Message& message)
                           message.text, message.number};
     for (std::string& field : row)
         field = CarriedText(field);
-    if (state.lvSentList.FindFirst(kByMessage, ToUpper(row[column::kSentFrom] + row[column::kItem] +
-                                                       row[column::kText] + row[column::kNumber])))
+    if (state.lvSentList.FindFirst(kByMessage, row))
         return;
     const bool bBulletin = message.to.starts_with(kBulletin);
     state.lvSentList.Add(std::move(row), !bBulletin, bBulletin ? RowIcon::Bulletin : RowIcon::Message);

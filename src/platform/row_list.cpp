@@ -43,6 +43,11 @@ ListRow* RowList::FindFirst(std::size_t index, std::string_view key) const
     return first;
 }
 
+ListRow* RowList::FindFirst(std::size_t index, const ListRow::Texts& like) const
+{
+    return FindFirst(index, m_indexes[index].key(like));
+}
+
 ListRow& RowList::Add(ListRow::Texts texts, bool bBold, RowIcon icon)
 {
     auto row = std::make_unique<ListRow>();
@@ -51,7 +56,6 @@ ListRow& RowList::Add(ListRow::Texts texts, bool bBold, RowIcon icon)
     row->m_bBold = bBold;
     row->m_icon = icon;
     ListRow& added = *row;
-    WillInsert.Raise(added.m_row);
     m_rows.push_back(std::move(row));
     Enter(added);
     Inserted.Raise(added.m_row);
@@ -98,8 +102,6 @@ void RowList::RemoveSelected()
         for (const auto& [first, last] : pieces)
             RemoveRange(first, last);
     }
-    if (!pieces.empty())
-        SelectionChanged.Raise();
 }
 
 void RowList::Clear()
@@ -111,27 +113,12 @@ void RowList::Clear()
         index.rows.clear();
     m_rows.clear();
     Reset.Raise();
-    SelectionChanged.Raise();
 }
 
 void RowList::Select(std::size_t row, bool bSelected)
 {
-    if (row >= m_rows.size() || m_rows[row]->m_bSelected == bSelected)
-        return;
-    m_rows[row]->m_bSelected = bSelected;
-    SelectionChanged.Raise();
-}
-
-void RowList::SelectOnly(std::size_t row)
-{
-    for (const auto& other : m_rows)
-        other->m_bSelected = other->m_row == row;
-    SelectionChanged.Raise();
-}
-
-void RowList::SelectNone()
-{
-    SelectOnly(m_rows.size());
+    if (row < m_rows.size())
+        m_rows[row]->m_bSelected = bSelected;
 }
 
 const ListRow* RowList::FirstSelected() const

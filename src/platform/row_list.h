@@ -53,6 +53,8 @@ public:
     std::size_t CountBold() const;
     // From the top, the first row with this key of the index; null where there is none.
     ListRow* FindFirst(std::size_t index, std::string_view key) const;
+    // The first row whose texts have the same key.
+    ListRow* FindFirst(std::size_t index, const ListRow::Texts& like) const;
 
     ListRow& Add(ListRow::Texts texts, bool bBold, RowIcon icon = RowIcon::None); // At the end.
     void SetBold(ListRow& row, bool bBold);
@@ -61,8 +63,6 @@ public:
     void Clear();
 
     void Select(std::size_t row, bool bSelected);
-    void SelectOnly(std::size_t row);
-    void SelectNone();
     const ListRow* FirstSelected() const; // From the top.
 
     // Turns the order around, whichever column was sorted before, and puts the rows in it. Rows that are added later
@@ -72,14 +72,12 @@ public:
     bool IsAscending() const { return m_bAscending; }
 
     // Structure is told before and after; nothing is read in between.
-    Event<std::size_t> WillInsert; // Row.
-    Event<std::size_t> Inserted;
+    Event<std::size_t> Inserted;                // Row, told behind it alone.
     Event<std::size_t, std::size_t> WillRemove; // First and last row.
     Event<std::size_t, std::size_t> Removed;
     Event<std::size_t, std::size_t> Changed; // Bold of these rows.
     Event<> WillReset;                       // Rows go or take other places.
     Event<> Reset;
-    Event<> SelectionChanged;
 
 private:
     struct Index {

@@ -149,7 +149,7 @@ TEST_F(MessageTest, SendAgainRepeatsTheRowAsItStands)
     const Texts rows = RowsOf(SentList());
     mnuMsgSendAgain_Click(main); // No row is selected.
     EXPECT_EQ(Take(), Texts{});
-    main.messages.lvSentList.SelectOnly(0);
+    main.messages.lvSentList.Select(0, true);
     main.frmMessage.roads.chkRF = main.frmMessage.roads.chkTCP = false;
     program.clock.Advance(std::chrono::minutes(5));
     for (int i = 0; i < 2; ++i) {
@@ -175,7 +175,7 @@ TEST_F(MessageTest, ReplyForwardAndAStationOfTheTreeFillTheDialogOnce)
     };
     EXPECT_EQ(shown(mnuMsgReply_Click), "(not opened)");
     Hear(Channel::RF, "N0CALL", "are you there?");
-    main.messages.lvMessageList.SelectOnly(0);
+    main.messages.lvMessageList.Select(0, true);
     EXPECT_EQ(shown(mnuMsgReply_Click), "W1AW|");
     EXPECT_EQ(shown(mnuMsgForward_Click), "|are you there?");
     EXPECT_EQ(shown(mnuSendMessage_Click), "|");

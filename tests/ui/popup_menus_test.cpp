@@ -163,8 +163,8 @@ TEST(PopupMenus, MessagesOfferWhatGoesWithTheListInFront)
                               "New Message..."}));
     program.Sink(Channel::RF).ReportAprsMsg({"W1AW", "APRS", "", "BLN1", "net", ""});
     SendAprsMessage(main, "N0CALL", "W1AW", "", "hello", "3");
-    main.messages.lvMessageList.SelectOnly(0);
-    main.messages.lvSentList.SelectOnly(0);
+    main.messages.lvMessageList.Select(0, true);
+    main.messages.lvSentList.Select(0, true);
     EXPECT_EQ(shown(),
               (Names{"Open", "Reply...", "Forward...", "Delete", "Delete All", "Locate Sender", "New Message..."}));
     EXPECT_EQ(click("MessagesInbox"), (Names{"New Message...", "Clear Inbox", "Settings..."}));

@@ -1,10 +1,6 @@
 #pragma once
 
-#include "platform/event.h"
-
 #include <QTreeView>
-
-#include <vector>
 
 namespace ruvenmark {
 
