@@ -1,6 +1,5 @@
 #include "app/headless.h"
 
-#include "app/followed_sources.h"
 #include "app/print_state.h"
 #include "app/program_settings.h"
 #include "app/send_run.h"
@@ -13,6 +12,7 @@
 #include "lifecycle/stop.h"
 #include "links/station_files.h"
 #include "platform/headless.h"
+#include "platform/text.h"
 #ifdef RUVENMARK_DESKTOP
 #include "app/link_run.h"
 #include "ports/qt_byte_links.h"
@@ -24,6 +24,7 @@
 #include <memory>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 namespace ruvenmark {
 
@@ -86,10 +87,8 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
     SendDialogs dialogs;
     BareDesktop desktop;
     IByteLinks& wires = wiring.links;
-    ReportSources plainSources{wires};
-    FollowedSources followedSources{plainSources, out};
-    IReportSources& sources = options.bFollow ? static_cast<IReportSources&>(followedSources) : plainSources;
-    SendRun sends(plainSources.Events(), dialogs, prompts, err);
+    ReportSources sources{wires};
+    SendRun sends(sources.Events(), dialogs, prompts, err);
     GpsServers gpsServers{wires};
     WeatherServers weatherServers{wires};
     MainWindow main({.store = settings.Store(),
@@ -108,12 +107,17 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
                      .weatherServers = weatherServers,
                      .programFolder = settings.Folder()});
 
+    Subscription following;
+    if (options.bFollow) // Flushed, as whoever reads it waits for it.
+        following = main.links.LineHeard.Observe([&out](std::string_view line) {
+            out << TerminalText(line) << '\n' << std::flush;
+        });
     StartMainWindow(main, AutoConnect::No);
     if (load)
         LoadStationFile(main, *load);
     load.reset();
     const bool bConnected = options.connect.empty() || RunLinks(main, options, sends, err);
-    const RunState state{main, plainSources.Counts(), prompts.Messages()};
+    const RunState state{main, sources.Counts(), prompts.Messages()};
     if (options.bJson)
         PrintJson(out, state);
     else

@@ -86,11 +86,7 @@ bool RunLinks(MainWindow& main, const ProgramOptions& options, SendRun& sends, s
 {
     constexpr std::chrono::milliseconds kLook{100};
     QEventLoop loop;
-    bool bEnd = false;
-    const auto end = [&] {
-        bEnd = true;
-        loop.quit();
-    };
+    const auto end = [&loop] { loop.quit(); };
     const Termination termination(end);
     const PrintedPanels panels(main, err);
     const LogicTimers timers(main);
@@ -112,8 +108,7 @@ bool RunLinks(MainWindow& main, const ProgramOptions& options, SendRun& sends, s
         sending.Start();
     if (options.seconds)
         QTimer::singleShot(std::chrono::seconds(*options.seconds), &loop, end);
-    if (!bEnd)
-        loop.exec();
+    loop.exec();
     look();
     return (options.send.empty() || sends.End()) && waiting.empty();
 }

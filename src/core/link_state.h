@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <string_view>
 
 namespace ruvenmark {
 
@@ -32,6 +33,7 @@ struct LinkState {
     bool bPasswordFileTold = false; // The operator was warned of its rights.
     bool bGpsConnected = false;
     bool bWxConnected = false;
+    Event<std::string_view> LineHeard; // Of a live link, as it came, ahead of all else that it leads to.
     bool FileLoading = false;
     std::uint64_t FileLines = 0, FileRefused = 0; // Of the load that runs, or ran last: parsed, and no packets.
     Event<> LoadEnded;                            // Of a file, at its end or before.

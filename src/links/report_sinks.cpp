@@ -49,6 +49,8 @@ public:
     }
     void ReportRawData(std::string_view packet) override
     {
+        if (m_channel != Channel::FL)
+            m_main.links.LineHeard.Raise(packet);
         if (m_channel == Channel::RF) {
             aprs_ReportRawData(m_main, packet);
             NoteRadioLine(m_main);
