@@ -15,17 +15,10 @@ void Tell(MainWindow& main, std::string_view line)
 bool AttemptAloud(MainWindow& main, std::string_view complaint, const std::function<void()>& work)
 {
     std::string reason;
-    const bool bWell = Attempt(main.abandoned, complaint, [&] {
-        try {
-            work();
-        } catch (const Failure& failure) {
-            reason = failure.what();
-            throw;
-        }
-    });
-    if (!bWell)
-        Tell(main, std::string(complaint) + ": " + reason);
-    return bWell;
+    if (Attempt(main.abandoned, complaint, work, &reason))
+        return true;
+    Tell(main, std::string(complaint) + ": " + reason);
+    return false;
 }
 
 } // namespace ruvenmark

@@ -115,21 +115,6 @@ void ReplayLines(MainWindow& main, IByteStream& bytes)
     }
 }
 
-// Why it failed; empty where all is well.
-std::string ReasonOfFailure(MainWindow& main, const std::function<void()>& replay)
-{
-    std::string reason;
-    Attempt(main.abandoned, "LoadStationFile", [&] {
-        try {
-            replay();
-        } catch (const Failure& failure) {
-            reason = failure.what();
-            throw;
-        }
-    });
-    return reason;
-}
-
 void Load(MainWindow& main, const std::function<void()>& replay)
 {
     constexpr std::string_view kRoot = Traits(Channel::FL).word;
@@ -138,7 +123,8 @@ void Load(MainWindow& main, const std::function<void()>& replay)
         AddChannelTree(main.tvStationList, Channel::FL);
     main.links.FileLines = main.links.FileRefused = 0;
     main.sbStatusBar.SetNotice({});
-    const std::string reason = ReasonOfFailure(main, replay);
+    std::string reason; // Why it failed; empty where all is well.
+    Attempt(main.abandoned, "LoadStationFile", replay, &reason);
     const bool bStopped = reason.empty() && !main.links.FileLoading;
     main.links.aprsfl.reset();
     main.links.FileLoading = false;
