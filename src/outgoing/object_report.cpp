@@ -40,15 +40,6 @@ std::string_view Missing(const ObjectForm& form)
     return {};
 }
 
-// Of the first box that does not hold what it may; it is put back.
-std::optional<std::string> WrongNumber(Fields& fields)
-{
-    for (const ObjectBox& box : kObjectBoxes)
-        if (auto message = CheckNumber(fields.*box.text, box.rule))
-            return message;
-    return std::nullopt;
-}
-
 // The comment is kept only with a report that goes out.
 void KeepFields(ObjectForm& form)
 {
@@ -104,7 +95,7 @@ void frmObject_Send(MainWindow& main)
     ObjectForm& form = main.frmObject;
     if (const std::string_view missing = Missing(form); !missing.empty())
         return main.services.prompts.Message(missing);
-    if (const auto wrong = WrongNumber(form.shown)) {
+    if (const auto wrong = CheckNumbers(form.shown, kObjectBoxes)) {
         main.services.dialogs.Refresh(Form::frmObject);
         return main.services.prompts.Message(*wrong);
     }

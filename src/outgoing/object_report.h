@@ -18,12 +18,7 @@ std::optional<std::string> ObjectReportText(const ObjectForm::Fields& fields, co
 
 inline constexpr std::array<std::string_view, 2> kObjectStates = {"Active", "Cancelled"};
 
-// A box of frmObject that takes a number, and what it takes.
-struct ObjectBox {
-    std::string_view name;
-    std::string ObjectForm::Fields::*text;
-    NumberRule rule;
-};
+using ObjectBox = NumberBox<ObjectForm::Fields>;
 extern const std::array<ObjectBox, 3> kObjectBoxes;
 
 void frmObject_Load(MainWindow& main);

@@ -37,15 +37,6 @@ std::string_view Missing(const PositionForm& form)
     return {};
 }
 
-// Of the first box that does not hold what it may; it is put back.
-std::optional<std::string> WrongNumber(PositionForm& form)
-{
-    for (const PositionBox& box : kPositionBoxes)
-        if (auto message = CheckNumber(form.*box.text, box.rule))
-            return message;
-    return std::nullopt;
-}
-
 template <class Number>
 void KeepNumber(Number& kept, const std::string& text)
 {
@@ -123,7 +114,7 @@ void frmPosition_Send(MainWindow& main)
     PositionForm& form = main.frmPosition;
     if (const std::string_view missing = Missing(form); !missing.empty())
         return main.services.prompts.Message(missing);
-    if (const auto wrong = WrongNumber(form)) {
+    if (const auto wrong = CheckNumbers(form, kPositionBoxes)) {
         main.services.dialogs.Refresh(Form::frmPosition);
         return main.services.prompts.Message(*wrong);
     }

@@ -3,20 +3,13 @@
 #include "core/number_rule.h"
 
 #include <array>
-#include <string>
-#include <string_view>
 
 namespace ruvenmark {
 
 struct MainWindow;
 struct PositionForm;
 
-// A box that takes a number, and what it takes.
-struct PositionBox {
-    std::string_view name;
-    std::string PositionForm::*text;
-    NumberRule rule;
-};
+using PositionBox = NumberBox<PositionForm>;
 extern const std::array<PositionBox, 7> kPositionBoxes;
 
 void frmPosition_Load(MainWindow& main);
