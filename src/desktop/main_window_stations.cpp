@@ -8,6 +8,7 @@
 #include "desktop/shown_text.h"
 #include "desktop/stations/station_dock.h"
 #include "links/load_summary.h"
+#include "map/show_on_map.h"
 #include "ui/first_steps.h"
 #include "ui/opened_file.h"
 #include "ui/station_tree_commands.h"
@@ -44,9 +45,8 @@ QWidget* MainWindowView::MakeStationDock()
                                       RunLogic([&] { ShowListedStation(m_main, channel, call); });
                                   },
                                   [this](Channel channel, const std::string& call, QPoint place) {
-                                      TreeNode* node = NodeOfStation(m_main, channel, call);
-                                      if (const auto popup = tvStationList_MouseUp(m_main, kRightButton, node))
-                                          PopUp(place, popup->items);
+                                      if (TreeNode* node = NodeOfStation(m_main, channel, call))
+                                          PopUpFor(place, node);
                                   }},
                                  area);
     area->addDockWidget(Qt::BottomDockWidgetArea, m_stations);

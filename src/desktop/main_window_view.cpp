@@ -130,10 +130,7 @@ void MainWindowView::ConnectMap()
 
 void MainWindowView::ConnectTree()
 {
-    connect(m_tree, &TreeView::MenuWanted, this, [this](TreeNode* node, QPoint place) {
-        if (const auto popup = tvStationList_MouseUp(m_main, kRightButton, node))
-            PopUp(place, popup->items);
-    });
+    connect(m_tree, &TreeView::MenuWanted, this, [this](TreeNode* node, QPoint place) { PopUpFor(place, node); });
     connect(m_tree, &TreeView::ShowWanted, this, [this] { RunLogic([this] { ShowSelectedNode(m_main); }); });
     connect(m_tree, &TreeView::FocusMoved, this, [this](bool bHere) {
         m_main.window.bTreeFocus = bHere;
@@ -237,10 +234,8 @@ void MainWindowView::ShowMarkerMenu(QPoint at)
         return;
     Attempt(m_main.abandoned, "ShowMarkerMenu", [&] {
         SelectOnMap(m_main, *pin);
-        TreeNode* node = NodeOfMarker(m_main, *pin);
-        const auto popup = node ? tvStationList_MouseUp(m_main, kRightButton, node) : std::nullopt;
-        if (popup)
-            PopUp(m_map->mapToGlobal(at), popup->items);
+        if (TreeNode* node = NodeOfMarker(m_main, *pin))
+            PopUpFor(m_map->mapToGlobal(at), node);
     });
 }
 
@@ -249,6 +244,12 @@ void MainWindowView::PopUp(QPoint place, const std::vector<MenuItem>& items)
     QMenu* menu = m_menus.MakePopup(items, this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->popup(place);
+}
+
+void MainWindowView::PopUpFor(QPoint place, TreeNode* node)
+{
+    if (const auto popup = tvStationList_MouseUp(m_main, kRightButton, node))
+        PopUp(place, popup->items);
 }
 
 void MainWindowView::ShowInTree(const TreeNode& node)

@@ -79,6 +79,7 @@ private:
     void ShowMapLook();
     void ShowMarkerMenu(QPoint at); // A pixel of the map.
     void PopUp(QPoint place, const std::vector<MenuItem>& items);
+    void PopUpFor(QPoint place, TreeNode* node); // Null: beside the nodes of the tree.
     void RunLoad(const std::function<void()>& load);
     void AfterCommand();
     bool MayEndLoad();

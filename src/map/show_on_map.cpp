@@ -14,13 +14,6 @@ namespace {
 
 constexpr double kNearZoom = 10;
 
-TreeNode* NodeOfStation(MainWindow& main, const MarkedStation& station)
-{
-    TreeNode* root = main.tvStationList.Find(Traits(station.channel).word);
-    TreeNode* folder = root ? main.tvStationList.Find(*root, kPositions) : nullptr;
-    return folder ? main.tvStationList.Find(*folder, station.call) : nullptr;
-}
-
 // Whether the operator is at this node already: at the station's node in any folder, or at one of its facts.
 bool IsUnderSelection(const MainWindow& main, const TreeNode& node)
 {
@@ -65,10 +58,23 @@ std::optional<MarkedStation> StationOfMarker(const MainWindow& main, std::string
     return std::nullopt;
 }
 
+TreeNode* NodeOfStation(const MainWindow& main, Channel channel, std::string_view call)
+{
+    const TreeNode* root = main.tvStationList.Find(Traits(channel).word);
+    if (!root)
+        return nullptr;
+    for (const std::string_view word : {kPositions, kStatus, kWeather}) {
+        const TreeNode* folder = main.tvStationList.Find(*root, word);
+        if (TreeNode* node = folder ? main.tvStationList.Find(*folder, call) : nullptr)
+            return node;
+    }
+    return nullptr;
+}
+
 TreeNode* NodeOfMarker(MainWindow& main, const Pushpin& pin)
 {
     if (const auto station = StationOfMarker(main, pin.Name()))
-        return NodeOfStation(main, *station);
+        return NodeOfStation(main, station->channel, station->call);
     return pin.Name() == SettingText(main.Settings, Setting::Call) ? OwnNode(main) : nullptr;
 }
 
@@ -95,7 +101,7 @@ void PickOut(MainWindow& main, const Pushpin& pin)
 
 void SelectStationNode(MainWindow& main, const MarkedStation& station)
 {
-    if (TreeNode* node = NodeOfStation(main, station))
+    if (TreeNode* node = NodeOfStation(main, station.channel, station.call))
         main.tvStationList.Select(node);
 }
 

@@ -21,6 +21,8 @@ struct MarkedStation {
 // Nothing for markers of another kind.
 std::optional<MarkedStation> StationOfMarker(const MainWindow& main, std::string_view markerName);
 
+// The station's node under the first folder that has one; null where there is none.
+TreeNode* NodeOfStation(const MainWindow& main, Channel channel, std::string_view call);
 // The node of a marker: its station's, or the own station's entry with its position. Null where there is none.
 TreeNode* NodeOfMarker(MainWindow& main, const Pushpin& pin);
 
@@ -33,7 +35,7 @@ void ShowOnMap(MainWindow& main, const Pushpin& pin);
 // A marker is picked out where it lies: it is selected, above all others and with its name, and so is its node.
 void PickOut(MainWindow& main, const Pushpin& pin);
 
-// Selects the node under "Positions", where it stands.
+// Selects the station's node, where it stands.
 void SelectStationNode(MainWindow& main, const MarkedStation& station);
 
 // Another node was selected: the marker of its station, if any, is picked out too.

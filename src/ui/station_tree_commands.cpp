@@ -7,6 +7,7 @@
 #include "links/tnc_link.h"
 #include "map/markers.h"
 #include "map/range_circles.h"
+#include "map/show_on_map.h"
 #include "map/station_notes.h"
 #include "tracking/filter_form_rules.h"
 #include "ui/call_sign_page.h"
@@ -101,19 +102,6 @@ void tvStationList_Expand(MainWindow& main, TreeNode& node)
 {
     if (node.Parent() && node.Parent()->Parent())
         main.tvStationList.SetBold(node, false);
-}
-
-TreeNode* NodeOfStation(const MainWindow& main, Channel channel, std::string_view call)
-{
-    const TreeNode* root = main.tvStationList.Find(Traits(channel).word);
-    if (!root)
-        return nullptr;
-    for (const std::string_view word : {kPositions, kStatus, kWeather}) {
-        const TreeNode* folder = main.tvStationList.Find(*root, word);
-        if (TreeNode* node = folder ? main.tvStationList.Find(*folder, call) : nullptr)
-            return node;
-    }
-    return nullptr;
 }
 
 void ShowListedStation(MainWindow& main, Channel channel, std::string_view call)

@@ -42,8 +42,6 @@ std::optional<PopupMenu> tvStationList_MouseUp(MainWindow& main, int button, Tre
 // A node was expanded: a station is no news any more.
 void tvStationList_Expand(MainWindow& main, TreeNode& node);
 
-// The station's node under the first folder that has one; null where there is none.
-TreeNode* NodeOfStation(const MainWindow& main, Channel channel, std::string_view call);
 // Selects the station and shows it on the map.
 void ShowListedStation(MainWindow& main, Channel channel, std::string_view call);
 
