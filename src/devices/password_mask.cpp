@@ -1,5 +1,6 @@
 #include "devices/password_mask.h"
 
+#include "aprs/text.h"
 #include "platform/text.h"
 
 #include <cstddef>
@@ -8,27 +9,21 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr std::string_view kLogin = "user ";
 constexpr std::string_view kWord = "pass ";
 constexpr std::string_view kNoPassword = "-1";
 constexpr std::string_view kDots = "...";
 
-bool IsAlphanumeric(char c)
-{
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
 bool StandsAlone(std::string_view text, std::size_t at, std::size_t size)
 {
-    const bool bBefore = at > 0 && IsAlphanumeric(text[at - 1]);
-    const bool bBehind = at + size < text.size() && IsAlphanumeric(text[at + size]);
+    const bool bBefore = at > 0 && aprs::IsAlnum(text[at - 1]);
+    const bool bBehind = at + size < text.size() && aprs::IsAlnum(text[at + size]);
     return !bBefore && !bBehind;
 }
 
 // A packet begins with a call, and no call is followed by a blank.
 bool IsOfTheServer(std::string_view line)
 {
-    return line.starts_with('#') || CompareIgnoringCase(line.substr(0, kLogin.size()), kLogin) == 0;
+    return line.starts_with('#') || CompareIgnoringCase(line.substr(0, kLoginWord.size()), kLoginWord) == 0;
 }
 
 std::string_view WordAt(std::string_view line, std::size_t at)
@@ -41,7 +36,7 @@ void HideBehindWord(std::string& line)
 {
     for (auto at = line.find(kWord); at != std::string::npos; at = line.find(kWord, at + 1)) {
         const auto from = line.find_first_not_of(' ', at + kWord.size());
-        if (from != std::string::npos && (at == 0 || !IsAlphanumeric(line[at - 1])))
+        if (from != std::string::npos && (at == 0 || !aprs::IsAlnum(line[at - 1])))
             line.replace(from, WordAt(line, from).size(), kDots);
     }
 }
@@ -52,7 +47,7 @@ void PasswordMask::NoteSent(std::string_view line)
 {
     const std::string_view before = " pass ";
     const auto at = line.find(before);
-    if (!line.starts_with(kLogin) || at == std::string_view::npos)
+    if (!line.starts_with(kLoginWord) || at == std::string_view::npos)
         return;
     const std::string_view rest = line.substr(at + before.size());
     m_password = rest.substr(0, rest.find(' '));

@@ -5,6 +5,9 @@
 
 namespace ruvenmark {
 
+// The line that names the password begins so; no call holds a blank.
+inline constexpr std::string_view kLoginWord = "user ";
+
 // A server that repeats a login must not show the password to whoever looks at the monitor, the log or the tree.
 class PasswordMask {
 public:

@@ -8,7 +8,6 @@ namespace ruvenmark {
 namespace {
 
 constexpr std::chrono::seconds kConnectLimit{15};
-constexpr std::string_view kLogin = "user "; // No call holds a blank.
 
 } // namespace
 
@@ -32,7 +31,7 @@ void ServerSource::SendServerLine(std::string_view line)
     CheckOpen();
     m_mask.NoteSent(line);
     m_link->Write(ServerBytes(line));
-    if (m_listener && m_listener->onSent && !line.starts_with(kLogin))
+    if (m_listener && m_listener->onSent && !line.starts_with(kLoginWord))
         m_listener->onSent({SentReport::Road::Server, true, line});
 }
 

@@ -20,7 +20,6 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr double kMilesPerKnot = 1.15;
 constexpr double kStandingStill = 0.005; // Knots.
 
 bool AddsMarkers(const MainWindow& main, Channel channel)

@@ -6,6 +6,7 @@
 #include "links/gps_panel.h"
 #include "map/symbols.h"
 #include "outgoing/my_station.h"
+#include "platform/geometry.h"
 #include "platform/numbers.h"
 
 #include <cmath>
@@ -18,15 +19,7 @@ namespace {
 constexpr std::string_view kNamelessMarker = "Me"; // Until the operator has a call sign.
 constexpr std::int16_t kNamelessSymbol = 200;
 constexpr std::int16_t kNamelessLostSymbol = 70;
-constexpr double kMilesPerKnot = 1.15;
 constexpr std::string_view kAcquiring = "Acquiring GPS...";
-
-void ForgetFix(MainWindow& main)
-{
-    main.gps.bValidFix = false;
-    SetSetting(main.Settings, Setting::Speed, "");
-    SetSetting(main.Settings, Setting::Course, "");
-}
 
 void DropGps(MainWindow& main, std::string_view panelText)
 {
@@ -184,6 +177,13 @@ void EndGps(MainWindow& main)
     CloseGps(main);
     main.links.gps.reset();
     main.links.bGpsConnected = false;
+}
+
+void ForgetFix(MainWindow& main)
+{
+    main.gps.bValidFix = false;
+    SetSetting(main.Settings, Setting::Speed, "");
+    SetSetting(main.Settings, Setting::Course, "");
 }
 
 void aprs_ReportGpsData(MainWindow& main, const GpsReport& fix)

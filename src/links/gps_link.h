@@ -14,6 +14,9 @@ void ConnectGps(MainWindow& main);
 // At the end of the program: closes the port, and nothing else.
 void EndGps(MainWindow& main);
 
+// The receiver gives no place: no movement is known any more.
+void ForgetFix(MainWindow& main);
+
 // A fix that comes through the TNC; nothing unless a receiver hangs on it. It moves the same marker as one of the
 // receiver's own port, but tells nothing in the status bar, and without a place it leaves the marker as it is.
 void aprs_ReportGpsData(MainWindow& main, const GpsReport& fix);

@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "core/notices.h"
+#include "links/gps_link.h"
 #include "links/link_status_rules.h"
 #include "links/tnc_form_rules.h"
 #include "platform/failure.h"
@@ -45,14 +46,6 @@ void Drop(MainWindow& main, std::string_view text)
 {
     DropSource(main);
     Show(main, text);
-}
-
-// No movement is known any more.
-void ForgetFix(MainWindow& main)
-{
-    main.gps.bValidFix = false;
-    SetSetting(main.Settings, Setting::Speed, "");
-    SetSetting(main.Settings, Setting::Course, "");
 }
 
 void SendCommandFile(MainWindow& main, std::string_view name)

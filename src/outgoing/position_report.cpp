@@ -5,6 +5,7 @@
 #include "outgoing/report_text.h"
 #include "outgoing/send_report.h"
 #include "outgoing/symbol_lists.h"
+#include "platform/geometry.h"
 #include "platform/numbers.h"
 
 #include <utility>
@@ -32,12 +33,11 @@ std::int16_t BoundedNumber(const MainWindow& main, Setting setting, double highe
 
 std::string MotionText(const MainWindow& main)
 {
-    constexpr double kMphPerKnot = 1.15;
     const std::string& speed = SettingText(main.Settings, Setting::Speed);
     const std::string& course = SettingText(main.Settings, Setting::Course);
     if (!main.gps.bValidFix || speed.empty() || course.empty())
         return {};
-    return Padded(course, 3) + '/' + Padded(std::int64_t{ToInt16(ToDouble(speed) / kMphPerKnot)}, 3);
+    return Padded(course, 3) + '/' + Padded(std::int64_t{ToInt16(ToDouble(speed) / kMilesPerKnot)}, 3);
 }
 
 PositionReportData DataOfSettings(const MainWindow& main)

@@ -4,6 +4,7 @@ namespace ruvenmark {
 
 inline constexpr double kDegree = 3.141592653589793 / 180; // In radians. Qt's moc cannot read <numbers>.
 inline constexpr double kMetresPerMile = 1609.344;
+inline constexpr double kMilesPerKnot = 1.15;          // Both ways, so that a speed comes back as it was.
 inline constexpr double kEarthRadiusMiles = 3958.7613; // Of the sphere that everything is measured on.
 inline constexpr double kEquatorMetres = 360 * kDegree * kEarthRadiusMiles * kMetresPerMile;
 

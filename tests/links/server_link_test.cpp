@@ -332,22 +332,6 @@ TEST_F(ServerLinkTest, ASecondConnectTakesThePlaceOfTheFirst)
 }
 
 // What comes back of the login is nobody's to read: in no monitor, tree or line.
-TEST_F(ServerLinkTest, AnEchoedLoginShowsNoPassword)
-{
-    program.files.texts["/program/igatepw.txt"] = "W1AW:25988";
-    main.Of(Channel::TCP).bShowUnknown = true;
-    ConnectServerLink(main);
-    const std::string login = program.wires.Written();
-    ASSERT_NE(login.find("25988"), std::string::npos);
-    program.wires.Say(login + "# Invalid login, pass 25988\r\n");
-    EXPECT_EQ(main.monitors.txtTCPData.Text().find("25988"), std::string::npos);
-    EXPECT_NE(main.monitors.txtTCPData.Text().find("user w1aw-7 pass ... vers"), std::string::npos);
-    for (const std::string& line : program.notices.lines)
-        EXPECT_EQ(line.find("25988"), std::string::npos);
-    for (const std::string& text : program.ChildTexts("TCPUnknown"))
-        EXPECT_EQ(text.find("25988"), std::string::npos);
-}
-
 TEST_F(ServerLinkTest, StopClosesTheLink)
 {
     ConnectServerLink(main);
