@@ -112,7 +112,7 @@ void WindowPlacement::Keep()
     const bool bNoPlaces = HasNoPlaces();
     KeepGeometry(m_main, bNoPlaces ? window.left : TwipsOfPixels(corner.x()),
                  bNoPlaces ? window.top : TwipsOfPixels(corner.y()), TwipsOfPixels(m_window.width()),
-                 TwipsOfPixels(m_window.height()), false);
+                 TwipsOfPixels(m_window.height()));
 }
 
 } // namespace ruvenmark

@@ -5,6 +5,7 @@
 #include "options/options_form.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -55,6 +56,14 @@ inline constexpr std::array<OptionFrameInfo, 15> kOptionFrames = {{
     {OptionFrame::StationTree, OptionPage::Misc, "Colour in the Station Tree"},
     {OptionFrame::Tactical, OptionPage::Misc, "Tactical Call"},
 }};
+static_assert(
+    [] {
+        for (std::size_t i = 0; i < kOptionFrames.size(); ++i)
+            if (static_cast<std::size_t>(kOptionFrames[i].frame) != i)
+                return false;
+        return true;
+    }(),
+    "a frame is looked up by its place in the table");
 
 enum class OptionKind : std::uint8_t {
     Text,

@@ -198,11 +198,6 @@ void frmOptions_Save(MainWindow& main)
     main.services.dialogs.Hide(Form::frmOptions);
 }
 
-void frmOptions_Cancel(MainWindow& main)
-{
-    main.services.dialogs.Hide(Form::frmOptions);
-}
-
 void frmOptions_PinPoint(MainWindow& main)
 {
     StartPinPoint(main, {IsVisible, TakePoint, Form::frmOptions});

@@ -17,7 +17,6 @@ bool IsPinPointOffered(const OptionsForm& form);
 
 // Stores the fields, with effect at once, and closes the dialog; not while something is missing or wrong.
 void frmOptions_Save(MainWindow& main);
-void frmOptions_Cancel(MainWindow& main);
 void frmOptions_PinPoint(MainWindow& main);
 void frmOptions_Browse(MainWindow& main, const OptionBox& box); // For the file of the box.
 

@@ -68,13 +68,10 @@ std::int32_t AllowedWindowWidth(std::int32_t width)
     return std::max(width, kMinWindowWidth);
 }
 
-void KeepGeometry(MainWindow& main, std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height,
-                  bool bMinimised)
+void KeepGeometry(MainWindow& main, std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height)
 {
     WindowState& window = main.window;
-    window.bMinimised = bMinimised;
-    if (bMinimised)
-        return;
+    window.bMinimised = false;
     window.left = left;
     window.top = top;
     window.width = AllowedWindowWidth(width);

@@ -42,9 +42,8 @@ void DropSplitter(MainWindow& main, std::int32_t x, std::int32_t scaleWidth);
 
 // The width that a resized window takes.
 std::int32_t AllowedWindowWidth(std::int32_t width);
-// The window's place, kept for the next start; nothing is kept of a minimised window.
-void KeepGeometry(MainWindow& main, std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height,
-                  bool bMinimised);
+// The place of a window that is no icon, kept for the next start.
+void KeepGeometry(MainWindow& main, std::int32_t left, std::int32_t top, std::int32_t width, std::int32_t height);
 
 // Commands. Each raises WindowState::Changed.
 void mnuTreeView_Click(MainWindow& main);

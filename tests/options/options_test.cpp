@@ -64,13 +64,6 @@ TEST(OptionBoxes, StandOnTheirPagesInTheOrderOfSave)
                 ElementsAre("Black", "Red", "Green", "Yellow", "Blue", "Magenta", "Cyan", "White"));
 }
 
-// A frame that its enum and its table place differently would move boxes to another page.
-TEST(OptionBoxes, FramesStandInTheirOrder)
-{
-    for (std::size_t i = 0; i < kOptionFrames.size(); ++i)
-        EXPECT_EQ(static_cast<std::size_t>(kOptionFrames[i].frame), i);
-}
-
 TEST_F(Options, BoxesTakeTheirBoundsAndNothingBeyond)
 {
     constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
@@ -132,7 +125,7 @@ TEST_F(Options, NothingIsStoredWhileSomethingIsMissingOrWrong)
         EXPECT_TRUE(IsOpen());
         EXPECT_EQ(main.frmOptions.SSTab1, 0);
         EXPECT_EQ(Kept(S::Lat), "");
-        frmOptions_Cancel(main);
+        program.dialogs.Hide(Form::frmOptions);
     }
     mnuViewOptions_Click(main);
     EXPECT_EQ(Text(S::Lat), ""); // What was cancelled is gone.

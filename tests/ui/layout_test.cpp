@@ -80,8 +80,8 @@ TEST(Layout, ANarrowWindowGrowsAndAMinimisedOneKeepsItsPlace)
     EXPECT_EQ(AllowedWindowWidth(2999), 3000);
     EXPECT_EQ(AllowedWindowWidth(3001), 3001);
     TestProgram program;
-    KeepGeometry(program.main, 10, 20, 7000, 8000, false);
-    KeepGeometry(program.main, -480000, -480000, 2400, 400, true);
+    KeepGeometry(program.main, 10, 20, 7000, 8000);
+    program.main.window.bMinimised = true;
     StopMainWindow(program.main);
     EXPECT_EQ(program.store.Get("MainLeft", "as before"), "as before");
     EXPECT_EQ(program.store.Get("WindowSplit", ""), "2000");

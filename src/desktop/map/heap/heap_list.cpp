@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMouseEvent>
-#include <QScrollBar>
 #include <QToolButton>
 #include <QTreeView>
 #include <QVBoxLayout>
