@@ -35,26 +35,25 @@ std::uint64_t KeyOf(std::string_view text)
     return std::min(KeyPart(text, 0), kUnknownSortKey - 1);
 }
 
-std::int64_t LastHeard(const Record& record)
-{
-    std::int64_t last = 0;
-    for (const Field field : {Field::PositionReceived, Field::StatusReceived, Field::WeatherReceived})
-        last = std::max(last, SecondsOfLocalText(record.Get(field)));
-    return last;
-}
+// When the station was heard last, and by which path as far as one is known.
+struct LastReport {
+    std::int64_t heard = 0;
+    std::string_view path;
+};
 
-std::string_view LastPath(const Record& record)
+LastReport LastReportOf(const Record& record)
 {
     constexpr std::array<std::pair<Field, Field>, 3> kPaths = {{{Field::PositionReceived, Field::PositionPath},
                                                                 {Field::StatusReceived, Field::StatusPath},
                                                                 {Field::WeatherReceived, Field::WeatherPath}}};
-    std::string_view last;
-    std::int64_t heard = -1;
+    LastReport last;
+    std::int64_t ofPath = -1;
     for (const auto& [received, path] : kPaths) {
         const std::int64_t at = SecondsOfLocalText(record.Get(received));
-        if (at > heard && record.Has(path)) {
-            heard = at;
-            last = record.Get(path);
+        last.heard = std::max(last.heard, at);
+        if (at > ofPath && record.Has(path)) {
+            ofPath = at;
+            last.path = record.Get(path);
         }
     }
     return last;
@@ -87,11 +86,12 @@ bool FillRow(StationRow& row, const MainWindow& main, const std::optional<GeoPoi
     if (!record)
         return false;
     row.symbol = record->Get(Field::Symbol);
-    row.path = LastPath(*record);
+    const LastReport last = LastReportOf(*record);
+    row.heard = last.heard;
+    row.path = last.path;
     row.comment = record->Get(Field::Comment);
     if (row.comment.empty())
         row.comment = record->Get(Field::Status);
-    row.heard = LastHeard(*record);
     row.course = ReadNumber(record->Get(Field::Course));
     row.speed = ReadNumber(record->Get(Field::Speed));
     row.miles.reset();

@@ -119,7 +119,8 @@ void StationRows::MarkAll()
     m_unseen.clear();
     for (const ChannelState& state : m_main.channels)
         for (const auto& [call, record] : state.Stations)
-            m_unseen.emplace_back(state.channel, call);
+            if (!m_ids[Index(state.channel)].contains(call))
+                m_unseen.emplace_back(state.channel, call);
     for (const Id id : m_order)
         MarkId(id);
     if (!m_unseen.empty())
