@@ -1,7 +1,8 @@
 #pragma once
 
+#include "support/event_loop.h"
+
 #include <QByteArray>
-#include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
 #include <QStringList>
@@ -10,24 +11,9 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <csignal>
-#include <functional>
 
 namespace ruvenmark {
-
-// Lets events in until it is so; false after a minute.
-inline bool RunUntil(const std::function<bool()>& isDone)
-{
-    constexpr std::chrono::seconds kLimit{60};
-    const auto end = std::chrono::steady_clock::now() + kLimit;
-    while (!isDone()) {
-        if (std::chrono::steady_clock::now() > end)
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
-    }
-    return true;
-}
 
 // The stored port has 16 bits: no port that the system chooses.
 inline void Listen(QTcpServer& server)

@@ -1,37 +1,12 @@
 #pragma once
 
 #include "contracts/byte_link.h"
-
-#include <QEventLoop>
-#include <QTimer>
+#include "support/event_loop.h"
 
 #include <functional>
 #include <string>
 
 namespace ruvenmark {
-
-// Runs the event loop until something is so, for a minute at most: machines that are busy are slow.
-inline bool RunUntil(const std::function<bool()>& isSo, std::chrono::milliseconds limit = std::chrono::minutes{1})
-{
-    QEventLoop loop;
-    QTimer poll, end;
-    QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-        if (isSo())
-            loop.quit();
-    });
-    end.setSingleShot(true);
-    QObject::connect(&end, &QTimer::timeout, &loop, &QEventLoop::quit);
-    poll.start(1);
-    end.start(limit);
-    if (!isSo())
-        loop.exec();
-    return isSo();
-}
-
-inline void RunFor(std::chrono::milliseconds time)
-{
-    RunUntil([] { return false; }, time);
-}
 
 struct NotingSink final : IByteSink {
     void OnOpened(Moment /*now*/) override { ++opened; }
