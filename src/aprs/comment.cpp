@@ -13,14 +13,6 @@ bool IsTidy(std::string_view text)
 
 } // namespace
 
-Comment::Comment(std::string_view text) : m_text(text.data())
-{
-    if (!text.empty()) {
-        Set(0, text);
-        m_count = 1;
-    }
-}
-
 void Comment::Set(std::size_t piece, std::string_view text)
 {
     m_pieces[piece] = {static_cast<std::uint16_t>(text.data() - m_text), static_cast<std::uint16_t>(text.size())};

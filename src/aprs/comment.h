@@ -15,9 +15,13 @@ class Comment {
 public:
     static constexpr std::size_t kMaxPieces = 6;
 
-    Comment() = default;
-    // At most 64 KiB; no line is that long.
-    explicit Comment(std::string_view text);
+    // The whole text in one piece; at most 64 KiB, no line is that long. What was in it is forgotten.
+    void Assign(std::string_view text)
+    {
+        m_text = text.data();
+        m_pieces[0] = {0, static_cast<std::uint16_t>(text.size())};
+        m_count = text.empty() ? 0 : 1;
+    }
 
     std::size_t Count() const { return m_count; }
     std::string_view operator[](std::size_t piece) const

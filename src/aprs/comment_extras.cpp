@@ -142,7 +142,7 @@ void ParseComment(std::string_view text, PositionReport& report)
     if (text.empty())
         return;
     const CommentMarks marks = FindMarks(text);
-    report.comment = Comment(text);
+    report.comment.Assign(text);
     if (marks.bEquals)
         TakeAltitude(report.comment, report);
     TakeCommon(marks, report);
@@ -153,7 +153,7 @@ void ParseMicEComment(std::string_view text, PositionReport& report)
     if (text.empty())
         return;
     const CommentMarks marks = FindMarks(text);
-    report.comment = Comment(text);
+    report.comment.Assign(text);
     if (marks.bBrace)
         TakeMicEAltitude(report.comment, report);
     if (marks.bEquals && !report.altitude)

@@ -34,6 +34,14 @@ public:
         return static_cast<std::size_t>(std::countr_zero(others)) / 8;
     }
 
+    // Whether so many digits stand in front, and then none. Of a constant count, less than all: a branch on it costs
+    // less than the count, and what follows need not wait for it.
+    bool IsRunOf(std::size_t count) const
+    {
+        const std::uint64_t others = ((m_bytes + kUpToNine) | m_bytes) & kHighBits;
+        return others << (56 - 8 * count) == std::uint64_t{1} << 63U;
+    }
+
     // The number that the first `count` bytes, digits all and one at least, stand for.
     std::uint32_t Value(std::size_t count) const { return Join(m_bytes << (64 - 8 * count)); }
 

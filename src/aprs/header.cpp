@@ -114,52 +114,57 @@ Refusal ParseCarefully(std::string_view line, Header& header, std::string_view& 
 
 #ifdef __SSE2__
 
-constexpr std::size_t kWindow = 64;
-
-// One bit a byte of a line's first 64, the first byte in the lowest bit.
-struct Bits {
-    std::uint64_t call = 0;  // Letters, digits, dashes.
-    std::uint64_t plain = 0; // Capitals and digits.
-    std::uint64_t comma = 0, star = 0, colon = 0;
-};
-
-// All ones in each byte between the two bounds, unsigned.
-__m128i Between(__m128i bytes, char low, char high)
-{
-    const __m128i shifted = _mm_sub_epi8(bytes, _mm_set1_epi8(low));
-    return _mm_cmpeq_epi8(_mm_min_epu8(shifted, _mm_set1_epi8(static_cast<char>(high - low))), shifted);
-}
+constexpr std::size_t kBlock = sizeof(__m128i);
+constexpr std::size_t kUsual = 3 * kBlock;  // Where nearly every header ends before.
+constexpr std::size_t kWindow = 4 * kBlock; // Beyond it we do not look at once.
 
 __m128i Equal(__m128i bytes, char c)
 {
     return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c));
 }
 
-void AddBits(std::uint64_t& bits, __m128i bytes, std::size_t at)
+// All ones in each byte from `low` to `high`.
+__m128i Between(__m128i bytes, char low, char high)
 {
-    bits |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm_movemask_epi8(bytes))) << at;
+    constexpr char kMost = 0x7f;
+    const __m128i raised = _mm_add_epi8(bytes, _mm_set1_epi8(static_cast<char>(kMost - high)));
+    return _mm_cmpgt_epi8(raised, _mm_set1_epi8(static_cast<char>(kMost - high + low - 1)));
 }
 
-Bits ReadWindow(const char* text)
-{
-    Bits bits;
-    for (std::size_t at = 0; at < kWindow; at += sizeof(__m128i)) {
+// One bit a byte of a line's front, the first byte in the lowest bit.
+class Bits {
+public:
+    void Read(const char* text, std::size_t at)
+    {
         const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + at));
-        const __m128i letter = Between(_mm_or_si128(bytes, _mm_set1_epi8(0x20)), 'a', 'z');
-        const __m128i digit = Between(bytes, '0', '9');
-        AddBits(bits.call, _mm_or_si128(letter, _mm_or_si128(digit, Equal(bytes, '-'))), at);
-        AddBits(bits.plain, _mm_or_si128(Between(bytes, 'A', 'Z'), digit), at);
-        AddBits(bits.comma, Equal(bytes, ','), at);
-        AddBits(bits.star, Equal(bytes, '*'), at);
-        AddBits(bits.colon, Equal(bytes, ':'), at);
+        const __m128i letters = Between(_mm_or_si128(bytes, _mm_set1_epi8(0x20)), 'a', 'z');
+        const __m128i dashes = Equal(bytes, '-');
+        Add(call, _mm_or_si128(letters, _mm_or_si128(Between(bytes, '0', '9'), dashes)), at);
+        Add(dash, dashes, at);
+        Add(comma, Equal(bytes, ','), at);
+        Add(star, Equal(bytes, '*'), at);
     }
-    return bits;
-}
+
+    std::uint64_t call = 0; // Letters, digits, dashes.
+    std::uint64_t dash = 0, comma = 0, star = 0;
+
+private:
+    static void Add(std::uint64_t& bits, __m128i bytes, std::size_t at)
+    {
+        bits |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm_movemask_epi8(bytes))) << at;
+    }
+};
 
 // Bits below the given one.
 std::uint64_t Below(std::size_t bit)
 {
     return (std::uint64_t{1} << bit) - 1;
+}
+
+// Where the run of bits that begins at the given one ends.
+std::size_t EndOfRun(std::uint64_t bits, std::size_t begin)
+{
+    return begin + static_cast<std::size_t>(std::countr_one(bits >> begin));
 }
 
 // Whether bits hold a run of ten: an address longer than nine.
@@ -171,42 +176,42 @@ bool HasTooLong(std::uint64_t call)
     return (eight & two >> 8U) != 0;
 }
 
-// Between its first comma and the colon: addresses of usual length, one comma between them, stars only behind them.
+// Between its first comma and the colon: one comma between addresses, stars only behind them.
 bool IsPlainPath(const Bits& bits, std::size_t comma, std::size_t colon)
 {
     const std::uint64_t path = Below(colon) & ~Below(comma);
     const std::uint64_t star = bits.star & path;
     const std::uint64_t ends = (bits.comma & path) | std::uint64_t{1} << colon;
-    const std::uint64_t strange = path & ~(bits.call | bits.comma | bits.star);
-    const std::uint64_t misplaced = (ends & ends << 1U) | (star & (ends << 1U | star << 1U)) | (star << 1U & ~ends);
-    return (strange | misplaced) == 0;
+    return ((ends & ends << 1U) | (star & (ends << 1U | star << 1U)) | (star << 1U & ~ends)) == 0;
 }
 
 // The usual header, told without looking at its bytes one by one. What is unusual in any way is not told.
 bool ParseQuickly(std::string_view line, Header& header, std::string_view& info)
 {
-    std::array<char, kWindow> shortLine;
-    const char* text = line.data();
-    if (line.size() < kWindow) {
-        std::fill(std::copy(line.begin(), line.end(), shortLine.begin()), shortLine.end(), '\0');
-        text = shortLine.data();
+    if (line.size() < kUsual)
+        return false;
+    const char* const text = line.data();
+    Bits bits;
+    for (std::size_t at = 0; at < kUsual; at += kBlock)
+        bits.Read(text, at);
+    const std::size_t angle = EndOfRun(bits.call, 0);
+    if (angle == 0 || angle + 1 >= kUsual || text[angle] != '>')
+        return false;
+    std::size_t colon = EndOfRun(bits.call | bits.comma | bits.star, angle + 1);
+    if (colon == kUsual && line.size() > kWindow) {
+        bits.Read(text, kUsual);
+        colon = EndOfRun(bits.call | bits.comma | bits.star, angle + 1);
     }
-    const Bits bits = ReadWindow(text);
-    const auto colon = static_cast<std::size_t>(std::countr_zero(bits.colon));
-    const auto angle = static_cast<std::size_t>(std::countr_one(bits.call));
-    if (colon >= kWindow - 1 || angle >= colon || text[angle] != '>' || colon + 1 == line.size())
+    const std::size_t comma = EndOfRun(bits.call, angle + 1);
+    if (colon + 1 >= line.size() || colon >= kWindow || text[colon] != ':' || comma == angle + 1 || text[comma] == '*' ||
+        HasTooLong(bits.call & Below(colon)) || !IsPlainPath(bits, comma, colon))
         return false;
-    const std::uint64_t dest = bits.call & ~Below(angle + 1);
-    const auto comma = angle + 1 + static_cast<std::size_t>(std::countr_one(dest >> (angle + 1)));
-    const std::string_view destText = line.substr(angle + 1, comma - angle - 1);
-    const auto destPlain = static_cast<std::size_t>(std::countr_one(bits.plain >> (angle + 1)));
-    const bool bPlainDest = destPlain > 0 && destPlain == destText.size();
-    if (angle == 0 || (text[comma] != ',' && text[comma] != ':') || HasTooLong(bits.call & Below(colon)) ||
-        (!bPlainDest && !IsDestination(destText)) || !IsPlainPath(bits, comma, colon))
+    const std::string_view dest(text + angle + 1, comma - angle - 1);
+    if ((bits.dash & Below(comma) & ~Below(angle)) != 0 && !IsDestination(dest))
         return false;
-    header.source = line.substr(0, angle);
-    header.dest = destText;
-    header.path = comma == colon ? std::string_view() : line.substr(comma + 1, colon - comma - 1);
+    header.source = {text, angle};
+    header.dest = dest;
+    header.path = comma == colon ? std::string_view() : std::string_view(text + comma + 1, colon - comma - 1);
     info = line.substr(colon + 1);
     return true;
 }

@@ -82,7 +82,7 @@ Refusal ParseTimedPosition(std::string_view text, PositionReport& report)
 {
     if (text.size() <= kTimeSize)
         return Refusal::PositionTooShort;
-    report.time = ParseTime(text.substr(0, kTimeSize));
+    ParseTime(text.substr(0, kTimeSize), report.time);
     if (report.time.IsBad() && LeavesTimeOut(text)) {
         report.time = {};
         return ParsePositionReport(text, report);

@@ -41,7 +41,7 @@ std::size_t ParseReach(std::string_view text, PositionReport& report)
     const std::string_view digits = text.substr(3, 4);
     if (!IsReach(digits))
         return 0;
-    Reach reach;
+    Reach& reach = report.reach.emplace();
     reach.digits = text.substr(3, HasRate(text) ? 5 : 4);
     reach.bDirectionFinding = !text.starts_with(kPower);
     if (!reach.bDirectionFinding)
@@ -51,7 +51,6 @@ std::size_t ParseReach(std::string_view text, PositionReport& report)
         reach.height = 10 << doublings;
     reach.gain = DigitValue(digits[2]);
     reach.directivity = kDirections[static_cast<std::size_t>(DigitValue(digits[3]))];
-    report.reach = reach;
     return 3 + reach.digits.size();
 }
 

@@ -28,7 +28,7 @@ std::size_t StatusLocatorSize(std::string_view text)
 void ParseStatus(std::string_view text, StatusReport& status)
 {
     if (text.size() >= kTimeSize && text[kTimeSize - 1] == 'z' && AllDigits(text.substr(0, kTimeSize - 1))) {
-        status.time = ParseTime(text.substr(0, kTimeSize));
+        ParseTime(text.substr(0, kTimeSize), status.time);
         text.remove_prefix(kTimeSize);
     }
     status.text = Trim(text);

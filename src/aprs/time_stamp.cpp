@@ -22,12 +22,11 @@ bool IsClock(std::uint8_t hour, std::uint8_t minute)
 
 } // namespace
 
-TimeStamp ParseTime(std::string_view text)
+void ParseTime(std::string_view text, TimeStamp& time)
 {
-    TimeStamp time;
     time.text = text;
     if (text.size() != kTimeSize || !AllDigits(text.substr(0, 6)))
-        return time;
+        return;
     const std::uint8_t first = Pair(text, 0);
     const std::uint8_t second = Pair(text, 2);
     const std::uint8_t third = Pair(text, 4);
@@ -43,22 +42,19 @@ TimeStamp ParseTime(std::string_view text)
         time.hour = second;
         time.minute = third;
     }
-    return time;
 }
 
-TimeStamp ParseMonthTime(std::string_view text)
+void ParseMonthTime(std::string_view text, TimeStamp& time)
 {
-    TimeStamp time;
     time.text = text;
     if (text.size() != kMonthTimeSize || !AllDigits(text))
-        return time;
+        return;
     time.month = Pair(text, 0);
     time.day = Pair(text, 2);
     time.hour = Pair(text, 4);
     time.minute = Pair(text, 6);
     if (time.month >= 1 && time.month <= 12 && IsDay(time.day) && IsClock(time.hour, time.minute))
         time.form = TimeForm::MonthDayHourMinute;
-    return time;
 }
 
 } // namespace ruvenmark::aprs

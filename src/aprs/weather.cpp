@@ -42,7 +42,7 @@ Refusal ParsePositionlessWeather(std::string_view body, WeatherReport& report)
 {
     if (body.size() <= kMonthTimeSize || !AllDigits(body.substr(0, kMonthTimeSize)) || body[kMonthTimeSize] != 'c')
         return Refusal::BadWeather;
-    report.time = ParseMonthTime(body.substr(0, kMonthTimeSize));
+    ParseMonthTime(body.substr(0, kMonthTimeSize), report.time);
     std::string_view rest;
     if (!ParseWeather(body.substr(kMonthTimeSize), report.weather, rest))
         return Refusal::BadWeather;

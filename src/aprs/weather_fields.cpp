@@ -30,8 +30,8 @@ using Value = std::optional<double> Weather::*;
 // What the figure behind a letter means: its value is the figure divided, with something added.
 struct Field {
     Value value = nullptr; // None for letters that are known, but of no use.
-    float divisor = 1;     // Small whole numbers, like the next: 16 bytes make a field quick to find.
-    std::int16_t addend = 0;
+    double divisor = 1;
+    double addend = 0;
     std::uint8_t minDigits = 1;
     std::uint8_t maxDigits = 0; // 0 for letters that mean nothing here.
 };
@@ -98,18 +98,29 @@ std::size_t TakeDecimal(std::string_view figure, std::size_t point, Weather& wea
     return point + 1 + decimals.count;
 }
 
-// The usual field: its letter, then no more digits than it has, with no point behind them. 0 for any other.
+// A field of so many digits, which is as many as it may have and with no point behind them; else 0.
+template <std::size_t count>
+std::size_t TakeUsualField(const DigitBlock& block, const Field& field, Weather& weather)
+{
+    if (count > field.maxDigits || block.Is(count, '.'))
+        return 0;
+    if (field.value != nullptr && count >= field.minDigits)
+        weather.*field.value = static_cast<int>(block.Value(count)) / field.divisor + field.addend;
+    return 1 + count;
+}
+
+// The field's letter with as many digits as the book gives to nearly all of them, to humidity, to pressure. 0 for any
+// other. A branch for each number: the next field is on its way while this one is still read.
 std::size_t TakeUsualField(std::string_view text, const Field& field, Weather& weather)
 {
     if (text.size() <= DigitBlock::kSize)
         return 0;
     const DigitBlock block(text.data() + 1);
-    const std::size_t count = block.Count();
-    if (count < 2 || count > field.maxDigits || text[1 + count] == '.')
-        return 0;
-    if (field.value != nullptr && count >= field.minDigits)
-        weather.*field.value = static_cast<int>(block.Value(count)) / double{field.divisor} + field.addend;
-    return 1 + count;
+    if (block.IsRunOf(3))
+        return TakeUsualField<3>(block, field, weather);
+    if (block.IsRunOf(2))
+        return TakeUsualField<2>(block, field, weather);
+    return block.IsRunOf(5) ? TakeUsualField<5>(block, field, weather) : 0;
 }
 
 // The field's letter with its figure in front of the text; returns its size, or 0 where there is no figure. A figure
@@ -134,7 +145,7 @@ std::size_t TakeField(std::string_view text, const Field& field, bool bBehindBla
         return 0;
     if (field.value != nullptr && run.count >= field.minDigits) {
         const int value = static_cast<int>(run.value);
-        weather.*field.value = (figure[0] == '-' ? -value : value) / double{field.divisor} + field.addend;
+        weather.*field.value = (figure[0] == '-' ? -value : value) / field.divisor + field.addend;
     }
     return 1 + size;
 }
