@@ -3,6 +3,7 @@
 #include "aprs/text.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -16,34 +17,38 @@ namespace ruvenmark::aprs {
 // Eight bytes, the first in the lowest: a digit is its value, any other byte is more than 9.
 class DigitBlock {
 public:
-    explicit DigitBlock(const char* text)
+    explicit DigitBlock(const char* text) : m_bytes(Load<std::uint64_t>(text) ^ kZeros) {}
+    // Of seven bytes, with one that is no digit behind them.
+    static DigitBlock OfSeven(const char* text)
     {
-        std::memcpy(&m_bytes, text, kSize);
-        if constexpr (std::endian::native == std::endian::big)
-            m_bytes = __builtin_bswap64(m_bytes);
-        m_bytes ^= kZeros;
+        return DigitBlock((Load<std::uint32_t>(text) | Load<std::uint32_t>(text + 3) << 24U) ^ kZeros);
     }
 
     static constexpr std::size_t kSize = 8;
 
     // How many digits stand in front, up to eight.
-    std::size_t Count() const
-    {
-        // A carry only reaches bytes behind the first that is no digit.
-        const std::uint64_t others = ((m_bytes + kUpToNine) | m_bytes) & kHighBits;
-        return static_cast<std::size_t>(std::countr_zero(others)) / 8;
-    }
-
-    // Whether so many digits stand in front, and then none. Of a constant count, less than all: a branch on it costs
-    // less than the count, and what follows need not wait for it.
-    bool IsRunOf(std::size_t count) const
-    {
-        const std::uint64_t others = ((m_bytes + kUpToNine) | m_bytes) & kHighBits;
-        return others << (56 - 8 * count) == std::uint64_t{1} << 63U;
-    }
+    std::size_t Count() const { return static_cast<std::size_t>(std::countr_zero(Others())) / 8; }
+    // Whether at least so many do, one or more.
+    bool Begins(std::size_t count) const { return Others() << (64 - 8 * count) == 0; }
+    // Whether so many do, and no more; less than all. A branch on it costs less than the count, and what follows need
+    // not wait for it.
+    bool IsRunOf(std::size_t count) const { return Others() << (56 - 8 * count) == std::uint64_t{1} << 63U; }
 
     // The number that the first `count` bytes, digits all and one at least, stand for.
     std::uint32_t Value(std::size_t count) const { return Join(m_bytes << (64 - 8 * count)); }
+    // The same number as four of two digits, or two of four: what it lacks in front is 0.
+    std::array<std::uint8_t, 4> Pairs(std::size_t count) const
+    {
+        const std::uint64_t pairs = JoinPairs(m_bytes << (64 - 8 * count));
+        const auto pair = [&](unsigned at) { return static_cast<std::uint8_t>(pairs >> (16 * at)); };
+        return {pair(0), pair(1), pair(2), pair(3)};
+    }
+    std::array<std::uint16_t, 2> Fours(std::size_t count) const
+    {
+        const std::uint64_t pairs = JoinPairs(m_bytes << (64 - 8 * count)) & kPairs;
+        const std::uint64_t fours = pairs * 100 + (pairs >> 16U);
+        return {static_cast<std::uint16_t>(fours), static_cast<std::uint16_t>(fours >> 32U)};
+    }
 
     // Whether the byte is this character, which is no digit.
     bool Is(std::size_t at, char c) const
@@ -51,7 +56,8 @@ public:
         return ((m_bytes ^ kZeros) >> (at * 8) & 0xFFU) == static_cast<unsigned char>(c);
     }
 
-    // The block with one byte taken out and 0 put behind the last.
+    // The block with one byte made 0, or taken out and 0 put behind the last.
+    DigitBlock Zeroed(std::size_t at) const { return DigitBlock(m_bytes & ~(std::uint64_t{0xFF} << (at * 8))); }
     DigitBlock Without(std::size_t at) const
     {
         const std::uint64_t front = (std::uint64_t{1} << (at * 8)) - 1;
@@ -61,10 +67,25 @@ public:
 private:
     explicit DigitBlock(std::uint64_t bytes) : m_bytes(bytes) {}
 
+    template <class Word>
+    static std::uint64_t Load(const char* text)
+    {
+        Word word;
+        std::memcpy(&word, text, sizeof(Word));
+        if constexpr (std::endian::native == std::endian::big)
+            return sizeof(Word) == kSize ? __builtin_bswap64(word) : __builtin_bswap32(static_cast<std::uint32_t>(word));
+        return word;
+    }
+
+    // The highest bit of each byte that is no digit. A carry only reaches bytes behind the first of them.
+    std::uint64_t Others() const { return ((m_bytes + kUpToNine) | m_bytes) & kHighBits; }
+
+    // Pairs in every other byte, with others between them.
+    static std::uint64_t JoinPairs(std::uint64_t digits) { return digits * 10 + (digits >> 8U); }
     // Pairs, then fours, then all eight.
     static std::uint32_t Join(std::uint64_t digits)
     {
-        digits = digits * 10 + (digits >> 8U);
+        digits = JoinPairs(digits);
         digits = ((digits & 0x000000FF000000FFU) * (100 + (1000000ULL << 32U)) +
                   (digits >> 16U & 0x000000FF000000FFU) * (1 + (10000ULL << 32U))) >>
                  32U;
@@ -74,6 +95,7 @@ private:
     static constexpr std::uint64_t kZeros = 0x3030303030303030U;
     static constexpr std::uint64_t kUpToNine = 0x7676767676767676U;
     static constexpr std::uint64_t kHighBits = 0x8080808080808080U;
+    static constexpr std::uint64_t kPairs = 0x00FF00FF00FF00FFU;
 
     std::uint64_t m_bytes;
 };

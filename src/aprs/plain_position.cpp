@@ -45,23 +45,13 @@ bool HasBlank(std::string_view text)
     return text.find(' ') != std::string_view::npos;
 }
 
-int Sign(char c, char positive, char negative)
+constexpr int Sign(char c, char positive, char negative)
 {
     const char upper = ToUpper(c);
     return upper == positive ? 1 : upper == negative ? -1 : 0;
 }
 
 } // namespace
-
-bool IsSymbolTable(char c)
-{
-    return c == '/' || c == '\\' || IsUpper(c) || IsDigit(c);
-}
-
-bool IsSymbolCode(char c)
-{
-    return IsBetween(c, '!', '}') && c != '|';
-}
 
 double MiddleAngle(int degrees, int hundredths, int blanks)
 {
@@ -78,31 +68,44 @@ std::optional<double> AngleWithin(int limit, int degrees, int hundredths, int bl
 
 namespace {
 
-// DDMM.hh or DDDMM.hh with all its digits, as degrees times 10,000 plus hundredths of a minute; -1 for any other.
-template <std::size_t degreeDigits>
+// What hundredths of a minute are divided by on a side of the equator or of Greenwich; 0 for other letters.
+template <char positive, char negative>
+inline constexpr auto kScales = MakeByteTable([](char c) {
+    return static_cast<double>(Sign(c, positive, negative) * kHundredthsPerDegree);
+});
+
+template <char positive, char negative>
+double Scale(char c)
+{
+    return kScales<positive, negative>[static_cast<unsigned char>(c)];
+}
+
+// DDMM.hh or DDDMM.hh with all its digits, up to less than the limit in degrees, in hundredths of a minute; -1 for any
+// other.
+template <std::size_t degreeDigits, int limit>
 int ReadAngle(const char* text)
 {
     constexpr std::size_t kPoint = degreeDigits + 2;
     constexpr std::size_t kDigits = degreeDigits + 4;
     const DigitBlock block(text);
     const DigitBlock digits = block.Without(kPoint);
-    return block.Is(kPoint, '.') && digits.Count() >= kDigits ? static_cast<int>(digits.Value(kDigits)) : -1;
+    const auto [degrees, hundredths] = digits.Fours(kDigits);
+    const bool bGood = block.Is(kPoint, '.') && digits.Begins(kDigits) && degrees < limit && //
+                       hundredths < kHundredthsPerDegree;
+    return bGood ? degrees * kHundredthsPerDegree + hundredths : -1;
 }
 
 // The usual position, with all its digits and nothing wrong. Any other is left to a closer look.
 bool ParseExact(const char* text, Position& position)
 {
-    constexpr int kDegree = 10000;
-    const int lat = ReadAngle<2>(text);
-    const int lon = ReadAngle<3>(text + 9);
-    const int north = Sign(text[7], 'N', 'S');
-    const int east = Sign(text[17], 'E', 'W');
-    if (lat < 0 || lon < 0 || north * east == 0 || lat >= 90 * kDegree || lon >= 180 * kDegree ||
-        lat % kDegree >= kHundredthsPerDegree || lon % kDegree >= kHundredthsPerDegree || !IsSymbolTable(text[8]) ||
-        !IsSymbolCode(text[18]))
+    const int latitude = ReadAngle<2, 90>(text);
+    const int longitude = ReadAngle<3, 180>(text + 9);
+    const double north = Scale<'N', 'S'>(text[7]);
+    const double east = Scale<'E', 'W'>(text[17]);
+    if (latitude < 0 || longitude < 0 || north * east == 0 || !IsSymbolTable(text[8]) || !IsSymbolCode(text[18]))
         return false;
-    position.latitude = north * MiddleAngle(lat / kDegree, lat % kDegree, 0);
-    position.longitude = east * MiddleAngle(lon / kDegree, lon % kDegree, 0);
+    position.latitude = latitude / north;
+    position.longitude = longitude / east;
     position.symbol = {text[8], text[18]};
     return true;
 }

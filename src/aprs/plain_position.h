@@ -1,6 +1,7 @@
 #pragma once
 
 #include "aprs/packet.h"
+#include "aprs/text.h"
 
 #include <string_view>
 
@@ -8,8 +9,18 @@ namespace ruvenmark::aprs {
 
 inline constexpr std::size_t kPlainSize = 19;
 
-bool IsSymbolTable(char c);
-bool IsSymbolCode(char c);
+// By tables: which of its values a byte has is as good as random, and a wrong guess costs more than the look.
+inline constexpr auto kSymbolTables = MakeByteTable([](char c) { return c == '/' || c == '\\' || IsUpper(c) || IsDigit(c); });
+inline constexpr auto kSymbolCodes = MakeByteTable([](char c) { return IsBetween(c, '!', '}') && c != '|'; });
+
+inline bool IsSymbolTable(char c)
+{
+    return kSymbolTables[static_cast<unsigned char>(c)];
+}
+inline bool IsSymbolCode(char c)
+{
+    return kSymbolCodes[static_cast<unsigned char>(c)];
+}
 
 // DDMM.hhN T DDDMM.hhE C at the front of the text (protocol reference, chapters 6 and 8). Up to four digits of the
 // minutes may be blank from the right; those of the latitude count for both.

@@ -24,9 +24,8 @@ bool MayTellWeather(char code, std::string_view text)
 // Whether a weather station's text is weather; the values, and its comment, are then taken from it.
 bool TakeWeather(std::string_view text, PositionReport& report)
 {
-    std::string_view rest;
     Weather& weather = report.weather.emplace();
-    if (!ParseWeather(text, weather, rest)) {
+    if (!ParseWeather(text, weather)) {
         report.weather.reset();
         return false;
     }
@@ -34,7 +33,7 @@ bool TakeWeather(std::string_view text, PositionReport& report)
         weather.windDirection = report.course;
         weather.windSpeed = *report.speed * kMphPerKnot;
     }
-    ParseComment(rest, report);
+    ParseComment(text, report);
     return true;
 }
 

@@ -34,6 +34,16 @@ constexpr bool IsBetween(char c, char low, char high)
     return static_cast<unsigned char>(c) >= static_cast<unsigned char>(low) &&
            static_cast<unsigned char>(c) <= static_cast<unsigned char>(high);
 }
+// What `of` says of each byte.
+template <class Of>
+constexpr auto MakeByteTable(Of of)
+{
+    std::array<decltype(of(char{})), 256> table{};
+    for (std::size_t c = 0; c < table.size(); ++c)
+        table[c] = of(static_cast<char>(c));
+    return table;
+}
+
 constexpr int DigitValue(char c)
 {
     return c - '0';

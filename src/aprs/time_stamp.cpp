@@ -1,5 +1,6 @@
 #include "aprs/time_stamp.h"
 
+#include "aprs/digit_block.h"
 #include "aprs/text.h"
 
 namespace ruvenmark::aprs {
@@ -25,11 +26,10 @@ bool IsClock(std::uint8_t hour, std::uint8_t minute)
 void ParseTime(std::string_view text, TimeStamp& time)
 {
     time.text = text;
-    if (text.size() != kTimeSize || !AllDigits(text.substr(0, 6)))
+    const DigitBlock digits = DigitBlock::OfSeven(text.data());
+    if (!digits.Begins(kTimeSize - 1))
         return;
-    const std::uint8_t first = Pair(text, 0);
-    const std::uint8_t second = Pair(text, 2);
-    const std::uint8_t third = Pair(text, 4);
+    const auto [none, first, second, third] = digits.Pairs(kTimeSize - 1);
     if (text[6] == 'h' && IsClock(first, second) && third < 60) {
         time.form = TimeForm::HourMinuteSecond;
         time.hour = first;

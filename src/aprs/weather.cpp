@@ -24,7 +24,7 @@ void CorrectValues(Weather& weather)
 
 } // namespace
 
-bool ParseWeather(std::string_view text, Weather& weather, std::string_view& rest)
+bool ParseWeather(std::string_view& text, Weather& weather)
 {
     bool bWind = TakeWind(text, weather);
     if (!bWind && !StartsWithFields(text)) {
@@ -34,7 +34,6 @@ bool ParseWeather(std::string_view text, Weather& weather, std::string_view& res
     }
     const bool bFields = TakeFields(text, weather);
     CorrectValues(weather);
-    rest = text;
     return bFields || (bWind && (weather.windDirection || weather.windSpeed));
 }
 
@@ -43,10 +42,10 @@ Refusal ParsePositionlessWeather(std::string_view body, WeatherReport& report)
     if (body.size() <= kMonthTimeSize || !AllDigits(body.substr(0, kMonthTimeSize)) || body[kMonthTimeSize] != 'c')
         return Refusal::BadWeather;
     ParseMonthTime(body.substr(0, kMonthTimeSize), report.time);
-    std::string_view rest;
-    if (!ParseWeather(body.substr(kMonthTimeSize), report.weather, rest))
+    std::string_view text = body.substr(kMonthTimeSize);
+    if (!ParseWeather(text, report.weather))
         return Refusal::BadWeather;
-    report.comment = Trim(rest);
+    report.comment = Trim(text);
     return Refusal::None;
 }
 

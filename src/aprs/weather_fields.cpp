@@ -55,6 +55,15 @@ constexpr std::array<Field, 256> MakeFields()
 }
 constexpr std::array<Field, 256> kFields = MakeFields();
 
+// A bit for each number of digits that are the value of a letter's figure, with nothing to be added.
+constexpr auto kPlainDigits = MakeByteTable([](char letter) {
+    const Field& field = kFields[static_cast<unsigned char>(letter)];
+    unsigned bits = 0;
+    for (unsigned digits = field.minDigits; digits <= field.maxDigits; ++digits)
+        bits |= 1U << digits;
+    return static_cast<std::uint8_t>(field.value != nullptr && field.addend == 0 ? bits : 0);
+});
+
 bool MayBeSigned(char letter, char sign)
 {
     return (sign == '-' && (letter == 't' || letter == 'v')) || (sign == '+' && letter == 'v');
@@ -98,31 +107,6 @@ std::size_t TakeDecimal(std::string_view figure, std::size_t point, Weather& wea
     return point + 1 + decimals.count;
 }
 
-// A field of so many digits, which is as many as it may have and with no point behind them; else 0.
-template <std::size_t count>
-std::size_t TakeUsualField(const DigitBlock& block, const Field& field, Weather& weather)
-{
-    if (count > field.maxDigits || block.Is(count, '.'))
-        return 0;
-    if (field.value != nullptr && count >= field.minDigits)
-        weather.*field.value = static_cast<int>(block.Value(count)) / field.divisor + field.addend;
-    return 1 + count;
-}
-
-// The field's letter with as many digits as the book gives to nearly all of them, to humidity, to pressure. 0 for any
-// other. A branch for each number: the next field is on its way while this one is still read.
-std::size_t TakeUsualField(std::string_view text, const Field& field, Weather& weather)
-{
-    if (text.size() <= DigitBlock::kSize)
-        return 0;
-    const DigitBlock block(text.data() + 1);
-    if (block.IsRunOf(3))
-        return TakeUsualField<3>(block, field, weather);
-    if (block.IsRunOf(2))
-        return TakeUsualField<2>(block, field, weather);
-    return block.IsRunOf(5) ? TakeUsualField<5>(block, field, weather) : 0;
-}
-
 // The field's letter with its figure in front of the text; returns its size, or 0 where there is no figure. A figure
 // that is not as it should be is dropped. Behind a blank a single digit is no figure, but a word.
 std::size_t TakeField(std::string_view text, const Field& field, bool bBehindBlank, Weather& weather)
@@ -164,6 +148,47 @@ private:
 
     std::uint64_t m_bits = 0;
 };
+
+// A field by the book, of a letter not met before: at the text's front, where a block stands behind the letter. Its
+// size, or 0 where it is another.
+template <std::size_t digits>
+std::size_t TakeUsualField(const char* text, const DigitBlock& block, Letters& met, Weather& weather)
+{
+    const unsigned plain = kPlainDigits[static_cast<unsigned char>(text[0])];
+    if (text[1 + digits] == '.' || (plain >> digits & 1U) == 0 || met.Hold(text[0]))
+        return 0;
+    met.Add(text[0]);
+    const Field& field = FieldOf(text[0]);
+    const auto figure = static_cast<double>(static_cast<int>(block.Value(digits)));
+    weather.*field.value = field.divisor == 1 ? figure : figure / field.divisor;
+    return 1 + digits;
+}
+
+// The book gives three digits to nearly all fields, two to humidity, five to pressure. A branch for each number: the
+// next field is on its way while this one is still read.
+std::size_t TakeUsualField(const char* text, Letters& met, Weather& weather)
+{
+    const DigitBlock block(text + 1);
+    if (block.IsRunOf(3))
+        return TakeUsualField<3>(text, block, met, weather);
+    if (block.IsRunOf(2))
+        return TakeUsualField<2>(text, block, met, weather);
+    return block.IsRunOf(5) ? TakeUsualField<5>(text, block, met, weather) : 0;
+}
+
+std::size_t TakeUsualFields(std::string_view text, Letters& met, Weather& weather)
+{
+    Letters letters = met;
+    std::size_t at = 0;
+    while (at + 1 + DigitBlock::kSize <= text.size()) {
+        const std::size_t size = TakeUsualField(text.data() + at, letters, weather);
+        if (size == 0)
+            break;
+        at += size;
+    }
+    met = letters;
+    return at;
+}
 
 struct Width {
     std::size_t least, most;
@@ -251,18 +276,13 @@ std::size_t TakeUnusual(std::string_view text, Letters& met, Weather& weather)
 bool TakeFields(std::string_view& text, Weather& weather)
 {
     Letters met;
-    while (!text.empty()) {
-        const Field& field = FieldOf(text[0]);
-        const bool bNew = field.maxDigits != 0 && !met.Hold(text[0]);
-        std::size_t size = bNew ? TakeUsualField(text, field, weather) : 0;
-        if (size > 0)
-            met.Add(text[0]);
-        else
-            size = TakeUnusual(text, met, weather);
-        if (size == 0)
-            break;
-        text.remove_prefix(size);
-    }
+    std::size_t taken = 0;
+    do {
+        const std::size_t usual = TakeUsualFields(text, met, weather);
+        text.remove_prefix(usual);
+        taken = text.empty() ? 0 : TakeUnusual(text, met, weather);
+        text.remove_prefix(taken);
+    } while (taken > 0);
     return met.HoldAny();
 }
 

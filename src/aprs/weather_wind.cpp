@@ -48,17 +48,16 @@ bool IsWindFigure(std::string_view text)
 bool TakeExactWind(std::string_view& text, Weather& weather)
 {
     constexpr std::size_t kSlash = 3;
-    constexpr std::size_t kDigits = kWindSize - 1;
     if (text.size() < DigitBlock::kSize)
         return false;
     const DigitBlock block(text.data());
-    const DigitBlock digits = block.Without(kSlash);
-    if (!block.Is(kSlash, '/') || digits.Count() < kDigits)
+    const DigitBlock digits = block.Zeroed(kSlash);
+    if (!block.Is(kSlash, '/') || !digits.Begins(kWindSize))
         return false;
-    const std::uint32_t both = digits.Value(kDigits);
-    if (both / 1000 <= 360)
-        weather.windDirection = both / 1000;
-    weather.windSpeed = both % 1000;
+    const auto [direction, speed] = digits.Fours(kWindSize);
+    if (direction <= 360)
+        weather.windDirection = direction;
+    weather.windSpeed = speed;
     text.remove_prefix(kWindSize);
     return true;
 }
