@@ -36,6 +36,12 @@ public:
 
     // The number that the first `count` bytes, digits all and one at least, stand for.
     std::uint32_t Value(std::size_t count) const { return Join(m_bytes << (64 - 8 * count)); }
+    // Where it is known which, with less work for few.
+    template <std::size_t count>
+    std::uint32_t Value() const
+    {
+        return count > 4 ? Value(count) : Fours(count)[1];
+    }
     // The same number as four of two digits, or two of four: what it lacks in front is 0.
     std::array<std::uint8_t, 4> Pairs(std::size_t count) const
     {

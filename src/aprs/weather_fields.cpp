@@ -55,7 +55,7 @@ constexpr std::array<Field, 256> MakeFields()
 }
 constexpr std::array<Field, 256> kFields = MakeFields();
 
-// A bit for each number of digits that are the value of a letter's figure, with nothing to be added.
+// By letter: a bit for each number of digits whose value is the field's, with nothing to be added.
 constexpr auto kPlainDigits = MakeByteTable([](char letter) {
     const Field& field = kFields[static_cast<unsigned char>(letter)];
     unsigned bits = 0;
@@ -63,6 +63,12 @@ constexpr auto kPlainDigits = MakeByteTable([](char letter) {
         bits |= 1U << digits;
     return static_cast<std::uint8_t>(field.value != nullptr && field.addend == 0 ? bits : 0);
 });
+
+// Whether a figure of so many digits is a letter's value, with nothing to be added.
+bool IsPlain(char letter, std::size_t digits)
+{
+    return (kPlainDigits[static_cast<unsigned char>(letter)] >> digits & 1U) != 0;
+}
 
 bool MayBeSigned(char letter, char sign)
 {
@@ -72,6 +78,11 @@ bool MayBeSigned(char letter, char sign)
 const Field& FieldOf(char letter)
 {
     return kFields[static_cast<unsigned char>(letter)];
+}
+
+bool IsField(char letter)
+{
+    return FieldOf(letter).maxDigits != 0;
 }
 
 // Bytes of a figure that says nothing: at least two dots, blanks or dashes.
@@ -114,6 +125,8 @@ std::size_t TakeField(std::string_view text, const Field& field, bool bBehindBla
     if (text.size() < 2)
         return 0;
     const std::string_view figure = text.substr(1);
+    if (const std::size_t unknown = UnknownSize(figure))
+        return 1 + unknown;
     const std::size_t sign = MayBeSigned(text[0], figure[0]) ? 1 : 0;
     const DigitRun run = ReadDigits(figure.substr(sign), kGreedy);
     const std::size_t size = sign + run.count;
@@ -121,8 +134,7 @@ std::size_t TakeField(std::string_view text, const Field& field, bool bBehindBla
     if (bDecimal && text[0] == 's' && run.count <= field.maxDigits)
         return 1 + TakeDecimal(figure, size, weather);
     if (run.count == 0 || run.count > field.maxDigits || bDecimal) {
-        const std::size_t unknown = run.count == 0 ? UnknownSize(figure) : 0;
-        const std::size_t dropped = unknown > 0 ? unknown : BadFigureSize(figure);
+        const std::size_t dropped = BadFigureSize(figure);
         return dropped > 0 ? 1 + dropped : 0;
     }
     if (bBehindBlank && run.count == 1)
@@ -149,18 +161,21 @@ private:
     std::uint64_t m_bits = 0;
 };
 
+void SetPlain(char letter, std::uint32_t figure, Weather& weather)
+{
+    const Field& field = FieldOf(letter);
+    weather.*field.value = static_cast<int>(figure) / field.divisor;
+}
+
 // A field by the book, of a letter not met before: at the text's front, where a block stands behind the letter. Its
 // size, or 0 where it is another.
 template <std::size_t digits>
 std::size_t TakeUsualField(const char* text, const DigitBlock& block, Letters& met, Weather& weather)
 {
-    const unsigned plain = kPlainDigits[static_cast<unsigned char>(text[0])];
-    if (text[1 + digits] == '.' || (plain >> digits & 1U) == 0 || met.Hold(text[0]))
+    if (text[1 + digits] == '.' || !IsPlain(text[0], digits) || met.Hold(text[0]))
         return 0;
     met.Add(text[0]);
-    const Field& field = FieldOf(text[0]);
-    const auto figure = static_cast<double>(static_cast<int>(block.Value(digits)));
-    weather.*field.value = field.divisor == 1 ? figure : figure / field.divisor;
+    SetPlain(text[0], block.Value<digits>(), weather);
     return 1 + digits;
 }
 
@@ -176,16 +191,36 @@ std::size_t TakeUsualField(const char* text, Letters& met, Weather& weather)
     return block.IsRunOf(5) ? TakeUsualField<5>(text, block, met, weather) : 0;
 }
 
+// Two fields of three digits at once, which lie in one block.
+bool TakeTwoFields(const char* text, Letters& met, Weather& weather)
+{
+    constexpr std::size_t kDigits = 3;
+    const char first = text[0];
+    const char second = text[1 + kDigits];
+    const char next = text[DigitBlock::kSize];
+    const DigitBlock digits = DigitBlock(text).Zeroed(0).Zeroed(1 + kDigits);
+    if (!digits.Begins(DigitBlock::kSize) || IsDigit(next) || next == '.' || !IsPlain(first, kDigits) ||
+        !IsPlain(second, kDigits) || first == second || met.Hold(first) || met.Hold(second))
+        return false;
+    const auto [firstFigure, secondFigure] = digits.Fours(DigitBlock::kSize);
+    met.Add(first);
+    met.Add(second);
+    SetPlain(first, firstFigure, weather);
+    SetPlain(second, secondFigure, weather);
+    return true;
+}
+
+// Usual fields in front of the text; returns their size.
 std::size_t TakeUsualFields(std::string_view text, Letters& met, Weather& weather)
 {
+    constexpr std::size_t kTwo = DigitBlock::kSize;
     Letters letters = met;
     std::size_t at = 0;
-    while (at + 1 + DigitBlock::kSize <= text.size()) {
-        const std::size_t size = TakeUsualField(text.data() + at, letters, weather);
-        if (size == 0)
-            break;
-        at += size;
-    }
+    while (at + kTwo < text.size() && TakeTwoFields(text.data() + at, letters, weather))
+        at += kTwo;
+    std::size_t size = 1;
+    for (; size > 0 && at + DigitBlock::kSize < text.size(); at += size)
+        size = TakeUsualField(text.data() + at, letters, weather);
     met = letters;
     return at;
 }
@@ -211,9 +246,9 @@ Width BookWidth(char letter)
 }
 
 // A field exactly by the book: what may be believed behind bytes that nobody understands.
-bool IsWholeField(std::string_view text, const Letters& met)
+bool IsWholeField(std::string_view text)
 {
-    if (FieldOf(text[0]).maxDigits == 0 || met.Hold(text[0]))
+    if (!IsField(text[0]))
         return false;
     const std::size_t sign = text.starts_with("t-") ? 1 : 0;
     const DigitRun run = ReadDigits(text.substr(1 + sign), kGreedy);
@@ -236,26 +271,27 @@ std::size_t JunkSize(std::string_view text, const Letters& met)
     std::size_t n = IsUpper(text[0]) || IsLower(text[0]) ? 1 : 0;
     while (n < text.size() && n < kMaxJunk && IsJunk(text[n]))
         ++n;
-    return n > 0 && n < text.size() && IsWholeField(text.substr(n), met) ? n : 0;
+    const bool bField = n > 0 && n < text.size() && IsField(text[n]) && !met.Hold(text[n]);
+    return bField && IsWholeField(text.substr(n)) ? n : 0;
 }
 
 // The size of a field that comes again between others, as some write it; 0 of one that begins the sender's software.
 std::size_t RepeatedSize(std::string_view text)
 {
     const std::size_t size = 1 + ReadDigits(text.substr(1), kGreedy).count;
-    const bool bBetween = IsWholeField(text, {}) && size < text.size() && IsWholeField(text.substr(size), {});
+    const bool bBetween = IsWholeField(text) && size < text.size() && IsWholeField(text.substr(size));
     return bBetween ? size : 0;
 }
 
 // What is no usual field: its size, or 0 where the fields end.
 std::size_t TakeUnusual(std::string_view text, Letters& met, Weather& weather)
 {
-    const std::size_t gap = FieldOf(text[0]).maxDigits == 0 ? FillerSize(text, text.size()) : 0;
+    const std::size_t gap = IsField(text[0]) ? 0 : FillerSize(text, text.size());
     if (gap == text.size())
         return 0;
     const bool bBehindBlank = gap > 0 && text[gap - 1] == ' ';
     text.remove_prefix(gap);
-    const bool bField = FieldOf(text[0]).maxDigits != 0;
+    const bool bField = IsField(text[0]);
     const bool bAgain = bField && met.Hold(text[0]);
     std::size_t size = 0;
     if (bAgain)
@@ -294,7 +330,7 @@ bool StartsWithFields(std::string_view text)
         return true;
     const std::size_t unknown = UnknownSize(text.substr(1));
     const std::string_view next = text.substr(1 + unknown);
-    return unknown > 0 && (text[1] == '.' || (!next.empty() && IsWholeField(next, {})));
+    return unknown > 0 && (text[1] == '.' || (!next.empty() && IsWholeField(next)));
 }
 
 } // namespace ruvenmark::aprs
