@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <string_view>
 
 // Several decimal digits at once, eight bytes of text in one number: figures of a packet have no fixed length, and a
@@ -36,25 +37,9 @@ public:
 
     // The number that the first `count` bytes, digits all and one at least, stand for.
     std::uint32_t Value(std::size_t count) const { return Join(m_bytes << (64 - 8 * count)); }
-    // Where it is known which, with less work for few.
-    template <std::size_t count>
-    std::uint32_t Value() const
-    {
-        return count > 4 ? Value(count) : Fours(count)[1];
-    }
-    // The same number as four of two digits, or two of four: what it lacks in front is 0.
-    std::array<std::uint8_t, 4> Pairs(std::size_t count) const
-    {
-        const std::uint64_t pairs = JoinPairs(m_bytes << (64 - 8 * count));
-        const auto pair = [&](unsigned at) { return static_cast<std::uint8_t>(pairs >> (16 * at)); };
-        return {pair(0), pair(1), pair(2), pair(3)};
-    }
-    std::array<std::uint16_t, 2> Fours(std::size_t count) const
-    {
-        const std::uint64_t pairs = JoinPairs(m_bytes << (64 - 8 * count)) & kPairs;
-        const std::uint64_t fours = pairs * 100 + (pairs >> 16U);
-        return {static_cast<std::uint16_t>(fours), static_cast<std::uint16_t>(fours >> 32U)};
-    }
+    // The digits at one place and behind it, as a number of two or three. All bytes up to there must be digits.
+    std::uint32_t Two(std::size_t at) const { return Byte(JoinPairs(m_bytes), at); }
+    std::uint32_t Three(std::size_t at) const { return Byte(m_bytes, at) * 100 + Two(at + 1); }
 
     // Whether the byte is this character, which is no digit.
     bool Is(std::size_t at, char c) const
@@ -62,13 +47,8 @@ public:
         return ((m_bytes ^ kZeros) >> (at * 8) & 0xFFU) == static_cast<unsigned char>(c);
     }
 
-    // The block with one byte made 0, or taken out and 0 put behind the last.
+    // The block with one byte made 0.
     DigitBlock Zeroed(std::size_t at) const { return DigitBlock(m_bytes & ~(std::uint64_t{0xFF} << (at * 8))); }
-    DigitBlock Without(std::size_t at) const
-    {
-        const std::uint64_t front = (std::uint64_t{1} << (at * 8)) - 1;
-        return DigitBlock((m_bytes & front) | (m_bytes >> 8U & ~front));
-    }
 
 private:
     explicit DigitBlock(std::uint64_t bytes) : m_bytes(bytes) {}
@@ -83,10 +63,12 @@ private:
         return word;
     }
 
+    static std::uint32_t Byte(std::uint64_t bytes, std::size_t at) { return bytes >> (8 * at) & 0xFFU; }
+
     // The highest bit of each byte that is no digit. A carry only reaches bytes behind the first of them.
     std::uint64_t Others() const { return ((m_bytes + kUpToNine) | m_bytes) & kHighBits; }
 
-    // Pairs in every other byte, with others between them.
+    // In each byte the number of two digits that begins there.
     static std::uint64_t JoinPairs(std::uint64_t digits) { return digits * 10 + (digits >> 8U); }
     // Pairs, then fours, then all eight.
     static std::uint32_t Join(std::uint64_t digits)
@@ -101,10 +83,19 @@ private:
     static constexpr std::uint64_t kZeros = 0x3030303030303030U;
     static constexpr std::uint64_t kUpToNine = 0x7676767676767676U;
     static constexpr std::uint64_t kHighBits = 0x8080808080808080U;
-    static constexpr std::uint64_t kPairs = 0x00FF00FF00FF00FFU;
 
     std::uint64_t m_bytes;
 };
+
+// "ddd/sss" at the front of a text of at least seven bytes.
+inline std::optional<std::array<std::uint16_t, 2>> ReadThreeAndThree(const char* text)
+{
+    constexpr std::size_t kSlash = 3;
+    const DigitBlock digits = DigitBlock::OfSeven(text).Zeroed(kSlash);
+    if (text[kSlash] != '/' || !digits.Begins(2 * kSlash + 1))
+        return std::nullopt;
+    return {{static_cast<std::uint16_t>(digits.Three(0)), static_cast<std::uint16_t>(digits.Three(kSlash + 1))}};
+}
 
 struct DigitRun {
     std::size_t count = 0;

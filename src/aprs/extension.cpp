@@ -1,5 +1,6 @@
 #include "aprs/extension.h"
 
+#include "aprs/digit_block.h"
 #include "aprs/reach.h"
 #include "aprs/text.h"
 
@@ -19,6 +20,13 @@ bool IsFigure(std::string_view text)
 
 bool ParseCourseSpeed(std::string_view text, PositionReport& report)
 {
+    if (const auto figures = ReadThreeAndThree(text.data())) {
+        const auto [course, speed] = *figures;
+        if (course >= 1 && course <= 360)
+            report.course = course;
+        report.speed = speed;
+        return true;
+    }
     if (text[3] != '/' || !IsFigure(text.substr(0, 3)) || !IsFigure(text.substr(4, 3)))
         return false;
     const auto course = ParseDigits(text.substr(0, 3));

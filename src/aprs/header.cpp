@@ -91,7 +91,8 @@ bool IsPath(std::string_view path)
     return true;
 }
 
-Refusal ParseCarefully(std::string_view line, Header& header, std::string_view& info)
+// Any header, byte by byte.
+[[gnu::noinline]] Refusal ParseCarefully(std::string_view line, Header& header, std::string_view& info)
 {
     const std::size_t source = CallLength(line.substr(0, kMaxCall + 1));
     if (source == 0 || source > kMaxCall || source == line.size() || line[source] != '>')
@@ -138,15 +139,14 @@ public:
     {
         const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + at));
         const __m128i letters = Between(_mm_or_si128(bytes, _mm_set1_epi8(0x20)), 'a', 'z');
-        const __m128i dashes = Equal(bytes, '-');
-        Add(call, _mm_or_si128(letters, _mm_or_si128(Between(bytes, '0', '9'), dashes)), at);
-        Add(dash, dashes, at);
+        const __m128i others = _mm_or_si128(Between(bytes, '0', '9'), Equal(bytes, '-'));
+        Add(call, _mm_or_si128(letters, others), at);
         Add(comma, Equal(bytes, ','), at);
         Add(star, Equal(bytes, '*'), at);
     }
 
     std::uint64_t call = 0; // Letters, digits, dashes.
-    std::uint64_t dash = 0, comma = 0, star = 0;
+    std::uint64_t comma = 0, star = 0;
 
 private:
     static void Add(std::uint64_t& bits, __m128i bytes, std::size_t at)
@@ -174,6 +174,13 @@ bool HasTooLong(std::uint64_t call)
     const std::uint64_t four = two & two >> 2U;
     const std::uint64_t eight = four & four >> 4U;
     return (eight & two >> 8U) != 0;
+}
+
+// Of an address of usual length, with a block's bytes behind its begin.
+bool HasDash(std::string_view address)
+{
+    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(address.data()));
+    return (static_cast<unsigned>(_mm_movemask_epi8(Equal(bytes, '-'))) & ((1U << address.size()) - 1)) != 0;
 }
 
 // Between its first comma and the colon: one comma between addresses, stars only behind them.
@@ -207,7 +214,7 @@ bool ParseQuickly(std::string_view line, Header& header, std::string_view& info)
         HasTooLong(bits.call & Below(colon)) || !IsPlainPath(bits, comma, colon))
         return false;
     const std::string_view dest(text + angle + 1, comma - angle - 1);
-    if ((bits.dash & Below(comma) & ~Below(angle)) != 0 && !IsDestination(dest))
+    if (HasDash(dest) && !IsDestination(dest))
         return false;
     header.source = {text, angle};
     header.dest = dest;

@@ -80,19 +80,17 @@ double Scale(char c)
     return kScales<positive, negative>[static_cast<unsigned char>(c)];
 }
 
-// DDMM.hh or DDDMM.hh with all its digits, up to less than the limit in degrees, in hundredths of a minute; -1 for any
-// other.
-template <std::size_t degreeDigits, int limit>
+// DDMM.hh or DDDMM.hh with all its digits, less than the limit in degrees, in hundredths of a minute; -1 for any other.
+template <std::size_t degreeDigits, std::uint32_t limit>
 int ReadAngle(const char* text)
 {
     constexpr std::size_t kPoint = degreeDigits + 2;
-    constexpr std::size_t kDigits = degreeDigits + 4;
-    const DigitBlock block(text);
-    const DigitBlock digits = block.Without(kPoint);
-    const auto [degrees, hundredths] = digits.Fours(kDigits);
-    const bool bGood = block.Is(kPoint, '.') && digits.Begins(kDigits) && degrees < limit && //
-                       hundredths < kHundredthsPerDegree;
-    return bGood ? degrees * kHundredthsPerDegree + hundredths : -1;
+    const DigitBlock digits = DigitBlock(text).Zeroed(kPoint);
+    const std::uint32_t degrees = degreeDigits == 2 ? digits.Two(0) : digits.Three(0);
+    const std::uint32_t minutes = digits.Two(degreeDigits);
+    if (text[kPoint] != '.' || !digits.Begins(kPoint + 3) || degrees >= limit || minutes >= 60)
+        return -1;
+    return static_cast<int>(degrees * kHundredthsPerDegree + minutes * 100 + digits.Two(kPoint + 1));
 }
 
 // The usual position, with all its digits and nothing wrong. Any other is left to a closer look.
@@ -110,14 +108,9 @@ bool ParseExact(const char* text, Position& position)
     return true;
 }
 
-} // namespace
-
-Refusal ParsePlainPosition(std::string_view text, Position& position)
+// Any position, digit by digit.
+[[gnu::noinline]] Refusal ParseCarefully(std::string_view text, Position& position)
 {
-    if (text.size() < kPlainSize)
-        return Refusal::PositionTooShort;
-    if (ParseExact(text.data(), position))
-        return Refusal::None;
     const char* const lat = text.data();
     const char* const lon = lat + 9;
     const auto latDegrees = ParseDigits(text.substr(0, 2));
@@ -144,6 +137,15 @@ Refusal ParsePlainPosition(std::string_view text, Position& position)
     position.symbol = {text[8], text[18]};
     position.ambiguity = static_cast<std::uint8_t>(blanks);
     return Refusal::None;
+}
+
+} // namespace
+
+Refusal ParsePlainPosition(std::string_view text, Position& position)
+{
+    if (text.size() < kPlainSize)
+        return Refusal::PositionTooShort;
+    return ParseExact(text.data(), position) ? Refusal::None : ParseCarefully(text, position);
 }
 
 } // namespace ruvenmark::aprs

@@ -64,11 +64,14 @@ constexpr bool AllDigits(std::string_view text)
 // Digits only, at most nine of them, so that it always fits.
 constexpr std::optional<int> ParseDigits(std::string_view text)
 {
-    if (!AllDigits(text) || text.size() > 9)
+    if (text.empty() || text.size() > 9)
         return std::nullopt;
     int value = 0;
-    for (const char c : text)
+    for (const char c : text) {
+        if (!IsDigit(c))
+            return std::nullopt;
         value = value * 10 + DigitValue(c);
+    }
     return value;
 }
 

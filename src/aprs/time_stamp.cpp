@@ -29,7 +29,9 @@ void ParseTime(std::string_view text, TimeStamp& time)
     const DigitBlock digits = DigitBlock::OfSeven(text.data());
     if (!digits.Begins(kTimeSize - 1))
         return;
-    const auto [none, first, second, third] = digits.Pairs(kTimeSize - 1);
+    const auto first = static_cast<std::uint8_t>(digits.Two(0));
+    const auto second = static_cast<std::uint8_t>(digits.Two(2));
+    const auto third = static_cast<std::uint8_t>(digits.Two(4));
     if (text[6] == 'h' && IsClock(first, second) && third < 60) {
         time.form = TimeForm::HourMinuteSecond;
         time.hour = first;

@@ -175,7 +175,7 @@ std::size_t TakeUsualField(const char* text, const DigitBlock& block, Letters& m
     if (text[1 + digits] == '.' || !IsPlain(text[0], digits) || met.Hold(text[0]))
         return 0;
     met.Add(text[0]);
-    SetPlain(text[0], block.Value<digits>(), weather);
+    SetPlain(text[0], digits == 2 ? block.Two(0) : digits == 3 ? block.Three(0) : block.Value(digits), weather);
     return 1 + digits;
 }
 
@@ -202,11 +202,10 @@ bool TakeTwoFields(const char* text, Letters& met, Weather& weather)
     if (!digits.Begins(DigitBlock::kSize) || IsDigit(next) || next == '.' || !IsPlain(first, kDigits) ||
         !IsPlain(second, kDigits) || first == second || met.Hold(first) || met.Hold(second))
         return false;
-    const auto [firstFigure, secondFigure] = digits.Fours(DigitBlock::kSize);
     met.Add(first);
     met.Add(second);
-    SetPlain(first, firstFigure, weather);
-    SetPlain(second, secondFigure, weather);
+    SetPlain(first, digits.Three(1), weather);
+    SetPlain(second, digits.Three(2 + kDigits), weather);
     return true;
 }
 

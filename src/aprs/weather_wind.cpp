@@ -47,14 +47,10 @@ bool IsWindFigure(std::string_view text)
 // The usual wind, "ddd/sss" with all its digits.
 bool TakeExactWind(std::string_view& text, Weather& weather)
 {
-    constexpr std::size_t kSlash = 3;
-    if (text.size() < DigitBlock::kSize)
+    const auto figures = text.size() >= kWindSize ? ReadThreeAndThree(text.data()) : std::nullopt;
+    if (!figures)
         return false;
-    const DigitBlock block(text.data());
-    const DigitBlock digits = block.Zeroed(kSlash);
-    if (!block.Is(kSlash, '/') || !digits.Begins(kWindSize))
-        return false;
-    const auto [direction, speed] = digits.Fours(kWindSize);
+    const auto [direction, speed] = *figures;
     if (direction <= 360)
         weather.windDirection = direction;
     weather.windSpeed = speed;
