@@ -4,15 +4,6 @@
 
 namespace ruvenmark::aprs {
 
-namespace {
-
-bool IsTidy(std::string_view text)
-{
-    return text.front() != '/' && !IsBlank(text.front()) && !IsBlank(text.back());
-}
-
-} // namespace
-
 void Comment::Set(std::size_t piece, std::string_view text)
 {
     m_pieces[piece] = {static_cast<std::uint16_t>(text.data() - m_text), static_cast<std::uint16_t>(text.size())};
@@ -59,10 +50,17 @@ void Comment::Cut(std::size_t piece, std::size_t begin, std::size_t size)
     }
 }
 
+std::string_view Comment::Tidied(std::string_view text)
+{
+    if (text.starts_with('/'))
+        text.remove_prefix(1);
+    return Trim(text);
+}
+
 void Comment::Tidy()
 {
-    if (m_count == 1 && IsTidy((*this)[0]))
-        return;
+    if (const auto whole = Whole())
+        return Assign(Tidied(*whole));
     if (m_count > 0 && (*this)[0].front() == '/')
         Set(0, (*this)[0].substr(1));
     while (m_count > 0) {

@@ -37,6 +37,8 @@ public:
     void Cut(std::size_t piece, std::size_t begin, std::size_t size);
     // Takes off a slash in front, the delimiter behind other data, and blanks at both ends.
     void Tidy();
+    // The same of a text in one piece.
+    static std::string_view Tidied(std::string_view text);
 
 private:
     // Kept small: every position carries one.

@@ -124,8 +124,14 @@ void TakeMicEAltitude(Comment& comment, PositionReport& report)
     }
 }
 
-void TakeCommon(const CommentMarks& marks, PositionReport& report)
+// What is found by its mark, and the blanks around what is left.
+[[gnu::noinline]] void TakeMarked(const CommentMarks& marks, PositionReport& report)
 {
+    const bool bMicE = report.position.form == PositionForm::MicE;
+    if (marks.bBrace && bMicE)
+        TakeMicEAltitude(report.comment, report);
+    if (marks.bEquals && !(bMicE && report.altitude))
+        TakeAltitude(report.comment, report);
     if (marks.bBar)
         TakeTelemetry(report.comment, report);
     if (marks.bBang)
@@ -142,23 +148,10 @@ void ParseComment(std::string_view text, PositionReport& report)
     if (text.empty())
         return;
     const CommentMarks marks = FindMarks(text);
+    if (!marks.Any())
+        return report.comment.Assign(Comment::Tidied(text));
     report.comment.Assign(text);
-    if (marks.bEquals)
-        TakeAltitude(report.comment, report);
-    TakeCommon(marks, report);
-}
-
-void ParseMicEComment(std::string_view text, PositionReport& report)
-{
-    if (text.empty())
-        return;
-    const CommentMarks marks = FindMarks(text);
-    report.comment.Assign(text);
-    if (marks.bBrace)
-        TakeMicEAltitude(report.comment, report);
-    if (marks.bEquals && !report.altitude)
-        TakeAltitude(report.comment, report);
-    TakeCommon(marks, report);
+    TakeMarked(marks, report);
 }
 
 } // namespace ruvenmark::aprs

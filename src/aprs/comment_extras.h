@@ -10,6 +10,5 @@ namespace ruvenmark::aprs {
 // telemetry between bars (chapter 13), further digits of the position ("!W12!", DAO), the station's reach (PHG) where
 // it was not told in front; in Mic-E also the altitude in metres. What is left becomes the report's comment.
 void ParseComment(std::string_view text, PositionReport& report);
-void ParseMicEComment(std::string_view text, PositionReport& report);
 
 } // namespace ruvenmark::aprs

@@ -19,6 +19,8 @@ struct CommentMarks {
     bool bBang = false;   // Further digits: !Dxy!
     bool bBrace = false;  // Altitude of Mic-E: xyz}
     bool bReach = false;  // PHG: its G.
+
+    bool Any() const { return bEquals || bBar || bBang || bBrace || bReach; }
 };
 
 #ifdef __SSE2__
@@ -57,6 +59,11 @@ inline CommentMarks FindMarks(std::string_view text)
     else
         for (const char c : text)
             look(_mm_set1_epi8(c));
+    __m128i any = found[0];
+    for (std::size_t i = 1; i < kMarks.size(); ++i)
+        any = _mm_or_si128(any, found[i]);
+    if (_mm_movemask_epi8(any) == 0)
+        return {};
     const auto has = [&](std::size_t i) { return _mm_movemask_epi8(found[i]) != 0; };
     return {has(0), has(1), has(2), has(3), has(4)};
 }

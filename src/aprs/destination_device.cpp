@@ -30,7 +30,7 @@ bool Fits(std::string_view pattern, std::string_view dest)
 
 std::string_view DestinationDeviceName(std::string_view dest)
 {
-    dest = dest.substr(0, dest.find_first_of("-*"));
+    dest = WithoutSsid(dest);
     const auto devices = DestinationDevices();
     const auto isBefore = [](const DestinationDevice& device, std::string_view prefix) {
         return PrefixOf(device) < prefix;

@@ -51,7 +51,7 @@ std::optional<Symbol> NumberSymbol(std::string_view text)
 
 std::optional<Symbol> DestinationSymbol(std::string_view dest)
 {
-    dest = dest.substr(0, dest.find_first_of("-*"));
+    dest = WithoutSsid(dest);
     if (dest.size() < kPrefixSize + 2 || (!dest.starts_with("GPS") && !dest.starts_with("SPC")))
         return std::nullopt;
     const std::string_view rest = dest.substr(kPrefixSize);

@@ -13,7 +13,7 @@ constexpr std::size_t kDestSize = 6;
 constexpr std::size_t kBodySize = 8;
 constexpr int kOffset = 28; // Added to each figure of the body to make it printable.
 constexpr int kMaxBlanks = 4;
-constexpr char kBlankDigit = ' ';
+constexpr std::size_t kMessageBits = 3;
 
 // By the three message bits: 7 is the first. The second half stands for the custom messages.
 constexpr std::array<std::string_view, 8> kStandard = {"Emergency", "Priority",   "Special",  "Committed",
@@ -21,27 +21,37 @@ constexpr std::array<std::string_view, 8> kStandard = {"Emergency", "Priority", 
 constexpr std::array<std::string_view, 8> kCustom = {"Emergency", "Custom-6", "Custom-5", "Custom-4",
                                                      "Custom-3",  "Custom-2", "Custom-1", "Custom-0"};
 
-bool IsDestinationByte(char c, std::size_t place)
-{
-    const bool bCommon = IsDigit(c) || c == 'L' || IsBetween(c, 'P', 'Z');
-    return bCommon || (place < 3 && IsBetween(c, 'A', 'K'));
-}
+// What a byte of the destination stands for: a digit of the latitude, a bit of the message, a side of the world.
+struct DestByte {
+    std::uint8_t digit = kNone;
+    bool bHigh = false;   // A bit of a standard message; north, a hundred more, west.
+    bool bCustom = false; // A bit of a custom message; only in front.
 
-// Digit of the latitude that a byte of the destination stands for.
-char LatitudeDigit(char c)
-{
+    static constexpr std::uint8_t kBlank = 10;
+    static constexpr std::uint8_t kNone = 11;
+};
+
+constexpr auto kDestBytes = MakeByteTable([](char c) {
+    const auto digit = [&](char zero) { return static_cast<std::uint8_t>(c - zero); };
     if (IsDigit(c))
-        return c;
+        return DestByte{digit('0'), false, false};
     if (IsBetween(c, 'A', 'J'))
-        return static_cast<char>(c - 'A' + '0');
+        return DestByte{digit('A'), false, true};
     if (IsBetween(c, 'P', 'Y'))
-        return static_cast<char>(c - 'P' + '0');
-    return kBlankDigit;
-}
+        return DestByte{digit('P'), true, false};
+    if (c == 'K' || c == 'L' || c == 'Z')
+        return DestByte{DestByte::kBlank, c == 'Z', c == 'K'};
+    return DestByte{};
+});
 
-bool IsHigh(char c)
+using DestBytes = std::array<DestByte, kDestSize>;
+
+DestBytes LookUp(std::string_view dest)
 {
-    return IsBetween(c, 'P', 'Z');
+    DestBytes bytes;
+    for (std::size_t i = 0; i < kDestSize; ++i)
+        bytes[i] = kDestBytes[static_cast<unsigned char>(dest[i])];
+    return bytes;
 }
 
 struct Latitude {
@@ -50,19 +60,18 @@ struct Latitude {
     int blanks = 0;
 };
 
-Refusal ParseLatitude(std::string_view dest, Latitude& latitude)
+Refusal ParseLatitude(const DestBytes& dest, Latitude& latitude)
 {
     std::array<int, kDestSize> digits{};
     for (std::size_t i = 0; i < kDestSize; ++i) {
-        if (!IsDestinationByte(dest[i], i))
+        if (dest[i].digit == DestByte::kNone || (i >= kMessageBits && dest[i].bCustom))
             return Refusal::BadMicEDestination;
-        const char digit = LatitudeDigit(dest[i]);
-        if (digit == kBlankDigit)
+        if (dest[i].digit == DestByte::kBlank)
             ++latitude.blanks;
         else if (latitude.blanks > 0)
             return Refusal::BlanksMisplaced;
         else
-            digits[i] = DigitValue(digit);
+            digits[i] = dest[i].digit;
     }
     if (latitude.blanks > kMaxBlanks)
         return Refusal::BlanksMisplaced;
@@ -71,20 +80,17 @@ Refusal ParseLatitude(std::string_view dest, Latitude& latitude)
     return Refusal::None;
 }
 
-std::string_view MessageText(std::string_view dest)
+std::string_view MessageText(const DestBytes& dest)
 {
-    unsigned bits = 0;
-    bool bStandard = false;
-    bool bCustom = false;
-    for (std::size_t i = 0; i < 3; ++i) {
-        const bool bCustomBit = IsBetween(dest[i], 'A', 'K');
-        bits = bits << 1U | static_cast<unsigned>(bCustomBit || IsHigh(dest[i]));
-        bCustom = bCustom || bCustomBit;
-        bStandard = bStandard || IsHigh(dest[i]);
+    unsigned standard = 0;
+    unsigned custom = 0;
+    for (std::size_t i = 0; i < kMessageBits; ++i) {
+        standard = standard << 1U | static_cast<unsigned>(dest[i].bHigh);
+        custom = custom << 1U | static_cast<unsigned>(dest[i].bCustom);
     }
-    if (bStandard && bCustom)
+    if (standard != 0 && custom != 0)
         return "Unknown";
-    return bCustom ? kCustom[bits] : kStandard[bits];
+    return custom != 0 ? kCustom[custom] : kStandard[standard];
 }
 
 bool IsBody(std::string_view body)
@@ -137,7 +143,7 @@ void ParseSpeedCourse(std::string_view body, PositionReport& report)
 
 Refusal ParseMicE(std::string_view dest, std::string_view body, PositionReport& report)
 {
-    dest = dest.substr(0, dest.find_first_of("-*"));
+    dest = WithoutSsid(dest);
     if (dest.size() != kDestSize)
         return Refusal::BadMicEDestination;
     if (body.size() < kBodySize)
@@ -146,21 +152,22 @@ Refusal ParseMicE(std::string_view dest, std::string_view body, PositionReport& 
         return Refusal::BadMicE;
     if (!IsSymbolTable(body[7]))
         return Refusal::BadSymbolTable;
+    const DestBytes destBytes = LookUp(dest);
     Latitude latitude;
-    if (const Refusal refusal = ParseLatitude(dest, latitude); refusal != Refusal::None)
+    if (const Refusal refusal = ParseLatitude(destBytes, latitude); refusal != Refusal::None)
         return refusal;
     const auto degrees = AngleWithin(90, latitude.degrees, latitude.hundredths, latitude.blanks);
-    const double longitude = ParseLongitude(body, IsHigh(dest[4]), latitude.blanks);
+    const double longitude = ParseLongitude(body, destBytes[4].bHigh, latitude.blanks);
     if (!degrees || longitude > 180.0)
         return Refusal::PositionOutOfRange;
-    report.position = {IsHigh(dest[3]) ? *degrees : -*degrees,
-                       IsHigh(dest[5]) ? -longitude : longitude,
+    report.position = {destBytes[3].bHigh ? *degrees : -*degrees,
+                       destBytes[5].bHigh ? -longitude : longitude,
                        {body[7], body[6]},
                        PositionForm::MicE,
                        static_cast<std::uint8_t>(latitude.blanks)};
-    report.micEStatus = MessageText(dest);
+    report.micEStatus = MessageText(destBytes);
     ParseSpeedCourse(body, report);
-    ParseMicEComment(TakeDevice(body.substr(kBodySize), report.device), report);
+    ParseComment(TakeDevice(body.substr(kBodySize), report.device), report);
     return Refusal::None;
 }
 

@@ -40,6 +40,8 @@ std::size_t NumberSize(std::string_view text)
 
 std::optional<double> ParseNumber(std::string_view text)
 {
+    if (const auto whole = ParseDigits(text))
+        return *whole;
     double value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
     return error == std::errc() ? std::optional(value) : std::nullopt;

@@ -83,6 +83,15 @@ constexpr int HexValue(char c)
     return upper >= 'A' && upper <= 'F' ? upper - 'A' + 10 : -1;
 }
 
+// An address up to its dash or star.
+constexpr std::string_view WithoutSsid(std::string_view address)
+{
+    std::size_t n = 0;
+    while (n < address.size() && address[n] != '-' && address[n] != '*')
+        ++n;
+    return address.substr(0, n);
+}
+
 constexpr std::string_view TrimLeft(std::string_view text)
 {
     while (!text.empty() && IsBlank(text.front()))
