@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstring>
@@ -47,12 +48,17 @@ inline CommentMarks FindMarks(std::string_view text)
     };
     const std::size_t size = text.size();
     const char* const data = text.data();
-    for (std::size_t at = 0; at + kBlock <= size; at += kBlock)
-        look(_mm_loadu_si128(reinterpret_cast<const __m128i*>(data + at)));
-    // The end is looked at once more with bytes in front of it, so that nothing behind it is.
-    if (size >= kBlock)
-        look(_mm_loadu_si128(reinterpret_cast<const __m128i*>(data + size - kBlock)));
-    else if (size >= sizeof(std::uint64_t))
+    const auto lookAt = [&](std::size_t at) { look(_mm_loadu_si128(reinterpret_cast<const __m128i*>(data + at))); };
+    if (size >= kBlock) {
+        // Three blocks in any case, which is enough as a rule: what is no loop cannot be guessed wrong. The last one
+        // lies over others, so that nothing behind the text is looked at.
+        const std::size_t last = size - kBlock;
+        lookAt(0);
+        lookAt(std::min(kBlock, last));
+        lookAt(last);
+        for (std::size_t at = 2 * kBlock; at < last; at += kBlock)
+            lookAt(at);
+    } else if (size >= sizeof(std::uint64_t))
         look(Ends<std::uint64_t>(text));
     else if (size >= sizeof(std::uint32_t))
         look(Ends<std::uint32_t>(text));

@@ -59,7 +59,8 @@ private:
         Word word;
         std::memcpy(&word, text, sizeof(Word));
         if constexpr (std::endian::native == std::endian::big)
-            return sizeof(Word) == kSize ? __builtin_bswap64(word) : __builtin_bswap32(static_cast<std::uint32_t>(word));
+            return sizeof(Word) == kSize ? __builtin_bswap64(word)
+                                         : __builtin_bswap32(static_cast<std::uint32_t>(word));
         return word;
     }
 

@@ -210,8 +210,8 @@ bool ParseQuickly(std::string_view line, Header& header, std::string_view& info)
         colon = EndOfRun(bits.call | bits.comma | bits.star, angle + 1);
     }
     const std::size_t comma = EndOfRun(bits.call, angle + 1);
-    if (colon + 1 >= line.size() || colon >= kWindow || text[colon] != ':' || comma == angle + 1 || text[comma] == '*' ||
-        HasTooLong(bits.call & Below(colon)) || !IsPlainPath(bits, comma, colon))
+    if (colon + 1 >= line.size() || colon >= kWindow || text[colon] != ':' || comma == angle + 1 ||
+        text[comma] == '*' || HasTooLong(bits.call & Below(colon)) || !IsPlainPath(bits, comma, colon))
         return false;
     const std::string_view dest(text + angle + 1, comma - angle - 1);
     if (HasDash(dest) && !IsDestination(dest))

@@ -3,6 +3,7 @@
 #include "aprs/device_table.h"
 #include "aprs/text.h"
 
+#include <algorithm>
 #include <array>
 
 namespace ruvenmark::aprs {
@@ -44,8 +45,20 @@ std::string_view TakeKenwood(std::string_view text, const std::array<Kenwood, si
     return WithoutPadding(text);
 }
 
+// Whether any device's suffix begins so; most texts end otherwise.
+bool BeginsSuffix(char c)
+{
+    static const auto table = MakeByteTable([](char first) {
+        const auto devices = MicEDevices();
+        return std::any_of(devices.begin(), devices.end(), [&](const MicEDevice& d) { return d.first == first; });
+    });
+    return table[static_cast<unsigned char>(c)];
+}
+
 std::string_view SuffixName(std::string_view suffix)
 {
+    if (!BeginsSuffix(suffix[0]))
+        return {};
     for (const MicEDevice& device : MicEDevices())
         if (device.first == suffix[0] && device.last == suffix[1])
             return device.name;

@@ -4,6 +4,8 @@
 #include "aprs/text.h"
 #include "aprs/time_stamp.h"
 
+#include <algorithm>
+
 namespace ruvenmark::aprs {
 
 namespace {
@@ -47,8 +49,10 @@ Refusal ParseObject(std::string_view text, ObjectReport& object)
 
 Refusal ParseItem(std::string_view text, ObjectReport& object)
 {
-    const std::size_t size = text.substr(0, kNameSize + 1).find_first_of("!_");
-    if (size == std::string_view::npos || size < kMinItemName || !IsName(text.substr(0, size)))
+    const std::string_view front = text.substr(0, kNameSize + 1);
+    const auto state = std::find_if(front.begin(), front.end(), [](char c) { return c == '!' || c == kDead; });
+    const auto size = static_cast<std::size_t>(state - front.begin());
+    if (state == front.end() || size < kMinItemName || !IsName(text.substr(0, size)))
         return Refusal::BadItem;
     object.name = TrimRight(text.substr(0, size));
     object.bItem = true;

@@ -10,7 +10,8 @@ namespace ruvenmark::aprs {
 inline constexpr std::size_t kPlainSize = 19;
 
 // By tables: which of its values a byte has is as good as random, and a wrong guess costs more than the look.
-inline constexpr auto kSymbolTables = MakeByteTable([](char c) { return c == '/' || c == '\\' || IsUpper(c) || IsDigit(c); });
+inline constexpr auto kSymbolTables =
+    MakeByteTable([](char c) { return c == '/' || c == '\\' || IsUpper(c) || IsDigit(c); });
 inline constexpr auto kSymbolCodes = MakeByteTable([](char c) { return IsBetween(c, '!', '}') && c != '|'; });
 
 inline bool IsSymbolTable(char c)

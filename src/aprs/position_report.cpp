@@ -22,7 +22,7 @@ bool MayTellWeather(char code, std::string_view text)
 }
 
 // Whether a weather station's text is weather; the values, and its comment, are then taken from it.
-bool TakeWeather(std::string_view text, PositionReport& report)
+[[gnu::noinline]] bool TakeWeather(std::string_view text, PositionReport& report)
 {
     Weather& weather = report.weather.emplace();
     if (!ParseWeather(text, weather)) {
@@ -38,7 +38,7 @@ bool TakeWeather(std::string_view text, PositionReport& report)
 }
 
 // Whether a plain position stands where its time should. A compressed one might be any text.
-bool LeavesTimeOut(std::string_view text)
+[[gnu::noinline]] bool LeavesTimeOut(std::string_view text)
 {
     Position position;
     return ParsePlainPosition(text, position) == Refusal::None;

@@ -1,5 +1,6 @@
 #include "aprs/telemetry.h"
 
+#include "aprs/digit_block.h"
 #include "aprs/text.h"
 
 #include <charconv>
@@ -10,6 +11,7 @@ namespace {
 
 constexpr double kMaxValue = 2147483648.0;
 constexpr std::size_t kMaxBits = 8;
+constexpr std::size_t kMaxDigits = 9;
 
 // Digits, or "MIC", with or without a comma behind it.
 std::size_t SequenceSize(std::string_view text)
@@ -40,8 +42,6 @@ std::size_t NumberSize(std::string_view text)
 
 std::optional<double> ParseNumber(std::string_view text)
 {
-    if (const auto whole = ParseDigits(text))
-        return *whole;
     double value = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
     return error == std::errc() ? std::optional(value) : std::nullopt;
@@ -59,6 +59,11 @@ void TakeBits(std::string_view text, Telemetry& telemetry)
 // Takes one value and the comma in front of the next off the text. Returns whether more may follow.
 bool TakeValue(std::string_view& text, std::optional<double>& value)
 {
+    if (const DigitRun run = ReadDigits(text, kMaxDigits); text.substr(run.count).starts_with(',') && run.count > 0) {
+        value = run.value;
+        text.remove_prefix(run.count + 1);
+        return true;
+    }
     const std::size_t size = NumberSize(text);
     if (size > 0) {
         value = ParseNumber(text.substr(0, size));

@@ -11,7 +11,7 @@ namespace {
 // Texts are looked at in blocks: a mark at a seam, or at the end of any length, must neither be missed nor made up.
 TEST(CommentMarks, AreFoundAtEveryPlaceOfEveryLength)
 {
-    for (std::size_t size = 0; size <= 50; ++size) {
+    for (std::size_t size = 0; size <= 70; ++size) {
         // Of exactly the size, so that a sanitizer sees any look behind its end.
         const auto text = std::make_unique<char[]>(size);
         std::fill_n(text.get(), size, 'x');
