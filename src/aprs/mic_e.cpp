@@ -24,8 +24,8 @@ constexpr std::array<std::string_view, 8> kCustom = {"Emergency", "Custom-6", "C
 // What a byte of the destination stands for: a digit of the latitude, a bit of the message, a side of the world.
 struct DestByte {
     std::uint8_t digit = kNone;
-    bool bHigh = false;   // A bit of a standard message; north, a hundred more, west.
-    bool bCustom = false; // A bit of a custom message; only in front.
+    bool bHigh : 1 = false;   // A bit of a standard message; north, a hundred more, west.
+    bool bCustom : 1 = false; // A bit of a custom message; only in front.
 
     static constexpr std::uint8_t kBlank = 10;
     static constexpr std::uint8_t kNone = 11;
@@ -110,7 +110,9 @@ int Figure(char c)
 // Whole digits of the minutes' hundredths that are not blank; the last ones become 0.
 int DropDigits(int hundredths, int blanks)
 {
-    constexpr std::array<int, 5> kSteps = {1, 10, 100, 1000, 10000};
+    static constexpr std::array<int, 5> kSteps = {1, 10, 100, 1000, 10000};
+    if (blanks == 0)
+        return hundredths;
     const int step = kSteps[static_cast<std::size_t>(blanks)];
     return hundredths / step * step;
 }

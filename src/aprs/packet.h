@@ -54,8 +54,8 @@ struct Reach {
     std::string_view directivity;       // Degrees, or "Omni", or empty where the digit means nothing.
 };
 
-// Weather, positions and objects are made for each packet: a constructor of their own keeps their making from clearing
-// every byte first.
+// What a packet's body may be is made for each packet: a constructor of its own keeps its making from clearing every
+// byte first.
 struct Weather {
     Weather() {} // NOLINT(modernize-use-equals-default): see above.
 
@@ -112,6 +112,8 @@ struct GridPosition {
 };
 
 struct StatusReport {
+    StatusReport() {} // NOLINT(modernize-use-equals-default)
+
     TimeStamp time;
     std::string_view text; // Behind the time; a locator stays in it.
     std::optional<GridPosition> grid;
@@ -125,6 +127,8 @@ struct GridBeacon {
 enum class MessageKind : std::uint8_t { Text, Acknowledgement, Rejection, Bulletin, TelemetryDefinition };
 
 struct Message {
+    Message() {} // NOLINT(modernize-use-equals-default)
+
     MessageKind kind = MessageKind::Text;
     std::string_view addressee; // Without the blanks that pad it.
     std::string_view text;      // Without the number at its end; empty for acknowledgements and rejections.
@@ -134,6 +138,8 @@ struct Message {
 };
 
 struct Telemetry {
+    Telemetry() {} // NOLINT(modernize-use-equals-default)
+
     std::string_view sequence;
     std::array<std::optional<double>, 5> values;
     std::string_view bits; // Up to eight of '0' and '1'.
