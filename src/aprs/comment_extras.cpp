@@ -125,7 +125,7 @@ void TakeMicEAltitude(Comment& comment, PositionReport& report)
 }
 
 // What is found by its mark, and the blanks around what is left.
-[[gnu::noinline]] void TakeMarked(const CommentMarks& marks, PositionReport& report)
+[[gnu::noinline]] void TakeMarked(CommentMarks marks, PositionReport& report)
 {
     const bool bMicE = report.position.form == PositionForm::MicE;
     if (marks.bBrace && bMicE)

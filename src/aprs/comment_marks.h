@@ -14,12 +14,13 @@
 // comments hold nothing to be found.
 namespace ruvenmark::aprs {
 
+// One byte, so that it is handed on in a register.
 struct CommentMarks {
-    bool bEquals = false; // Altitude: /A=
-    bool bBar = false;    // Telemetry: |...|
-    bool bBang = false;   // Further digits: !Dxy!
-    bool bBrace = false;  // Altitude of Mic-E: xyz}
-    bool bReach = false;  // PHG: its G.
+    bool bEquals : 1 = false; // Altitude: /A=
+    bool bBar : 1 = false;    // Telemetry: |...|
+    bool bBang : 1 = false;   // Further digits: !Dxy!
+    bool bBrace : 1 = false;  // Altitude of Mic-E: xyz}
+    bool bReach : 1 = false;  // PHG: its G.
 
     bool Any() const { return bEquals || bBar || bBang || bBrace || bReach; }
 };
