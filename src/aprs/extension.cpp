@@ -18,7 +18,8 @@ bool IsFigure(std::string_view text)
     return true;
 }
 
-bool ParseCourseSpeed(std::string_view text, PositionReport& report)
+// Two figures with a slash between them.
+[[gnu::noinline]] bool ParseCourseSpeed(std::string_view text, PositionReport& report)
 {
     if (const auto figures = ReadThreeAndThree(text.data())) {
         const auto [course, speed] = *figures;
@@ -27,7 +28,7 @@ bool ParseCourseSpeed(std::string_view text, PositionReport& report)
         report.speed = speed;
         return true;
     }
-    if (text[3] != '/' || !IsFigure(text.substr(0, 3)) || !IsFigure(text.substr(4, 3)))
+    if (!IsFigure(text.substr(0, 3)) || !IsFigure(text.substr(4, 3)))
         return false;
     const auto course = ParseDigits(text.substr(0, 3));
     if (course && *course >= 1 && *course <= 360)
@@ -45,13 +46,19 @@ bool ParseRange(std::string_view text, PositionReport& report)
     return miles.has_value();
 }
 
-std::size_t ExtensionSize(std::string_view text, PositionReport& report)
+// Of those that begin with a name.
+std::size_t NamedSize(std::string_view text, PositionReport& report)
 {
     if (text.starts_with("PHG") || text.starts_with("DFS"))
         return ParseReach(text, report);
-    if (text.starts_with("RNG"))
-        return ParseRange(text, report) ? kExtensionSize : 0;
-    return ParseCourseSpeed(text, report) ? kExtensionSize : 0;
+    return text.starts_with("RNG") && ParseRange(text, report) ? kExtensionSize : 0;
+}
+
+std::size_t ExtensionSize(std::string_view text, PositionReport& report)
+{
+    if (text[3] == '/')
+        return ParseCourseSpeed(text, report) ? kExtensionSize : 0;
+    return NamedSize(text, report);
 }
 
 } // namespace
