@@ -12,12 +12,13 @@ namespace ruvenmark {
 
 namespace {
 
+constexpr std::chrono::milliseconds kGather{20}; // A TNC is asked and answers many times while it is set up.
 constexpr int kFlushSteps = 50;
 constexpr unsigned long kFlushStep = 10; // Milliseconds.
 
 } // namespace
 
-SerialWire::SerialWire(std::string_view port, std::int32_t baud, IByteSink& sink) : Wire(sink)
+SerialWire::SerialWire(std::string_view port, std::int32_t baud, IByteSink& sink) : Wire(sink, kGather)
 {
     const std::string name(port);
     m_port.setPortName(QString::fromStdString(name));

@@ -11,9 +11,12 @@ namespace {
 // An address that swallows everything would keep the socket waiting for minutes, and without an error.
 constexpr std::chrono::seconds kConnectLimit{15};
 
+// A server's feed is a line every few milliseconds; nobody reads as fast.
+constexpr std::chrono::milliseconds kGather{100};
+
 } // namespace
 
-SocketWire::SocketWire(std::string_view host, std::uint16_t port, IByteSink& sink) : Wire(sink)
+SocketWire::SocketWire(std::string_view host, std::uint16_t port, IByteSink& sink) : Wire(sink, kGather)
 {
     Prepare();
     connect(&m_socket, &QTcpSocket::connected, this, &SocketWire::OnConnected);
@@ -23,7 +26,7 @@ SocketWire::SocketWire(std::string_view host, std::uint16_t port, IByteSink& sin
     m_socket.connectToHost(QString::fromUtf8(host.data(), static_cast<qsizetype>(host.size())), port);
 }
 
-SocketWire::SocketWire(Descriptor connected, IByteSink& sink) : Wire(sink)
+SocketWire::SocketWire(Descriptor connected, IByteSink& sink) : Wire(sink, kGather)
 {
     Prepare();
     if (!m_socket.setSocketDescriptor(connected.Number()))
@@ -40,6 +43,23 @@ void SocketWire::Prepare()
     connect(&m_socket, &QTcpSocket::readyRead, this, &SocketWire::Arrive);
     connect(&m_socket, &QTcpSocket::errorOccurred, this, &SocketWire::OnError);
     connect(&m_socket, &QTcpSocket::disconnected, this, &SocketWire::Lose);
+}
+
+// A socket with a full buffer wakes nobody: a line a moment would cost a turn of the loop each.
+void SocketWire::Hold()
+{
+    m_bHeld = true;
+    m_socket.setReadBufferSize(1);
+}
+
+void SocketWire::Fetch()
+{
+    if (!m_bHeld)
+        return;
+    m_bHeld = false;
+    m_socket.setReadBufferSize(kReadAhead);
+    if (m_socket.state() == QAbstractSocket::ConnectedState)
+        m_socket.waitForReadyRead(0);
 }
 
 void SocketWire::SetOptions()

@@ -19,6 +19,8 @@ public:
 
 private:
     QIODevice& Device() override { return m_socket; }
+    void Hold() override;
+    void Fetch() override;
     void Flush() override { m_socket.flush(); }
     void Close() override { m_socket.abort(); }
     void Prepare();
@@ -28,6 +30,7 @@ private:
 
     QTcpSocket m_socket;
     QTimer m_limit;
+    bool m_bHeld = false;
 };
 
 } // namespace ruvenmark

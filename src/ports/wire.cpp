@@ -13,8 +13,7 @@ namespace ruvenmark {
 namespace {
 
 constexpr std::chrono::milliseconds kTick{250};
-constexpr qint64 kGatherMs = 20;                       // Where bytes come bit by bit they are told so often at most,
-constexpr qint64 kGathered = 4096;                     // but so many never wait.
+constexpr qint64 kGathered = 4096;                     // So many never wait for more.
 constexpr std::size_t kPiece = std::size_t{64} * 1024; // Told at once; between two of them the window gets its turn.
 constexpr qint64 kMostUnsent = 16ll * 1024 * 1024;     // An other end that takes less is as good as gone.
 
@@ -34,7 +33,7 @@ void DeleteWire(Wire* wire)
         delete wire;
 }
 
-Wire::Wire(IByteSink& sink) : m_sink(&sink)
+Wire::Wire(IByteSink& sink, std::chrono::milliseconds gather) : m_sink(&sink), m_gather(gather)
 {
     m_delivery.setSingleShot(true);
     connect(&m_delivery, &QTimer::timeout, this, &Wire::Deliver);
@@ -56,6 +55,7 @@ void Wire::Write(std::string_view bytes)
 Arrival Wire::Wait(std::chrono::milliseconds limit)
 {
     const QDeadlineTimer deadline(limit);
+    Fetch();
     if (!HasBytes())
         CheckOpen();
     while (!HasBytes() && !m_bLost && !deadline.hasExpired())
@@ -93,7 +93,10 @@ void Wire::Arrive()
     const bool bAtOnce = m_bLost || !m_sinceDelivery.isValid() || Device().bytesAvailable() >= kGathered;
     if (m_delivery.isActive() && (!bAtOnce || m_delivery.interval() == 0))
         return;
-    m_delivery.start(bAtOnce ? 0 : static_cast<int>(std::max<qint64>(0, kGatherMs - m_sinceDelivery.elapsed())));
+    const qint64 wait = bAtOnce ? 0 : std::max<qint64>(0, m_gather.count() - m_sinceDelivery.elapsed());
+    m_delivery.start(static_cast<int>(wait));
+    if (wait > 0)
+        Hold();
 }
 
 void Wire::Lose()
@@ -135,6 +138,8 @@ std::string Wire::Take()
 void Wire::Deliver()
 {
     const auto kept = shared_from_this();
+    Fetch();
+    m_delivery.stop(); // What was fetched is told now.
     m_sinceDelivery.start();
     if (m_bLost && !m_bClosed)
         CloseLost();

@@ -28,9 +28,12 @@ public:
     void Drop();
 
 protected:
-    explicit Wire(IByteSink& sink);
+    // What comes bit by bit is told so often at most.
+    Wire(IByteSink& sink, std::chrono::milliseconds gather);
 
     virtual QIODevice& Device() = 0;
+    virtual void Hold() {} // What comes may stay in the system until Fetch.
+    virtual void Fetch() {}
     virtual void Flush() = 0; // What the other end takes at once.
     virtual void Close() = 0;
 
@@ -50,6 +53,7 @@ private:
     void Tick();
 
     IByteSink* m_sink; // Null once it is dropped.
+    std::chrono::milliseconds m_gather;
     QTimer m_delivery;
     QTimer m_ticks;
     QElapsedTimer m_sinceDelivery;

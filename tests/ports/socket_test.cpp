@@ -79,6 +79,46 @@ TEST_F(Sockets, TellTheLastBytesBeforeOneLoss)
     EXPECT_EQ(sink.opened, 0);
 }
 
+// Lines that come one by one are told together, none later than a person notices; a line must not stay behind in a
+// socket that was held, nor be lost when the other end goes.
+TEST_F(Sockets, GatherASteadyStream)
+{
+    const auto link = Connect();
+    ASSERT_TRUE(Accept());
+    int goes = 0, sent = 0;
+    sink.onBytes = [&] { ++goes; };
+    QByteArray all;
+    QTimer pace;
+    QObject::connect(&pace, &QTimer::timeout, &pace, [&] {
+        const QByteArray line = "line " + QByteArray::number(sent++) + "\r\n";
+        all += line;
+        peer->write(line);
+    });
+    pace.start(4);
+    ASSERT_TRUE(RunUntil([&] { return sent >= 200; }));
+    pace.stop();
+    ASSERT_TRUE(RunUntil([&] { return sink.bytes == all.toStdString(); }));
+    EXPECT_LT(goes, sent / 3);
+    // While it is held, an answer that is waited for comes all the same.
+    peer->write("a");
+    peer->flush();
+    ASSERT_TRUE(RunUntil([&] { return sink.bytes.back() == 'a'; }));
+    peer->write("b");
+    peer->flush();
+    RunFor(10ms);
+    peer->write("c");
+    peer->flush();
+    std::string waited;
+    for (int i = 0; i < 50 && sink.bytes.size() + waited.size() < static_cast<std::size_t>(all.size()) + 3; ++i)
+        waited += link->Wait(20ms).bytes;
+    EXPECT_EQ(sink.bytes.substr(static_cast<std::size_t>(all.size())) + waited, "abc");
+    peer->write("last");
+    peer->flush();
+    peer->disconnectFromHost();
+    ASSERT_TRUE(RunUntil([&] { return sink.lost == 1; }));
+    EXPECT_TRUE(sink.bytes.ends_with("last"));
+}
+
 TEST_F(Sockets, MayBeDroppedInsideTheirOwnEvents)
 {
     std::unique_ptr<IByteLink> link;
