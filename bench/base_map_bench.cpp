@@ -65,7 +65,8 @@ void FirstFrame(benchmark::State& state)
         grid.Reset(1280, 800);
         QPainter painter(&image);
         tiles.Paint(painter, FrameOf(spot, 1280, 800), {MapStyle::Road, false, 1, true});
-        labels.Paint(painter, FrameOf(spot, 1280, 800), grid, {});
+        labels.Place(FrameOf(spot, 1280, 800), grid, {});
+        labels.Paint(painter);
     }
     state.SetLabel(spot.name);
 }
@@ -87,7 +88,8 @@ void PanFrame(benchmark::State& state)
         QPainter painter(&image);
         tiles.Paint(painter, frame, {MapStyle::Road, false, 1, true});
         if (state.range(1) != 0)
-            labels.Paint(painter, frame, grid, {});
+            labels.Place(frame, grid, {});
+        labels.Paint(painter);
     }
     state.SetLabel(std::string(spot.name) + (state.range(1) != 0 ? " with names" : ""));
 }

@@ -1,11 +1,13 @@
 #include "desktop/map/labels/place_labels.h"
 
+#include "desktop/map/labels/place_weight.h"
+
 #include <QGuiApplication>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
+#include <utility>
 
 namespace ruvenmark {
 
@@ -36,23 +38,14 @@ QString Broken(QString text, qsizetype longest)
     return text;
 }
 
-// How many people a place must have to be named at a zoom.
-double LeastWeight(double zoom, MapStyle style)
-{
-    constexpr std::array<double, 12> kPeople{2e7, 1.5e7, 7e6, 2.5e6, 8e5, 2.5e5, 9e4, 3.5e4, 1.2e4, 4e3, 1.2e3, 1};
-    const double at = std::clamp(zoom, 0.0, kPeople.size() - 1.001);
-    const auto below = static_cast<std::size_t>(at);
-    const double t = at - static_cast<double>(below);
-    const double people = std::exp(std::log(kPeople.at(below)) * (1 - t) + std::log(kPeople.at(below + 1)) * t);
-    return InfoOf(style).land == MapStyleInfo::Land::Grey && zoom < 11 ? people * 3 : people;
-}
-
 std::vector<std::uint32_t> LargestFirst(std::size_t count, const auto& areaOf)
 {
+    std::vector<std::pair<double, std::uint32_t>> areas(count);
+    for (std::uint32_t i = 0; i < count; ++i)
+        areas[i] = {-areaOf(i).area, i};
+    std::sort(areas.begin(), areas.end());
     std::vector<std::uint32_t> order(count);
-    std::iota(order.begin(), order.end(), 0U);
-    std::stable_sort(order.begin(), order.end(),
-                     [&](std::uint32_t a, std::uint32_t b) { return areaOf(a).area > areaOf(b).area; });
+    std::transform(areas.begin(), areas.end(), order.begin(), [](const auto& area) { return area.second; });
     return order;
 }
 
@@ -102,13 +95,12 @@ void PlaceLabels::SetFaces(const How& how)
     m_text.SetLook(how.ratio, how.mapFont * 100 + static_cast<int>(how.style) * 10 + (how.bDark ? 1 : 0));
 }
 
-void PlaceLabels::Paint(QPainter& painter, const ViewFrame& frame, LabelGrid& grid, const How& how)
+void PlaceLabels::Place(const ViewFrame& frame, LabelGrid& grid, const How& how)
 {
-    m_painter = &painter;
     m_grid = &grid;
     m_frame = &frame;
     m_how = how;
-    painter.save();
+    m_names.clear();
     SetFaces(how);
     const double least = LeastWeight(frame.zoom, how.style), great = std::max(least * 8, 1e6);
     PlaceWaters(0, 1);
@@ -118,6 +110,18 @@ void PlaceLabels::Paint(QPainter& painter, const ViewFrame& frame, LabelGrid& gr
     PlaceStates();
     PlaceCities(least, great);
     PlaceWaters(3, 3);
+}
+
+void PlaceLabels::Paint(QPainter& painter, const QRegion* only)
+{
+    painter.save();
+    for (const Name& name : m_names) {
+        if (only && !only->intersects(name.rect.toAlignedRect()))
+            continue;
+        if (name.dot)
+            m_text.PaintDot(painter, Look(name.face), name.bFullDot, *name.dot, m_how.bVector);
+        m_text.Paint(painter, Look(name.face), name.text, name.centre, m_how.bVector);
+    }
     painter.restore();
 }
 
@@ -136,9 +140,8 @@ void PlaceLabels::PlaceArea(Face face, const QString& text, const AreaLabel& are
     const QPointF at = m_frame->ToPixel({area.x, area.y});
     const QSizeF size = m_text.Size(Look(face), text);
     const QRectF rect(at.x() - size.width() / 2, at.y() - size.height() / 2, size.width(), size.height());
-    if (!m_grid->TryPlace(rect.adjusted(-kGap, -kGap, kGap, kGap)))
-        return;
-    m_text.Paint(*m_painter, Look(face), text, rect.center(), m_how.bVector);
+    if (m_grid->TryPlace(rect.adjusted(-kGap, -kGap, kGap, kGap)))
+        m_names.push_back({face, text, rect.center(), rect.adjusted(-kGap, -kGap, kGap, kGap), {}, false});
 }
 
 void PlaceLabels::PlaceWaters(int firstRank, int lastRank)
@@ -290,8 +293,8 @@ void PlaceLabels::PlaceCity(const Spot& spot)
             QRectF(-size.width() / 2, -size.height() / 2, size.width(), size.height()).translated(spot.at + offset);
         if (!m_grid->TryPlace(rect.united(dot).adjusted(-kGap, -1, kGap, 1)))
             continue;
-        m_text.PaintDot(*m_painter, Look(face), place.bCapital, spot.at, m_how.bVector);
-        m_text.Paint(*m_painter, Look(face), text, rect.center(), m_how.bVector);
+        m_names.push_back(
+            {face, text, rect.center(), rect.united(dot).adjusted(-kGap, -kGap, kGap, kGap), spot.at, place.bCapital});
         return;
     }
 }

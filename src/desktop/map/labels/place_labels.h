@@ -5,11 +5,15 @@
 #include "desktop/map/labels/label_text.h"
 #include "desktop/map/view/view_frame.h"
 
+#include <QPointF>
+#include <QRectF>
+#include <QRegion>
 #include <QString>
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 class QPainter;
@@ -29,11 +33,23 @@ public:
 
     explicit PlaceLabels(const BaseMap& map); // The map must outlive this.
 
-    // From the painter's origin on, where the grid is free; takes the places in the grid.
-    void Paint(QPainter& painter, const ViewFrame& frame, LabelGrid& grid, const How& how);
+    enum class Face { Ocean, Sea, Lake, Country, BigCountry, State, BigCity, City, Town };
+    struct Name {
+        Face face;
+        QString text;
+        QPointF centre;
+        QRectF rect;                // Of all that is painted.
+        std::optional<QPointF> dot; // Of a place; nothing: it names an area.
+        bool bFullDot = false;
+    };
+
+    // Where the grid is free; takes the places in the grid.
+    void Place(const ViewFrame& frame, LabelGrid& grid, const How& how);
+    const std::vector<Name>& Names() const { return m_names; } // As last placed.
+    // From the painter's origin on; those that a region touches where one is given.
+    void Paint(QPainter& painter, const QRegion* only = nullptr);
 
 private:
-    enum class Face { Ocean, Sea, Lake, Country, BigCountry, State, BigCity, City, Town };
     struct Spot; // A place that would like its name shown.
 
     void SetFaces(const How& how);
@@ -56,8 +72,9 @@ private:
     LabelText m_text;
     std::array<LabelFace, 9> m_faces; // By Face.
 
+    std::vector<Name> m_names;
+
     // Of the frame at hand.
-    QPainter* m_painter = nullptr;
     LabelGrid* m_grid = nullptr;
     const ViewFrame* m_frame = nullptr;
     How m_how;

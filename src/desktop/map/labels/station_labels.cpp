@@ -53,6 +53,15 @@ std::array<QPointF, 4> BadgePlaces(QPointF at)
     return {at + QPointF(kOut, -kOut), at + QPointF(-kOut, -kOut), at + QPointF(kOut, kOut), at + QPointF(-kOut, kOut)};
 }
 
+// Counts of one text as one number.
+std::uint32_t WithoutUnseen(std::uint32_t count)
+{
+    std::uint32_t unit = 1;
+    if (count >= 1000)
+        unit = count < 10000 ? 100 : count < 1000000 ? 1000 : count < 10000000 ? 100000 : 1000000;
+    return count / unit * unit;
+}
+
 bool IsSameLook(const MapLook& a, const MapLook& b)
 {
     return a.nameFont == b.nameFont && a.text == b.text && a.halo == b.halo && a.badge == b.badge;
@@ -88,17 +97,21 @@ StationLabels::Text& StationLabels::Name(const std::string& name)
     const auto [it, bNew] = m_names.try_emplace(name);
     if (bNew) {
         const QFontMetricsF metrics(m_look->nameFont);
-        const QString text = ForDisplay(FirstCharacters(name, kMostCharacters));
-        it->second.shown = metrics.elidedText(text, Qt::ElideRight, kMostWidth);
-        it->second.size = {std::ceil(metrics.horizontalAdvance(it->second.shown)) + 2 * kHalo,
-                           std::ceil(metrics.height())};
+        QString text = ForDisplay(FirstCharacters(name, kMostCharacters));
+        double width = metrics.horizontalAdvance(text); // Laying letters out is what a new name costs: mostly once.
+        if (width > kMostWidth) {
+            text = metrics.elidedText(text, Qt::ElideRight, kMostWidth);
+            width = metrics.horizontalAdvance(text);
+        }
+        it->second.shown = text;
+        it->second.size = {std::ceil(width) + 2 * kHalo, std::ceil(metrics.height())};
     }
     return it->second;
 }
 
 StationLabels::Text& StationLabels::Badge(std::uint32_t count)
 {
-    const auto [it, bNew] = m_badges.try_emplace(count);
+    const auto [it, bNew] = m_badges.try_emplace(WithoutUnseen(count));
     if (bNew) {
         const QFontMetricsF metrics(m_look->badgeFont);
         it->second.shown = CountText(count);
@@ -263,14 +276,16 @@ void StationLabels::PaintKept(QPainter& painter, Text& text, const QRectF& rect,
     painter.drawPixmap(QPointF(snap(rect.left()), snap(rect.top())), text.picture);
 }
 
-void StationLabels::Paint(QPainter& painter, bool bVector)
+void StationLabels::Paint(QPainter& painter, bool bVector, const QRegion* only)
 {
     painter.save();
     const auto name = [this](QPainter& on, const Text& text, const QRectF& rect) { PaintName(on, text, rect); };
     const auto badge = [this](QPainter& on, const Text& text, const QRectF& rect) { PaintBadge(on, text, rect); };
     const auto paintAll = [&](std::vector<Todo>& todo, const auto& paintText) {
         for (const Todo& one : todo)
-            if (bVector)
+            if (only && !only->intersects(one.rect.toAlignedRect().adjusted(-1, -1, 1, 1)))
+                continue;
+            else if (bVector)
                 paintText(painter, *one.text, one.rect);
             else
                 PaintKept(painter, *one.text, one.rect,

@@ -6,9 +6,11 @@
 
 #include <QPixmap>
 #include <QRectF>
+#include <QRegion>
 #include <QString>
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -43,8 +45,17 @@ public:
                      LabelGrid& grid);
     // Keeps the places of markers, names and counts free of other names.
     void BlockIn(LabelGrid& grid, const std::vector<MarkerItem>& items) const;
-    // Letters as curves instead of kept pictures, for printers and vector files.
-    void Paint(QPainter& painter, bool bVector);
+    // Letters as curves instead of kept pictures, for printers and vector files; only: what a region touches.
+    void Paint(QPainter& painter, bool bVector, const QRegion* only = nullptr);
+    // Calls visit(place, text shown) with all that Paint paints.
+    template <typename Visit>
+    void Each(Visit visit) const
+    {
+        for (std::size_t i = 0; i < m_namesPlaced.size(); ++i)
+            visit(m_namesPlaced[i], m_nameTodo[i].text->shown);
+        for (std::size_t i = 0; i < m_badgesPlaced.size(); ++i)
+            visit(m_badgesPlaced[i], m_badgeTodo[i].text->shown);
+    }
 
     const std::vector<Placed>& Names() const { return m_namesPlaced; }
     const std::vector<Placed>& Badges() const { return m_badgesPlaced; }

@@ -46,12 +46,19 @@ void MapGround::Paint(QPainter& painter, const ViewFrame& frame, const How& how)
     }
 }
 
-void MapGround::PaintAbove(QPainter& painter, const ViewFrame& frame, LabelGrid& grid, const How& how)
+void MapGround::PlaceNames(const ViewFrame& frame, LabelGrid& grid, const How& how)
 {
-    const bool bTiles = ShowsTiles(how.style);
-    if (m_names && !(bTiles && m_bCovered))
-        m_names->Paint(painter, frame, grid, {ToMapStyle(how.style), how.bDark, how.font, how.ratio, how.bVector});
-    m_bCovered = bTiles && PaintTiles(painter, frame, m_tiles, how.ratio, InfoOf(ToMapStyle(how.style)).bPale);
+    m_bNamed = m_names && !(ShowsTiles(how.style) && m_bCovered);
+    if (m_bNamed)
+        m_names->Place(frame, grid, {ToMapStyle(how.style), how.bDark, how.font, how.ratio, how.bVector});
+}
+
+void MapGround::PaintAbove(QPainter& painter, const ViewFrame& frame, const How& how)
+{
+    if (m_bNamed)
+        m_names->Paint(painter, how.only);
+    m_bCovered =
+        ShowsTiles(how.style) && PaintTiles(painter, frame, m_tiles, how.ratio, InfoOf(ToMapStyle(how.style)).bPale);
 }
 
 } // namespace ruvenmark

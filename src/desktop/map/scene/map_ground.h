@@ -33,11 +33,15 @@ public:
         bool bDark = false;
         qreal ratio = 1;
         bool bVector = false, bWait = false;
+        const QRegion* only = nullptr; // Where it is painted; null: everywhere.
     };
     void Paint(QPainter& painter, const ViewFrame& frame, const How& how);
-    // The names of places, where `grid` is free, and above them the pictures from elsewhere, which have names of their
-    // own.
-    void PaintAbove(QPainter& painter, const ViewFrame& frame, LabelGrid& grid, const How& how);
+    // The names of places, where `grid` is free; none where the pictures from elsewhere, which have names of their own,
+    // cover everything.
+    void PlaceNames(const ViewFrame& frame, LabelGrid& grid, const How& how);
+    const std::vector<PlaceLabels::Name>* Names() const { return m_bNamed ? &m_names->Names() : nullptr; }
+    // Those names, and above them the pictures from elsewhere.
+    void PaintAbove(QPainter& painter, const ViewFrame& frame, const How& how);
 
     // Whether pictures from elsewhere are the ground of this style; they are never dark.
     bool ShowsTiles(std::int32_t style) const;
@@ -55,6 +59,7 @@ private:
     std::unique_ptr<PlaceLabels> m_names;
     MapTiles m_tiles;
     bool m_bCovered = false; // The last frame showed nothing but tiles.
+    bool m_bNamed = false;
 };
 
 } // namespace ruvenmark

@@ -3,6 +3,8 @@
 #include "desktop/map/labels/station_labels.h"
 #include "desktop/map/markers/marker_layout.h"
 #include "desktop/map/scene/directions_line.h"
+#include "desktop/map/scene/map_ground.h"
+#include "desktop/map/scene/scene_marks.h"
 #include "desktop/map/shapes/shape_layer.h"
 #include "map/selection.h"
 
@@ -17,7 +19,6 @@ class QPainter;
 namespace ruvenmark {
 
 class IconSet;
-class MapGround;
 
 // How a scene is painted this time.
 struct ScenePaint {
@@ -31,6 +32,8 @@ struct ScenePaint {
     std::int64_t now = 0;               // Seconds since 1970.
     std::int32_t fadeAfter = 0;         // Minutes; 0: never.
     std::optional<LineEnds> directions; // What is measured.
+
+    friend bool operator==(const ScenePaint&, const ScenePaint&) = default;
 };
 
 // What is seen of a map in one view: the ground, shapes, markers, names, scale bar and credits.
@@ -40,14 +43,38 @@ public:
 
     // Where everything goes; for hit tests too.
     void Arrange(const Map& map, const MapView& view, const MapSelection& selection);
-    // Arranges, then paints from the painter's origin on. Returns the look for what goes on top.
-    MapLook Paint(QPainter& painter, const Map& map, const MapView& view, const ScenePaint& how);
+    // Arranges all that is painted. Returns where it differs from what was laid before; nothing: anywhere.
+    std::optional<QRegion> Lay(const Map& map, const MapView& view, const ScenePaint& how);
+    // Paints what was laid, from the painter's origin on; what a region touches where one is given. The map is still
+    // as it was. Returns the look for what goes on top.
+    MapLook Draw(QPainter& painter, const Map& map, const MapView& view, const ScenePaint& how,
+                 const QRegion* only = nullptr);
 
     const MarkerLayout& Markers() const { return m_markers; }
     const ShapeLayout& Shapes() const { return m_shapes; }
     const StationLabels& Labels() const { return m_labels; } // As last painted.
 
 private:
+    // What concerns the whole picture.
+    struct Whole {
+        ScenePaint how; // Without its time: what that changes is seen on the markers.
+        GeoPoint centre;
+        double zoom = 0;
+        int width = 0, height = 0;
+        std::int32_t style = 0, font = 0;
+        QString credits;
+
+        friend bool operator==(const Whole&, const Whole&) = default;
+    };
+
+    MapLook LookOf(const Map& map, const ScenePaint& how) const;
+    MapGround::How GroundOf(const Map& map, const ScenePaint& how, const QRegion* only) const;
+    void LayLabels(const Map& map, const MapView& view, const ScenePaint& how);
+    void DrawMarkers(QPainter& painter, const ScenePaint& how, const QRegion* only,
+                     std::optional<std::uint32_t> selected, const QColor& ring);
+    SceneMarks MarksOf() const;
+    std::size_t ShapesNumber(const Map& map) const;
+
     IconSet& m_icons;
     MapGround& m_ground;
     MarkerLayout m_markers;
@@ -55,6 +82,9 @@ private:
     ShapeLayer m_shapeLayer;
     StationLabels m_labels;
     LabelGrid m_grid;
+    Whole m_whole;
+    std::optional<SceneMarks> m_marks; // Nothing after a change of the whole.
+    std::size_t m_shapesNumber = 0;    // Another one where other shapes are seen.
 };
 
 // The slot of the selected Pushpin or Shape; nothing where another kind, or what is gone, is selected.

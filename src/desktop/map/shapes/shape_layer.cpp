@@ -30,7 +30,7 @@ QRegion InView(const QRegion& devicePixels, qreal ratio)
 } // namespace
 
 void ShapeLayer::Paint(QPainter& painter, const ShapeLayout& layout, const SlotPool<ShapeData>& shapes,
-                       const ViewFrame& frame, const ShapeLook& look, qreal ratio)
+                       const ViewFrame& frame, const ShapeLook& look, qreal ratio, const QRegion* only)
 {
     const bool bZooms = m_world != frame.world; // Each frame is another picture then.
     // Where the world comes around, lines jump to the copy that is nearer.
@@ -39,7 +39,7 @@ void ShapeLayer::Paint(QPainter& painter, const ShapeLayout& layout, const SlotP
     m_renewed = {};
     if (bZooms || bAround || layout.Lines().size() < kFew) {
         m_picture = {};
-        PaintShapes(painter, layout, shapes, frame, look);
+        PaintShapes(painter, layout, shapes, frame, look, only);
         return;
     }
     const double left = frame.left * frame.world * ratio, top = frame.top * frame.world * ratio;

@@ -18,9 +18,9 @@ class ShapeLayer {
 public:
     static constexpr std::size_t kFew = 1500; // Lines that are painted as fast as a picture is copied.
 
-    // The layout is that of the frame; ratio: device pixels for one of the view.
+    // The layout is that of the frame; ratio: device pixels for one of the view; only: what a region touches.
     void Paint(QPainter& painter, const ShapeLayout& layout, const SlotPool<ShapeData>& shapes, const ViewFrame& frame,
-               const ShapeLook& look, qreal ratio);
+               const ShapeLook& look, qreal ratio, const QRegion* only = nullptr);
 
     // The device pixels that the last Paint could not copy; nothing where it kept no picture.
     const QRegion& Renewed() const { return m_renewed; }

@@ -7,9 +7,7 @@
 #include <QContextMenuEvent>
 #include <QDateTime>
 #include <QEvent>
-#include <QImage>
 #include <QKeyEvent>
-#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
@@ -19,7 +17,7 @@ namespace ruvenmark {
 namespace {
 
 constexpr qint64 kGatherMs = 45;         // What reports do is painted so soon where little was painted before,
-constexpr qint64 kShare = 200;           // else so seldom that it takes no more than this part of a processor,
+constexpr qint64 kShare = 300;           // else so seldom that it takes no more than this part of a processor,
 constexpr qint64 kLongestGatherMs = 500; // but so often in any case.
 constexpr int kButtonMargin = 12;
 constexpr int kAgeMilliseconds = 20000; // Ages are told in minutes.
@@ -126,14 +124,6 @@ void MapWidget::ViewChanged()
     update();
 }
 
-void MapWidget::GatheredChange()
-{
-    DropTheGone();
-    UpdateButtons();
-    m_heap->Refresh();
-    update();
-}
-
 void MapWidget::RefreshAges()
 {
     m_heap->Refresh();
@@ -212,90 +202,6 @@ void MapWidget::Hover(QPointF at)
 {
     if (m_picker.Rest(at))
         update();
-}
-
-ScenePaint MapWidget::HowToPaint() const
-{
-    ScenePaint how;
-    how.selection = m_selection;
-    how.palette = palette();
-    how.font = font();
-    how.now = m_clock();
-    how.fadeAfter = m_fadeAfter;
-    how.directions = m_directions;
-    return how;
-}
-
-void MapWidget::paintEvent(QPaintEvent*)
-{
-    QElapsedTimer watch;
-    watch.start();
-    QPainter painter(this);
-    const Map* map = m_control.ActiveMap();
-    if (!map) {
-        painter.fillRect(rect(), palette().window());
-        return;
-    }
-    ScenePaint how = HowToPaint();
-    how.ratio = devicePixelRatioF();
-    how.buttons = m_buttons->geometry();
-    const MapLook look = m_scene.Paint(painter, *map, map->View(), how);
-    m_balloons.Paint(painter, {*map, map->View(), m_scene.Markers(), look, how.now});
-    if (m_input.IsKeyboardHere()) {
-        painter.setPen(QPen(palette().highlight(), 2));
-        painter.drawRect(rect().adjusted(1, 1, -1, -1));
-    }
-    ++m_paints;
-    m_lastPaintNs = watch.nsecsElapsed();
-    m_sincePaint.start();
-}
-
-// The scene is arranged for the window again afterwards.
-void MapWidget::PaintStill(QPainter& painter, const MapView& view, const ScenePaint& how)
-{
-    const Map& map = m_control.RequireMap();
-    const MapLook look = m_scene.Paint(painter, map, view, how);
-    m_balloons.PaintStill(painter, {map, view, m_scene.Markers(), look, how.now});
-    update();
-}
-
-QImage MapWidget::Picture(QSize size, qreal ratio)
-{
-    QImage picture(size * ratio, QImage::Format_RGB32);
-    picture.setDevicePixelRatio(ratio);
-    picture.fill(palette().color(QPalette::Window));
-    const Map* map = m_control.ActiveMap();
-    if (!map)
-        return picture;
-    MapView view = map->View();
-    view.width = size.width();
-    view.height = size.height();
-    ScenePaint how = HowToPaint();
-    how.ratio = ratio;
-    how.bWait = true;
-    QPainter painter(&picture);
-    PaintStill(painter, view, how);
-    return picture;
-}
-
-void MapWidget::PaintMap(QPainter& painter, const QRectF& target)
-{
-    const Map* map = m_control.ActiveMap();
-    if (!map || target.isEmpty())
-        return;
-    MapView view = map->View();
-    const double scale = std::min(target.width() / view.width, target.height() / view.height);
-    view.width = static_cast<int>(std::lround(target.width() / scale));
-    view.height = static_cast<int>(std::lround(target.height() / scale));
-    ScenePaint how = HowToPaint();
-    how.palette = QPalette(Qt::white); // Paper is white.
-    how.bVector = how.bWait = true;
-    painter.save();
-    painter.translate(target.topLeft());
-    painter.scale(scale, scale);
-    painter.setClipRect(QRectF(0, 0, view.width, view.height));
-    PaintStill(painter, view, how);
-    painter.restore();
 }
 
 void MapWidget::resizeEvent(QResizeEvent*)

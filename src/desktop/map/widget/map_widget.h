@@ -43,6 +43,7 @@ public:
     // Whether the last painting showed everything there is to show.
     bool IsReady() const { return m_ground.IsReady() && !m_gather.isActive() && !m_mover.IsMoving(); }
     int Paints() const { return m_paints; }
+    bool IsLastPaintPart() const { return m_bPart; } // Only places that had changed were painted.
 
     // Seconds since 1970, for ages; the machine's own clock at first.
     void SetClock(HeapList::Clock clock) { m_clock = std::move(clock); }
@@ -86,6 +87,8 @@ private:
     void RefreshAges();
     void Hover(QPointF at);
     ScenePaint HowToPaint() const;
+    ScenePaint OnScreen() const;
+    std::optional<QRegion> Lay(const Map& map);
     void PaintStill(QPainter& painter, const MapView& view, const ScenePaint& how);
 
     MapControl& m_control;
@@ -106,8 +109,10 @@ private:
     std::vector<Subscription> m_controlEvents, m_mapEvents;
     QTimer m_gather;
     QElapsedTimer m_sincePaint;
-    qint64 m_lastPaintNs = 0; // Of its work.
+    qint64 m_layNs = 0, m_drawNs = 0, m_lastPaintNs = 0; // Of its work.
+    bool m_bLaid = false;                                // The scene was laid for the map as it is at this moment.
     int m_paints = 0;
+    bool m_bPart = false;
 };
 
 } // namespace ruvenmark

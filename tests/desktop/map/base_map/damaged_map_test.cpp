@@ -59,7 +59,8 @@ bool UseAll(std::span<const std::byte> bytes)
                 PaintGround(map, frame, style);
             LabelGrid grid;
             grid.Reset(160, 120);
-            labels.Paint(painter, frame, grid, {});
+            labels.Place(frame, grid, {});
+            labels.Paint(painter);
         }
         for (const std::size_t place : FindPlaces(map, u"a", 5))
             EXPECT_LT(place, map.PlaceCount());

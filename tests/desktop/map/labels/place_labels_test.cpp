@@ -72,7 +72,8 @@ protected:
         grid.Reset(1000, 700);
         if (!taken.isEmpty())
             grid.Block(taken);
-        labels.Paint(painter, FrameAt(centre, zoom, 1000, 700), grid, {MapStyle::Road, false, mapFont, 1, true});
+        labels.Place(FrameAt(centre, zoom, 1000, 700), grid, {MapStyle::Road, false, mapFont, 1, true});
+        labels.Paint(painter);
         painter.end();
         return paper.recorder.lines;
     }

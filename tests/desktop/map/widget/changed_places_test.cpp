@@ -1,0 +1,121 @@
+// What is painted for reports must leave the same pixels on the screen as painting everything anew: a place that is
+// forgotten shows a marker or a name that is gone, until the map is moved.
+#include "desktop/icons/icon_set.h"
+#include "desktop/map/base_map/world_map.h"
+#include "desktop/map/widget/map_widget.h"
+#include "platform/files.h"
+#include "platform/map_control.h"
+
+#include <QPixmap>
+#include <QScreen>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace ruvenmark {
+namespace {
+
+class ChangedPlaces : public testing::Test {
+protected:
+    ChangedPlaces()
+    {
+        control.NewMap(kRegionNorthAmerica);
+        QObject::connect(&widget, &MapWidget::SelectionWanted,
+                         [this](const MapSelection& wanted) { selection = wanted; });
+        widget.SetClock([this] { return now; });
+        widget.SetFadeAfter(30);
+        widget.resize(700, 500);
+        widget.show();
+        TheMap().SetView({40, -90}, 6);
+    }
+
+    Map& TheMap() { return control.RequireMap(); }
+    int Below(int most) { return std::uniform_int_distribution<int>(0, most - 1)(random); }
+    Location Anywhere() { return TheMap().XYToLocation(Below(760) - 30, Below(560) - 30); }
+    QImage Screen() { return widget.screen()->grabWindow(widget.winId()).toImage(); }
+    bool Settle()
+    {
+        const bool bReady = QTest::qWaitFor([&] { return widget.IsReady(); }, 60000);
+        QCoreApplication::processEvents(); // What is asked for by then is painted.
+        return bReady;
+    }
+
+    void AddPin()
+    {
+        Pushpin pin = TheMap().AddPushpin(Anywhere(), "K" + std::to_string(Below(900)));
+        pin.SetSymbol(static_cast<std::int16_t>(79 + Below(20)));
+        pin.SetBalloonState(Below(2));
+        pins.push_back(pin);
+    }
+    void Edit()
+    {
+        const int what = Below(12);
+        if (pins.size() < 40 || what == 0)
+            return AddPin();
+        Pushpin& pin = pins[static_cast<std::size_t>(Below(static_cast<int>(pins.size())))];
+        switch (what) {
+        case 1:
+            pin.SetBalloonState(Below(2));
+            break;
+        case 2:
+            pin.SetName("N" + std::to_string(Below(90000)));
+            break;
+        case 3:
+            pin.SetSymbol(static_cast<std::int16_t>(79 + Below(20)));
+            break;
+        case 4:
+            pin.Delete();
+            std::swap(pin, pins.back());
+            pins.pop_back();
+            break;
+        case 5:
+            TheMap().AddLine(Anywhere(), Anywhere()).SetEndArrowhead(true);
+            break;
+        case 6:
+            now += Below(300);
+            break;
+        default:
+            pin.SetLocation(Anywhere());
+        }
+    }
+
+    std::mt19937 random{11};
+    std::int64_t now = 1'000'000;
+    PosixFiles files;
+    MapControl control{files};
+    IconSet icons;
+    BaseMap base = BaseMap::Open(kWorldMapPath);
+    MapSelection selection;
+    MapWidget widget{control, icons, &base, selection};
+    std::vector<Pushpin> pins;
+};
+
+TEST_F(ChangedPlaces, ArePaintedAsTheWholeIs)
+{
+    for (int i = 0; i < 150; ++i)
+        AddPin();
+    ASSERT_TRUE(Settle());
+    int partly = 0;
+    for (int round = 0; round < 30; ++round) {
+        for (int edits = Below(round % 10 == 9 ? 60 : 4); edits >= 0; --edits)
+            Edit();
+        if (round % 7 == 3) {
+            selection = pins[static_cast<std::size_t>(Below(static_cast<int>(pins.size())))];
+            widget.update();
+        }
+        ASSERT_TRUE(Settle());
+        const QImage painted = Screen();
+        if (widget.IsLastPaintPart())
+            ++partly;
+        widget.repaint();
+        ASSERT_EQ(painted, Screen()) << "round " << round;
+    }
+    EXPECT_GT(partly, 8) << "else this proves nothing";
+}
+
+} // namespace
+} // namespace ruvenmark
