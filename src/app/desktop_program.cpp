@@ -166,6 +166,11 @@ int RunDesktop(int argc, char** argv, const ProgramOptions& options)
         UseDarkColors();
 
     DesktopRun run(options);
+    std::optional<int> ended;
+    QObject::connect(&run.window, &MainWindowView::Ended, [&](int status) {
+        ended = status;
+        QApplication::exit(status);
+    });
     if (!StartsBeside(run))
         return kEndedWell;
     StartMainWindow(run.main, options.screenshot ? AutoConnect::No : AutoConnect::Yes);
@@ -182,7 +187,7 @@ int RunDesktop(int argc, char** argv, const ProgramOptions& options)
         });
     const LogicTimers timers(run.main);
     const Termination termination([&] { run.window.CloseUnasked(); });
-    return QApplication::exec();
+    return ended ? *ended : QApplication::exec();
 }
 
 } // namespace ruvenmark

@@ -143,6 +143,7 @@ constexpr std::array kSettings = {
     SettingInfo{S::ShowToolBar, "ShowToolBar", K::Flag, "True"},
     SettingInfo{S::ShowStatusBar, "ShowStatusBar", K::Flag, "True"},
     SettingInfo{S::ShowStationList, "ShowStationList", K::Flag, "False"},
+    SettingInfo{S::StationListPlace, "StationListPlace", K::Text, ""},
     SettingInfo{S::MapStyle, "MapStyle", K::Int16, "0"},
     SettingInfo{S::MapFont, "MapFont", K::Int16, "2"},
     SettingInfo{S::StandardToolbar, "StandardToolbar", K::Flag, "False"},

@@ -150,6 +150,7 @@ enum class Setting : std::uint8_t {
     ShowToolBar,
     ShowStatusBar,
     ShowStationList,
+    StationListPlace,
     MapStyle,
     MapFont,
     StandardToolbar,

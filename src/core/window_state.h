@@ -26,6 +26,7 @@ struct WindowState {
     bool bStatusBar = true;
     bool bFullScreen = false;
     bool bStationList = false;
+    std::string stationListPlace;     // As the window tells it; empty at first.
     bool bTreeFocus = false;          // The keys go to the station tree: the edit commands act on its selected node.
     bool bStationTreeVisible = false; // Hidden while it is built.
     RightView rightView = RightView::Map;

@@ -48,8 +48,7 @@ QWidget* MainWindowView::MakeStationDock()
                                       if (TreeNode* node = NodeOfStation(m_main, channel, call))
                                           PopUpFor(place, node);
                                   }},
-                                 area);
-    area->addDockWidget(Qt::BottomDockWidgetArea, m_stations);
+                                 *area);
     return area;
 }
 

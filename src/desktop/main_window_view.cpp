@@ -339,7 +339,7 @@ void MainWindowView::closeEvent(QCloseEvent* event)
     const StopResult result = StopMainWindow(m_main, m_bUnasked ? MayAsk::No : MayAsk::Yes);
     event->setAccepted(result != StopResult::GoesOn);
     if (event->isAccepted())
-        QCoreApplication::exit(result == StopResult::Stopped ? 0 : 1);
+        emit Ended(result == StopResult::Stopped ? 0 : 1);
     else if (m_bUnasked) // The end was ordered while the question stood.
         QTimer::singleShot(0, this, &QWidget::close);
 }

@@ -35,6 +35,8 @@ struct MainWindow;
 
 // The program's window over the state of the logic: it shows what stands there and passes on what the operator does.
 class MainWindowView final : public QMainWindow {
+    Q_OBJECT
+
 public:
     // What is lent must outlive the window; base may be null.
     MainWindowView(MainWindow& main, IconSet& icons, const BaseMap* base);
@@ -54,6 +56,9 @@ public:
     // Packets, a map or tiles, as its content says.
     void OpenFile(const std::string& path);
     void LoadFile(IByteStream& bytes); // Opened before.
+
+signals:
+    void Ended(int status); // Closed, and all is saved that can be.
 
 protected:
     void changeEvent(QEvent* event) override;

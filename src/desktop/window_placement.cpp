@@ -21,10 +21,11 @@ bool IsAtFirstPlace(const WindowState& window)
            window.height == kFirstHeight;
 }
 
-// A program there is neither told its place nor given one.
-bool HasNoPlaces()
+// Where nothing is told of frames and of the screen's own bars, room is left for them.
+QSize RoomOn(const QRect& screen)
 {
-    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+    constexpr qreal kWithoutBars = 0.9;
+    return HasNoPlaces() ? screen.size() * kWithoutBars : screen.size();
 }
 
 QMargins FrameOf(const QWidget& window)
@@ -35,6 +36,11 @@ QMargins FrameOf(const QWidget& window)
 }
 
 } // namespace
+
+bool HasNoPlaces()
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
 
 QRect FittedPlace(const QRect& place, const QRect& screen, const QMargins& frame)
 {
@@ -64,7 +70,7 @@ void WindowPlacement::ShowAtLastPlace()
     const QSize size(PixelsOfTwips(AllowedWindowWidth(window.width)), PixelsOfTwips(window.height));
     const bool bFirstStart = IsAtFirstPlace(window);
     QRect place(QPoint(PixelsOfTwips(window.left), PixelsOfTwips(window.top)),
-                (bFirstStart ? kFirstSize : size).boundedTo(screen.size()));
+                (bFirstStart ? kFirstSize : size).boundedTo(RoomOn(screen)));
     if (bFirstStart && window.splitterLeft == kFirstSplitterLeft)
         window.splitterLeft = TwipsOfPixels(kFirstLeftPane);
     // A screen that is gone must not take the window with it.

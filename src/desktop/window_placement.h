@@ -9,6 +9,9 @@ namespace ruvenmark {
 
 struct MainWindow;
 
+// With Wayland a program is neither told the places of its windows nor gives them one.
+bool HasNoPlaces();
+
 // The place of a window without its frame, moved and made smaller as far as needed, so that with its frame it lies
 // within the screen.
 QRect FittedPlace(const QRect& place, const QRect& screen, const QMargins& frame);

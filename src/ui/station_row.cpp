@@ -59,9 +59,20 @@ LastReport LastReportOf(const Record& record)
     return last;
 }
 
-std::string WithUnit(std::optional<double> number, int decimals, std::string_view unit)
+std::string WithUnit(std::optional<double> number, std::string_view unit)
 {
-    return number ? ShortText(RoundDecimals(*number, decimals)).append(unit) : std::string();
+    return number ? ShortText(RoundDecimals(*number, 0)).append(unit) : std::string();
+}
+
+// One below the other: always with the tenths.
+std::string MilesText(std::optional<double> miles)
+{
+    if (!miles)
+        return {};
+    std::string text = ShortText(RoundDecimals(*miles, 1));
+    if (text.find('.') == std::string::npos)
+        text += ".0";
+    return text += " mi";
 }
 
 } // namespace
@@ -116,13 +127,13 @@ std::string TextOf(const StationRow& row, StationColumn column)
     case StationColumn::LastHeard:
         return LocalTextOfSeconds(row.heard);
     case StationColumn::Distance:
-        return WithUnit(row.miles, 1, " mi");
+        return MilesText(row.miles);
     case StationColumn::Bearing:
-        return WithUnit(row.bearing, 0, "°");
+        return WithUnit(row.bearing, "°");
     case StationColumn::Course:
-        return WithUnit(row.course, 0, "°");
+        return WithUnit(row.course, "°");
     case StationColumn::Speed:
-        return WithUnit(row.speed, 0, " mph");
+        return WithUnit(row.speed, " mph");
     case StationColumn::Path:
         return row.path;
     case StationColumn::Comment:

@@ -155,21 +155,9 @@ void StationRows::Drop(Id id)
     m_free.push_back(id);
 }
 
-bool StationRows::IsBefore(Id a, Id b) const
+bool StationRows::ListsBefore(Id a, Id b) const
 {
-    const std::uint64_t key = m_marks[a].sortKey, otherKey = m_marks[b].sortKey;
-    if (key != otherKey) {
-        if (key == kUnknownSortKey || otherKey == kUnknownSortKey)
-            return otherKey == kUnknownSortKey;
-        return (key < otherKey) == m_bAscending;
-    }
-    const StationRow& one = m_rows[a];
-    const StationRow& other = m_rows[b];
-    const int order = CompareIgnoringCase(SortText(one, m_column), SortText(other, m_column));
-    if (order != 0)
-        return (order < 0) == m_bAscending;
-    const int calls = CompareIgnoringCase(one.call, other.call);
-    return calls != 0 ? calls < 0 : a < b;
+    return IsBefore(m_listOrder, {&m_rows[a], m_marks[a].sortKey, a}, {&m_rows[b], m_marks[b].sortKey, b});
 }
 
 bool StationRows::Matches(const StationRow& row) const
@@ -184,48 +172,30 @@ bool StationRows::Matches(const StationRow& row) const
     });
 }
 
-// A row as all are sorted at once: nearly every comparison ends here, without a look at the rows.
-struct StationRows::SortEntry {
-    SortEntry(const StationRows& owner, Id ofId, std::string_view text)
-        : rows(&owner), key(owner.m_marks[ofId].sortKey), id(ofId), more{KeyPart(text, 1), KeyPart(text, 2)},
-          call(KeyPart(owner.m_rows[ofId].call, 0)), bLong(text.size() > 3 * sizeof key)
-    {
-    }
-    bool operator<(const SortEntry& other) const
-    {
-        if (key != other.key)
-            return rows->IsBefore(id, other.id);
-        if (more != other.more)
-            return (more < other.more) == rows->m_bAscending;
-        if (!bLong && !other.bLong && call != other.call)
-            return call < other.call;
-        return rows->IsBefore(id, other.id);
-    }
-
-    const StationRows* rows;
-    std::uint64_t key;
-    Id id;
-    std::array<std::uint64_t, 2> more; // Of the text.
-    std::uint64_t call;
-    bool bLong;
-};
-
 void StationRows::SortBy(StationColumn column, bool bAscending)
 {
-    m_column = column;
-    m_bAscending = bAscending;
+    constexpr std::size_t kMostSortedAtOnce = 4096;
+    m_sort.emplace(StationOrder{column, bAscending}, m_rows, m_order);
+    if (m_order.size() > kMostSortedAtOnce) {
+        TellDue();
+        return;
+    }
+    while (!m_sort->Step()) {
+    }
+    TakeOrder();
+}
+
+void StationRows::TakeOrder()
+{
     Rearrange([this] {
-        std::vector<SortEntry> entries;
-        entries.reserve(m_order.size());
-        for (const Id id : m_order) {
-            const StationRow& row = m_rows[id];
-            m_marks[id].sortKey = SortKeyOf(row, m_column);
-            entries.emplace_back(*this, id, SortText(row, m_column));
-        }
-        std::sort(entries.begin(), entries.end());
-        std::transform(entries.begin(), entries.end(), m_order.begin(),
-                       [](const SortEntry& entry) { return entry.id; });
+        m_listOrder = m_sort->Order();
+        m_order.clear();
+        m_sort->Each([this](Id id, std::uint64_t key) {
+            m_order.push_back(id);
+            m_marks[id].sortKey = key;
+        });
     });
+    m_sort.reset();
 }
 
 void StationRows::SetFilter(const StationListFilter& filter)
@@ -242,6 +212,12 @@ void StationRows::SetFilter(const StationListFilter& filter)
 
 bool StationRows::Update()
 {
+    if (m_sort) {
+        if (m_sort->Step())
+            TakeOrder();
+        m_bDue = m_sort || !m_marked.empty() || !m_unseen.empty();
+        return m_bDue;
+    }
     m_lastMarked = nullptr;
     m_bDue = true; // No one need be told of what is marked in here.
     TakeOwnPlace();
@@ -269,14 +245,14 @@ void StationRows::Merge(std::vector<Id> fresh)
         mark.bMarked = false;
         if (!FillRow(row, m_main, m_ownPlace))
             return false;
-        mark.sortKey = SortKeyOf(row, m_column);
+        mark.sortKey = SortKeyOf(row, m_listOrder.column);
         mark.heard = row.heard;
         mark.bMatches = Matches(row);
         return true;
     });
     std::for_each(kept, fresh.end(), [this](Id id) { Drop(id); });
     fresh.erase(kept, fresh.end());
-    const auto isBefore = [this](Id a, Id b) { return IsBefore(a, b); };
+    const auto isBefore = [this](Id a, Id b) { return ListsBefore(a, b); };
     std::sort(fresh.begin(), fresh.end(), isBefore);
     std::vector<Id> merged;
     merged.reserve(m_order.size() + fresh.size());

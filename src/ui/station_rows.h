@@ -4,6 +4,7 @@
 #include "platform/event.h"
 #include "platform/geometry.h"
 #include "ui/station_row.h"
+#include "ui/station_sort.h"
 
 #include <array>
 #include <cstddef>
@@ -55,8 +56,9 @@ public:
     const std::string& SymbolWord(Id id) const { return m_rows[id].symbol; }
     std::string Text(Id id, StationColumn column) const { return TextOf(m_rows[id], column); }
 
-    // What is not known stands at the end, whichever the order.
+    // Few are sorted at once. Of many the order stays as it is until Update has come to the end of the work.
     void SortBy(StationColumn column, bool bAscending);
+    bool IsSorting() const { return m_sort.has_value(); }
     void SetFilter(const StationListFilter& filter);
     const StationListFilter& Filter() const { return m_filter; }
 
@@ -81,7 +83,6 @@ private:
         bool bListed = false;  // In m_order.
         bool bMatches = false; // All of the filter but its time.
     };
-    struct SortEntry;
 
     void Observe(const TreeNode& node, bool bGone);
     void MarkCall(Channel channel, std::string_view call);
@@ -90,7 +91,8 @@ private:
     void TellDue();
     void TakeOwnPlace();
     void Drop(Id id);
-    bool IsBefore(Id a, Id b) const;
+    bool ListsBefore(Id a, Id b) const;
+    void TakeOrder();
     bool Matches(const StationRow& row) const;
     void Merge(std::vector<Id> fresh);
     void ShowFiltered();
@@ -99,8 +101,8 @@ private:
     MainWindow& m_main;
     StationListFilter m_filter;
     std::vector<std::string> m_patterns; // Of the filter, as they are compared.
-    StationColumn m_column = StationColumn::Call;
-    bool m_bAscending = true;
+    StationOrder m_listOrder;
+    std::optional<StationSort> m_sort; // Under way; what is marked waits for its end.
     std::optional<GeoPoint> m_ownPlace;
 
     std::deque<StationRow> m_rows; // By id.

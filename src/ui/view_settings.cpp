@@ -60,6 +60,7 @@ void LoadViewSettings(MainWindow& main)
 {
     for (const ShownPart& part : kShown)
         main.window.*part.flag = main.stored.Flag(part.setting);
+    main.window.stationListPlace = main.stored.Text(Setting::StationListPlace);
     for (std::size_t i = 0; i < kMapBars.size(); ++i)
         main.mpCtrl.SetToolbarVisible(static_cast<std::int32_t>(i) + 1, main.stored.Flag(kMapBars[i]));
     Map* map = main.mpCtrl.ActiveMap();
@@ -72,6 +73,7 @@ void SaveViewSettings(MainWindow& main)
 {
     for (const ShownPart& part : kShown)
         main.stored.SetFlag(part.setting, main.window.*part.flag);
+    main.stored.Set(Setting::StationListPlace, main.window.stationListPlace);
     const Map* map = main.mpCtrl.ActiveMap();
     if (map) {
         main.stored.SetWhole(Setting::MapStyle, map->MapStyle());

@@ -227,6 +227,7 @@ constexpr Row kRows[] = {
     {"ShowToolBar", "True", "False", In<&M::window, &W::bToolBar>},
     {"ShowStatusBar", "True", "False", In<&M::window, &W::bStatusBar>},
     {"ShowStationList", "False", "True", In<&M::window, &W::bStationList>},
+    {"StationListPlace", "", "right 400", In<&M::window, &W::stationListPlace>},
     {"MapStyle", "0", "3", [](const M& main) { return Shown(main.mpCtrl.RequireMap().MapStyle()); }},
     {"MapFont", "2", "4", [](const M& main) { return Shown(main.mpCtrl.RequireMap().MapFont()); }},
     {"StandardToolbar", "False", "True", MapBar<1>},

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 #include <string>
 #include <vector>
@@ -12,7 +13,9 @@
 namespace ruvenmark {
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
+using testing::MatchesRegex;
 using C = StationColumn;
 
 std::vector<std::string> Column(const StationRows& rows, StationColumn column)
@@ -64,6 +67,36 @@ TEST(StationRows, SortsByNumbersAndTextsWithTheUnknownAtTheEnd)
     EXPECT_THAT(Column(rows, C::Call), ElementsAre("FAR", "NEAR-1", "near", "NOWHERE"));
     rows.SortBy(C::Call, false);
     EXPECT_THAT(Column(rows, C::Call), ElementsAre("NOWHERE", "NEAR-1", "near", "FAR"));
+}
+
+// All at once the window would stand still; and a report, a filter or another click in the midst must not mix the
+// orders.
+TEST(StationRows, ManyAreSortedInPiecesWhileTheListStaysAsItIs)
+{
+    TestProgram program;
+    SetSetting(program.main.Settings, Setting::Lat, "0");
+    SetSetting(program.main.Settings, Setting::Lon, "0");
+    constexpr int kMany = 12000;
+    for (int i = 0; i < kMany; ++i)
+        program.Position(Channel::RF, "N" + std::to_string(i * 7919 % kMany), 1 + i % 80, 0, "Car",
+                         "of the same beginning as all others " + std::to_string(i % 100));
+    StationRows rows(program.main);
+    UpdateAll(rows);
+    const auto calls = Column(rows, C::Call);
+    ASSERT_TRUE(std::is_sorted(calls.begin(), calls.end()));
+    rows.SortBy(C::Distance, false);
+    rows.Update();
+    rows.SortBy(C::Comment, false);
+    program.Position(Channel::RF, "ZLAST", 1, 0, "Car", "zzz");
+    EXPECT_TRUE(rows.Update());
+    EXPECT_EQ(Column(rows, C::Call), calls);
+    UpdateAll(rows);
+    EXPECT_FALSE(rows.IsSorting());
+    const auto comments = Column(rows, C::Comment);
+    ASSERT_EQ(comments.size(), calls.size() + 1);
+    EXPECT_EQ(comments.front(), "zzz");
+    EXPECT_TRUE(std::is_sorted(comments.rbegin(), comments.rend()));
+    EXPECT_THAT(Column(rows, C::Distance), Each(MatchesRegex("[0-9]+\\.[0-9] mi"))) << "one below the other";
 }
 
 TEST(StationRows, FiltersByCallAgeAndRoad)

@@ -5,11 +5,19 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
+#include <QFontMetrics>
+#include <QHeaderView>
 #include <QMessageBox>
+#include <QScreen>
+#include <QTreeView>
+
+#include <utility>
 
 namespace ruvenmark {
 
 namespace {
+
+constexpr int kCellMargin = 12;
 
 int RunBox(QWidget* owner, QMessageBox::Icon icon, std::string_view text, QMessageBox::StandardButtons buttons,
            QMessageBox::StandardButton first)
@@ -20,8 +28,22 @@ int RunBox(QWidget* owner, QMessageBox::Icon icon, std::string_view text, QMessa
     return box.exec();
 }
 
+// The toolkit's own dialog cuts off sizes and dates; that of the system has no such list.
+void ShowWholeDetails(QFileDialog& dialog)
+{
+    constexpr QSize kComfortable(760, 480);
+    auto* list = dialog.findChild<QTreeView*>(QStringLiteral("treeView"));
+    if (!list)
+        return;
+    dialog.resize(kComfortable.boundedTo(dialog.screen()->availableSize()));
+    const QFontMetrics metrics(list->font());
+    for (const auto& [column, sample] : {std::pair(1, "8888.88 KiB"), std::pair(3, "28 Mmm 2028 28:28:28")})
+        list->header()->resizeSection(column, metrics.horizontalAdvance(QLatin1String(sample)) + kCellMargin);
+}
+
 std::optional<std::string> RunFileDialog(QFileDialog& dialog, FileFilter filter)
 {
+    ShowWholeDetails(dialog);
     // "*.*" stands for every file, also one without a point in its name.
     const std::string pattern(filter.pattern == "*.*" ? "*" : filter.pattern);
     dialog.setOption(QFileDialog::HideNameFilterDetails);

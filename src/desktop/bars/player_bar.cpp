@@ -37,7 +37,8 @@ void SeekBar::SetSeekable(bool bSeekable)
     m_bSeekable = bSeekable;
     setFocusPolicy(bSeekable ? Qt::TabFocus : Qt::NoFocus);
     setCursor(bSeekable ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    setToolTip(bSeekable ? QStringLiteral("Click ahead to go on from there: the lines between are loaded at once")
+    setToolTip(bSeekable ? QStringLiteral("Click ahead to go on from there: the lines between are loaded at once.\n"
+                                          "There is no way back: what was heard stays.")
                          : QString());
 }
 

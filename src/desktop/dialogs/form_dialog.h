@@ -1,11 +1,13 @@
 #pragma once
 
 #include "desktop/dialogs/binder.h"
+#include "desktop/dialogs/tab_order.h"
 #include "desktop/named_control.h"
 
 #include <QDialog>
 #include <QHideEvent>
 #include <QPoint>
+#include <QShowEvent>
 
 #include <optional>
 
@@ -36,6 +38,12 @@ protected:
         NameControl(*box, name, text);
         m_binder.Bind(*box, field);
         return box;
+    }
+    void showEvent(QShowEvent* event) override
+    {
+        if (!event->spontaneous())
+            OrderTabs(*this);
+        QDialog::showEvent(event);
     }
     void hideEvent(QHideEvent* event) override
     {

@@ -78,6 +78,7 @@ void DirectionsPane::AddEnd(QGridLayout& layout, std::size_t end)
     auto* edit = new QLineEdit(this);
     NameControl(*edit, texts.editName, label->text());
     edit->setPlaceholderText(QString::fromLatin1(kHint));
+    edit->setToolTip(QString::fromLatin1(kHint));
     edit->setMinimumWidth(90);
     label->setBuddy(edit);
     connect(edit, &QLineEdit::editingFinished, this, [this, end] { Enter(end); });

@@ -46,7 +46,6 @@ void MapHint::Show(const QString& text, const Actions& actions)
         auto* button = new QToolButton(this);
         button->setText(caption);
         button->setAccessibleName(caption);
-        button->setAutoRaise(true);
         connect(button, &QToolButton::clicked, this, [this, work = act] {
             hide();
             work();

@@ -20,7 +20,7 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr std::array kColumnWidths = {110, 90, 130, 150, 300, 60}; // Pixels.
+constexpr std::array kColumnWidths = {21, 13, 14, 28, 30, 10}; // Characters.
 constexpr int kTextColumn = static_cast<int>(message_column::kText);
 
 } // namespace
@@ -65,9 +65,9 @@ RowListView* MessagePanes::MakeList(RowList& list, const char* name, const QStri
     auto* view = new RowListView(list, *new RowModel(list, m_icons, titles, this), &right);
     NameControl(*view, name, label);
     for (int column = 0; column < titles.size(); ++column)
-        view->setColumnWidth(column, kColumnWidths[static_cast<std::size_t>(column)]);
-    view->header()->setStretchLastSection(false);
-    view->header()->setSectionResizeMode(kTextColumn, QHeaderView::Stretch);
+        view->setColumnWidth(column,
+                             kColumnWidths[static_cast<std::size_t>(column)] * view->fontMetrics().averageCharWidth());
+    view->SetMainColumn(kTextColumn);
     right.addWidget(view);
     connect(view, &RowListView::MenuWanted, this,
             [this](QPoint place) { m_callbacks.popUp(place, MenuItems(m_main, Menu::mnuMsgPopup)); });

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace ruvenmark {
@@ -35,6 +36,32 @@ void RowListView::reset()
 {
     QTreeView::reset();
     ShowSelection();
+}
+
+void RowListView::SetMainColumn(int column)
+{
+    m_mainColumn = column;
+    m_leastWidth = columnWidth(column);
+    header()->setStretchLastSection(false);
+    connect(header(), &QHeaderView::sectionResized, this, [this](int resized) {
+        if (resized != m_mainColumn)
+            FitMainColumn();
+    });
+    FitMainColumn();
+}
+
+void RowListView::FitMainColumn()
+{
+    if (m_mainColumn < 0)
+        return;
+    const int others = header()->length() - columnWidth(m_mainColumn);
+    setColumnWidth(m_mainColumn, std::max(viewport()->width() - others, m_leastWidth));
+}
+
+void RowListView::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    FitMainColumn();
 }
 
 void RowListView::contextMenuEvent(QContextMenuEvent* event)

@@ -15,6 +15,8 @@ public:
     RowListView(RowList& list, RowModel& model, QWidget* parent = nullptr);
 
     void reset() override;
+    // The column that takes the room that the others leave, but never less than it has now.
+    void SetMainColumn(int column);
 
 signals:
     void MenuWanted(QPoint place); // Where it belongs, on the screen.
@@ -29,14 +31,17 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
     void SortBy(int column);
     void ShowSelection();
+    void FitMainColumn();
 
     RowList& m_list;
     RowModel& m_model;
+    int m_mainColumn = -1, m_leastWidth = 0;
 };
 
 } // namespace ruvenmark

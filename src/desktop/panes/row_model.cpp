@@ -5,7 +5,11 @@
 #include "platform/row_list.h"
 
 #include <QFont>
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QSize>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -14,6 +18,7 @@ namespace ruvenmark {
 namespace {
 
 constexpr std::chrono::milliseconds kFlushInterval{50};
+constexpr int kRowMargin = 5, kLeastRow = 20; // Pixels.
 
 QIcon IconOf(const IconSet& icons, RowIcon icon)
 {
@@ -84,6 +89,8 @@ QVariant RowModel::data(const QModelIndex& index, int role) const
         return PlainTip(ForDisplay(row.Text(static_cast<std::size_t>(index.column()))));
     case Qt::DecorationRole:
         return index.column() == 0 ? QVariant(IconOf(m_icons, row.Icon())) : QVariant();
+    case Qt::SizeHintRole: // All rows are as high as the first, whether it has a picture or not.
+        return QSize(0, std::max(QFontMetrics(QGuiApplication::font()).height() + kRowMargin, kLeastRow));
     case Qt::FontRole: {
         if (!row.IsBold())
             return {};

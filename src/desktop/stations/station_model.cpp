@@ -77,8 +77,11 @@ QVariant StationModel::headerData(int section, Qt::Orientation orientation, int 
 
 void StationModel::sort(int column, Qt::SortOrder order)
 {
-    if (column >= 0)
-        m_rows.SortBy(static_cast<StationColumn>(column), order == Qt::AscendingOrder);
+    if (column < 0)
+        return;
+    m_rows.SortBy(static_cast<StationColumn>(column), order == Qt::AscendingOrder);
+    if (m_rows.IsSorting())
+        m_updateTimer.start(0);
 }
 
 void StationModel::SetFilter(const StationListFilter& filter)
@@ -94,7 +97,7 @@ void StationModel::Update()
 {
     m_updateTimer.stop();
     if (m_rows.Update())
-        m_updateTimer.start(kNextPiece);
+        m_updateTimer.start(m_rows.IsSorting() ? 0ms : kNextPiece);
 }
 
 void StationModel::OnWillChange()

@@ -20,7 +20,10 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabBar>
 #include <QTabWidget>
+
+#include <algorithm>
 
 namespace ruvenmark {
 namespace {
@@ -210,6 +213,39 @@ TEST_F(DialogsTest, FilterStandsAsideForAClickOnTheMapAndComesBack)
     program.Action("pointer").trigger();
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerDefault);
+}
+
+// Where the tab key jumps to and fro, or begins at Cancel, one cannot work without a mouse.
+TEST_F(DialogsTest, TheKeysBeginAtAnEntryAndGoOnAsOneReads)
+{
+    for (const Form form :
+         {Form::frmFilter, Form::frmPosition, Form::frmWeather, Form::frmStatus, Form::frmObject, Form::frmMessage,
+          Form::commDialog, Form::frmTcp, Form::frmGps, Form::frmTrackList, Form::frmOptions, Form::frmTiles}) {
+        program.dialogs.Show(form, program.main);
+        QDialog* dialog = nullptr;
+        for (auto* one : program.window.findChildren<QDialog*>())
+            if (one->isVisible())
+                dialog = one;
+        ASSERT_NE(dialog, nullptr);
+        const std::string title = dialog->windowTitle().toStdString();
+        const QWidget* first = dialog->focusWidget();
+        ASSERT_NE(first, nullptr) << title;
+        EXPECT_EQ(qobject_cast<const QPushButton*>(first), nullptr) << title;
+        int lowest = 0;
+        for (const QWidget* part = first; (part = part->nextInFocusChain()) != first;) {
+            const bool bStop = part->isVisible() && part->isEnabled() && (part->focusPolicy() & Qt::TabFocus) != 0 &&
+                               !part->focusProxy();
+            if (part == dialog || qobject_cast<const QTabBar*>(part))
+                break; // From the top again.
+            if (!bStop)
+                continue;
+            const int top = part->mapTo(dialog, QPoint(0, part->height() / 2)).y();
+            constexpr int kSameLine = 12;
+            EXPECT_GT(top, lowest - kSameLine) << title << ": " << part->objectName().toStdString();
+            lowest = std::max(lowest, top);
+        }
+        dialog->close();
+    }
 }
 
 // Every box of the table is there under its name, shows its setting and gives it back.

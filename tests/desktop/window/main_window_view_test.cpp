@@ -19,6 +19,8 @@
 #include <QTextBrowser>
 #include <QUrl>
 
+#include <gmock/gmock.h>
+
 #include <csignal>
 
 namespace ruvenmark {
@@ -183,6 +185,28 @@ TEST(MainWindowViewTest, TheStationListStandsUnderTheMap)
     EXPECT_FALSE(program.main.window.bStationList);
     const auto* gone = program.window.findChild<QTableView*>(QStringLiteral("lvStations"));
     EXPECT_TRUE(!gone || !gone->isVisible());
+}
+
+// A list that comes back elsewhere, or in another size each time, has to be put in its place at every start.
+TEST(MainWindowViewTest, TheStationListComesBackWhereItStood)
+{
+    const auto shown = [](const char* stored) {
+        WindowProgram program;
+        program.main.window.stationListPlace = stored;
+        program.Action("mnuViewStations").trigger();
+        auto& dock = program.Find<QDockWidget>("dockStations");
+        QCoreApplication::processEvents();
+        EXPECT_TRUE(dock.isVisible());
+        const std::string place = dock.isFloating() ? "floating" : "docked";
+        return place + ' ' + std::to_string(dock.width()) + 'x' + std::to_string(dock.height());
+    };
+    using testing::EndsWith;
+    using testing::StartsWith;
+    EXPECT_THAT(shown("below 260"), testing::AllOf(StartsWith("docked"), EndsWith("x260")));
+    EXPECT_THAT(shown("right 500"), StartsWith("docked 500x"));
+    EXPECT_EQ(shown("floating 120 90 560 300"), "floating 560x300");
+    for (const char* senseless : {"floating 99999 0 1 1", "right", "up 7"})
+        EXPECT_THAT(shown(senseless), StartsWith("docked")) << senseless;
 }
 
 TEST(MainWindowViewTest, ADroppedFileIsLoaded)

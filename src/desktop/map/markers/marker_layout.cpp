@@ -163,13 +163,49 @@ void MarkerLayout::Add(const Spot& spot, std::uint32_t count)
                        .bTrail = point.bTrail && m_selected != spot.slot});
 }
 
+MarkerLayout::Spot MarkerLayout::SpotOf(const MarkerItem& item)
+{
+    return {item.slot, static_cast<float>(item.at.x() + kMargin), static_cast<float>(item.at.y() + kMargin)};
+}
+
+// The many of a crowded square are looked at once for all such squares.
+void MarkerLayout::Fade(const std::vector<PinPoint>& points, const std::function<bool(std::uint32_t)>& isOld)
+{
+    std::vector<bool> doubtful(
+        m_squares.size()); // Where the one that is seen is old, and nobody younger was found yet.
+    bool bDoubt = false;
+    for (MarkerItem& item : m_items) {
+        item.bFaded = isOld(item.slot);
+        if (!item.bFaded || item.count == 1)
+            continue;
+        const std::size_t at = m_window.SquareAt(SpotOf(item));
+        if (m_squares[at].count > kMostInSquare) {
+            doubtful[at] = bDoubt = true;
+            continue;
+        }
+        const auto members = Members(points, item);
+        item.bFaded = std::all_of(members.begin(), members.end(), isOld);
+    }
+    if (!bDoubt)
+        return;
+    EachInWindow(points, [&](const PinPoint& point, const Spot& spot) {
+        const std::size_t at = m_window.SquareAt(spot);
+        if (doubtful[at] && !point.bTrail && m_selected != spot.slot && !isOld(spot.slot))
+            doubtful[at] = false;
+    });
+    for (MarkerItem& item : m_items) {
+        const std::size_t at = m_window.SquareAt(SpotOf(item));
+        if (item.bFaded && item.count > kMostInSquare)
+            item.bFaded = doubtful[at];
+    }
+}
+
 std::vector<std::uint32_t> MarkerLayout::Members(const std::vector<PinPoint>& points, const MarkerItem& item) const
 {
     std::vector<std::uint32_t> members;
     if (item.count == 1)
         return {item.slot};
-    const Spot spot{item.slot, static_cast<float>(item.at.x() + kMargin), static_cast<float>(item.at.y() + kMargin)};
-    const std::size_t at = m_window.SquareAt(spot);
+    const std::size_t at = m_window.SquareAt(SpotOf(item));
     const Square& square = m_squares[at];
     if (square.count > kMostInSquare)
         EachInWindow(points, [&](const PinPoint& point, const Spot& other) {

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -51,13 +52,8 @@ public:
     // all.
     const std::vector<MarkerItem>& Items() const { return m_items; }
 
-    // Tells which are faded, until the next Update: isOld(slot).
-    template <typename IsOld>
-    void Fade(IsOld isOld)
-    {
-        for (MarkerItem& item : m_items)
-            item.bFaded = isOld(item.slot);
-    }
+    // Tells which are faded, until the next Update: those that stand for old markers only. isOld(slot).
+    void Fade(const std::vector<PinPoint>& points, const std::function<bool(std::uint32_t)>& isOld);
 
     // The markers an item stands for, newest first; of the view that was last arranged.
     std::vector<std::uint32_t> Members(const std::vector<PinPoint>& points, const MarkerItem& item) const;
@@ -96,6 +92,7 @@ private:
     static void EachGroup(const Square& square, const Take& take);
     void Thin(const Square& square);
     void Add(const Spot& spot, std::uint32_t count);
+    static Spot SpotOf(const MarkerItem& item);
     bool IsBelow(const MarkerItem& a, const MarkerItem& b) const;
     template <typename Visit>
     void EachInWindow(const std::vector<PinPoint>& points, Visit visit) const;

@@ -69,7 +69,8 @@ std::optional<QRegion> MapScene::Lay(const Map& map, const MapView& view, const 
 {
     Arrange(map, view, how.selection);
     if (how.fadeAfter > 0)
-        m_markers.Fade([&](std::uint32_t slot) { return IsFaded(how.now, map.Pins().At(slot)->heard, how.fadeAfter); });
+        m_markers.Fade(map.PinPoints(),
+                       [&](std::uint32_t slot) { return IsFaded(how.now, map.Pins().At(slot)->heard, how.fadeAfter); });
     LayLabels(map, view, how);
     Whole whole{how,         view.centre,    view.zoom,     view.width,
                 view.height, map.MapStyle(), map.MapFont(), m_ground.Credits(map.MapStyle())};

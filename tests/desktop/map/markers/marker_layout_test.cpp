@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <numeric>
+#include <utility>
+#include <vector>
 
 namespace ruvenmark {
 namespace {
@@ -67,6 +69,27 @@ TEST(MarkerLayout, ANamedMarkerStandsForItsGroupAndTheSelectedOneForItself)
     EXPECT_EQ(layout.Items().back().count, 1U);
     EXPECT_EQ(layout.Items().front().count, 19U);
     EXPECT_EQ(layout.Members(points, layout.Items().front()).size(), 19U);
+}
+
+// One that is heard just now would else hide in the faded picture of an old one.
+TEST(MarkerLayout, AHeapFadesWithTheYoungestOfIt)
+{
+    std::vector<PinPoint> points;
+    for (int i = 0; i < 20; ++i)
+        points.push_back(PointAt(kView, 100, 100, i == 4)); // A crowded square ...
+    points.push_back(PointAt(kView, 300, 100));
+    points.push_back(PointAt(kView, 301, 100)); // ... and a pair.
+    MarkerLayout layout;
+    layout.Update(points, ViewFrame(kView), std::nullopt);
+    ASSERT_EQ(layout.Items().size(), 2U);
+    const auto faded = [&](std::uint32_t young) {
+        layout.Fade(points, [&](std::uint32_t slot) { return slot != young; });
+        return std::pair(layout.Items()[0].bFaded, layout.Items()[1].bFaded);
+    };
+    EXPECT_EQ(faded(0), std::pair(false, true));
+    EXPECT_EQ(faded(4), std::pair(false, true));
+    EXPECT_EQ(faded(20), std::pair(true, false));
+    EXPECT_EQ(faded(99), std::pair(true, true));
 }
 
 TEST(MarkerLayout, ViewAcrossTheDateLineAndWiderThanTheWorld)
