@@ -50,13 +50,6 @@ void Comment::Cut(std::size_t piece, std::size_t begin, std::size_t size)
     }
 }
 
-std::string_view Comment::Tidied(std::string_view text)
-{
-    if (text.starts_with('/'))
-        text.remove_prefix(1);
-    return Trim(text);
-}
-
 void Comment::Tidy()
 {
     if (const auto whole = Whole())

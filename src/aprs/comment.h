@@ -1,5 +1,7 @@
 #pragma once
 
+#include "aprs/text.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -38,7 +40,12 @@ public:
     // Takes off a slash in front, the delimiter behind other data, and blanks at both ends.
     void Tidy();
     // The same of a text in one piece.
-    static std::string_view Tidied(std::string_view text);
+    static std::string_view Tidied(std::string_view text)
+    {
+        if (text.starts_with('/'))
+            text.remove_prefix(1);
+        return Trim(text);
+    }
 
 private:
     // Kept small: every position carries one.
