@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace ruvenmark {
 
@@ -36,17 +35,6 @@ QString Broken(QString text, qsizetype longest)
     if (best >= 0)
         text[best] = u'\n';
     return text;
-}
-
-std::vector<std::uint32_t> LargestFirst(std::size_t count, const auto& areaOf)
-{
-    std::vector<std::pair<double, std::uint32_t>> areas(count);
-    for (std::uint32_t i = 0; i < count; ++i)
-        areas[i] = {-areaOf(i).area, i};
-    std::sort(areas.begin(), areas.end());
-    std::vector<std::uint32_t> order(count);
-    std::transform(areas.begin(), areas.end(), order.begin(), [](const auto& area) { return area.second; });
-    return order;
 }
 
 } // namespace

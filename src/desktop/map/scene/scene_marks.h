@@ -3,10 +3,10 @@
 #include <QRectF>
 #include <QRegion>
 
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <tuple>
 #include <vector>
 
 namespace ruvenmark {
@@ -19,7 +19,8 @@ struct SceneMark {
     std::size_t look = 0;   // Another one where it looks otherwise.
     double left = 0, top = 0, width = 0, height = 0;
 
-    friend auto operator<=>(const SceneMark&, const SceneMark&) = default;
+    auto Whole() const { return std::tie(kind, number, look, left, top, width, height); }
+    friend bool operator<(const SceneMark& a, const SceneMark& b) { return a.Whole() < b.Whole(); }
 };
 
 // What stands on a picture of the map, to tell in which places the next picture is another one.

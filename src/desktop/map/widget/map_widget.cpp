@@ -95,7 +95,8 @@ void MapWidget::ObserveMap()
     m_mapEvents.push_back(map->Changed.Observe([this] { MapChanged(); }));
     m_mapEvents.push_back(map->ViewChanged.Observe([this] { ViewChanged(); }));
     map->SetSize(width(), height());
-    GatheredChange();
+    RefreshParts();
+    update(); // Not at once: whoever replaces a map is still at it.
 }
 
 // Called for every report: nothing but a look at a timer.
@@ -141,6 +142,13 @@ void MapWidget::SetDirections(const std::optional<LineEnds>& ends)
 {
     m_directions = ends;
     update();
+}
+
+void MapWidget::RefreshParts()
+{
+    DropTheGone();
+    UpdateButtons();
+    m_heap->Refresh();
 }
 
 void MapWidget::DropTheGone()

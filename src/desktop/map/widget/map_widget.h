@@ -78,6 +78,7 @@ private:
     void MapChanged();
     void ViewChanged();
     void GatheredChange();
+    void RefreshParts();
     void DropTheGone();
     void UpdatePointer();
     void UpdateButtons();

@@ -33,9 +33,7 @@ ScenePaint MapWidget::OnScreen() const
 
 void MapWidget::GatheredChange()
 {
-    DropTheGone();
-    UpdateButtons();
-    m_heap->Refresh();
+    RefreshParts();
     const Map* map = m_control.ActiveMap();
     if (!map || m_balloons.Pinned() || m_balloons.Hovered() || !isVisible())
         return update(); // What balloons tell may have changed too.
