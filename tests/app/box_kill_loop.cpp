@@ -3,6 +3,7 @@
 
 #include "station_program.h"
 
+#include <QCoreApplication>
 #include <QTcpSocket>
 #include <QTimer>
 
