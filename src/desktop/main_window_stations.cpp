@@ -70,9 +70,11 @@ void MainWindowView::ShowFirstSteps()
     actions.emplace_back(QStringLiteral("Connect…"), [this] {
         PopUp(m_hint->mapToGlobal(m_hint->rect().bottomLeft()), MenuItems(m_main, Menu::Communication));
     });
+    m_viewTaken.reset();
     m_hint->Show({}, actions);
 }
 
+// Whoever goes somewhere else needs no offer any more.
 void MainWindowView::OfferStations()
 {
     constexpr int kOfferMs = 20000;
@@ -81,6 +83,11 @@ void MainWindowView::OfferStations()
     m_hint->Show(ForDisplay(LoadSummary(m_main)),
                  {{QStringLiteral("Zoom to stations"), [this] { Run(MenuEntry::mnuZoomToStations); }}});
     m_hint->HideAfter(kOfferMs);
+    ruvenmark::Map& map = m_main.mpCtrl.RequireMap();
+    m_viewTaken = map.ViewChanged.Observe([this, &map, offered = map.View()] {
+        if (map.View().centre != offered.centre || map.View().zoom != offered.zoom)
+            m_hint->hide();
+    });
 }
 
 void MainWindowView::OpenFile(const std::string& path)

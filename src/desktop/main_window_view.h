@@ -104,6 +104,7 @@ private:
     MapHint* m_hint = nullptr;
     StationDock* m_stations = nullptr;
     bool m_bFirstSteps = false; // The hint tells them.
+    Subscription m_viewTaken;   // While the hint offers a view.
     Panes* m_panes;
     WindowPlacement m_placement;
     QShortcut* m_escape; // While a click on the map is waited for.

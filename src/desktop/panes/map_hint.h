@@ -22,7 +22,6 @@ public:
     // Another line replaces the one that shows. What was chosen takes the panel away, unless it shows anew by then.
     void Show(const QString& text, const Actions& actions);
     void HideAfter(int milliseconds);
-    bool IsShown() const { return !isHidden(); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -158,7 +158,15 @@ TEST(MainWindowViewTest, FirstStepsAndZoomAreOfferedOnTheMap)
         if (button->text() == QStringLiteral("Zoom to stations"))
             button->click();
     EXPECT_FALSE(hint.isVisible());
-    EXPECT_NEAR(program.main.mpCtrl.RequireMap().View().centre.lat, 44.7, 0.2);
+    Map& map = program.main.mpCtrl.RequireMap();
+    EXPECT_NEAR(map.View().centre.lat, 44.7, 0.2);
+
+    program.window.LoadFile("/log");
+    EXPECT_TRUE(hint.isVisible());
+    map.SetSize(map.Width() + 1, map.Height()); // No other place.
+    EXPECT_TRUE(hint.isVisible());
+    map.SetView({50, 10}, 8);
+    EXPECT_FALSE(hint.isVisible());
 }
 
 // The list follows what is heard, keeps its station in the selection, and shows it with Enter.
