@@ -80,8 +80,11 @@ void LoadBox(MainWindow& main, const Box& box)
     const std::string beside = path + kBeside;
     if (files.Exists(beside))
         state.bBesideLeft = !Attempt(main.abandoned, box.complaint, [&] {
-            if (LoadRows(list, files.ReadText(beside, FileKind::List), fields) == BoxFile::Damaged)
-                KeepCopy(files, beside);
+            const std::string text = files.ReadText(beside, FileKind::List);
+            RowList trial;
+            if (LoadRows(trial, text, fields) == BoxFile::Damaged)
+                KeepCopy(files, beside); // Ahead of the rows: what fails must not leave them here and there.
+            LoadRows(list, text, fields);
             state.bChanged = true;
         });
     if (state.file == BoxFile::Damaged)
@@ -121,7 +124,8 @@ void SaveBox(MainWindow& main, const Box& box)
     const RowList& list = main.messages.*box.list;
     BoxState& state = main.messages.*box.state;
     const std::string beside = path + kBeside;
-    const bool bBesideLeft = state.bBesideLeft && files.Exists(beside);
+    state.bBesideLeft = state.bBesideLeft && files.Exists(beside); // Once it is gone, the next one is our own.
+    const bool bBesideLeft = state.bBesideLeft;
     if (state.file == BoxFile::Unreadable && files.Exists(path)) {
         if (list.IsEmpty()) {
             if (!bBesideLeft)

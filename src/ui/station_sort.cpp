@@ -61,10 +61,11 @@ void StationSort::AddRun()
     for (std::size_t i = first; i < last; ++i) {
         const StationRow& row = m_rows[m_ids[i]];
         const std::string_view text = SortText(row, m_order.column);
-        m_entries.push_back({.place = {&row, SortKeyOf(row, m_order.column), m_ids[i]},
+        const std::uint64_t key = SortKeyOf(row, m_order.column);
+        m_entries.push_back({.place = {&row, key, m_ids[i]},
                              .more = {KeyPart(text, 1), KeyPart(text, 2)},
                              .call = KeyPart(row.call, 0),
-                             .bLong = text.size() > 3 * sizeof(std::uint64_t)});
+                             .bLong = text.size() > 3 * sizeof(std::uint64_t) || key == kUnknownSortKey - 1});
     }
     std::sort(m_entries.begin() + static_cast<std::ptrdiff_t>(first), m_entries.end(),
               [this](const Entry& a, const Entry& b) { return IsEntryBefore(a, b); });

@@ -47,7 +47,7 @@ private:
         StationPlace place;
         std::array<std::uint64_t, 2> more; // Of the text, behind the key.
         std::uint64_t call;
-        bool bLong; // The text goes on.
+        bool bLong; // The text goes on, or its key may be that of another one.
     };
 
     bool IsEntryBefore(const Entry& one, const Entry& other) const;

@@ -92,9 +92,14 @@ TEST(MessageFiles, WhatWasKeptBesideAndCannotBeReadStays)
                   !bBoxReadable);
         if (bBoxReadable)
             continue;
-        program.files.texts.erase(kBeside); // The operator has put it elsewhere.
+        program.files.texts.erase(kBeside); // The operator has put it elsewhere: what stands there now is our own.
+        for (const char* text : {"newer", "newest"}) {
+            program.Sink(Channel::RF).ReportAprsMsg({"W1AW", "APRS", "", "N0CALL", text, ""});
+            SaveChangedBoxes(program.main);
+            EXPECT_NE(program.File(kBeside).find("#####new#####"), std::string::npos);
+            EXPECT_NE(program.File(kBeside).find(text), std::string::npos);
+        }
         EXPECT_EQ(StopMainWindow(program.main), StopResult::StoppedWithLoss);
-        EXPECT_NE(program.File(kBeside).find("#####new#####"), std::string::npos);
     }
 }
 
