@@ -41,12 +41,6 @@ public:
     std::uint32_t Two(std::size_t at) const { return Byte(JoinPairs(m_bytes), at); }
     std::uint32_t Three(std::size_t at) const { return Byte(m_bytes, at) * 100 + Two(at + 1); }
 
-    // Whether the byte is this character, which is no digit.
-    bool Is(std::size_t at, char c) const
-    {
-        return ((m_bytes ^ kZeros) >> (at * 8) & 0xFFU) == static_cast<unsigned char>(c);
-    }
-
     // The block with one byte made 0.
     DigitBlock Zeroed(std::size_t at) const { return DigitBlock(m_bytes & ~(std::uint64_t{0xFF} << (at * 8))); }
 

@@ -118,7 +118,8 @@ public:
 
     // Raises Failure for a record beyond all reason.
     void Set(Field field, std::string_view value) { SetFrom(0, field, value); }
-    // One after the other. It is quickest in the order in which they were first given.
+    // One after the other, none of them a part of this record. It is quickest in the order in which they were first
+    // given.
     void Set(std::span<const Entry> values);
 
     // Where the marker that these reports move was last found; it may be gone or bear another name by now.

@@ -36,9 +36,11 @@ public:
     {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         if (element == PE_Frame || element == PE_FrameMenu) { // Lists, and what lies on the map.
+            painter->save();
             painter->setPen(QColor(kFaintOutline));
             painter->setBrush(Qt::NoBrush);
             painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+            painter->restore();
             return;
         }
         const bool bBox = element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton;

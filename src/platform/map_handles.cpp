@@ -50,10 +50,11 @@ std::string Pushpin::Note() const
 bool Pushpin::NoteBeginsWith(std::string_view text) const
 {
     const PinData& pin = m_map->Pin(m_ref);
-    if (pin.noteSource != kOwnNote && m_map->m_noteMaker)
-        if (const std::string_view beginning = m_map->m_noteMaker->Beginning(pin.noteSource);
-            beginning.starts_with(text))
-            return true;
+    if (pin.noteSource != kOwnNote && m_map->m_noteMaker) {
+        const std::string_view beginning = m_map->m_noteMaker->Beginning(pin.noteSource);
+        if (text.size() <= beginning.size())
+            return beginning.starts_with(text);
+    }
     return m_map->NoteOf(pin).starts_with(text);
 }
 

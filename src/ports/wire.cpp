@@ -69,6 +69,7 @@ Arrival Wire::Wait(std::chrono::milliseconds limit)
 void Wire::Drop()
 {
     m_sink = nullptr;
+    Fetch(); // A socket that is closed with bytes to read throws away what it has to send.
     Flush();
     Close();
     m_delivery.stop();

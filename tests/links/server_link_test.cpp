@@ -331,7 +331,6 @@ TEST_F(ServerLinkTest, ASecondConnectTakesThePlaceOfTheFirst)
     EXPECT_TRUE(program.wires.IsKept());
 }
 
-// What comes back of the login is nobody's to read: in no monitor, tree or line.
 TEST_F(ServerLinkTest, StopClosesTheLink)
 {
     ConnectServerLink(main);

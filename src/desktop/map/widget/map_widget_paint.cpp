@@ -33,9 +33,10 @@ ScenePaint MapWidget::OnScreen() const
 
 void MapWidget::GatheredChange()
 {
+    const bool bTold = m_balloons.Pinned() || m_balloons.Hovered(); // Of what is gone too.
     RefreshParts();
     const Map* map = m_control.ActiveMap();
-    if (!map || m_balloons.Pinned() || m_balloons.Hovered() || !isVisible())
+    if (!map || bTold || !isVisible())
         return update(); // What balloons tell may have changed too.
     const std::optional<QRegion> changed = Lay(*map);
     if (!changed)
@@ -66,7 +67,8 @@ void MapWidget::paintEvent(QPaintEvent* event)
         return;
     }
     const QRegion& region = event->region();
-    const bool bAll = region.contains(rect()) && region.rectCount() == 1;
+    const QRegion list = m_heap->isVisible() ? QRegion(m_heap->geometry()) : QRegion();
+    const bool bAll = (QRegion(rect()) - region - list).isEmpty(); // Nothing is painted below the list.
     if (!m_bLaid) {
         const std::optional<QRegion> changed = Lay(*map);
         if (!bAll && !changed)

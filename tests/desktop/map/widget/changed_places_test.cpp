@@ -103,6 +103,8 @@ TEST_F(ChangedPlaces, ArePaintedAsTheWholeIs)
     for (int round = 0; round < 30; ++round) {
         for (int edits = Below(round % 10 == 9 ? 60 : 4); edits >= 0; --edits)
             Edit();
+        if (round % 3 == 1)
+            widget.repaint(QRect(600, 10, 40, 40)); // As a button on the map has it painted.
         if (round % 7 == 3) {
             selection = pins[static_cast<std::size_t>(Below(static_cast<int>(pins.size())))];
             widget.update();
@@ -115,6 +117,28 @@ TEST_F(ChangedPlaces, ArePaintedAsTheWholeIs)
         ASSERT_EQ(painted, Screen()) << "round " << round;
     }
     EXPECT_GT(partly, 8) << "else this proves nothing";
+}
+
+// Its balloon lies elsewhere than the marker and its name.
+TEST_F(ChangedPlaces, TheBalloonOfADeletedMarkerGoes)
+{
+    for (int i = 0; i < 5; ++i)
+        AddPin();
+    Pushpin pin = TheMap().AddPushpin(TheMap().XYToLocation(350, 250), "N0CALL");
+    pin.SetNote("a note");
+    ASSERT_TRUE(Settle());
+    const QImage before = Screen();
+    QTest::mouseMove(&widget, {350, 250});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return widget.OpenBalloons().Hovered() == pin.Ref(); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Screen() != before; }));
+    ASSERT_TRUE(Settle());
+    const QImage told = Screen();
+    pin.Delete();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Screen() != told; }));
+    ASSERT_TRUE(Settle());
+    const QImage painted = Screen();
+    widget.repaint();
+    EXPECT_EQ(painted, Screen());
 }
 
 } // namespace
