@@ -19,10 +19,12 @@ namespace {
 
 constexpr std::size_t kLateBang = 40; // A position may begin with a '!' among so many first bytes.
 constexpr std::string_view kUltimeter = "$ULTW";
+constexpr std::string_view kLogging = "!!"; // Of the same stations.
 
-Refusal DecodeBang(std::string_view rest, Packet& packet)
+// Both kinds of positions without time on one way: which one it is cannot be guessed.
+Refusal DecodePosition(std::string_view rest, Packet& packet)
 {
-    if (rest.starts_with('!'))
+    if (packet.info.starts_with(kLogging))
         return ParseUltimeterLogging(rest.substr(1), packet.body.emplace<WeatherReport>());
     return ParsePositionReport(rest, packet.body.emplace<PositionReport>());
 }
@@ -85,9 +87,8 @@ Refusal DecodeInfo(Packet& packet)
     const std::string_view rest = packet.info.substr(1);
     switch (packet.info.front()) {
     case '!':
-        return DecodeBang(rest, packet);
     case '=':
-        return ParsePositionReport(rest, packet.body.emplace<PositionReport>());
+        return DecodePosition(rest, packet);
     case '/':
     case '@':
         return ParseTimedPosition(rest, packet.body.emplace<PositionReport>());
