@@ -32,7 +32,8 @@ void PrintMarkers(std::ostream& out, const RunState& state)
         const GeoPoint at = pin.Location().Point();
         out << TerminalText(pin.Name()) << "  " << ShortText(at.lat) << ' ' << ShortText(at.lon) << "  symbol "
             << pin.Symbol() << (pin.BalloonState() != 0 ? "  named" : "") << '\n';
-        for (const std::string_view line : Lines(pin.Note()))
+        const std::string note = pin.Note();
+        for (const std::string_view line : Lines(note))
             out << "  " << TerminalText(line) << '\n';
     }
 }

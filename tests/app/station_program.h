@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QFile>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QStringList>
 #include <QTcpServer>
 #include <QTemporaryDir>
@@ -18,8 +19,10 @@ namespace ruvenmark {
 // The stored port has 16 bits: no port that the system chooses.
 inline void Listen(QTcpServer& server)
 {
-    for (quint16 port = 23000; port < 32000 && !server.isListening(); port += 7)
-        server.listen(QHostAddress::LocalHost, port);
+    constexpr int kFirst = 23000, kPorts = 9000;
+    for (int i = 0; i < kPorts && !server.isListening(); ++i) // Any of them: tests run side by side.
+        server.listen(QHostAddress::LocalHost,
+                      static_cast<quint16>(kFirst + QRandomGenerator::global()->bounded(kPorts)));
     ASSERT_TRUE(server.isListening());
 }
 
