@@ -1,15 +1,12 @@
 #pragma once
 
+#include "platform/memory_block.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <vector>
 
 namespace ruvenmark {
-
-// Memory for many values, at the start of a cache line.
-inline constexpr std::size_t kBlockAlignment = 64;
-void* TakeBlock(std::size_t size);
-void ReturnBlock(void* block);
 
 // Values of one type, made side by side in blocks. Each stays where it is, and lives as long as the pool.
 template <typename Value>
@@ -23,7 +20,7 @@ public:
         for (const Block& block : m_blocks) {
             for (std::size_t i = 0; i < block.made; ++i)
                 block.values[i].~Value();
-            ReturnBlock(block.values);
+            ReturnBlock(block.values, block.room * sizeof(Value));
         }
     }
 
@@ -45,7 +42,7 @@ private:
     };
     static_assert(alignof(Value) <= kBlockAlignment);
 
-    static constexpr std::size_t kSmallestBlock = 32, kLargestBlock = 32768; // Values.
+    static constexpr std::size_t kSmallestBlock = 32, kLargestBlock = kLargePage / sizeof(Value);
 
     // Each block is an eighth of all before it, so that little stands unused.
     void AddBlock()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/hash_index.h"
+#include "platform/room_pool.h"
 #include "platform/text_hash.h"
 
 #include <cstddef>
@@ -8,7 +10,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <tsl/robin_set.h>
 #include <utility>
 
 namespace ruvenmark {
@@ -22,13 +23,13 @@ public:
         const std::string key;
         Value value;
     };
-    using Entries = std::list<Entry>;
+    using Entries = std::list<Entry, PoolAllocator<Entry>>;
 
     Dictionary() = default;
     Dictionary(const Dictionary& other) : m_entries(other.m_entries)
     {
         for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry)
-            m_index.insert(entry);
+            m_index.Add(Hash(entry->key), entry);
     }
     Dictionary(Dictionary&&) noexcept = default;
     Dictionary& operator=(const Dictionary& other)
@@ -42,15 +43,15 @@ public:
 
     Value* Find(std::string_view key)
     {
-        const auto it = m_index.find(key);
-        return it == m_index.end() ? nullptr : &(*it)->value;
+        const Iterator* found = Look(key);
+        return found ? &(*found)->value : nullptr;
     }
     const Value* Find(std::string_view key) const
     {
-        const auto it = m_index.find(key);
-        return it == m_index.end() ? nullptr : &(*it)->value;
+        const Iterator* found = Look(key);
+        return found ? &(*found)->value : nullptr;
     }
-    bool Contains(std::string_view key) const { return m_index.contains(key); }
+    bool Contains(std::string_view key) const { return Look(key) != nullptr; }
 
     // The value under the key; an entry that is not there yet is made with a default value.
     Value& Ensure(std::string_view key)
@@ -80,19 +81,34 @@ public:
 
     bool Remove(std::string_view key)
     {
-        const auto it = m_index.find(key);
-        if (it == m_index.end())
+        const Iterator* found = Look(key);
+        if (!found)
             return false;
-        const auto entry = *it;
-        m_index.erase(it);
+        const Iterator entry = *found;
+        m_index.Remove(Hash(key), [&](Iterator other) { return other == entry; });
         m_entries.erase(entry);
         return true;
     }
 
     void Clear()
     {
-        m_index.clear();
+        m_index.Clear();
         m_entries.clear();
+    }
+
+    // A key will be looked up, and each of these is asked of its hash when the one ahead of it had some time to fetch
+    // memory: where the index tells the entry, the entry, and the value that most likely is meant.
+    static std::uint64_t Hash(std::string_view key) { return TextHash(HashSeed(), key); }
+    void ExpectPlace(std::uint64_t hash) const { m_index.Expect(hash); }
+    void ExpectEntry(std::uint64_t hash) const
+    {
+        if (const Iterator* entry = m_index.Guess(hash))
+            ExpectMemory(&**entry, sizeof(Entry));
+    }
+    const Value* Guess(std::uint64_t hash) const
+    {
+        const Iterator* entry = m_index.Guess(hash);
+        return entry ? &(*entry)->value : nullptr;
     }
 
     std::size_t Count() const { return m_entries.size(); }
@@ -105,28 +121,22 @@ public:
 
 private:
     using Iterator = typename Entries::iterator;
-    struct Hash {
-        using is_transparent = void;
-        std::size_t operator()(std::string_view key) const { return TextHash(HashSeed(), key); }
-        std::size_t operator()(Iterator entry) const { return (*this)(entry->key); }
-    };
-    struct Equal {
-        using is_transparent = void;
-        bool operator()(Iterator a, Iterator b) const { return a == b; }
-        bool operator()(Iterator entry, std::string_view key) const { return entry->key == key; }
-        bool operator()(std::string_view key, Iterator entry) const { return entry->key == key; }
-    };
+
+    const Iterator* Look(std::string_view key) const
+    {
+        return m_index.Find(Hash(key), [&](Iterator entry) { return entry->key == key; });
+    }
 
     Value& Append(std::string_view key, Value value)
     {
         m_entries.push_back(Entry{std::string(key), std::move(value)});
         const auto last = std::prev(m_entries.end());
-        m_index.insert(last);
+        m_index.Add(Hash(key), last);
         return last->value;
     }
 
     Entries m_entries;
-    tsl::robin_set<Iterator, Hash, Equal, std::allocator<Iterator>, true> m_index;
+    HashIndex<Iterator> m_index;
 };
 
 } // namespace ruvenmark

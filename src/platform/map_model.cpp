@@ -2,6 +2,7 @@
 
 #include "platform/failure.h"
 #include "platform/numbers.h"
+#include "platform/text_hash.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,6 +10,11 @@
 namespace ruvenmark {
 
 namespace {
+
+std::uint64_t Hash(std::string_view name)
+{
+    return TextHash(HashSeed(), name);
+}
 
 std::uint32_t ToFixed(double unit)
 {
@@ -78,10 +84,10 @@ std::optional<Pushpin> Map::FindPushpin(std::string_view name, SlotRef hint)
     const PinData* hinted = m_pins.Find(hint);
     if (hinted && hinted->name == name && IsOldestOfName(hint))
         return Pushpin(*this, hint);
-    const auto it = m_names.find(name);
-    if (it == m_names.end())
+    const std::uint32_t* oldest = OldestOfName(name);
+    if (!oldest)
         return std::nullopt;
-    return Pushpin(*this, m_pins.RefAt(*it));
+    return Pushpin(*this, m_pins.RefAt(*oldest));
 }
 
 void Map::Expect(SlotRef hint) const
@@ -154,17 +160,22 @@ bool Map::IsOldestOfName(SlotRef ref) const
     return m_pins.RefAt(m_pins.At(ref.slot)->previousOfName).id >= ref.id;
 }
 
+const std::uint32_t* Map::OldestOfName(std::string_view name) const
+{
+    return m_names.Find(Hash(name), [&](std::uint32_t slot) { return m_pins.At(slot)->name == name; });
+}
+
 void Map::LinkName(SlotRef ref)
 {
     PinData& pin = Pin(ref);
-    const auto it = m_names.find(std::string_view(pin.name));
-    if (it == m_names.end()) {
+    const std::uint32_t* found = OldestOfName(pin.name);
+    if (!found) {
         pin.previousOfName = pin.nextOfName = ref.slot;
-        m_names.insert(ref.slot);
+        m_names.Add(Hash(pin.name), ref.slot);
         return;
     }
     const auto isYounger = [&](std::uint32_t slot) { return m_pins.RefAt(slot).id > ref.id; };
-    const std::uint32_t oldest = *it;
+    const std::uint32_t oldest = *found;
     std::uint32_t before = m_pins.At(oldest)->previousOfName; // The newest; a renamed pin may be older than some.
     while (isYounger(before) && before != oldest)
         before = m_pins.At(before)->previousOfName;
@@ -177,8 +188,8 @@ void Map::LinkName(SlotRef ref)
     m_pins.At(before)->nextOfName = ref.slot;
     m_pins.At(after)->previousOfName = ref.slot;
     if (bBecomesOldest) {
-        m_names.erase(it);
-        m_names.insert(ref.slot);
+        m_names.Remove(Hash(pin.name), [&](std::uint32_t slot) { return slot == oldest; });
+        m_names.Add(Hash(pin.name), ref.slot);
     }
 }
 
@@ -187,13 +198,13 @@ void Map::UnlinkName(SlotRef ref)
     const PinData& pin = Pin(ref);
     const bool bOldest = IsOldestOfName(ref);
     if (bOldest)
-        m_names.erase(ref.slot);
+        m_names.Remove(Hash(pin.name), [&](std::uint32_t slot) { return slot == ref.slot; });
     if (pin.nextOfName == ref.slot)
         return;
     m_pins.At(pin.previousOfName)->nextOfName = pin.nextOfName;
     m_pins.At(pin.nextOfName)->previousOfName = pin.previousOfName;
     if (bOldest)
-        m_names.insert(pin.nextOfName);
+        m_names.Add(Hash(pin.name), pin.nextOfName);
 }
 
 // --- Notes
@@ -288,7 +299,7 @@ Shape Map::ShapeAt(std::size_t slot)
 
 void Map::Replace(std::int32_t region)
 {
-    m_names.clear();
+    m_names.Clear();
     m_pins.Clear();
     m_shapes.Clear();
     m_points.clear();

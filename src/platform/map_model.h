@@ -2,17 +2,16 @@
 
 #include "platform/event.h"
 #include "platform/geometry.h"
+#include "platform/hash_index.h"
 #include "platform/map_region.h"
 #include "platform/map_style.h"
 #include "platform/slot_pool.h"
-#include "platform/text_hash.h"
 
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <tsl/robin_set.h>
 #include <vector>
 
 namespace ruvenmark {
@@ -223,25 +222,13 @@ private:
     void LinkName(SlotRef ref);
     void UnlinkName(SlotRef ref);
 
-    // Finds slots by the name of the pin in them.
-    struct NameHash {
-        using is_transparent = void;
-        const SlotPool<PinData>* pins;
-        std::size_t operator()(std::string_view name) const { return TextHash(HashSeed(), name); }
-        std::size_t operator()(std::uint32_t slot) const { return (*this)(pins->At(slot)->name); }
-    };
-    struct NameEqual {
-        using is_transparent = void;
-        const SlotPool<PinData>* pins;
-        bool operator()(std::uint32_t a, std::uint32_t b) const { return a == b; }
-        bool operator()(std::uint32_t slot, std::string_view name) const { return pins->At(slot)->name == name; }
-    };
-    using Names = tsl::robin_set<std::uint32_t, NameHash, NameEqual, std::allocator<std::uint32_t>, true>;
+    // The slot of the oldest pin of the name.
+    const std::uint32_t* OldestOfName(std::string_view name) const;
 
     SlotPool<PinData> m_pins;
     SlotPool<ShapeData> m_shapes;
     std::vector<PinPoint> m_points;
-    Names m_names{0, NameHash{&m_pins}, NameEqual{&m_pins}}; // The slot of the oldest of each name.
+    HashIndex<std::uint32_t> m_names; // Of slots: the oldest pin of each name.
     const INoteMaker* m_noteMaker = nullptr;
     MapView m_view;
     std::uint64_t m_serial = 0;

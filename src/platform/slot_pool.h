@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/expect_memory.h"
+#include "platform/room_pool.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -20,12 +21,17 @@ struct SlotRef {
 template <typename Value>
 class SlotPool {
 public:
+    SlotPool() = default;
+    SlotPool(const SlotPool&) = delete;
+    SlotPool& operator=(const SlotPool&) = delete;
+    ~SlotPool() { Clear(); }
+
     SlotRef Add(Value value)
     {
         std::uint32_t slot = 0;
         if (m_free.empty()) {
             if (m_slotCount == m_blocks.size() * kBlock)
-                m_blocks.push_back(std::make_unique<Slot[]>(kBlock));
+                AddBlock();
             slot = static_cast<std::uint32_t>(m_slotCount++);
         } else {
             slot = m_free.back();
@@ -51,6 +57,10 @@ public:
 
     void Clear()
     {
+        for (Slot* block : m_blocks) {
+            std::destroy_n(block, kBlock);
+            m_rooms.Return(block);
+        }
         m_blocks.clear();
         m_slotCount = 0;
         m_free.clear();
@@ -79,11 +89,19 @@ private:
 
     bool Holds(SlotRef ref) const { return ref.id != 0 && ref.slot < m_slotCount && SlotAt(ref.slot).id == ref.id; }
 
+    void AddBlock()
+    {
+        m_blocks.reserve(m_blocks.size() + 1);
+        m_blocks.push_back(static_cast<Slot*>(m_rooms.Take()));
+        std::uninitialized_value_construct_n(m_blocks.back(), kBlock);
+    }
+
     static constexpr std::size_t kBlock = 256;
     Slot& SlotAt(std::size_t slot) { return m_blocks[slot / kBlock][slot % kBlock]; }
     const Slot& SlotAt(std::size_t slot) const { return m_blocks[slot / kBlock][slot % kBlock]; }
 
-    std::vector<std::unique_ptr<Slot[]>> m_blocks;
+    RoomPool m_rooms{kBlock * sizeof(Slot)};
+    std::vector<Slot*> m_blocks;
     std::size_t m_slotCount = 0;
     std::vector<std::uint32_t> m_free;
     std::uint64_t m_lastId = 0;

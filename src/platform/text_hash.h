@@ -14,7 +14,7 @@ inline std::uint64_t HashSeed()
 }
 
 // FNV-1a, going on from the start.
-inline std::size_t TextHash(std::uint64_t start, std::string_view text)
+inline std::uint64_t TextHash(std::uint64_t start, std::string_view text)
 {
     std::uint64_t hash = start;
     for (const char c : text) {

@@ -7,34 +7,28 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr float kFull = 0.75F;
+std::uint64_t Hash(const TreeNode* parent, std::string_view word)
+{
+    return TextHash(HashSeed() + reinterpret_cast<std::uintptr_t>(parent), word);
+}
 
 } // namespace
 
-TreeIndex::TreeIndex()
-{
-    m_nodes.max_load_factor(kFull);
-}
-
 TreeNode* TreeIndex::Find(const TreeNode* parent, std::string_view word) const
 {
-    const auto it = m_nodes.find(Place{parent, word});
-    return it == m_nodes.end() ? nullptr : *it;
+    TreeNode* const* node = m_nodes.Find(
+        Hash(parent, word), [&](const TreeNode* other) { return other->Parent() == parent && other->Word() == word; });
+    return node ? *node : nullptr;
 }
 
-std::size_t TreeIndex::Hash::operator()(const Place& place) const
+void TreeIndex::Add(TreeNode& node)
 {
-    return TextHash(HashSeed() + reinterpret_cast<std::uintptr_t>(place.parent), place.word);
+    m_nodes.Add(Hash(node.Parent(), node.Word()), &node);
 }
 
-std::size_t TreeIndex::Hash::operator()(const TreeNode* node) const
+void TreeIndex::Remove(const TreeNode& node)
 {
-    return (*this)(Place{node->Parent(), node->Word()});
-}
-
-bool TreeIndex::Equal::operator()(const TreeNode* node, const Place& place) const
-{
-    return node->Parent() == place.parent && node->Word() == place.word;
+    m_nodes.Remove(Hash(node.Parent(), node.Word()), [&](const TreeNode* other) { return other == &node; });
 }
 
 } // namespace ruvenmark

@@ -1,5 +1,6 @@
 #include "platform/dictionary.h"
 #include "platform/event.h"
+#include "platform/hash_index.h"
 
 #include <gtest/gtest.h>
 
@@ -74,6 +75,38 @@ TEST(Dictionary, CopiesAndMovesStandOnTheirOwn)
     first = moved;
     EXPECT_EQ(*first.Find("b"), 2);
     EXPECT_FALSE(first.Contains("a"));
+}
+
+// Few places and few hashes, so that items stand far from where they would like to be, also around the end of the
+// table: one that moved up past its place, or did not move up, is not found again.
+TEST(HashIndex, RandomEditsAsAListHasThem)
+{
+    std::mt19937 random(8);
+    HashIndex<int> index;
+    std::vector<std::pair<std::uint64_t, int>> plain;
+    for (int i = 0; i < 30000; ++i) {
+        const bool bShrinking = i / 1000 % 2 == 1;
+        if (plain.empty() || random() % 10 < (bShrinking ? 3U : 7U)) {
+            const std::uint64_t tag = random() % 2, place = random() % 5 == 0 ? random() % 1024 : 6;
+            plain.emplace_back((tag << 33U) | place, i);
+            index.Add(plain.back().first, i);
+        } else {
+            const std::size_t at = random() % plain.size();
+            const auto [hash, item] = plain[at];
+            ASSERT_TRUE(index.Remove(hash, [&](int other) { return other == item; }));
+            ASSERT_FALSE(index.Remove(hash, [&](int other) { return other == item; }));
+            plain.erase(plain.begin() + static_cast<std::ptrdiff_t>(at));
+        }
+        if (i % 50 != 0)
+            continue;
+        for (const auto& [hash, item] : plain) {
+            const int* found = index.Find(hash, [&, wanted = item](int other) { return other == wanted; });
+            ASSERT_TRUE(found && *found == item) << "at edit " << i;
+            ASSERT_NE(index.Guess(hash), nullptr);
+        }
+    }
+    index.Clear();
+    EXPECT_EQ(index.Guess(plain.front().first), nullptr);
 }
 
 // Order of first insertion, found by key, values where they were: also while the index grows, shrinks and is full of
