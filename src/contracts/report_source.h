@@ -118,6 +118,9 @@ public:
     virtual void ReportObjectItem(const ObjectItemReport& report) = 0;
     virtual void ReportGpsData(const GpsReport& report) = 0;
     virtual void ReportRawData(std::string_view packet) = 0; // Every line as received, before decoding.
+
+    // A report of this call will come soon, most likely, behind those of the calls before.
+    virtual void ExpectReport(std::string_view /*call*/) {}
 };
 
 // One link's end of the world: decodes what arrives and raises it on its sink. Made anew for every connection or file
@@ -161,6 +164,9 @@ public:
 
     // A saved line, trimmed of blanks by the caller; its events are raised before this returns.
     virtual void ParseLine(std::string_view /*line*/) { Refuse(); }
+    // A line that will be parsed behind those that were told of before, so that memory can be asked for in time. Some
+    // lines ahead are best; nothing is wrong where a line never comes, or was never told of.
+    virtual void ExpectLine(std::string_view /*line*/) {}
 
 protected:
     [[noreturn]] static void Refuse() { throw Failure("this report source serves another channel"); }

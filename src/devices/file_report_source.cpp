@@ -15,4 +15,9 @@ void FileReportSource::ParseLine(std::string_view line)
     RaisePacketEvents(packet, RawData::No, m_sink, raising.IsDropped());
 }
 
+void FileReportSource::ExpectLine(std::string_view line)
+{
+    m_sink.ExpectReport(LikelyCall(line));
+}
+
 } // namespace ruvenmark

@@ -14,6 +14,7 @@ public:
     FileReportSource(IReportSink& sink, LineCounts& counts) : m_sink(sink), m_counts(counts) {}
 
     void ParseLine(std::string_view line) override;
+    void ExpectLine(std::string_view line) override;
 
 private:
     IReportSink& m_sink;

@@ -17,6 +17,7 @@ constexpr int kMaxWords = 4;            // Date, clock, zone or port, direction.
 constexpr std::size_t kMaxBracket = 32; // "[2023-12-24 12:07:19]", "[0.3]", "[ig]"
 constexpr std::size_t kEpochSize = 10;  // Seconds since 1970.
 constexpr std::size_t kMaxZone = 5;
+constexpr std::size_t kMaxHead = 64; // Bytes of a stamp and the call behind it.
 constexpr std::string_view kEscape = "<0x";
 constexpr std::size_t kEscapeSize = 6; // <0x1c>
 
@@ -90,6 +91,16 @@ bool IsEscape(std::string_view text)
 }
 
 } // namespace
+
+std::string_view LikelyCall(std::string_view line)
+{
+    const std::string_view head = line.substr(0, kMaxHead);
+    const std::size_t end = std::min(head.find('>'), head.size());
+    std::size_t begin = end;
+    while (begin > 0 && IsCallByte(head[begin - 1]))
+        --begin;
+    return head.substr(begin, end - begin);
+}
 
 LogLine::LogLine(std::string_view line) : m_packet(StartsPacket(line) ? line : BehindStamp(line))
 {

@@ -7,6 +7,9 @@
 
 namespace ruvenmark {
 
+// The source call of the packet in a line of a saved file, by a quick look that may be wrong.
+std::string_view LikelyCall(std::string_view line);
+
 // The packet in a line of a saved file. Programs put the time and the port of reception before it ("2023-12-24
 // 12:07:19.102 N0CALL-1 R ", "2023-12-24 12:07:19 UTC: ", "[0.3] ") and write bytes that do not print as "<0x1c>": the
 // one is left out, the other read back. Lines without either are passed on as they are.

@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "intake/report_handlers.h"
+#include "intake/stations_ahead.h"
 #include "links/gps_link.h"
 #include "links/link_status_rules.h"
 #include "links/monitors.h"
@@ -60,10 +61,12 @@ public:
             NoteServerLine(m_main, packet);
         }
     }
+    void ExpectReport(std::string_view call) override { m_ahead.Expect(m_main, m_main.Of(m_channel), call); }
 
 private:
     MainWindow& m_main;
     Channel m_channel;
+    StationsAhead m_ahead;
 };
 
 } // namespace

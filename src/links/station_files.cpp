@@ -101,6 +101,8 @@ void ReplayLines(MainWindow& main, IByteStream& bytes)
         pace.Await(Trim(lines.Line()));
         if (!main.links.FileLoading || !main.links.aprsfl)
             break;
+        while (const auto ahead = lines.Ahead())
+            main.links.aprsfl->ExpectLine(*ahead);
         ++main.links.FileLines;
         main.links.aprsfl->ParseLine(Trim(lines.Line()));
         bMore = NextLine(main, lines);

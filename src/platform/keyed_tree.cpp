@@ -79,6 +79,13 @@ void KeyedTree::ExpectChildren(const TreeNode* node) const
         ExpectMemory(node->Children().data(), sizeof(TreeNode));
 }
 
+void KeyedTree::ExpectTexts(const TreeNode* node) const
+{
+    if (node && node->Children().size() <= kFewChildren)
+        for (const TreeNode* child : node->Children())
+            child->m_text.Expect();
+}
+
 TreeNode* KeyedTree::Search(const TreeNode& parent, std::string_view word) const
 {
     if (parent.m_bIndexed)

@@ -77,6 +77,7 @@ public:
     void Expect(const TreeNode* node) const;
     // What tells its children will be needed; the node was expected before.
     void ExpectChildren(const TreeNode* node) const;
+    void ExpectTexts(const TreeNode* node) const; // Of the children, which were expected before.
 
     // Raises Failure when the parent, or the roots, have the word. A sorted parent takes the node at its place, any
     // other at the end.

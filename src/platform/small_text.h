@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/expect_memory.h"
+
 #include <array>
 #include <cstddef>
 #include <cstring>
@@ -21,6 +23,11 @@ public:
             return {m_inside.data(), m_size};
         const Block block = Outside();
         return {block.text, block.size};
+    }
+    void Expect() const // A long one will be needed; the object itself is at hand.
+    {
+        if (IsOutside())
+            ExpectMemory(Outside().text, Outside().size);
     }
     void Set(std::string_view text); // May be a part of this text.
 

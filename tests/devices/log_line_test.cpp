@@ -23,6 +23,7 @@ TEST(LogLine, LeavesOutWhatLogsPutInFront)
         const LogLine log(line);
         EXPECT_EQ(log.Packet(), kPacket) << line;
         EXPECT_EQ(log.Stamp(), stamp);
+        EXPECT_EQ(LikelyCall(line), "N0AAA-9");
     }
 }
 
@@ -38,6 +39,7 @@ TEST(LogLine, LeavesOtherLinesAsTheyAre)
         EXPECT_EQ(log.Packet(), line);
         EXPECT_EQ(log.Packet().data(), line.data()) << "copied: " << line;
         EXPECT_TRUE(log.Stamp().empty());
+        EXPECT_LE(LikelyCall(line).size(), line.size());
     }
 }
 

@@ -4,22 +4,33 @@
 
 #include <gtest/gtest.h>
 
+#include <deque>
 #include <random>
 
 namespace ruvenmark {
 namespace {
 
-// Those that are not empty.
+// Those that are not empty. On the way, that a look ahead saw is the line that came, but for what of it is not kept.
 std::vector<std::string> LinesOf(std::vector<std::string> pieces)
 {
     MemoryStream bytes(std::move(pieces), std::nullopt);
     LineStream stream(bytes);
     std::vector<std::string> lines;
+    std::deque<std::string> seen;
     for (;;) {
         const auto step = stream.Next({});
         if (step == LineStream::Step::End)
             return lines;
-        if (step == LineStream::Step::Line && !stream.Line().empty())
+        if (step == LineStream::Step::Waiting)
+            continue;
+        if (!seen.empty()) {
+            EXPECT_EQ(seen.front().substr(0, LineStream::kMaxLine), stream.Line());
+            seen.pop_front();
+        }
+        while (const auto ahead = stream.Ahead())
+            seen.emplace_back(*ahead);
+        EXPECT_LE(seen.size(), LineStream::kLookAhead);
+        if (!stream.Line().empty())
             lines.emplace_back(stream.Line());
     }
 }
@@ -45,6 +56,21 @@ TEST(LineStream, LinesAreTheSameHoweverTheyCome)
                 expected.emplace_back(line);
         ASSERT_EQ(LinesOf(pieces), expected) << run;
     }
+}
+
+// A reader that stops looking ahead is no faster than one that never did.
+TEST(LineStream, LooksSomeLinesAheadAndKeepsThatLead)
+{
+    MemoryStream bytes({"1\n2\r\n3\n4\n5\n6\n7\n8\n9\n10\n"}, std::nullopt);
+    LineStream stream(bytes);
+    std::string seen;
+    for (int line = 0; line < 3; ++line) {
+        stream.Next({});
+        while (const auto ahead = stream.Ahead())
+            seen += std::string(*ahead) + ' ';
+        seen += '|';
+    }
+    EXPECT_EQ(seen, "2 3 4 5 6 |7 |8 |");
 }
 
 TEST(LineStream, ALineOfAnyLengthIsOneLineInBoundedMemory)
