@@ -1,6 +1,7 @@
 #include "aprs/comment_extras.h"
 
 #include "aprs/comment_marks.h"
+#include "aprs/digit_block.h"
 #include "aprs/reach.h"
 #include "aprs/text.h"
 
@@ -11,31 +12,41 @@ namespace ruvenmark::aprs {
 namespace {
 
 constexpr std::size_t kAltitudeSize = 9; // /A=dddddd
+constexpr std::size_t kAltitudeName = 2; // In front of the equals sign.
 constexpr std::size_t kDaoSize = 5;      // !Dxy!
 constexpr std::size_t kMicEAltitudeSize = 4;
 constexpr std::size_t kMaxTelemetry = 14; // Seven pairs of digits.
 constexpr double kMinute = 1.0 / 60.0;
 
-// Six digits, or a minus and five.
-std::optional<int> AltitudeFeet(std::string_view text)
+// "=dddddd", or a minus and five digits.
+std::optional<int> AltitudeFeet(const char* text)
 {
-    if (text[0] == '-') {
-        const auto feet = ParseDigits(text.substr(1));
-        return feet ? std::optional(-*feet) : std::nullopt;
-    }
-    return ParseDigits(text);
+    const bool bMinus = text[1] == '-';
+    const DigitBlock digits = DigitBlock::OfSeven(text).Zeroed(0).Zeroed(bMinus ? 1 : 0);
+    if (!digits.Begins(kAltitudeSize - kAltitudeName))
+        return std::nullopt;
+    const int feet = static_cast<int>(digits.Value(kAltitudeSize - kAltitudeName));
+    return bMinus ? -feet : feet;
+}
+
+// Where an altitude's equals sign may stand from a place on. Most stand in front.
+std::size_t FindEquals(std::string_view piece, std::size_t from)
+{
+    return from == 0 && piece.size() > kAltitudeName && piece[kAltitudeName] == '=' ? kAltitudeName
+                                                                                    : piece.find('=', from);
 }
 
 void TakeAltitude(Comment& comment, PositionReport& report)
 {
     for (std::size_t i = 0; i < comment.Count(); ++i) {
         const std::string_view piece = comment[i];
-        for (std::size_t at = piece.find('='); at != std::string_view::npos; at = piece.find('=', at + 1)) {
-            if (at < 2 || piece[at - 1] != 'A' || piece[at - 2] != '/' || piece.size() - at < 7)
+        for (std::size_t at = FindEquals(piece, 0); at != std::string_view::npos; at = piece.find('=', at + 1)) {
+            if (at < kAltitudeName || piece[at - 1] != 'A' || piece[at - 2] != '/' ||
+                piece.size() - at < kAltitudeSize - kAltitudeName)
                 continue;
-            if (const auto feet = AltitudeFeet(piece.substr(at + 1, 6))) {
+            if (const auto feet = AltitudeFeet(piece.data() + at)) {
                 report.altitude = *feet;
-                comment.Cut(i, at - 2, kAltitudeSize);
+                comment.Cut(i, at - kAltitudeName, kAltitudeSize);
                 return;
             }
         }
@@ -128,15 +139,15 @@ void TakeMicEAltitude(Comment& comment, PositionReport& report)
 [[gnu::noinline]] void TakeMarked(CommentMarks marks, PositionReport& report)
 {
     const bool bMicE = report.position.form == PositionForm::MicE;
-    if (marks.bBrace && bMicE)
+    if ((marks & kBrace) != 0)
         TakeMicEAltitude(report.comment, report);
-    if (marks.bEquals && !(bMicE && report.altitude))
+    if ((marks & kEquals) != 0 && !(bMicE && report.altitude))
         TakeAltitude(report.comment, report);
-    if (marks.bBar)
+    if ((marks & kBar) != 0)
         TakeTelemetry(report.comment, report);
-    if (marks.bBang)
+    if ((marks & kBang) != 0)
         TakeDao(report.comment, report);
-    if (marks.bReach && !report.reach)
+    if ((marks & kReach) != 0 && !report.reach)
         TakeReach(report);
     report.comment.Tidy();
 }
@@ -147,8 +158,8 @@ void ParseComment(std::string_view text, PositionReport& report)
 {
     if (text.empty())
         return;
-    const CommentMarks marks = FindMarks(text);
-    if (!marks.Any())
+    const CommentMarks marks = FindMarks(text, report.position.form == PositionForm::MicE);
+    if (marks == kNoMarks)
         return report.comment.Assign(Comment::Tidied(text));
     report.comment.Assign(text);
     TakeMarked(marks, report);

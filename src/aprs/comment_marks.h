@@ -1,9 +1,7 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
-#include <cstdint>
-#include <cstring>
+#include <cstddef>
 #include <string_view>
 
 #ifdef __SSE2__
@@ -14,73 +12,78 @@
 // comments hold nothing to be found.
 namespace ruvenmark::aprs {
 
-// One byte, so that it is handed on in a register.
-struct CommentMarks {
-    bool bEquals : 1 = false; // Altitude: /A=
-    bool bBar : 1 = false;    // Telemetry: |...|
-    bool bBang : 1 = false;   // Further digits: !Dxy!
-    bool bBrace : 1 = false;  // Altitude of Mic-E: xyz}
-    bool bReach : 1 = false;  // PHG: its G.
-
-    bool Any() const { return bEquals || bBar || bBang || bBrace || bReach; }
+// Bits of one byte, so that they are handed on in a register.
+enum CommentMarks : std::uint8_t {
+    kNoMarks = 0,
+    kEquals = 1, // Altitude: /A=
+    kBar = 2,    // Telemetry: |...|
+    kBang = 4,   // Further digits: !Dxy!
+    kBrace = 8,  // Altitude of Mic-E: xyz}
+    kReach = 16, // PHG: its HG. A G alone stands in every fifth comment.
 };
+
+inline constexpr std::size_t kLeastMarked = 4; // Bytes of the shortest thing that is found: xyz}
 
 #ifdef __SSE2__
 
-// The first and the last bytes of a text that has at least as many.
-template <class Word>
-__m128i Ends(std::string_view text)
-{
-    Word first;
-    Word last;
-    std::memcpy(&first, text.data(), sizeof(Word));
-    std::memcpy(&last, text.data() + text.size() - sizeof(Word), sizeof(Word));
-    return _mm_set_epi64x(static_cast<std::int64_t>(first), static_cast<std::int64_t>(last));
-}
+// The marks in some blocks of a text.
+class FoundMarks {
+public:
+    // The block at this place, which may not be the first of its line.
+    void Look(const char* at)
+    {
+        const __m128i bytes = Load(at);
+        m_equals = _mm_or_si128(m_equals, Equal(bytes, '='));
+        m_bar = _mm_or_si128(m_bar, Equal(bytes, '|'));
+        m_bang = _mm_or_si128(m_bang, Equal(bytes, '!'));
+        m_brace = _mm_or_si128(m_brace, Equal(bytes, '}'));
+        m_reach = _mm_or_si128(m_reach, _mm_and_si128(Equal(bytes, 'G'), Equal(Load(at - 1), 'H')));
+    }
+    // Braces mean nothing but in Mic-E, though there are many.
+    CommentMarks Marks(bool bMicE) const
+    {
+        const __m128i others = _mm_or_si128(_mm_or_si128(m_equals, m_bar), _mm_or_si128(m_bang, m_reach));
+        const unsigned brace = Holds(m_brace) & unsigned{bMicE};
+        if ((Holds(others) | brace) == 0)
+            return kNoMarks;
+        return static_cast<CommentMarks>(Holds(m_equals) * kEquals | Holds(m_bar) * kBar | Holds(m_bang) * kBang |
+                                         brace * kBrace | Holds(m_reach) * kReach);
+    }
 
-inline CommentMarks FindMarks(std::string_view text)
+private:
+    static __m128i Load(const char* at) { return _mm_loadu_si128(reinterpret_cast<const __m128i*>(at)); }
+    static __m128i Equal(__m128i bytes, char c) { return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c)); }
+    static unsigned Holds(__m128i found) { return _mm_movemask_epi8(found) != 0 ? 1 : 0; }
+
+    __m128i m_equals{}, m_bar{}, m_bang{}, m_brace{}, m_reach{};
+};
+
+// Of a text that has more than a block of its line in front: what is found there costs time only.
+inline CommentMarks FindMarks(std::string_view text, bool bMicE)
 {
     constexpr std::size_t kBlock = sizeof(__m128i);
-    constexpr std::array<char, 5> kMarks = {'=', '|', '!', '}', 'G'};
-    __m128i found[kMarks.size()] = {}; // No array: the type's alignment is lost as its argument.
-    const auto look = [&](__m128i bytes) {
-        for (std::size_t i = 0; i < kMarks.size(); ++i)
-            found[i] = _mm_or_si128(found[i], _mm_cmpeq_epi8(bytes, _mm_set1_epi8(kMarks[i])));
-    };
-    const std::size_t size = text.size();
-    const char* const data = text.data();
-    const auto lookAt = [&](std::size_t at) { look(_mm_loadu_si128(reinterpret_cast<const __m128i*>(data + at))); };
-    if (size >= kBlock) {
-        // Three blocks in any case, which is enough as a rule: what is no loop cannot be guessed wrong. The last one
-        // lies over others, so that nothing behind the text is looked at.
-        const std::size_t last = size - kBlock;
-        lookAt(0);
-        lookAt(std::min(kBlock, last));
-        lookAt(last);
-        for (std::size_t at = 2 * kBlock; at < last; at += kBlock)
-            lookAt(at);
-    } else if (size >= sizeof(std::uint64_t))
-        look(Ends<std::uint64_t>(text));
-    else if (size >= sizeof(std::uint32_t))
-        look(Ends<std::uint32_t>(text));
-    else
-        for (const char c : text)
-            look(_mm_set1_epi8(c));
-    __m128i any = found[0];
-    for (std::size_t i = 1; i < kMarks.size(); ++i)
-        any = _mm_or_si128(any, found[i]);
-    if (_mm_movemask_epi8(any) == 0)
-        return {};
-    const auto has = [&](std::size_t i) { return _mm_movemask_epi8(found[i]) != 0; };
-    return {has(0), has(1), has(2), has(3), has(4)};
+    if (text.size() < kLeastMarked)
+        return kNoMarks;
+    FoundMarks found;
+    const char* const last = text.data() + text.size() - kBlock;
+    found.Look(last);
+    if (text.size() > kBlock) {
+        // Three blocks in any case, which is enough as a rule: what is no loop cannot be guessed wrong.
+        found.Look(text.data());
+        found.Look(std::min(text.data() + kBlock, last));
+        for (const char* at = text.data() + 2 * kBlock; at < last; at += kBlock)
+            found.Look(at);
+    }
+    return found.Marks(bMicE);
 }
 
 #else
 
-inline CommentMarks FindMarks(std::string_view text)
+inline CommentMarks FindMarks(std::string_view text, bool bMicE)
 {
-    const auto has = [&](char c) { return text.find(c) != std::string_view::npos; };
-    return {has('='), has('|'), has('!'), has('}'), has('G')};
+    const auto has = [&](std::string_view mark) { return text.find(mark) != std::string_view::npos; };
+    return static_cast<CommentMarks>(has("=") * kEquals | has("|") * kBar | has("!") * kBang |
+                                     (bMicE && has("}")) * kBrace | has("HG") * kReach);
 }
 
 #endif

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace ruvenmark::aprs {
 namespace {
@@ -11,23 +12,23 @@ namespace {
 // Texts are looked at in blocks: a mark at a seam, or at the end of any length, must neither be missed nor made up.
 TEST(CommentMarks, AreFoundAtEveryPlaceOfEveryLength)
 {
-    for (std::size_t size = 0; size <= 70; ++size) {
-        // Of exactly the size, so that a sanitizer sees any look behind its end.
-        const auto text = std::make_unique<char[]>(size);
-        std::fill_n(text.get(), size, 'x');
-        const auto find = [&] { return FindMarks({text.get(), size}); };
-        EXPECT_FALSE(find().bEquals || find().bBar || find().bBang || find().bBrace || find().bReach) << size;
+    constexpr std::size_t kFront = 18; // The shortest header with a type byte and a position.
+    constexpr std::pair<char, CommentMarks> kMarks[] = {
+        {'=', kEquals}, {'|', kBar}, {'!', kBang}, {'}', kBrace}, {'G', kReach}};
+    for (std::size_t size = 4; size <= 70; ++size) {
+        // Of exactly the size, so that a sanitizer sees any look beyond its ends.
+        const auto line = std::make_unique<char[]>(kFront + size);
+        std::fill_n(line.get(), kFront + size, 'H');
+        char* const text = line.get() + kFront;
+        const auto find = [&](bool bMicE) { return FindMarks({text, size}, bMicE); };
+        EXPECT_EQ(find(true), kNoMarks) << size;
         for (std::size_t at = 0; at < size; ++at) {
-            for (const char c : {'=', '|', '!', '}', 'G'}) {
+            for (const auto& [c, mark] : kMarks) {
                 text[at] = c;
-                const CommentMarks marks = find();
-                EXPECT_EQ(marks.bEquals, c == '=') << at << " of " << size;
-                EXPECT_EQ(marks.bBar, c == '|') << at << " of " << size;
-                EXPECT_EQ(marks.bBang, c == '!') << at << " of " << size;
-                EXPECT_EQ(marks.bBrace, c == '}') << at << " of " << size;
-                EXPECT_EQ(marks.bReach, c == 'G') << at << " of " << size;
+                EXPECT_EQ(find(true), mark) << c << at << " of " << size;
+                EXPECT_EQ(find(false), c == '}' ? kNoMarks : mark) << c << at << " of " << size;
             }
-            text[at] = 'x';
+            text[at] = 'H';
         }
     }
 }
