@@ -136,7 +136,10 @@ Refusal DecodeInfo(Packet& packet)
 
 Refusal DecodePacket(std::string_view line, Packet& packet)
 {
-    const Refusal refusal = ParseHeader(line, packet.header, packet.info);
+    Refusal refusal = Refusal::None;
+    const std::string_view info = ParseHeader(line, packet.header, refusal);
+    if (!info.empty())
+        packet.info = info;
     return refusal == Refusal::None ? DecodeInfo(packet) : refusal;
 }
 

@@ -1,15 +1,12 @@
 #include "aprs/header.h"
 
+#include "aprs/header_bits.h"
 #include "aprs/text.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <cstdint>
-
-#ifdef __SSE2__
-#include <emmintrin.h>
-#endif
 
 namespace ruvenmark::aprs {
 
@@ -92,79 +89,41 @@ bool IsPath(std::string_view path)
 }
 
 // Any header, byte by byte.
-[[gnu::noinline]] Refusal ParseCarefully(std::string_view line, Header& header, std::string_view& info)
+[[gnu::noinline]] std::string_view ParseCarefully(std::string_view line, Header& header, Refusal& refusal)
 {
     const std::size_t source = CallLength(line.substr(0, kMaxCall + 1));
-    if (source == 0 || source > kMaxCall || source == line.size() || line[source] != '>')
-        return line.find(':') == std::string_view::npos ? Refusal::NoPayload : Refusal::BadSource;
+    if (source == 0 || source > kMaxCall || source == line.size() || line[source] != '>') {
+        refusal = line.find(':') == std::string_view::npos ? Refusal::NoPayload : Refusal::BadSource;
+        return {};
+    }
     header.source = line.substr(0, source);
     const std::size_t colon = line.find(':', source + 1);
-    if (colon == std::string_view::npos || colon + 1 == line.size())
-        return Refusal::NoPayload;
-    info = line.substr(colon + 1);
+    if (colon == std::string_view::npos || colon + 1 == line.size()) {
+        refusal = Refusal::NoPayload;
+        return {};
+    }
     const std::string_view rest = line.substr(source + 1, colon - source - 1);
     const std::size_t comma = rest.find(',');
     header.dest = rest.substr(0, comma);
-    if (!IsDestination(header.dest))
-        return Refusal::BadDestination;
-    if (comma == std::string_view::npos)
-        return Refusal::None;
-    header.path = rest.substr(comma + 1);
-    return IsPath(header.path) ? Refusal::None : Refusal::BadPath;
-}
-
-#ifdef __SSE2__
-
-constexpr std::size_t kBlock = sizeof(__m128i);
-constexpr std::size_t kUsual = 3 * kBlock;  // Shorter lines are few.
-constexpr std::size_t kWindow = 4 * kBlock; // Where nearly every header ends before.
-
-__m128i Equal(__m128i bytes, char c)
-{
-    return _mm_cmpeq_epi8(bytes, _mm_set1_epi8(c));
-}
-
-// All ones in each byte from `low` to `high`.
-__m128i Between(__m128i bytes, char low, char high)
-{
-    constexpr char kMost = 0x7f;
-    const __m128i raised = _mm_add_epi8(bytes, _mm_set1_epi8(static_cast<char>(kMost - high)));
-    return _mm_cmpgt_epi8(raised, _mm_set1_epi8(static_cast<char>(kMost - high + low - 1)));
-}
-
-// One bit a byte of a line's front, the first byte in the lowest bit.
-class Bits {
-public:
-    void Read(const char* text, std::size_t at)
-    {
-        const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(text + at));
-        const __m128i letters = Between(_mm_or_si128(bytes, _mm_set1_epi8(0x20)), 'a', 'z');
-        const __m128i others = _mm_or_si128(Between(bytes, '0', '9'), Equal(bytes, '-'));
-        Add(call, _mm_or_si128(letters, others), at);
-        Add(comma, Equal(bytes, ','), at);
-        Add(star, Equal(bytes, '*'), at);
+    if (!IsDestination(header.dest)) {
+        refusal = Refusal::BadDestination;
+    } else if (comma != std::string_view::npos) {
+        header.path = rest.substr(comma + 1);
+        refusal = IsPath(header.path) ? Refusal::None : Refusal::BadPath;
     }
-
-    std::uint64_t call = 0; // Letters, digits, dashes.
-    std::uint64_t comma = 0, star = 0;
-
-private:
-    static void Add(std::uint64_t& bits, __m128i bytes, std::size_t at)
-    {
-        bits |= static_cast<std::uint64_t>(static_cast<std::uint32_t>(_mm_movemask_epi8(bytes))) << at;
-    }
-};
-
-// Bits below the given one.
-std::uint64_t Below(std::size_t bit)
-{
-    return (std::uint64_t{1} << bit) - 1;
+    return line.substr(colon + 1);
 }
 
-// Where the run of bits that begins at the given one ends.
-std::size_t EndOfRun(std::uint64_t bits, std::size_t begin)
+#ifdef RUVENMARK_HEADER_BITS
+
+std::uint64_t Lowest(std::uint64_t bits)
 {
-    return begin + static_cast<std::size_t>(std::countr_one(bits >> begin));
+    return bits & (0 - bits);
+}
+// All bits up to the lowest of those given, with it.
+std::uint64_t UpToFirst(std::uint64_t bits)
+{
+    return bits ^ (bits - 1);
 }
 
 // Whether bits hold a run of ten: an address longer than nine.
@@ -176,65 +135,70 @@ bool HasTooLong(std::uint64_t call)
     return (eight & two >> 8U) != 0;
 }
 
-// Of an address of usual length, with a block's bytes behind its begin.
-bool HasDash(std::string_view address)
+std::size_t First(std::uint64_t bits)
 {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(address.data()));
-    return (static_cast<unsigned>(_mm_movemask_epi8(Equal(bytes, '-'))) & ((1U << address.size()) - 1)) != 0;
+    return static_cast<std::size_t>(std::countr_zero(bits));
 }
 
-// Between its first comma and the colon: one comma between addresses, stars only behind them.
-bool IsPlainPath(const Bits& bits, std::size_t comma, std::size_t colon)
+// For a destination with a dash, which may be wrong: the header is known up to here.
+[[gnu::noinline]] std::string_view CheckDest(Header& header, Refusal& refusal, std::string_view info)
 {
-    const std::uint64_t path = Below(colon) & ~Below(comma);
-    const std::uint64_t star = bits.star & path;
-    const std::uint64_t ends = (bits.comma & path) | std::uint64_t{1} << colon;
-    return ((ends & ends << 1U) | (star & (ends << 1U | star << 1U)) | (star << 1U & ~ends)) == 0;
+    if (!IsDestination(header.dest)) {
+        refusal = Refusal::BadDestination;
+        header.path = {};
+    }
+    return info;
 }
 
-// The usual header, told without looking at its bytes one by one. What is unusual in any way is not told.
-bool ParseQuickly(std::string_view line, Header& header, std::string_view& info)
+// The usual header, told without looking at its bytes one by one. Where the colon stands does not hang on the rest:
+// what follows waits for it. No call but a last one, so that nothing need be kept on the stack.
+[[gnu::always_inline]] inline std::string_view ParseByBits(std::string_view line, const HeaderBits& bits,
+                                                           Header& header, Refusal& refusal)
 {
-    if (line.size() < kUsual)
-        return false;
     const char* const text = line.data();
-    Bits bits;
-    for (std::size_t at = 0; at < kUsual; at += kBlock)
-        bits.Read(text, at);
-    // Always: guessing wrong whether it is needed costs more than it does. In a short line it lies over the others.
-    bits.Read(text, std::min(kUsual, line.size() - kBlock));
-    const std::size_t angle = EndOfRun(bits.call, 0);
-    if (angle == 0 || angle + 1 >= kUsual || text[angle] != '>')
-        return false;
-    const std::size_t colon = EndOfRun(bits.call | bits.comma | bits.star, angle + 1);
-    const std::size_t comma = EndOfRun(bits.call, angle + 1);
-    if (colon + 1 >= line.size() || colon >= kWindow || text[colon] != ':' || comma == angle + 1 ||
-        text[comma] == '*' || HasTooLong(bits.call & Below(colon)) || !IsPlainPath(bits, comma, colon))
-        return false;
-    const std::string_view dest(text + angle + 1, comma - angle - 1);
-    if (HasDash(dest) && !IsDestination(dest))
-        return false;
-    header.source = {text, angle};
-    header.dest = dest;
-    header.path = comma == colon ? std::string_view() : std::string_view(text + comma + 1, colon - comma - 1);
-    info = line.substr(colon + 1);
-    return true;
+    const std::uint64_t front = UpToFirst(bits.colon);
+    const std::uint64_t ends = ~bits.call & front; // Of all elements.
+    const std::uint64_t angle = Lowest(ends);
+    const std::uint64_t star = bits.star & front;
+    const std::uint64_t separators = (bits.comma & front) | Lowest(bits.colon);
+    const std::uint64_t dest = UpToFirst(separators) & ~UpToFirst(angle);
+    // Elements have bytes, stars stand at their ends only, but not at that of the destination.
+    const std::uint64_t wrong = (ends ^ (angle | separators | star)) | ((ends & ends << 1U) ^ star << 1U) |
+                                (star & (star << 1U | dest)) | (ends & 1U);
+    const std::size_t sourceSize = First(ends);
+    const std::size_t colon = First(bits.colon);
+    if (bits.colon == 0 || text[sourceSize] != '>' || wrong != 0 || HasTooLong(bits.call & front) ||
+        colon + 1 >= line.size())
+        return ParseCarefully(line, header, refusal);
+    const std::size_t destEnd = First(separators);
+    header.source = {text, sourceSize};
+    header.dest = {text + sourceSize + 1, destEnd - sourceSize - 1};
+    header.path = destEnd == colon ? std::string_view() : std::string_view(text + destEnd + 1, colon - destEnd - 1);
+    const std::string_view info(text + colon + 1, line.size() - colon - 1);
+    return (bits.dash & dest) == 0 ? info : CheckDest(header, refusal, info);
 }
 
-#else
-
-bool ParseQuickly(std::string_view, Header&, std::string_view&)
+RUVENMARK_WIDE std::string_view ParseWide(std::string_view line, Header& header, Refusal& refusal)
 {
-    return false;
+    return ParseByBits(line, ReadWide(line.data(), line.size()), header, refusal);
+}
+
+[[gnu::noinline]] std::string_view ParseNarrow(std::string_view line, Header& header, Refusal& refusal)
+{
+    return ParseByBits(line, ReadNarrow(line.data(), line.size()), header, refusal);
 }
 
 #endif
 
 } // namespace
 
-Refusal ParseHeader(std::string_view line, Header& header, std::string_view& info)
+std::string_view ParseHeader(std::string_view line, Header& header, Refusal& refusal)
 {
-    return ParseQuickly(line, header, info) ? Refusal::None : ParseCarefully(line, header, info);
+#ifdef RUVENMARK_HEADER_BITS
+    if (line.size() >= HeaderBits::kLeast)
+        return HasWideBlocks() ? ParseWide(line, header, refusal) : ParseNarrow(line, header, refusal);
+#endif
+    return ParseCarefully(line, header, refusal);
 }
 
 } // namespace ruvenmark::aprs
