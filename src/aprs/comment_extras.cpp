@@ -13,7 +13,8 @@ namespace {
 
 constexpr std::size_t kAltitudeSize = 9; // /A=dddddd
 constexpr std::size_t kAltitudeName = 2; // In front of the equals sign.
-constexpr std::size_t kDaoSize = 5;      // !Dxy!
+constexpr std::string_view kAltitude = "/A=";
+constexpr std::size_t kDaoSize = 5; // !Dxy!
 constexpr std::size_t kMicEAltitudeSize = 4;
 constexpr std::size_t kMaxTelemetry = 14; // Seven pairs of digits.
 constexpr double kMinute = 1.0 / 60.0;
@@ -29,18 +30,11 @@ std::optional<int> AltitudeFeet(const char* text)
     return bMinus ? -feet : feet;
 }
 
-// Where an altitude's equals sign may stand from a place on. Most stand in front.
-std::size_t FindEquals(std::string_view piece, std::size_t from)
-{
-    return from == 0 && piece.size() > kAltitudeName && piece[kAltitudeName] == '=' ? kAltitudeName
-                                                                                    : piece.find('=', from);
-}
-
 void TakeAltitude(Comment& comment, PositionReport& report)
 {
     for (std::size_t i = 0; i < comment.Count(); ++i) {
         const std::string_view piece = comment[i];
-        for (std::size_t at = FindEquals(piece, 0); at != std::string_view::npos; at = piece.find('=', at + 1)) {
+        for (std::size_t at = piece.find('='); at != std::string_view::npos; at = piece.find('=', at + 1)) {
             if (at < kAltitudeName || piece[at - 1] != 'A' || piece[at - 2] != '/' ||
                 piece.size() - at < kAltitudeSize - kAltitudeName)
                 continue;
@@ -121,18 +115,45 @@ void TakeDao(Comment& comment, PositionReport& report)
 }
 
 // Three base-91 digits and a brace: metres, offset by 10,000.
+std::optional<double> MicEAltitude(const char* text)
+{
+    if (!IsBase91(text[0]) || !IsBase91(text[1]) || !IsBase91(text[2]) || text[3] != '}')
+        return std::nullopt;
+    const int value = (Base91Value(text[0]) * 91 + Base91Value(text[1])) * 91 + Base91Value(text[2]);
+    return (value - 10000) * kFeetPerMetre;
+}
+
 void TakeMicEAltitude(Comment& comment, PositionReport& report)
 {
     const std::string_view piece = comment[0];
     for (std::size_t at = piece.find('}'); at != std::string_view::npos; at = piece.find('}', at + 1)) {
-        if (at < 3 || !IsBase91(piece[at - 1]) || !IsBase91(piece[at - 2]) || !IsBase91(piece[at - 3]))
+        if (at + 1 < kMicEAltitudeSize)
             continue;
-        const int value =
-            (Base91Value(piece[at - 3]) * 91 + Base91Value(piece[at - 2])) * 91 + Base91Value(piece[at - 1]);
-        report.altitude = (value - 10000) * kFeetPerMetre;
-        comment.Cut(0, at - 3, kMicEAltitudeSize);
-        return;
+        if (const auto feet = MicEAltitude(piece.data() + at + 1 - kMicEAltitudeSize)) {
+            report.altitude = feet;
+            comment.Cut(0, at + 1 - kMicEAltitudeSize, kMicEAltitudeSize);
+            return;
+        }
     }
+}
+
+// Takes an altitude at the front, where most stand, off the text. Returns the marks of what may still be in it.
+unsigned TakeFront(std::string_view& text, bool bMicE, PositionReport& report)
+{
+    constexpr unsigned kAll = 0xff;
+    if (bMicE && text.size() >= kMicEAltitudeSize) {
+        report.altitude = MicEAltitude(text.data());
+        text.remove_prefix(report.altitude ? kMicEAltitudeSize : 0);
+        return report.altitude ? kAll & ~unsigned{kBrace} & ~unsigned{kEquals} : kAll;
+    }
+    if (text.size() < kAltitudeSize || !text.starts_with(kAltitude))
+        return kAll;
+    const auto feet = AltitudeFeet(text.data() + kAltitudeName);
+    if (!feet)
+        return kAll;
+    report.altitude = *feet;
+    text.remove_prefix(kAltitudeSize);
+    return kAll & ~unsigned{kEquals};
 }
 
 // What is found by its mark, and the blanks around what is left.
@@ -156,9 +177,11 @@ void TakeMicEAltitude(Comment& comment, PositionReport& report)
 
 void ParseComment(std::string_view text, PositionReport& report)
 {
+    const bool bMicE = report.position.form == PositionForm::MicE;
+    const unsigned others = TakeFront(text, bMicE, report);
     if (text.empty())
         return;
-    const CommentMarks marks = FindMarks(text, report.position.form == PositionForm::MicE);
+    const auto marks = static_cast<CommentMarks>(FindMarks(text, bMicE) & others);
     if (marks == kNoMarks)
         return report.comment.Assign(Comment::Tidied(text));
     report.comment.Assign(text);

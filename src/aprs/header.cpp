@@ -195,8 +195,10 @@ RUVENMARK_WIDE std::string_view ParseWide(std::string_view line, Header& header,
 std::string_view ParseHeader(std::string_view line, Header& header, Refusal& refusal)
 {
 #ifdef RUVENMARK_HEADER_BITS
-    if (line.size() >= HeaderBits::kLeast)
-        return HasWideBlocks() ? ParseWide(line, header, refusal) : ParseNarrow(line, header, refusal);
+    if (line.size() >= WideBlock::kSize && HasWideBlocks())
+        return ParseWide(line, header, refusal);
+    if (line.size() >= kLeastNarrow)
+        return ParseNarrow(line, header, refusal);
 #endif
     return ParseCarefully(line, header, refusal);
 }

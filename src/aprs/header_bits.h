@@ -14,8 +14,6 @@
 namespace ruvenmark::aprs {
 
 struct HeaderBits {
-    static constexpr std::size_t kLeast = 48; // Bytes that a line must have; shorter ones are few.
-
     std::uint64_t call = 0; // Letters, digits, dashes.
     std::uint64_t comma = 0, star = 0, colon = 0;
     std::uint64_t dash = 0; // Among the first bytes, where the destination is.
@@ -57,13 +55,15 @@ private:
     __m128i m_bytes;
 };
 
+inline constexpr std::size_t kLeastNarrow = 3 * NarrowBlock::kSize;
+
 // Of a line of at least the least size. In a short one the last block lies over the others.
 inline HeaderBits ReadNarrow(const char* text, std::size_t size)
 {
     HeaderBits bits;
-    for (std::size_t at = 0; at < HeaderBits::kLeast; at += NarrowBlock::kSize)
+    for (std::size_t at = 0; at < kLeastNarrow; at += NarrowBlock::kSize)
         NarrowBlock(text + at).Add(at, bits);
-    const std::size_t last = std::min(HeaderBits::kLeast, size - NarrowBlock::kSize);
+    const std::size_t last = std::min(kLeastNarrow, size - NarrowBlock::kSize);
     NarrowBlock(text + last).Add(last, bits);
     bits.dash = NarrowBlock(text).Dashes() | NarrowBlock(text + NarrowBlock::kSize).Dashes() << NarrowBlock::kSize;
     return bits;
@@ -137,6 +137,7 @@ private:
     __m256i m_bytes;
 };
 
+// Of a line of at least one block.
 RUVENMARK_WIDE inline HeaderBits ReadWide(const char* text, std::size_t size)
 {
     HeaderBits bits;

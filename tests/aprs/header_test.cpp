@@ -19,7 +19,7 @@ std::string RandomText(std::mt19937& random, std::string_view bytes, std::size_t
 
 std::string RandomHeader(std::mt19937& random)
 {
-    std::string header = "N0CALL-1>APRS,WIDE1-1*,qAC,T2X:";
+    std::string header = "N0CALL-1>APRS,TE1-1*,qAC,T:";
     for (unsigned changes = random() % 4; changes > 0; --changes)
         header[random() % header.size()] = RandomText(random, "A9z-,*>:[/@`{ \xff", 1)[0];
     return header;
@@ -68,7 +68,7 @@ TEST(HeaderBits, AreTheSameFromWideAndNarrowBlocks)
         bytes += static_cast<char>(c);
     std::mt19937 random(1);
     for (int i = 0; i < 2000; ++i) {
-        const std::string text = RandomText(random, bytes, HeaderBits::kLeast + random() % 40);
+        const std::string text = RandomText(random, bytes, kLeastNarrow + random() % 40);
         const HeaderBits wide = ReadWide(text.data(), text.size());
         const HeaderBits narrow = ReadNarrow(text.data(), text.size());
         ASSERT_EQ(wide.call, narrow.call);
