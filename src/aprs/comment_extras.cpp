@@ -144,7 +144,7 @@ unsigned TakeFront(std::string_view& text, bool bMicE, PositionReport& report)
     if (bMicE && text.size() >= kMicEAltitudeSize) {
         report.altitude = MicEAltitude(text.data());
         text.remove_prefix(report.altitude ? kMicEAltitudeSize : 0);
-        return report.altitude ? kAll & ~unsigned{kBrace} & ~unsigned{kEquals} : kAll;
+        return report.altitude ? kAll & ~unsigned{BraceMark} & ~unsigned{EqualsMark} : kAll;
     }
     if (text.size() < kAltitudeSize || !text.starts_with(kAltitude))
         return kAll;
@@ -153,22 +153,22 @@ unsigned TakeFront(std::string_view& text, bool bMicE, PositionReport& report)
         return kAll;
     report.altitude = *feet;
     text.remove_prefix(kAltitudeSize);
-    return kAll & ~unsigned{kEquals};
+    return kAll & ~unsigned{EqualsMark};
 }
 
 // What is found by its mark, and the blanks around what is left.
 [[gnu::noinline]] void TakeMarked(CommentMarks marks, PositionReport& report)
 {
     const bool bMicE = report.position.form == PositionForm::MicE;
-    if ((marks & kBrace) != 0)
+    if ((marks & BraceMark) != 0)
         TakeMicEAltitude(report.comment, report);
-    if ((marks & kEquals) != 0 && !(bMicE && report.altitude))
+    if ((marks & EqualsMark) != 0 && !(bMicE && report.altitude))
         TakeAltitude(report.comment, report);
-    if ((marks & kBar) != 0)
+    if ((marks & BarMark) != 0)
         TakeTelemetry(report.comment, report);
-    if ((marks & kBang) != 0)
+    if ((marks & BangMark) != 0)
         TakeDao(report.comment, report);
-    if ((marks & kReach) != 0 && !report.reach)
+    if ((marks & ReachMark) != 0 && !report.reach)
         TakeReach(report);
     report.comment.Tidy();
 }
@@ -182,7 +182,7 @@ void ParseComment(std::string_view text, PositionReport& report)
     if (text.empty())
         return;
     const auto marks = static_cast<CommentMarks>(FindMarks(text, bMicE) & others);
-    if (marks == kNoMarks)
+    if (marks == NoMarks)
         return report.comment.Assign(Comment::Tidied(text));
     report.comment.Assign(text);
     TakeMarked(marks, report);

@@ -14,12 +14,12 @@ namespace ruvenmark::aprs {
 
 // Bits of one byte, so that they are handed on in a register.
 enum CommentMarks : std::uint8_t {
-    kNoMarks = 0,
-    kEquals = 1, // Altitude: /A=
-    kBar = 2,    // Telemetry: |...|
-    kBang = 4,   // Further digits: !Dxy!
-    kBrace = 8,  // Altitude of Mic-E: xyz}
-    kReach = 16, // PHG: its HG. A G alone stands in every fifth comment.
+    NoMarks = 0,
+    EqualsMark = 1, // Altitude: /A=
+    BarMark = 2,    // Telemetry: |...|
+    BangMark = 4,   // Further digits: !Dxy!
+    BraceMark = 8,  // Altitude of Mic-E: xyz}
+    ReachMark = 16, // PHG: its HG. A G alone stands in every fifth comment.
 };
 
 inline constexpr std::size_t kLeastMarked = 4; // Bytes of the shortest thing that is found: xyz}
@@ -45,9 +45,9 @@ public:
         const __m128i others = _mm_or_si128(_mm_or_si128(m_equals, m_bar), _mm_or_si128(m_bang, m_reach));
         const unsigned brace = Holds(m_brace) & unsigned{bMicE};
         if ((Holds(others) | brace) == 0)
-            return kNoMarks;
-        return static_cast<CommentMarks>(Holds(m_equals) * kEquals | Holds(m_bar) * kBar | Holds(m_bang) * kBang |
-                                         brace * kBrace | Holds(m_reach) * kReach);
+            return NoMarks;
+        return static_cast<CommentMarks>(Holds(m_equals) * EqualsMark | Holds(m_bar) * BarMark |
+                                         Holds(m_bang) * BangMark | brace * BraceMark | Holds(m_reach) * ReachMark);
     }
 
 private:
@@ -63,7 +63,7 @@ inline CommentMarks FindMarks(std::string_view text, bool bMicE)
 {
     constexpr std::size_t kBlock = sizeof(__m128i);
     if (text.size() < kLeastMarked)
-        return kNoMarks;
+        return NoMarks;
     FoundMarks found;
     const char* const last = text.data() + text.size() - kBlock;
     found.Look(last);
@@ -82,8 +82,8 @@ inline CommentMarks FindMarks(std::string_view text, bool bMicE)
 inline CommentMarks FindMarks(std::string_view text, bool bMicE)
 {
     const auto has = [&](std::string_view mark) { return text.find(mark) != std::string_view::npos; };
-    return static_cast<CommentMarks>(has("=") * kEquals | has("|") * kBar | has("!") * kBang |
-                                     (bMicE && has("}")) * kBrace | has("HG") * kReach);
+    return static_cast<CommentMarks>(has("=") * EqualsMark | has("|") * BarMark | has("!") * BangMark |
+                                     (bMicE && has("}")) * BraceMark | has("HG") * ReachMark);
 }
 
 #endif
