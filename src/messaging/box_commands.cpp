@@ -6,6 +6,7 @@
 #include "map/show_on_map.h"
 #include "map/symbols.h"
 #include "messaging/message_boxes.h"
+#include "messaging/message_files.h"
 #include "messaging/send_message.h"
 #include "platform/text.h"
 
@@ -26,12 +27,12 @@ void TellDeleted(MainWindow& main, const RowList& list)
 {
     MessageState& state = main.messages;
     if (&list == &state.lvSentList) {
-        state.sent.bChanged = true;
+        MarkChanged(state.sent, ChangedBy::LinkOrOperator);
         ShowSentCount(state);
         return;
     }
     constexpr std::size_t kMost = std::numeric_limits<std::int16_t>::max();
-    state.inbox.bChanged = true;
+    MarkChanged(state.inbox, ChangedBy::LinkOrOperator);
     state.UnreadCount = static_cast<std::int16_t>(std::min(list.CountBold(), kMost));
     ShowUnreadCount(state);
 }

@@ -133,7 +133,7 @@ void SaveBox(MainWindow& main, const Box& box)
         } else {
             if (!bBesideLeft)
                 files.WriteText(BoxText(list, box.bBoldKept), beside, FileKind::List);
-            state.bChanged = false; // Told once, not every few seconds.
+            state.bChanged = state.bLiveChanged = false; // Told once, not every few seconds.
             throw Failure(bBesideLeft ? path + " and " + beside + " could not be read"
                                       : path + " could not be read; what came since is in " + beside);
         }
@@ -152,7 +152,7 @@ void SaveBox(MainWindow& main, const Box& box)
                 files.Remove(beside);
         }
     }
-    state.bChanged = state.bFailureTold = false;
+    state.bChanged = state.bLiveChanged = state.bFailureTold = false;
 }
 
 } // namespace
@@ -182,13 +182,19 @@ void SaveMessageBoxes(MainWindow& main)
         throw Failure(unsaved);
 }
 
+void MarkChanged(BoxState& box, ChangedBy by)
+{
+    box.bChanged = true;
+    box.bLiveChanged = box.bLiveChanged || by == ChangedBy::LinkOrOperator;
+}
+
 void SaveChangedBoxes(MainWindow& main)
 {
-    if (main.links.FileLoading || !main.loaded.Has(Part::MessageBoxes) || !main.services.store.IsKept())
+    if (!main.loaded.Has(Part::MessageBoxes) || !main.services.store.IsKept())
         return;
     for (const Box& box : kBoxes) {
         BoxState& state = main.messages.*box.state;
-        if (!state.bChanged)
+        if (!state.bChanged || (main.links.FileLoading && !state.bLiveChanged))
             continue;
         if (state.bFailureTold)
             Attempt(main.abandoned, box.complaint, [&] { SaveBox(main, box); });

@@ -5,6 +5,7 @@
 
 namespace ruvenmark {
 
+struct BoxState;
 struct MainWindow;
 
 // The boxes' files in the program folder, a row a line with "#####" between the fields. What cannot be read whole is
@@ -13,8 +14,10 @@ struct MainWindow;
 void LoadMessageBoxes(MainWindow& main);
 // Both; raises Failure in the end where one could not be saved.
 void SaveMessageBoxes(MainWindow& main);
-// Those that changed, so that a crash costs seconds; the program's loop calls it every few. Does nothing while a load
-// runs. A failure is told once.
+// What a load brings can be loaded again and waits for its end; all else is gone for good where it is lost.
+enum class ChangedBy : bool { Load, LinkOrOperator };
+void MarkChanged(BoxState& box, ChangedBy by);
+// Those that changed, so that a crash costs seconds; the program's loop calls it every few. A failure is told once.
 inline constexpr int kBoxSavePeriodMs = 5000;
 void SaveChangedBoxes(MainWindow& main);
 

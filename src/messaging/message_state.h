@@ -27,6 +27,7 @@ enum class BoxFile : std::uint8_t { Whole, Damaged, Unreadable };
 
 struct BoxState {
     bool bChanged = false;     // Since it was saved last.
+    bool bLiveChanged = false; // And not by a load alone, whose file can be loaded again.
     bool bFailureTold = false; // That it could not be saved.
     BoxFile file = BoxFile::Whole;
     bool bBesideLeft = false; // What was kept beside could not be taken in.

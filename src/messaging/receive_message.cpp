@@ -15,12 +15,17 @@ namespace {
 
 constexpr std::size_t kAckLength = 3;
 
+ChangedBy ChangedByOf(Channel channel)
+{
+    return channel == Channel::FL ? ChangedBy::Load : ChangedBy::LinkOrOperator;
+}
+
 bool IsBulletin(std::string_view to)
 {
     return to.starts_with("BLN");
 }
 
-void TakeAck(MainWindow& main, const MessageReport& report)
+void TakeAck(MainWindow& main, Channel channel, const MessageReport& report)
 {
     MessageState& state = main.messages;
     ListRow::Texts sent;
@@ -30,7 +35,7 @@ void TakeAck(MainWindow& main, const MessageReport& report)
     if (!row || !row->IsBold())
         return;
     state.lvSentList.SetBold(*row, false);
-    state.sent.bChanged = true;
+    MarkChanged(state.sent, ChangedByOf(channel));
 }
 
 void Acknowledge(MainWindow& main, const MessageReport& report)
@@ -42,11 +47,11 @@ void Acknowledge(MainWindow& main, const MessageReport& report)
     SendAprsMessage(main, call, report.source, via, "ack" + std::string(report.messageNumber), "");
 }
 
-void FileReceived(MainWindow& main, const MessageReport& report, ListRow::Texts row)
+void FileReceived(MainWindow& main, Channel channel, const MessageReport& report, ListRow::Texts row)
 {
     MessageState& state = main.messages;
     state.lvMessageList.Add(std::move(row), true, IsBulletin(report.to) ? RowIcon::Bulletin : RowIcon::Message);
-    state.inbox.bChanged = true;
+    MarkChanged(state.inbox, ChangedByOf(channel));
     if (main.window.rightView != RightView::Inbox)
         main.sbStatusBar.SetPanel(Panel::NewMessage, "New Message");
     RaiseUnread(state);
@@ -82,7 +87,7 @@ void TakeMessage(MainWindow& main, Channel channel, const MessageReport& report)
         return;
     const bool bForMe = IsMessageForMe(main, report.to);
     if (SettingBool(settings, Setting::All) || bForMe || bBulletin)
-        FileReceived(main, report, std::move(row));
+        FileReceived(main, channel, report, std::move(row));
     PlayWave(main, bForMe);
 }
 
@@ -103,7 +108,7 @@ void aprs_ReportAprsMsg(MainWindow& main, Channel channel, const MessageReport& 
 {
     Attempt(main.abandoned, "ReportAprsMsg", [&] {
         if (ToUpper(report.text.substr(0, kAckLength)) == "ACK")
-            TakeAck(main, report);
+            TakeAck(main, channel, report);
         else
             TakeMessage(main, channel, report);
     });

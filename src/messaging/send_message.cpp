@@ -57,7 +57,7 @@ void FileSent(MainWindow& main, const Message& message)
         return;
     const bool bBulletin = message.to.starts_with(kBulletin);
     state.lvSentList.Add(std::move(row), !bBulletin, bBulletin ? RowIcon::Bulletin : RowIcon::Message);
-    state.sent.bChanged = true;
+    MarkChanged(state.sent, ChangedBy::LinkOrOperator);
     ShowSentCount(state);
 }
 

@@ -3,6 +3,8 @@
 #include "messaging/message_files.h"
 #include "messaging/message_fixture.h"
 
+#include <functional>
+
 namespace ruvenmark {
 namespace {
 
@@ -159,10 +161,6 @@ TEST_F(MessageTest, ChangesAreSavedBetweenTimesOnceEach)
 {
     Hear(Channel::RF, "N0CALL", "hi");
     SendAprsMessage(main, "N0CALL", "W1AW", "", "hello", "3");
-    main.links.FileLoading = true;
-    SaveChangedBoxes(main);
-    EXPECT_EQ(program.files.writes, 0);
-    main.links.FileLoading = false;
     program.files.FailWrite(1);
     SaveChangedBoxes(main);
     EXPECT_FALSE(program.files.texts.contains(kInbox));
@@ -175,6 +173,36 @@ TEST_F(MessageTest, ChangesAreSavedBetweenTimesOnceEach)
     Hear(Channel::RF, "N0CALL", "ack3");
     SaveChangedBoxes(main);
     EXPECT_TRUE(program.files.texts[kSent].ends_with("#####notbold"));
+}
+
+// A load may stand for hours: a message that was acknowledged meanwhile is sent by nobody again. A long file must not
+// have the boxes written over and over.
+TEST_F(MessageTest, WhileAFileLoadsWhatComesLiveIsSavedAtOnce)
+{
+    main.links.FileLoading = true;
+    const auto isSavedAfter = [&](const std::function<void()>& change) {
+        const int before = program.files.writes;
+        change();
+        SaveChangedBoxes(main);
+        const bool bSaved = program.files.writes > before;
+        SaveChangedBoxes(main);
+        EXPECT_EQ(program.files.writes, before + (bSaved ? 1 : 0));
+        return bSaved;
+    };
+    EXPECT_FALSE(isSavedAfter([&] { Hear(Channel::FL, "N0CALL", "of the file"); }));
+    EXPECT_TRUE(isSavedAfter([&] { Hear(Channel::RF, "N0CALL", "hi", "7"); }));
+    EXPECT_FALSE(isSavedAfter([&] { Hear(Channel::FL, "N0CALL", "more of the file"); }));
+    EXPECT_TRUE(isSavedAfter([&] { SendAprsMessage(main, "N0CALL", "W1AW", "", "hello", "3"); }));
+    EXPECT_TRUE(isSavedAfter([&] { Hear(Channel::TCP, "N0CALL", "ack3"); }));
+    EXPECT_TRUE(isSavedAfter([&] { SendAprsMessage(main, "N0CALL", "W1AW", "", "again", "4"); }));
+    EXPECT_FALSE(isSavedAfter([&] { Hear(Channel::FL, "N0CALL", "ack4"); }));
+    mnuViewMessages_Click(main);
+    program.prompts.answers = {Answer::Yes};
+    mnuMsgDeleteAll_Click(main);
+    SaveChangedBoxes(main);
+    EXPECT_FALSE(program.files.texts.contains(kInbox));
+    main.links.FileLoading = false;
+    EXPECT_TRUE(isSavedAfter([] {})); // What the file left to do.
 }
 
 // A text off the air can hold anything but line ends.
