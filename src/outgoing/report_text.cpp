@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kCodeBase = 48;
 constexpr int kLastCode = 255;
+constexpr double kHighestLatitude = 90, kHighestLongitude = 180;
 
 void AppendCode(std::string& text, int code)
 {
@@ -21,10 +22,12 @@ void AppendCode(std::string& text, int code)
 }
 
 // Degrees in whole numbers and minutes with two decimals; the point is the decimal sign in any locale.
-std::string DegreesAndMinutes(double value, std::int16_t degreeWidth)
+std::string DegreesAndMinutes(double value, std::int16_t degreeWidth, double highest)
 {
     constexpr std::int64_t kHundredths = 100;
     const double magnitude = std::abs(value);
+    if (!(magnitude <= highest)) // Also for what is no number.
+        throw Failure("the place is not on the earth");
     const double degrees = std::trunc(magnitude);
     const auto minutes = static_cast<std::int64_t>(std::nearbyint((magnitude - degrees) * 60 * kHundredths));
     std::string text = Padded(static_cast<std::int64_t>(degrees), degreeWidth);
@@ -81,7 +84,7 @@ int DirCode(std::int16_t directivity)
 
 std::string LatitudeText(double lat, char symbolTable)
 {
-    std::string text = DegreesAndMinutes(lat, 2);
+    std::string text = DegreesAndMinutes(lat, 2, kHighestLatitude);
     text += lat < 0 ? 'S' : 'N';
     text += symbolTable;
     return text;
@@ -89,7 +92,7 @@ std::string LatitudeText(double lat, char symbolTable)
 
 std::string LongitudeText(double lon)
 {
-    return DegreesAndMinutes(lon, 3) + (lon < 0 ? 'W' : 'E');
+    return DegreesAndMinutes(lon, 3, kHighestLongitude) + (lon < 0 ? 'W' : 'E');
 }
 
 std::string PhgText(std::int16_t power, std::int32_t height, std::int16_t gain, std::int16_t directivity)

@@ -23,6 +23,7 @@ int HeightCode(std::int32_t height);
 int DirCode(std::int16_t directivity);
 
 // "3730.00N" and the symbol table, "12215.00W". Minutes are rounded with halves to even and never carry: 60.00 stands.
+// Raise Failure for a place off the earth.
 std::string LatitudeText(double lat, char symbolTable);
 std::string LongitudeText(double lon);
 

@@ -12,6 +12,7 @@
 
 #include <cstdio>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace ruvenmark {
@@ -79,6 +80,23 @@ TEST_F(Sending, AFailureSkipsTheLaterRoads)
     bServerFails = true;
     mnuSendStatus_Click(main);
     EXPECT_EQ(main.sbStatusBar.Sent(), "Sent over TNC at 20:15:03"); // What did go out is told.
+}
+
+// Stored by hand or by another program. Such figures would fill the report with nonsense, or with anything at all.
+TEST_F(Sending, APlaceOffTheEarthIsNotSent)
+{
+    Open(false, false, true);
+    for (const auto& [setting, wrong, right] :
+         {std::tuple(Setting::Lat, "90.01", "-90"), std::tuple(Setting::Lat, "1e300", "90"),
+          std::tuple(Setting::Lon, "-200", "180")}) {
+        Set(setting, wrong);
+        SendPositionReport(main, true);
+        EXPECT_EQ(Take(), Lines{}) << wrong;
+        Set(setting, right);
+        SendPositionReport(main, true);
+        EXPECT_EQ(Take().size(), 1U) << right;
+    }
+    EXPECT_TRUE(program.prompts.messages.empty()); // Nobody is at a beacon.
 }
 
 TEST_F(Sending, NobodySendsWithoutACall)
