@@ -9,7 +9,7 @@ namespace ruvenmark {
 
 // What a box of the settings dialog shows; of the three, that which its kind has.
 struct OptionField {
-    std::string text;
+    std::string text, loaded; // The second as the dialog opened with it.
     std::int32_t choice = -1; // In a list; -1 for a setting that names none of its entries.
     bool bTicked = false;
 };

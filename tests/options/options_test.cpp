@@ -140,6 +140,24 @@ TEST_F(Options, NothingIsStoredWhileSomethingIsMissingOrWrong)
     EXPECT_FALSE(IsOpen());
 }
 
+// The weather link and the receiver store what they measure; the operator cannot mend it and must be able to save.
+TEST_F(Options, WhatNobodyTouchedIsNotComplainedOf)
+{
+    Set(S::Humidity, "100");
+    Set(S::Alt, "-12");
+    Set(S::WindSpeed, "4.5");
+    mnuViewOptions_Click(main);
+    Text(S::Comment) = "hello";
+    frmOptions_Save(main);
+    EXPECT_THAT(program.prompts.messages, IsEmpty());
+    EXPECT_EQ(Kept(S::Comment), "hello");
+    EXPECT_EQ(Kept(S::Humidity) + ' ' + Kept(S::Alt) + ' ' + Kept(S::WindSpeed), "100 -12 4.5");
+    mnuViewOptions_Click(main);
+    Text(S::Humidity) = "101";
+    frmOptions_Save(main);
+    EXPECT_TRUE(IsOpen());
+}
+
 // Every setting is loaded into its own box and stored from it; one that reads as nothing known is left alone.
 TEST_F(Options, SaveStoresWhatTheBoxesShow)
 {
