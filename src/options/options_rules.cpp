@@ -8,6 +8,7 @@
 #include "outgoing/my_station.h"
 #include "platform/failure.h"
 #include "platform/numbers.h"
+#include "platform/text.h"
 #include "tracking/track_lines.h"
 
 #include <optional>
@@ -195,6 +196,8 @@ bool IsPinPointOffered(const OptionsForm& form)
 
 void frmOptions_Save(MainWindow& main)
 {
+    std::string& call = FieldOf(main.frmOptions, Setting::Call).text;
+    call = ToUpper(Trim(call)); // A message for the station names it letter for letter.
     if (!IsComplete(main))
         return;
     Store(main);

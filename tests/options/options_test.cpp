@@ -158,6 +158,20 @@ TEST_F(Options, WhatNobodyTouchedIsNotComplainedOf)
     EXPECT_TRUE(IsOpen());
 }
 
+// A call in small letters is deaf to its messages.
+TEST_F(Options, WhatWasTypedIsStoredAsItMustGoOut)
+{
+    mnuViewOptions_Click(main);
+    Text(S::Call) = " n1call-7 ";
+    Text(S::Path) = "Wide2-2"; // Only the call.
+    frmOptions_Save(main);
+    EXPECT_EQ(Kept(S::Call) + ' ' + Kept(S::Path), "N1CALL-7 Wide2-2");
+    mnuViewOptions_Click(main);
+    Text(S::Call) = "  ";
+    frmOptions_Save(main);
+    EXPECT_TRUE(IsOpen());
+}
+
 // Every setting is loaded into its own box and stored from it; one that reads as nothing known is left alone.
 TEST_F(Options, SaveStoresWhatTheBoxesShow)
 {
