@@ -49,6 +49,13 @@ void LoadBox(MainWindow& main, const OptionBox& box)
     FieldOf(main.frmOptions, box) = std::move(field);
 }
 
+// Rain and pressure go on the air as they are stored, where "+12" or "1e2" cannot be read.
+std::string TextToStore(const OptionField& field, const OptionBox& box)
+{
+    const bool bTypedWhole = box.rule && box.rule->kind == NumberRule::Kind::Whole && field.text != field.loaded;
+    return bTypedWhole && !field.text.empty() ? ShortText(std::int64_t{ToInt32(field.text)}) : field.text;
+}
+
 void StoreBox(MainWindow& main, const OptionBox& box)
 {
     const OptionField& field = FieldOf(main.frmOptions, box);
@@ -64,7 +71,7 @@ void StoreBox(MainWindow& main, const OptionBox& box)
             SetSetting(settings, box.setting, ShortText(std::int64_t{field.choice}));
         return;
     default:
-        SetSetting(settings, box.setting, field.text);
+        SetSetting(settings, box.setting, TextToStore(field, box));
     }
 }
 

@@ -158,14 +158,19 @@ TEST_F(Options, WhatNobodyTouchedIsNotComplainedOf)
     EXPECT_TRUE(IsOpen());
 }
 
-// A call in small letters is deaf to its messages.
+// A call in small letters is deaf to its messages; "1013.2" or " 12" spoil a weather report that goes out as stored.
 TEST_F(Options, WhatWasTypedIsStoredAsItMustGoOut)
 {
     mnuViewOptions_Click(main);
     Text(S::Call) = " n1call-7 ";
     Text(S::Path) = "Wide2-2"; // Only the call.
+    Text(S::Rain1) = " 12";
+    Text(S::Pressure) = "1013.2";
+    Text(S::Alt) = "1e2";
+    Text(S::Lat) = "47.50"; // No whole number.
     frmOptions_Save(main);
     EXPECT_EQ(Kept(S::Call) + ' ' + Kept(S::Path), "N1CALL-7 Wide2-2");
+    EXPECT_EQ(Kept(S::Rain1) + ' ' + Kept(S::Pressure) + ' ' + Kept(S::Alt) + ' ' + Kept(S::Lat), "12 1013 100 47.50");
     mnuViewOptions_Click(main);
     Text(S::Call) = "  ";
     frmOptions_Save(main);
