@@ -1,11 +1,11 @@
 #include "desktop/map/labels/station_labels.h"
 
+#include "desktop/map/labels/station_label_picture.h"
 #include "desktop/map/markers/marker_painter.h"
 #include "desktop/shown_text.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
 
 #include <algorithm>
 #include <array>
@@ -17,7 +17,6 @@ namespace {
 
 constexpr std::size_t kMostKept = 10000;
 constexpr std::size_t kMostCharacters = 200; // Measured of a name.
-constexpr double kHalo = 1.5;                // Pixels around the letters.
 constexpr double kHalf = kMarkerPixels / 2.0;
 constexpr double kGap = 1, kRingGap = 5; // Pixels from the marker, and from a selected one.
 
@@ -104,7 +103,7 @@ StationLabels::Text& StationLabels::Name(const std::string& name)
             width = metrics.horizontalAdvance(text);
         }
         it->second.shown = text;
-        it->second.size = {std::ceil(width) + 2 * kHalo, std::ceil(metrics.height())};
+        it->second.size = {std::ceil(width) + 2 * kNameHalo, std::ceil(metrics.height())};
     }
     return it->second;
 }
@@ -238,62 +237,30 @@ void StationLabels::PlaceName(const MarkerItem& item, const SlotPool<PinData>& p
     Take(item.slot, NamePlaces(item.at, text.size, kHalf + kGap, m_view), text, m_nameTodo, m_namesPlaced);
 }
 
-void StationLabels::PaintName(QPainter& painter, const Text& text, const QRectF& rect) const
-{
-    const QFontMetricsF metrics(m_look->nameFont);
-    const QPointF base(rect.left() + kHalo, std::round(rect.top() + metrics.ascent()));
-    QPainterPath letters;
-    letters.addText(base, m_look->nameFont, text.shown);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(letters, QPen(m_look->halo, 2 * kHalo, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setFont(m_look->nameFont);
-    painter.setPen(m_look->text);
-    painter.drawText(base, text.shown);
-}
-
-void StationLabels::PaintBadge(QPainter& painter, const Text& text, const QRectF& rect) const
-{
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(m_look->halo, 1));
-    painter.setBrush(m_look->badge);
-    painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), rect.height() / 2, rect.height() / 2);
-    painter.setFont(m_look->badgeFont);
-    painter.setPen(m_look->badgeText);
-    painter.drawText(rect, Qt::AlignCenter, text.shown);
-}
-
-template <typename PaintText>
-void StationLabels::PaintKept(QPainter& painter, Text& text, const QRectF& rect, PaintText paintText) const
-{
-    if (text.picture.isNull()) {
-        text.picture = QPixmap((text.size * m_ratio).toSize());
-        text.picture.setDevicePixelRatio(m_ratio);
-        text.picture.fill(Qt::transparent);
-        QPainter onPicture(&text.picture);
-        paintText(onPicture, QRectF(QPointF(), text.size));
-    }
-    const auto snap = [this](double value) { return std::round(value * m_ratio) / m_ratio; };
-    painter.drawPixmap(QPointF(snap(rect.left()), snap(rect.top())), text.picture);
-}
-
 void StationLabels::Paint(QPainter& painter, bool bVector, const QRegion* only)
 {
     painter.save();
-    const auto name = [this](QPainter& on, const Text& text, const QRectF& rect) { PaintName(on, text, rect); };
-    const auto badge = [this](QPainter& on, const Text& text, const QRectF& rect) { PaintBadge(on, text, rect); };
-    const auto paintAll = [&](std::vector<Todo>& todo, const auto& paintText) {
-        for (const Todo& one : todo)
-            if (only && !only->intersects(one.rect.toAlignedRect().adjusted(-1, -1, 1, 1)))
-                continue;
-            else if (bVector)
-                paintText(painter, *one.text, one.rect);
-            else
-                PaintKept(painter, *one.text, one.rect,
-                          [&](QPainter& on, const QRectF& rect) { paintText(on, *one.text, rect); });
-    };
-    paintAll(m_nameTodo, name);
-    paintAll(m_badgeTodo, badge);
+    PaintAll(painter, m_nameTodo, bVector, only, PaintName, NamePicture);
+    PaintAll(painter, m_badgeTodo, bVector, only, PaintBadge, BadgePicture);
     painter.restore();
+}
+
+template <typename PaintText, typename Picture>
+void StationLabels::PaintAll(QPainter& painter, std::vector<Todo>& todo, bool bVector, const QRegion* only,
+                             PaintText paintText, Picture picture) const
+{
+    const auto snap = [this](double value) { return std::round(value * m_ratio) / m_ratio; };
+    for (const Todo& one : todo) {
+        if (only && !only->intersects(one.rect.toAlignedRect().adjusted(-1, -1, 1, 1)))
+            continue;
+        if (bVector) {
+            paintText(painter, *m_look, one.text->shown, one.rect);
+            continue;
+        }
+        if (one.text->picture.isNull())
+            one.text->picture = picture(*m_look, one.text->shown, one.text->size, m_ratio);
+        painter.drawPixmap(QPointF(snap(one.rect.left()), snap(one.rect.top())), one.text->picture);
+    }
 }
 
 } // namespace ruvenmark

@@ -83,10 +83,9 @@ private:
     void Write(std::uint32_t slot, Text& text, const QRectF& rect);
     void Take(std::uint32_t slot, const std::array<QPointF, 4>& centres, Text& text, std::vector<Todo>& todo,
               std::vector<Placed>& placed);
-    void PaintName(QPainter& painter, const Text& text, const QRectF& rect) const;
-    void PaintBadge(QPainter& painter, const Text& text, const QRectF& rect) const;
-    template <typename PaintText>
-    void PaintKept(QPainter& painter, Text& text, const QRectF& rect, PaintText paintText) const;
+    template <typename PaintText, typename Picture>
+    void PaintAll(QPainter& painter, std::vector<Todo>& todo, bool bVector, const QRegion* only, PaintText paintText,
+                  Picture picture) const;
 
     std::optional<MapLook> m_look;
     qreal m_ratio = 1;
