@@ -173,7 +173,7 @@ MapLook MapScene::Draw(QPainter& painter, const Map& map, const MapView& view, c
         PaintDirectionsLine(painter, frame, *how.directions, look.accent);
     const ShapeLook shapes{SelectedIn<Shape>(map.Shapes(), how.selection), look.accent, ground.bDark};
     if (how.bVector || how.bWait)
-        PaintShapes(painter, m_shapes, map.Shapes(), frame, shapes, only);
+        PaintShapes(painter, m_shapes.InView(), frame, shapes, only);
     else
         m_shapeLayer.Paint(painter, m_shapes, map.Shapes(), frame, shapes, how.ratio, only);
     DrawMarkers(painter, how, only, selectedPin, look.accent);

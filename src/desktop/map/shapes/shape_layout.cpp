@@ -68,8 +68,8 @@ bool CutLine(QLineF& line, const QRectF& rect)
 
 void ShapeLayout::Update(const SlotPool<ShapeData>& shapes, const ViewFrame& frame)
 {
-    m_lines.clear();
-    m_circles.clear();
+    m_inView.lines.clear();
+    m_inView.circles.clear();
     m_projected.resize(shapes.SlotCount());
     GroundGrid shortLines(frame, kShortLine, kSurroundings);
     for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot) {
@@ -101,7 +101,7 @@ void ShapeLayout::AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& 
     const QPointF from = frame.ToPixel(projected.from);
     const QPointF to =
         from + QPointF(projected.to.x - projected.from.x, projected.to.y - projected.from.y) * frame.world;
-    LineItem item{ref.slot, QLineF(from, to), false, false};
+    LineItem item{ref.slot, shape.foreColor, shape.weight, false, false, QLineF(from, to)};
     const QRectF area = Surroundings(frame);
     const bool bInside = IsInside(from, area) && IsInside(to, area);
     if (!bInside && !CutLine(item.line, area))
@@ -109,9 +109,10 @@ void ShapeLayout::AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& 
     const bool bShort = std::abs(to.x() - from.x()) < kShortLine && std::abs(to.y() - from.y()) < kShortLine;
     if (bShort && !shortLines.Take((from + to) / 2))
         return;
-    item.bBeginCut = !bInside && (item.line.p1() - from).manhattanLength() > 0.01;
-    item.bEndCut = !bInside && (item.line.p2() - to).manhattanLength() > 0.01;
-    m_lines.push_back(item);
+    const auto isWhole = [&](QPointF end, QPointF cut) { return bInside || (cut - end).manhattanLength() <= 0.01; };
+    item.bBeginArrow = shape.bBeginArrowhead && isWhole(from, item.line.p1());
+    item.bEndArrow = shape.bEndArrowhead && isWhole(to, item.line.p2());
+    m_inView.lines.push_back(item);
 }
 
 void ShapeLayout::AddCircle(SlotRef ref, const ShapeData& shape, const ViewFrame& frame)
@@ -121,7 +122,7 @@ void ShapeLayout::AddCircle(SlotRef ref, const ShapeData& shape, const ViewFrame
     if (!box.intersects(Surroundings(frame)))
         return;
     const int corners = Corners(std::max(box.width(), box.height()) / 2);
-    CircleItem item{ref.slot, {}};
+    CircleItem item{ref.slot, shape.foreColor, shape.weight, {}};
     item.outline.reserve(corners + 1);
     for (int i = 0; i <= corners; ++i) {
         const double bearing = 360.0 * i / corners;
@@ -132,7 +133,7 @@ void ShapeLayout::AddCircle(SlotRef ref, const ShapeData& shape, const ViewFrame
         }
         item.outline.append(at);
     }
-    m_circles.push_back(std::move(item));
+    m_inView.circles.push_back(std::move(item));
 }
 
 } // namespace ruvenmark

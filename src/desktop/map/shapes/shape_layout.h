@@ -16,12 +16,21 @@ namespace ruvenmark {
 // A line of the map in view; `line` is cut to the surroundings of the view.
 struct LineItem {
     std::uint32_t slot = 0;
+    std::uint32_t color = 0; // As the map model numbers it.
+    std::int32_t weight = 1;
+    bool bBeginArrow = false, bEndArrow = false; // At an end that was not cut off.
     QLineF line;
-    bool bBeginCut = false, bEndCut = false;
 };
 struct CircleItem {
     std::uint32_t slot = 0;
+    std::uint32_t color = 0;
+    std::int32_t weight = 1;
     QPolygonF outline; // Closed.
+};
+// All that is known of the shapes in view, for whoever paints them, in any thread.
+struct ShapesInView {
+    std::vector<LineItem> lines;
+    std::vector<CircleItem> circles;
 };
 
 inline constexpr double kShortLine = 3; // Pixels; of such lines one is enough for each square of that size.
@@ -33,22 +42,24 @@ public:
 
     void Update(const SlotPool<ShapeData>& shapes, const ViewFrame& frame);
 
-    const std::vector<LineItem>& Lines() const { return m_lines; }
-    const std::vector<CircleItem>& Circles() const { return m_circles; }
+    const ShapesInView& InView() const { return m_inView; }
+    const std::vector<LineItem>& Lines() const { return m_inView.lines; }
+    const std::vector<CircleItem>& Circles() const { return m_inView.circles; }
 
-private:
     struct Projected {
         std::uint64_t id = 0;   // Of the shape that it was worked out for.
         MercatorPoint from, to; // The short way round: the end may lie beyond the edge of the world.
     };
+    // Of a line that was not hidden at the last Update.
+    const Projected& EndsOf(std::uint32_t slot) const { return m_projected[slot]; }
 
+private:
     const Projected& Project(SlotRef ref, const ShapeData& shape);
     void AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& frame, GroundGrid& shortLines);
     void AddCircle(SlotRef ref, const ShapeData& shape, const ViewFrame& frame);
 
     std::vector<Projected> m_projected; // By slot.
-    std::vector<LineItem> m_lines;
-    std::vector<CircleItem> m_circles;
+    ShapesInView m_inView;
 };
 
 // The part of a line that lies in a rectangle; false where none does.

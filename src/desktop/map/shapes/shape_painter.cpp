@@ -41,8 +41,7 @@ double ArrowLength(std::int32_t weight)
 // The items in view, or those of them that are seen in a region.
 class Shown {
 public:
-    Shown(const ShapeLayout& layout, const SlotPool<ShapeData>& shapes, const QRegion* only)
-        : m_layout(layout), m_shapes(shapes), m_bAll(!only)
+    Shown(const ShapesInView& shapes, const QRegion* only) : m_shapes(shapes), m_bAll(!only)
     {
         if (only)
             m_rects.assign(only->begin(), only->end());
@@ -52,20 +51,17 @@ public:
     template <typename Visit>
     void EachLine(double beyond, Visit visit) const
     {
-        for (const LineItem& item : m_layout.Lines()) {
-            const ShapeData& shape = *m_shapes.At(item.slot);
-            if (m_bAll || IsShown(item.line.p1(), item.line.p2(), ShapeReach(shape.weight) + beyond))
-                visit(item, shape);
-        }
+        for (const LineItem& item : m_shapes.lines)
+            if (m_bAll || IsShown(item.line.p1(), item.line.p2(), ShapeReach(item.weight) + beyond))
+                visit(item);
     }
     template <typename Visit>
     void EachCircle(Visit visit) const
     {
-        for (const CircleItem& item : m_layout.Circles()) {
-            const ShapeData& shape = *m_shapes.At(item.slot);
+        for (const CircleItem& item : m_shapes.circles) {
             const QRectF box = item.outline.boundingRect();
-            if (m_bAll || IsShown(box.topLeft(), box.bottomRight(), ShapeReach(shape.weight)))
-                visit(item, shape);
+            if (m_bAll || IsShown(box.topLeft(), box.bottomRight(), ShapeReach(item.weight)))
+                visit(item);
         }
     }
 
@@ -81,8 +77,7 @@ private:
                            });
     }
 
-    const ShapeLayout& m_layout;
-    const SlotPool<ShapeData>& m_shapes;
+    const ShapesInView& m_shapes;
     bool m_bAll;
     std::vector<QRectF> m_rects;
 };
@@ -130,8 +125,8 @@ void PaintLines(QPainter& painter, const Shown& shown, bool bDarkGround)
     using Look = std::pair<std::uint32_t, std::int32_t>;
     std::map<Look, std::vector<QLineF>> byPen;
     auto pen = byPen.end(); // Mostly that of the line before.
-    shown.EachLine(0, [&](const LineItem& item, const ShapeData& shape) {
-        const Look look{shape.foreColor, shape.weight};
+    shown.EachLine(0, [&](const LineItem& item) {
+        const Look look{item.color, item.weight};
         if (pen == byPen.end() || pen->first != look)
             pen = byPen.try_emplace(look).first;
         pen->second.push_back(Visible(item.line));
@@ -148,30 +143,33 @@ void PaintArrows(QPainter& painter, const Shown& shown, const ViewFrame& frame, 
     painter.setPen(Qt::NoPen);
     GroundGrid space(frame, kArrowsApart, ShapeLayout::kSurroundings);
     std::optional<std::uint32_t> color;
-    shown.EachLine(2 * kArrowsApart, [&](const LineItem& item, const ShapeData& shape) {
-        if (!shape.bBeginArrowhead && !shape.bEndArrowhead)
+    shown.EachLine(2 * kArrowsApart, [&](const LineItem& item) {
+        if (!item.bBeginArrow && !item.bEndArrow)
             return;
-        if (color != shape.foreColor)
-            painter.setBrush(ShapeColor(shape.foreColor, bDarkGround));
-        color = shape.foreColor;
-        if (shape.bEndArrowhead && !item.bEndCut)
-            PaintArrow(painter, item.line, shape.weight, space);
-        if (shape.bBeginArrowhead && !item.bBeginCut)
-            PaintArrow(painter, QLineF(item.line.p2(), item.line.p1()), shape.weight, space);
+        if (color != item.color)
+            painter.setBrush(ShapeColor(item.color, bDarkGround));
+        color = item.color;
+        if (item.bEndArrow)
+            PaintArrow(painter, item.line, item.weight, space);
+        if (item.bBeginArrow)
+            PaintArrow(painter, QLineF(item.line.p2(), item.line.p1()), item.weight, space);
     });
 }
 
-void PaintSelected(QPainter& painter, const ShapeLayout& layout, const SlotPool<ShapeData>& shapes, const QRectF& area,
-                   std::uint32_t selected, QColor highlight)
+void PaintSelected(QPainter& painter, const ShapesInView& shapes, const QRectF& area, std::uint32_t selected,
+                   QColor highlight)
 {
     highlight.setAlpha(150);
-    painter.setPen(ShapePen(highlight, shapes.At(selected) ? shapes.At(selected)->weight + 7 : 7));
-    for (const LineItem& item : layout.Lines())
-        if (item.slot == selected)
-            painter.drawLine(item.line);
-    for (const CircleItem& item : layout.Circles())
-        if (item.slot == selected)
-            PaintOutline(painter, item.outline, area);
+    const auto each = [&](const auto& items, auto paint) {
+        for (const auto& item : items) {
+            if (item.slot != selected)
+                continue;
+            painter.setPen(ShapePen(highlight, item.weight + 7));
+            paint(item);
+        }
+    };
+    each(shapes.lines, [&](const LineItem& item) { painter.drawLine(item.line); });
+    each(shapes.circles, [&](const CircleItem& item) { PaintOutline(painter, item.outline, area); });
 }
 
 } // namespace
@@ -190,18 +188,18 @@ std::optional<double> ArrowInset(double lineLength, double arrowLength)
     return lineLength >= kShortest ? std::optional((lineLength - arrowLength) / 2) : std::nullopt;
 }
 
-void PaintShapes(QPainter& painter, const ShapeLayout& layout, const SlotPool<ShapeData>& shapes,
-                 const ViewFrame& frame, const ShapeLook& look, const QRegion* only)
+void PaintShapes(QPainter& painter, const ShapesInView& shapes, const ViewFrame& frame, const ShapeLook& look,
+                 const QRegion* only)
 {
     const QRectF area = frame.Rect().adjusted(-32, -32, 32, 32);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
     if (look.selected)
-        PaintSelected(painter, layout, shapes, area, *look.selected, look.highlight);
-    const Shown shown(layout, shapes, only);
-    shown.EachCircle([&](const CircleItem& item, const ShapeData& shape) {
-        painter.setPen(ShapePen(ShapeColor(shape.foreColor, look.bDarkGround), shape.weight));
+        PaintSelected(painter, shapes, area, *look.selected, look.highlight);
+    const Shown shown(shapes, only);
+    shown.EachCircle([&](const CircleItem& item) {
+        painter.setPen(ShapePen(ShapeColor(item.color, look.bDarkGround), item.weight));
         PaintOutline(painter, item.outline, area);
     });
     PaintLines(painter, shown, look.bDarkGround);

@@ -25,8 +25,9 @@ inline constexpr double kArrowsApart = 28; // Pixels that the heads of short lin
 double ShapeReach(std::int32_t weight);
 
 // Paints trails and circles; with a region, at least those that are seen in it: the painter's clip has to do the rest.
-void PaintShapes(QPainter& painter, const ShapeLayout& layout, const SlotPool<ShapeData>& shapes,
-                 const ViewFrame& frame, const ShapeLook& look, const QRegion* only = nullptr);
+// Safe to use from many threads, each with its own painter.
+void PaintShapes(QPainter& painter, const ShapesInView& shapes, const ViewFrame& frame, const ShapeLook& look,
+                 const QRegion* only = nullptr);
 
 // Where the point of an arrowhead at the line's second end goes, as a length from there: clear of the marker at the end
 // where the line is long enough for it, else on the middle of the line. Nothing where the line is too short for any.

@@ -43,6 +43,7 @@ MapWidget::MapWidget(MapControl& control, IconSet& icons, const BaseMap* base, c
     m_gather.setSingleShot(true);
     connect(&m_gather, &QTimer::timeout, this, &MapWidget::GatheredChange);
     connect(&m_ground, &MapGround::Changed, this, qOverload<>(&QWidget::update));
+    connect(&m_scene.KeptShapes(), &ShapeLayer::Changed, this, qOverload<>(&QWidget::update));
     connect(m_buttons, &ZoomButtons::ZoomIn, this, [this] { m_mover.ZoomBy(1); });
     connect(m_buttons, &ZoomButtons::ZoomOut, this, [this] { m_mover.ZoomBy(-1); });
     connect(m_heap, &HeapList::Chosen, this, [this](SlotRef ref) {
@@ -89,6 +90,7 @@ void MapWidget::ObserveMap()
 {
     m_mapEvents.clear();
     m_heap->Close();
+    m_scene.Forget();
     Map* map = m_control.ActiveMap();
     if (!map)
         return;

@@ -41,7 +41,10 @@ public:
     const Balloons& OpenBalloons() const { return m_balloons; }
     MapMover& Mover() { return m_mover; }
     // Whether the last painting showed everything there is to show.
-    bool IsReady() const { return m_ground.IsReady() && !m_gather.isActive() && !m_mover.IsMoving(); }
+    bool IsReady() const
+    {
+        return m_ground.IsReady() && m_scene.KeptShapes().IsReady() && !m_gather.isActive() && !m_mover.IsMoving();
+    }
     int Paints() const { return m_paints; }
     bool IsLastPaintPart() const { return m_bPart; } // Only places that had changed were painted.
 

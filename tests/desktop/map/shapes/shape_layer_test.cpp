@@ -3,6 +3,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -10,7 +11,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <random>
-#include <vector>
 
 namespace ruvenmark {
 namespace {
@@ -34,9 +34,15 @@ class ShapeLayerTest : public ::testing::Test {
 protected:
     ShapeLayerTest()
     {
+        AddLines(4 * ShapeLayer::kFew);
+        QObject::connect(&layer, &ShapeLayer::Changed, [this] { bOther = true; });
+    }
+
+    void AddLines(std::size_t count)
+    {
         std::uniform_real_distribution<double> lat(36, 44), lon(-96, -84);
-        for (std::size_t i = 0; i < 4 * ShapeLayer::kFew; ++i)
-            lines.push_back(shapes.Add(Step({lat(random), lon(random)}, random)));
+        for (std::size_t i = 0; i < count; ++i)
+            shapes.Add(Step({lat(random), lon(random)}, random));
     }
 
     // The view so many device pixels east and south of where it was at first, its corner on a device pixel of the
@@ -66,6 +72,7 @@ protected:
     QImage Kept(const ViewFrame& frame)
     {
         layout.Update(shapes, frame);
+        bOther = false;
         return Picture([&](QPainter& painter) { layer.Paint(painter, layout, shapes, frame, look, ratio); });
     }
 
@@ -73,7 +80,7 @@ protected:
     int Differing(const ViewFrame& frame)
     {
         const QImage kept = Kept(frame);
-        const QImage whole = Picture([&](QPainter& painter) { PaintShapes(painter, layout, shapes, frame, look); });
+        const QImage whole = Picture([&](QPainter& painter) { PaintShapes(painter, layout.InView(), frame, look); });
         int differing = 0;
         for (int y = 0; y < kept.height(); ++y) {
             for (int x = 0; x < kept.width(); ++x) {
@@ -84,6 +91,11 @@ protected:
             }
         }
         return differing;
+    }
+
+    bool WaitForPicture()
+    {
+        return QTest::qWaitFor([&] { return bOther; }, 20000);
     }
 
     int RenewedPixels() const
@@ -98,10 +110,10 @@ protected:
     double zoom = 7;
     qreal ratio = 1;
     SlotPool<ShapeData> shapes;
-    std::vector<SlotRef> lines;
     ShapeLook look;
     ShapeLayout layout;
     ShapeLayer layer;
+    bool bOther = false; // More can be painted than last time.
 };
 
 // Trails that are torn, doubled or left behind at the edges of what a move uncovers; heads of arrows that come and go.
@@ -156,6 +168,75 @@ TEST_F(ShapeLayerTest, AChangedLineIsRenewedWhereItIs)
     shapes.Clear();
     Kept(frame);
     EXPECT_EQ(Differing(frame), 0) << "another map";
+}
+
+// So many that a frame has no time for all.
+class ManyShapesTest : public ShapeLayerTest {
+protected:
+    ManyShapesTest() { AddLines(40000); }
+
+    static double Inked(const QImage& picture) // Share of the pixels.
+    {
+        int inked = 0;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                inked += qGreen(picture.pixel(x, y)) < 250 ? 1 : 0;
+        return double{1} * inked / (picture.width() * picture.height());
+    }
+    void ExpectExactSoon(const ViewFrame& frame, const char* what)
+    {
+        EXPECT_TRUE(WaitForPicture()) << what;
+        EXPECT_LT(Differing(frame), 20) << what;
+        EXPECT_TRUE(layer.IsReady()) << what;
+    }
+};
+
+// Trails that vanish while the map is zoomed, or stay blurred, shifted or cut off once it rests.
+TEST_F(ManyShapesTest, AfterAZoomTheLastPictureStandsInUntilTheNextIsMade)
+{
+    for (const qreal device : {1.0, 1.5}) {
+        ratio = device;
+        layer.Forget();
+        zoom = 7;
+        EXPECT_EQ(Inked(Kept(FrameAt(0, 0))), 0);
+        ASSERT_GT(layout.Lines().size(), ShapeLayer::kAtOnce);
+        ExpectExactSoon(FrameAt(0, 0), "at first");
+        for (const double next : {7.2, 6.9, 6.0}) {
+            zoom = next;
+            const ViewFrame frame = FrameAt(0, 0);
+            const QImage meanwhile = Kept(frame);
+            EXPECT_FALSE(layer.IsReady()) << next;
+            EXPECT_GT(Inked(meanwhile.copy(meanwhile.rect().adjusted(150, 120, -150, -120))), 0.1) << next;
+            ExpectExactSoon(frame, "zoomed");
+            EXPECT_LT(Differing(FrameAt(9, -5)), 20) << next << ", moved then";
+            EXPECT_TRUE(layer.IsReady()) << "a move is painted at once";
+        }
+        Kept(FrameAt(0, 200 * ratio));
+        EXPECT_FALSE(layer.IsReady()) << "half of it is new";
+        ExpectExactSoon(FrameAt(0, 200 * ratio), "far off");
+    }
+}
+
+// A picture that comes late must neither cover what was painted meanwhile nor bring back what was removed meanwhile.
+TEST_F(ManyShapesTest, WhatChangesWhileAPictureIsMadeIsNotLost)
+{
+    Kept(FrameAt(0, 0));
+    for (std::uint32_t slot = 0; slot < 30; ++slot)
+        shapes.Find(shapes.RefAt(slot))->bVisible = false;
+    ExpectExactSoon(FrameAt(0, 0), "hidden while the first one was made");
+    zoom = 7.1;
+    Kept(FrameAt(0, 0));
+    zoom = 10;
+    Kept(FrameAt(0, 0));
+    ASSERT_LT(layout.Lines().size(), ShapeLayer::kAtOnce);
+    EXPECT_EQ(Differing(FrameAt(0, 0)), 0) << "few enough to be painted";
+    ExpectExactSoon(FrameAt(0, 0), "after the picture of another scale has come");
+    zoom = 7.1;
+    Kept(FrameAt(0, 0));
+    layer.Forget();
+    EXPECT_TRUE(WaitForPicture());
+    EXPECT_EQ(Inked(Kept(FrameAt(0, 0))), 0) << "another map's";
+    ExpectExactSoon(FrameAt(0, 0), "of the other map");
 }
 
 } // namespace

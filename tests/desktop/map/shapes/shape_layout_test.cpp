@@ -64,15 +64,18 @@ TEST(ShapeLayout, LineCrossesTheDateLineTheShortWayAndIsCutToTheView)
 {
     const MapView view{{0, 180}, 6, 800, 600};
     SlotPool<ShapeData> shapes;
-    shapes.Add(Line({0, 179}, {0, -179}));
-    shapes.Add(Line({0, 100}, {0, -100}));
+    for (const double from : {179.0, 100.0}) {
+        ShapeData line = Line({0, from}, {0, -from});
+        line.bBeginArrowhead = line.bEndArrowhead = true;
+        shapes.Add(line);
+    }
     ShapeLayout layout;
     layout.Update(shapes, ViewFrame(view));
     ASSERT_EQ(layout.Lines().size(), 2U);
     EXPECT_NEAR(layout.Lines()[0].line.length(), view.WorldPixels() / 180, 0.01);
-    EXPECT_FALSE(layout.Lines()[0].bBeginCut || layout.Lines()[0].bEndCut);
+    EXPECT_TRUE(layout.Lines()[0].bBeginArrow && layout.Lines()[0].bEndArrow);
     EXPECT_LT(layout.Lines()[1].line.length(), 1000);
-    EXPECT_TRUE(layout.Lines()[1].bBeginCut && layout.Lines()[1].bEndCut);
+    EXPECT_FALSE(layout.Lines()[1].bBeginArrow || layout.Lines()[1].bEndArrow) << "its ends lie elsewhere";
 }
 
 TEST(ShapeLayout, ALongTrailOfSmallStepsIsSeenAtAnyZoom)
