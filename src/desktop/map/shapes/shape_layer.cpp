@@ -32,6 +32,15 @@ bool IsAll(const QRegion& region, const QRect& all)
     return region.rectCount() == 1 && region.boundingRect() == all;
 }
 
+// Whether of lines that lie all over such a size no more than so many lie in the region.
+bool IsLittle(std::size_t lines, const QRegion& region, QSize size, std::size_t most)
+{
+    double pixels = 0;
+    for (const QRect& rect : region)
+        pixels += double{1} * rect.width() * rect.height();
+    return static_cast<double>(lines) * pixels <= static_cast<double>(most) * size.width() * size.height();
+}
+
 } // namespace
 
 // What the thread that makes a picture needs.
@@ -98,7 +107,7 @@ void ShapeLayer::Paint(QPainter& painter, const ShapeLayout& layout, const SlotP
     if (!m_bWorking || lines <= kAtOnce) {
         Uncover(place, look, bAround);
         FindChanges(layout, shapes, frame, place);
-        if (IsWithinFrame(lines, place.size)) {
+        if (IsLittle(lines, m_renewed, place.size, kAtOnce)) {
             ++m_version;
             Move(place);
             m_look = look;
@@ -108,7 +117,12 @@ void ShapeLayer::Paint(QPainter& painter, const ShapeLayout& layout, const SlotP
             StartWork(std::make_shared<const Job>(Job{layout.InView(), frame, look, place}));
         }
     }
-    PaintKept(painter, place);
+    const QRectF kept = PaintKept(painter, place);
+    QRegion lacking = QRegion(frame.Rect().toRect()) - kept.toAlignedRect();
+    if (only)
+        lacking &= *only;
+    if (!m_bKnown && !lacking.isEmpty() && IsLittle(lines, lacking, {frame.width, frame.height}, kDraft))
+        PaintDraft(painter, layout.InView(), look, lacking);
 }
 
 // What of the view is not in the picture.
@@ -198,14 +212,6 @@ void ShapeLayer::AddChange(const Seen& seen, const ViewFrame& frame, const Place
         m_renewed += QRectF(inView.topLeft() * place.ratio, inView.size() * place.ratio).toAlignedRect() & all;
 }
 
-bool ShapeLayer::IsWithinFrame(std::size_t lines, QSize size) const
-{
-    double pixels = 0;
-    for (const QRect& rect : m_renewed)
-        pixels += double{1} * rect.width() * rect.height();
-    return static_cast<double>(lines) * pixels <= double{kAtOnce} * size.width() * size.height();
-}
-
 void ShapeLayer::Renew(const ShapesInView& shapes, const ViewFrame& frame)
 {
     m_bKnown = true;
@@ -248,13 +254,13 @@ void ShapeLayer::Take(std::uint64_t version, const Job& job, const QImage& pictu
     emit Changed();
 }
 
-// At the scale of the view, in the copy of the world that lies nearest its middle.
-void ShapeLayer::PaintKept(QPainter& painter, const Place& place) const
+// At the scale of the view, in the copy of the world that lies nearest its middle. Returns where that is in the view.
+QRectF ShapeLayer::PaintKept(QPainter& painter, const Place& place) const
 {
     const double pixels = place.world * place.ratio, ofPicture = m_place.world * m_place.ratio;
     const double scale = pixels / ofPicture;
     if (m_picture.isNull() || scale > kMostEnlarged || scale < 1 / kMostEnlarged)
-        return;
+        return {};
     const QSizeF size = QSizeF(m_place.size) * scale;
     QPointF corner(static_cast<double>(m_place.left) * scale - static_cast<double>(place.left),
                    static_cast<double>(m_place.top) * scale - static_cast<double>(place.top));
@@ -268,6 +274,7 @@ void ShapeLayer::PaintKept(QPainter& painter, const Place& place) const
         painter.drawPixmap(QRectF(corner, size), m_picture, QRectF(m_picture.rect()));
     }
     painter.restore();
+    return {corner / place.ratio, size / place.ratio};
 }
 
 } // namespace ruvenmark

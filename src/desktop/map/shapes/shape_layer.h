@@ -19,13 +19,14 @@ namespace ruvenmark {
 // Paints the shapes of a map on a screen. Many of them are kept as a picture: while the view only moves, what a move
 // uncovers and what has changed is painted into it, the rest is copied. Where more would have to be painted than a
 // frame has time for, as after a zoom, a thread of its own makes the next picture, and the last one is shown meanwhile
-// at the scale of the view.
+// at the scale of the view, with a draft of what it lacks.
 class ShapeLayer : public QObject {
     Q_OBJECT
 
 public:
     static constexpr std::size_t kFew = 1500;      // Lines that are painted as fast as a picture is copied.
-    static constexpr std::size_t kAtOnce = 12'000; // Lines that are painted within a frame.
+    static constexpr std::size_t kAtOnce = 12'000; // Lines that are painted within a frame,
+    static constexpr std::size_t kDraft = 60'000;  // and as a draft.
 
     explicit ShapeLayer(QObject* parent = nullptr);
     ~ShapeLayer() override;
@@ -72,11 +73,10 @@ private:
     void FindChanges(const ShapeLayout& layout, const SlotPool<ShapeData>& shapes, const ViewFrame& frame,
                      const Place& place);
     void AddChange(const Seen& seen, const ViewFrame& frame, const Place& place);
-    bool IsWithinFrame(std::size_t lines, QSize size) const;
     void Renew(const ShapesInView& shapes, const ViewFrame& frame);
     void StartWork(std::shared_ptr<const Job> job);
     void Take(std::uint64_t version, const Job& job, const QImage& picture);
-    void PaintKept(QPainter& painter, const Place& place) const;
+    QRectF PaintKept(QPainter& painter, const Place& place) const;
 
     QPixmap m_picture;           // Null while none is kept.
     Place m_place;               // Of the picture,

@@ -71,6 +71,7 @@ void ShapeLayout::Update(const SlotPool<ShapeData>& shapes, const ViewFrame& fra
     m_inView.lines.clear();
     m_inView.circles.clear();
     m_projected.resize(shapes.SlotCount());
+    m_inView.lines.reserve(shapes.SlotCount());
     GroundGrid shortLines(frame, kShortLine, kSurroundings);
     for (std::size_t slot = 0; slot < shapes.SlotCount(); ++slot) {
         const ShapeData* shape = shapes.At(slot);
@@ -87,7 +88,9 @@ const ShapeLayout::Projected& ShapeLayout::Project(SlotRef ref, const ShapeData&
 {
     Projected& projected = m_projected[ref.slot];
     if (projected.id != ref.id) {
-        projected = {ref.id, ToMercator(shape.from), ToMercator(shape.to)};
+        projected = {ref.id, shape.from == m_lastEnd ? m_lastProjected : ToMercator(shape.from), ToMercator(shape.to)};
+        m_lastEnd = shape.to;
+        m_lastProjected = projected.to;
         projected.to.x -= std::floor(projected.to.x - projected.from.x + 0.5);
     }
     return projected;

@@ -59,6 +59,8 @@ private:
     void AddCircle(SlotRef ref, const ShapeData& shape, const ViewFrame& frame);
 
     std::vector<Projected> m_projected; // By slot.
+    GeoPoint m_lastEnd;                 // Of the line that was projected last, where mostly the next one begins,
+    MercatorPoint m_lastProjected = ToMercator({}); // and its projection.
     ShapesInView m_inView;
 };
 

@@ -120,7 +120,7 @@ QLineF Visible(const QLineF& line)
     return bDot ? QLineF(line.center() - QPointF(0.5, 0), line.center() + QPointF(0.5, 0)) : line;
 }
 
-void PaintLines(QPainter& painter, const Shown& shown, bool bDarkGround)
+void PaintLines(QPainter& painter, const Shown& shown, bool bDarkGround, bool bDraft)
 {
     using Look = std::pair<std::uint32_t, std::int32_t>;
     std::map<Look, std::vector<QLineF>> byPen;
@@ -132,7 +132,7 @@ void PaintLines(QPainter& painter, const Shown& shown, bool bDarkGround)
         pen->second.push_back(Visible(item.line));
     });
     for (const auto& [look, lines] : byPen) {
-        painter.setPen(ShapePen(ShapeColor(look.first, bDarkGround), look.second));
+        painter.setPen(ShapePen(ShapeColor(look.first, bDarkGround), bDraft ? 0 : look.second));
         painter.drawLines(lines.data(), static_cast<int>(lines.size()));
     }
 }
@@ -202,8 +202,17 @@ void PaintShapes(QPainter& painter, const ShapesInView& shapes, const ViewFrame&
         painter.setPen(ShapePen(ShapeColor(item.color, look.bDarkGround), item.weight));
         PaintOutline(painter, item.outline, area);
     });
-    PaintLines(painter, shown, look.bDarkGround);
+    PaintLines(painter, shown, look.bDarkGround, false);
     PaintArrows(painter, shown, frame, look.bDarkGround);
+    painter.restore();
+}
+
+void PaintDraft(QPainter& painter, const ShapesInView& shapes, const ShapeLook& look, const QRegion& region)
+{
+    painter.save();
+    painter.setClipRegion(region, Qt::IntersectClip);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    PaintLines(painter, Shown(shapes, &region), look.bDarkGround, true);
     painter.restore();
 }
 

@@ -29,6 +29,9 @@ double ShapeReach(std::int32_t weight);
 void PaintShapes(QPainter& painter, const ShapesInView& shapes, const ViewFrame& frame, const ShapeLook& look,
                  const QRegion* only = nullptr);
 
+// The lines in a region as thin as can be, without smooth edges and arrowheads: a small part of the work.
+void PaintDraft(QPainter& painter, const ShapesInView& shapes, const ShapeLook& look, const QRegion& region);
+
 // Where the point of an arrowhead at the line's second end goes, as a length from there: clear of the marker at the end
 // where the line is long enough for it, else on the middle of the line. Nothing where the line is too short for any.
 std::optional<double> ArrowInset(double lineLength, double arrowLength);

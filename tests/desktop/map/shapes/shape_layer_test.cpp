@@ -198,7 +198,7 @@ TEST_F(ManyShapesTest, AfterAZoomTheLastPictureStandsInUntilTheNextIsMade)
         ratio = device;
         layer.Forget();
         zoom = 7;
-        EXPECT_EQ(Inked(Kept(FrameAt(0, 0))), 0);
+        EXPECT_GT(Inked(Kept(FrameAt(0, 0))), 0.05) << "a draft";
         ASSERT_GT(layout.Lines().size(), ShapeLayer::kAtOnce);
         ExpectExactSoon(FrameAt(0, 0), "at first");
         for (const double next : {7.2, 6.9, 6.0}) {
@@ -207,6 +207,7 @@ TEST_F(ManyShapesTest, AfterAZoomTheLastPictureStandsInUntilTheNextIsMade)
             const QImage meanwhile = Kept(frame);
             EXPECT_FALSE(layer.IsReady()) << next;
             EXPECT_GT(Inked(meanwhile.copy(meanwhile.rect().adjusted(150, 120, -150, -120))), 0.1) << next;
+            EXPECT_GT(Inked(meanwhile.copy(0, 0, 40, 40)), 0.02) << next << ": a corner that was not seen before";
             ExpectExactSoon(frame, "zoomed");
             EXPECT_LT(Differing(FrameAt(9, -5)), 20) << next << ", moved then";
             EXPECT_TRUE(layer.IsReady()) << "a move is painted at once";
@@ -235,8 +236,9 @@ TEST_F(ManyShapesTest, WhatChangesWhileAPictureIsMadeIsNotLost)
     Kept(FrameAt(0, 0));
     layer.Forget();
     EXPECT_TRUE(WaitForPicture());
-    EXPECT_EQ(Inked(Kept(FrameAt(0, 0))), 0) << "another map's";
-    ExpectExactSoon(FrameAt(0, 0), "of the other map");
+    shapes.Clear();
+    AddLines(1);
+    EXPECT_LT(Inked(Kept(FrameAt(0, 0))), 0.01) << "another map's";
 }
 
 } // namespace
