@@ -76,7 +76,7 @@ ShapeLayer::~ShapeLayer()
 void ShapeLayer::Forget()
 {
     m_picture = {};
-    m_bKnown = false;
+    m_bKnown = m_bBegun = false;
     ++m_version;
 }
 
@@ -104,6 +104,8 @@ void ShapeLayer::Paint(QPainter& painter, const ShapeLayout& layout, const SlotP
         return;
     }
     const Place place = PlaceOf(frame, ratio);
+    if (lines > kAtOnce && !std::exchange(m_bBegun, true) && !m_bWorking)
+        PutOff();
     if (!m_bWorking || lines <= kAtOnce) {
         Uncover(place, look, bAround);
         FindChanges(layout, shapes, frame, place);
@@ -224,6 +226,17 @@ void ShapeLayer::Renew(const ShapesInView& shapes, const ViewFrame& frame)
     onPicture.setCompositionMode(QPainter::CompositionMode_SourceOver);
     const QRegion only = InView(m_renewed, m_place.ratio);
     PaintAt(m_place, onPicture, shapes, frame, m_look, &only);
+}
+
+// To the next frame.
+void ShapeLayer::PutOff()
+{
+    m_bWorking = true;
+    const auto goOn = [this] {
+        m_bWorking = false;
+        emit Changed();
+    };
+    QMetaObject::invokeMethod(this, goOn, Qt::QueuedConnection);
 }
 
 // m_seen tells from now on what the picture that is made will show.

@@ -74,6 +74,7 @@ private:
                      const Place& place);
     void AddChange(const Seen& seen, const ViewFrame& frame, const Place& place);
     void Renew(const ShapesInView& shapes, const ViewFrame& frame);
+    void PutOff();
     void StartWork(std::shared_ptr<const Job> job);
     void Take(std::uint64_t version, const Job& job, const QImage& picture);
     QRectF PaintKept(QPainter& painter, const Place& place) const;
@@ -86,6 +87,7 @@ private:
     std::uint64_t m_version = 0; // Another one where what is being made is no longer wanted.
     double m_lastWorld = 0;      // Of the last frame.
     bool m_bWorking = false;
+    bool m_bBegun = false; // The first look at these shapes, which has them laid out, is over.
     QRegion m_renewed;
     QThreadPool m_pool;
 };

@@ -200,6 +200,9 @@ TEST_F(ManyShapesTest, AfterAZoomTheLastPictureStandsInUntilTheNextIsMade)
         zoom = 7;
         EXPECT_GT(Inked(Kept(FrameAt(0, 0))), 0.05) << "a draft";
         ASSERT_GT(layout.Lines().size(), ShapeLayer::kAtOnce);
+        EXPECT_FALSE(layer.IsReady());
+        EXPECT_TRUE(WaitForPicture()) << "to begin it";
+        Kept(FrameAt(0, 0));
         ExpectExactSoon(FrameAt(0, 0), "at first");
         for (const double next : {7.2, 6.9, 6.0}) {
             zoom = next;
@@ -221,6 +224,8 @@ TEST_F(ManyShapesTest, AfterAZoomTheLastPictureStandsInUntilTheNextIsMade)
 // A picture that comes late must neither cover what was painted meanwhile nor bring back what was removed meanwhile.
 TEST_F(ManyShapesTest, WhatChangesWhileAPictureIsMadeIsNotLost)
 {
+    Kept(FrameAt(0, 0));
+    EXPECT_TRUE(WaitForPicture()) << "to begin it";
     Kept(FrameAt(0, 0));
     for (std::uint32_t slot = 0; slot < 30; ++slot)
         shapes.Find(shapes.RefAt(slot))->bVisible = false;
