@@ -8,7 +8,6 @@
 namespace ruvenmark {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 TEST(Monitors, EachChannelHasItsOwnAndOnlyRfHasThePacketLine)
@@ -25,30 +24,24 @@ TEST(Monitors, EachChannelHasItsOwnAndOnlyRfHasThePacketLine)
     EXPECT_EQ(p.main.sbStatusBar.PacketLine(), "five");
 }
 
+// A log that brought nothing leaves its file, and one that cannot be written costs neither the other nor the exit.
 TEST(Monitors, TheLogsOfTheRunAreWrittenAtItsEnd)
 {
-    TestProgram p;
-    SetSetting(p.main.Settings, Setting::TNCLog, "/logs/tnc");
-    SetSetting(p.main.Settings, Setting::TCPLog, "/logs/tcp");
-    p.files.texts["/logs/tnc"] = p.files.texts["/logs/tcp"] = "of the run before";
-    AddTNCData(p.main, "one");
-    EXPECT_EQ(StopMainWindow(p.main), StopResult::Stopped);
-    EXPECT_EQ(p.files.texts["/logs/tnc"], "one\r\n");
-    EXPECT_EQ(p.files.texts["/logs/tcp"], "of the run before");
-}
-
-// The second is written though the first could not be.
-TEST(Monitors, ALogThatCannotBeWrittenIsToldAndTheExitGoesOn)
-{
-    TestProgram p;
-    SetSetting(p.main.Settings, Setting::TNCLog, "/nowhere/tnc");
-    SetSetting(p.main.Settings, Setting::TCPLog, "/logs/tcp");
-    AddTNCData(p.main, "one");
-    AddTCPData(p.main, "two");
-    p.files.FailWrite(1);
-    EXPECT_EQ(StopMainWindow(p.main), StopResult::StoppedWithLoss);
-    EXPECT_THAT(p.prompts.messages, ElementsAre("Failed to save tnc log to /nowhere/tnc"));
-    EXPECT_EQ(p.files.texts["/logs/tcp"], "two\r\n");
+    for (const bool bFails : {false, true}) {
+        TestProgram p;
+        SetSetting(p.main.Settings, Setting::TNCLog, "/logs/tnc");
+        SetSetting(p.main.Settings, Setting::TCPLog, "/logs/tcp");
+        p.files.texts["/logs/tnc"] = p.files.texts["/logs/tcp"] = "before";
+        AddTNCData(p.main, "one");
+        if (bFails) {
+            AddTCPData(p.main, "two");
+            p.files.FailWrite(1);
+        }
+        EXPECT_EQ(StopMainWindow(p.main), bFails ? StopResult::StoppedWithLoss : StopResult::Stopped);
+        EXPECT_EQ(p.prompts.messages, std::vector<std::string>(bFails, "Failed to save tnc log to /logs/tnc"));
+        EXPECT_EQ(p.files.texts["/logs/tnc"], bFails ? "before" : "one\r\n");
+        EXPECT_EQ(p.files.texts["/logs/tcp"], bFails ? "two\r\n" : "before");
+    }
 }
 
 TEST(Monitors, TheMenuTicksWhatShows)

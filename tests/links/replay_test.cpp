@@ -1,4 +1,3 @@
-#include "links/import_form_rules.h"
 #include "links/replay.h"
 #include "links/station_files.h"
 #include "platform/line_time.h"
@@ -150,17 +149,6 @@ TEST_F(Replay, AStopEndsAPauseAndAPipeCannotBeJumpedIn)
     });
     LoadStationFile(p.main, pipe);
     EXPECT_THAT(Stations(), ElementsAre("A", "D", "E", "F"));
-}
-
-// The dialog's speed holds for the loads of this run and is thrown away with the dialog.
-TEST_F(Replay, TheDialogChoosesTheSpeed)
-{
-    ImportForm form;
-    frmImport_Load(form);
-    form.cboSpeed = kTenTimes;
-    EXPECT_EQ(form.speed, 0);
-    frmImport_Accept(form);
-    EXPECT_EQ(form.speed, kTenTimes);
 }
 
 TEST(LineTimeTest, IsReadAsTheProgramsThatWriteLogsPutIt)

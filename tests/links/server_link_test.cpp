@@ -1,6 +1,7 @@
 #include "links/link_status_rules.h"
 #include "links/server_form_rules.h"
 #include "links/server_link.h"
+#include "links/server_lists.h"
 #include "links/server_password.h"
 #include "links/server_status_rules.h"
 #include "links/tnc_link.h"
@@ -10,7 +11,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <memory>
 
@@ -62,15 +62,6 @@ TEST_F(ServerLinkTest, LogsInWithTheExactLine)
     EXPECT_EQ(program.wires.Written(), "user w1aw-7 pass 25988 vers Ruvenmark 1.0  filter r/41/-72/100\r\n");
 }
 
-TEST_F(ServerLinkTest, StaysSilentWithoutACall)
-{
-    SetSetting(main.Settings, Setting::Call, "");
-    ConnectServerLink(main);
-    EXPECT_TRUE(main.links.bServerConnected);
-    EXPECT_FALSE(main.links.bLoginSent);
-    EXPECT_EQ(program.wires.Written(), "");
-}
-
 TEST_F(ServerLinkTest, FindsThePassword)
 {
     const auto of = [&](const std::string& text, std::string_view call) {
@@ -102,20 +93,17 @@ TEST_F(ServerLinkTest, TogglesByTheDialog)
     EXPECT_FALSE(main.links.bServerConnected);
 
     program.dialogs.onRun[Form::frmTcp] = [](MainWindow& at) { EXPECT_TRUE(frmTcp_Accept(at)); };
-    const auto caption = [&] {
-        return FindState(MenuItems(main, Menu::Communication), MenuEntry::mnuConnectServer)->caption;
-    };
+    const auto caption = [&] { return StateOf(MenuEntry::mnuConnectServer, {main, nullptr}).caption; };
     EXPECT_EQ(caption(), "Connect &APRS Server...");
     mnuConnectServer_Click(main);
     EXPECT_TRUE(main.links.bServerConnected);
     EXPECT_EQ(caption(), "Disconnect &APRS Server");
-
-    main.links.ReconnectCount = 2;
     mnuConnectServer_Click(main);
-    EXPECT_FALSE(main.links.bServerConnected);
-    EXPECT_FALSE(program.wires.IsKept());
+    EXPECT_FALSE(main.links.bServerConnected || program.wires.IsKept());
     EXPECT_EQ(Shown(), kClosed);
-    EXPECT_EQ(main.links.ReconnectCount, 2);
+    ConnectServerLink(main);
+    EXPECT_EQ(StopMainWindow(main, MayAsk::No), StopResult::Stopped);
+    EXPECT_FALSE(main.links.bServerConnected || program.wires.IsKept());
 }
 
 TEST_F(ServerLinkTest, GoesToTheBackupOnTheFourthLossAndStaysThere)
@@ -185,7 +173,6 @@ TEST_F(ServerLinkTest, EndsWhereNothingIsLeftToTry)
     EXPECT_EQ(Shown(), kFailed);
     EXPECT_EQ(main.links.ReconnectCount, 0);
     EXPECT_FALSE(main.links.aprstcp);
-
     form.bReconnectServer = true;
     form.iBackupPort = -1;
     ConnectServerLink(main);
@@ -253,6 +240,8 @@ TEST_F(ServerLinkTest, TheTipTellsAgesOfTheMomentItIsLookedAt)
 {
     SetSetting(main.Settings, Setting::Call, "");
     ConnectServerLink(main);
+    EXPECT_TRUE(main.links.bServerConnected && !main.links.bLoginSent);
+    EXPECT_EQ(program.wires.Written(), "");
     program.wires.Tick(59s);
     program.wires.Say("N0CALL>APRS:>one\r\nN1CALL>APRS:>two\r\n");
     for (int i = 0; i < 5; ++i) {
@@ -331,74 +320,59 @@ TEST_F(ServerLinkTest, ASecondConnectTakesThePlaceOfTheFirst)
     EXPECT_TRUE(program.wires.IsKept());
 }
 
-TEST_F(ServerLinkTest, StopClosesTheLink)
-{
-    ConnectServerLink(main);
-    EXPECT_EQ(StopMainWindow(main, MayAsk::No), StopResult::Stopped);
-    EXPECT_FALSE(program.wires.IsKept());
-    EXPECT_FALSE(main.links.bServerConnected);
-}
-
-TEST_F(ServerLinkTest, DialogShowsAndTakesTheFields)
+TEST_F(ServerLinkTest, TheDialogTrimsTheBackupsFieldsAndShowsThemOnlyWithTheTick)
 {
     form.sBackupServer = " spare ";
     form.iReconnectAttempt = 3;
     frmTcp_Load(form);
-    EXPECT_EQ(form.cboPort, "14580");
-    EXPECT_EQ(form.cboBackupServer, ""); // Only with the tick.
+    EXPECT_EQ(form.cboBackupServer, "");
     form.chkReconnect = true;
     frmTcp_chkReconnect_Click(form);
-    EXPECT_EQ(form.cboBackupServer, "spare");
-    EXPECT_EQ(form.txtNumber, "3");
+    EXPECT_EQ(form.cboBackupServer + form.txtNumber, "spare3");
 
     form.cboServer = " prime ";
     form.cboBackupServer = " other ";
     form.cboBackupPort = " ";
     form.txtNumber = "";
     ASSERT_TRUE(frmTcp_Accept(main));
-    EXPECT_FALSE(form.bCancel);
-    EXPECT_EQ(form.sServerAddress, " prime ");
-    EXPECT_EQ(form.sBackupServer, "other");
+    EXPECT_EQ(form.sServerAddress + '|' + form.sBackupServer, " prime |other");
     EXPECT_EQ(form.iBackupPort, -1);
     EXPECT_EQ(form.iReconnectAttempt, 0);
-    EXPECT_TRUE(main.serverLists.ServerList.Contains(" other "));
-    EXPECT_TRUE(main.serverLists.ServerList.Contains(" prime "));
-    EXPECT_TRUE(main.serverLists.PortList.Contains("14580"));
+    for (const char* server : {" other ", " prime "})
+        EXPECT_TRUE(main.serverLists.ServerList.Contains(server)) << server;
 }
 
 // Every control shows its own field and gives it back: a tick changes its own field, and accepted as it comes the
 // dialog changes nothing.
 TEST_F(ServerLinkTest, TheDialogsControlsHoldTheirOwnFields)
 {
-    using Flag = bool ServerForm::*;
-    constexpr std::array<Flag, 4> kFlags = {&ServerForm::bServerBeacon, &ServerForm::bAddTCPSymbol,
-                                            &ServerForm::bAutoTCP, &ServerForm::bBackupBeacon};
-    constexpr std::array<Flag, 4> kTicks = {&ServerForm::chkServerBeacon, &ServerForm::chkAdd, &ServerForm::chkAuto,
-                                            &ServerForm::chkBackupBeacon};
+    struct Tick {
+        bool ServerForm::*field;
+        bool ServerForm::*box;
+    };
     form.sServerFilter = "filter p/N";
     form.sBackupFilter = "filter t/m";
     form.iReconnectAttempt = 3;
     form.bReconnectServer = true;
-    const auto fields = [&] {
-        std::string text = form.sServerAddress + '|' + std::to_string(form.iServerPort) + '|' + form.sServerFilter +
-                           '|' + form.sBackupServer + '|' + std::to_string(form.iBackupPort) + '|' +
-                           form.sBackupFilter + '|' + std::to_string(form.iReconnectAttempt) +
-                           (form.bReconnectServer ? "R" : "");
-        for (const Flag flag : kFlags)
-            text += form.*flag ? '1' : '0';
-        return text;
+    const auto stored = [&] {
+        SaveServerLists(main);
+        return StoredText(program.store);
     };
-    for (const Flag& alone : kFlags) {
+    for (const auto& [field, box] :
+         {Tick{&ServerForm::bServerBeacon, &ServerForm::chkServerBeacon},
+          Tick{&ServerForm::bAddTCPSymbol, &ServerForm::chkAdd}, Tick{&ServerForm::bAutoTCP, &ServerForm::chkAuto},
+          Tick{&ServerForm::bBackupBeacon, &ServerForm::chkBackupBeacon}}) {
         frmTcp_Load(form);
-        form.*kTicks[static_cast<std::size_t>(&alone - kFlags.data())] = !(form.*alone);
-        form.*alone = !(form.*alone); // What the one tick is to change.
-        const std::string wanted = fields();
-        form.*alone = !(form.*alone);
-        ASSERT_TRUE(frmTcp_Accept(main));
-        EXPECT_EQ(fields(), wanted);
-        frmTcp_Load(form);
-        ASSERT_TRUE(frmTcp_Accept(main));
-        EXPECT_EQ(fields(), wanted);
+        ServerForm ticked = form;
+        ticked.*box = !(form.*box);
+        form.*field = !(form.*field); // What the one tick is to change.
+        const std::string wanted = stored();
+        form = ticked;
+        for (int i = 0; i < 2; ++i) {
+            ASSERT_TRUE(frmTcp_Accept(main));
+            EXPECT_EQ(stored(), wanted);
+            frmTcp_Load(form);
+        }
     }
     EXPECT_TRUE(main.serverLists.PortList.Contains("10152"));
     EXPECT_TRUE(main.serverLists.ServerFilterList.Contains("filter t/m"));

@@ -75,29 +75,22 @@ TEST_F(StationFiles, TheStatusBarSumsUpWhatWasLoaded)
     EXPECT_EQ(ended, 4);
 }
 
-// Strange but told so: the percentage of a single line is none.
-TEST_F(StationFiles, OneLineIsParsedAndFails)
-{
-    p.main.frmImport.iFLDelay = 10;
-    Load("\r\n" + Line("A") + "\r\n");
-    EXPECT_THAT(Stations(), ElementsAre("A"));
-    EXPECT_THAT(p.prompts.messages, ElementsAre(kFailed));
-    EXPECT_EQ(p.yield.calls, 0);
-    EXPECT_THAT(p.sleep.slept, IsEmpty());
-}
-
-TEST_F(StationFiles, NoLinesSayNothingAndNoFileFails)
+TEST_F(StationFiles, NoLinesSayNothingAndASingleOneOrNoFileFails)
 {
     Load("");
     Load("\r\n\n\r\n");
     Load("\0\n"s + Line("A") + "\0\n"s); // Lines with a NUL vanish.
     EXPECT_THAT(p.prompts.messages, IsEmpty());
     EXPECT_EQ(p.Text("FL"), "FL reports");
+    p.main.frmImport.iFLDelay = 10;
+    Load("\r\n" + Line("A") + "\r\n"); // Parsed, but strangely told so: the percentage of a single line is none.
+    EXPECT_THAT(Stations(), ElementsAre("A"));
+    EXPECT_EQ(p.yield.calls, 0);
+    EXPECT_THAT(p.sleep.slept, IsEmpty());
     p.files.unreadable.insert("/day.txt");
     Load(FourLines());
-    EXPECT_THAT(p.prompts.messages, ElementsAre(kFailed));
     LoadStationFile(p.main, "/missing");
-    EXPECT_EQ(p.prompts.messages.size(), 2U);
+    EXPECT_THAT(p.prompts.messages, ElementsAre(kFailed, kFailed, kFailed));
 }
 
 // A mark at the head is no part of the first packet, and a line that is too long costs no other line.
@@ -146,17 +139,7 @@ TEST_F(StationFiles, APipeIsReadAsItComes)
     LoadStationFile(p.main, stopped);
     EXPECT_THAT(Stations(), ElementsAre("A", "B", "C", "D"));
     EXPECT_THAT(p.prompts.messages, IsEmpty());
-}
-
-TEST_F(StationFiles, AStopKeepsWhatWasParsed)
-{
-    p.yield.At(2, [&] { mnuImportStations_Click(p.main); });
-    p.main.frmImport.iFLDelay = 10;
-    Load(FourLines());
-    EXPECT_THAT(Stations(), ElementsAre("A", "B"));
-    EXPECT_THAT(p.prompts.messages, IsEmpty());
     EXPECT_THAT(p.prompts.fileTitles, IsEmpty()); // The entry stopped the load; it asked for no file.
-    EXPECT_THAT(p.sleep.slept, ElementsAre(10));  // No pause behind a stop.
 }
 
 // The program ends while a file loads: what is saved must not be filled again behind its back.
@@ -248,9 +231,11 @@ TEST_F(StationFiles, TheMenuAsksForFileAndOptions)
 
     p.dialogs.onRun[Form::frmImport] = [](MainWindow& main) {
         EXPECT_EQ(main.frmImport.txtDelay, "0"); // A former cancel shows as none.
+        main.frmImport.cboSpeed = 4;
         frmImport_Accept(main.frmImport);
     };
     mnuLoadStations_Click(p.main);
+    EXPECT_EQ(p.main.frmImport.speed, 4);
     EXPECT_EQ(p.Text("FL"), "FL reports (4)");
 }
 

@@ -86,31 +86,39 @@ TEST_F(TncLink, ASerialConnectSendsTheOperatorsLinesThenThoseOfTheGps)
 }
 
 // Without files and a receiver nothing is typed at all: the TNC may be in use by its operator.
-TEST_F(TncLink, WithoutFilesAndGpsNothingIsSent)
+TEST_F(TncLink, TheTreesRootConnectsAndWithoutFilesAndGpsNothingIsSent)
 {
+    program.Select("RF");
+    const auto caption = [&] { return StateOf(MenuEntry::mnuPopupConnect, {main, program.Node("RF")}).caption; };
+    EXPECT_EQ(caption(), "Connect TNC...");
     AcceptSerial();
-    ConnectTnc(main);
-    ConnectTnc(main);
+    RunMenuEntry(main, MenuEntry::mnuPopupConnect);
+    EXPECT_EQ(caption(), "Disconnect TNC");
+    RunMenuEntry(main, MenuEntry::mnuPopupConnect);
     EXPECT_THAT(program.wires.Written(), testing::Not(testing::HasSubstr("\r"))); // Nothing but the call to attention.
     EXPECT_EQ(Panel(), "TNC disconnected");
 }
 
-TEST_F(TncLink, FailuresAndLossesShowAndFreeTheLink)
+// Of a receiver behind a TNC that is gone nothing more is known; of one on a port of its own it still is.
+TEST_F(TncLink, FailuresAndLossesShowAndFreeTheLinkAndAReceiversFixGoesWithItsTnc)
 {
     program.wires.bRefuse = true;
     AcceptSerial();
     ConnectTnc(main);
     EXPECT_EQ(Panel(), "TNC connection failed");
-    EXPECT_FALSE(main.links.bSerialConnected);
-    EXPECT_FALSE(main.links.aprs);
-
+    EXPECT_FALSE(main.links.bSerialConnected || main.links.aprs);
     program.wires.bRefuse = false;
-    ConnectTnc(main);
-    program.wires.Lose();
-    program.wires.Tick(std::chrono::seconds(1));
-    EXPECT_EQ(Panel(), "TNC connection unexpectedly closed");
-    EXPECT_FALSE(main.links.bSerialConnected);
-    EXPECT_FALSE(main.links.aprs);
+    for (const bool bBehindTnc : {true, false}) {
+        AcceptSerial(bBehindTnc);
+        ConnectTnc(main);
+        main.gps.bValidFix = true;
+        SetSetting(main.Settings, Setting::Speed, "30");
+        program.wires.Lose();
+        EXPECT_EQ(Panel(), "TNC connection unexpectedly closed");
+        EXPECT_FALSE(main.links.bSerialConnected || main.links.aprs);
+        EXPECT_EQ(main.gps.bValidFix, !bBehindTnc);
+        EXPECT_EQ(SettingText(main.Settings, Setting::Speed), bBehindTnc ? "" : "30");
+    }
 }
 
 TEST_F(TncLink, TheAgwEngineIsConnectedWhenItSaysSo)
@@ -133,21 +141,6 @@ TEST_F(TncLink, TheAgwEngineIsConnectedWhenItSaysSo)
     program.Sink(Channel::RF).SocketConnectionError();
     EXPECT_EQ(Panel(), "AGW connection failed");
     EXPECT_FALSE(main.links.aprs);
-}
-
-// Of a receiver behind a TNC that is gone nothing more is known; of one on a port of its own it still is.
-TEST_F(TncLink, AReceiversFixGoesWithItsTnc)
-{
-    for (const bool bBehindTnc : {true, false}) {
-        AcceptSerial(bBehindTnc);
-        ConnectTnc(main);
-        main.gps.bValidFix = true;
-        SetSetting(main.Settings, Setting::Speed, "30");
-        program.wires.Lose();
-        EXPECT_FALSE(main.links.bSerialConnected);
-        EXPECT_EQ(main.gps.bValidFix, !bBehindTnc);
-        EXPECT_EQ(SettingText(main.Settings, Setting::Speed), bBehindTnc ? "" : "30");
-    }
 }
 
 // Begun at the connect, not before: an engine that is still being called is no link.
@@ -206,18 +199,6 @@ TEST_F(TncLink, TheStartConnectsWhatWasChosenAndTheStopPutsTheTncBack)
     EXPECT_FALSE(p.main.links.aprs);
 }
 
-TEST_F(TncLink, TheTreesRootConnects)
-{
-    program.Select("RF");
-    const TreeNode* node = program.Node("RF");
-    const auto caption = [&] { return StateOf(MenuEntry::mnuPopupConnect, {main, node}).caption; };
-    EXPECT_EQ(caption(), "Connect TNC...");
-    AcceptSerial();
-    RunMenuEntry(main, MenuEntry::mnuPopupConnect);
-    EXPECT_TRUE(main.links.bSerialConnected);
-    EXPECT_EQ(caption(), "Disconnect TNC");
-}
-
 // --- The dialog
 
 TEST_F(TncLink, TheDialogTellsWhatIsMissingInItsOrder)
@@ -274,44 +255,36 @@ TEST_F(TncLink, TheDialogsControlsHoldTheirOwnFields)
     form.iSocketPort = 8001;
     form.iSentenceIndex = 2;
     form.iUpdateRateIndex = 7;
-    const auto fields = [&] {
-        return form.sSerialPort + '|' + std::to_string(form.lLastBaudRate) + '|' + std::to_string(form.iBaudListIndex) +
-               '|' + form.sSocketAddress + '|' + std::to_string(form.iSocketPort) + '|' +
-               std::to_string(form.iSentenceIndex) + '|' + std::to_string(form.iUpdateRateIndex) +
-               (form.bConnectSocket ? "S" : "") + (form.bTncGps ? "G" : "") + (form.bAutoConnect ? "C" : "");
+    const auto stored = [&] {
+        SaveCommSettings(main);
+        return StoredText(program.store);
     };
     for (const bool bSocket : {false, true}) {
         for (const bool bFlag : {false, true}) {
             form.bConnectSocket = bSocket;
-            form.bAddRFSymbol = !bFlag;
             form.bTncGps = !bFlag;
-            const std::string before = fields();
+            form.bAddRFSymbol = bFlag; // As it is to become.
+            const std::string wanted = stored();
+            form.bAddRFSymbol = !bFlag;
             commDialog_Load(form);
             EXPECT_EQ(form.chkAdd, !bFlag);
             form.chkAdd = bFlag;
             if (!AreGpsListsEnabled(form))
                 form.cboSentence = form.cboUpdateRate = 0;
             ASSERT_TRUE(commDialog_Accept(main));
-            EXPECT_EQ(fields(), before);
-            EXPECT_EQ(form.bAddRFSymbol, bFlag);
-            if (form.bTncGps && !bSocket) {
-                EXPECT_EQ(form.sGpsSentence, "$GPGLL");
-            }
+            EXPECT_EQ(stored(), wanted);
+            EXPECT_EQ(form.sGpsSentence, "$GPGLL"); // Since the first of them.
         }
     }
 }
 
 TEST_F(TncLink, TheUpdateRatesAreWhatTheirTextsSay)
 {
-    EXPECT_EQ(UpdateRateText(0), "No Update");
-    EXPECT_EQ(UpdateRateText(1), "Every Second");
-    EXPECT_EQ(UpdateRateText(10), "Every 10 Seconds");
-    EXPECT_EQ(UpdateRateText(11), "Every 20 Seconds");
-    EXPECT_EQ(UpdateRateText(19), "Every 100 Seconds");
-    EXPECT_EQ(UpdateRateText(20), "Every 150 Seconds");
-    EXPECT_EQ(UpdateRateText(23), "Every 300 Seconds");
-    EXPECT_EQ(UpdateRateSeconds(-1), 0);
-    EXPECT_EQ(UpdateRateSeconds(32767), 0);
+    for (const auto& [position, seconds] : {std::pair{2, 2}, {10, 10}, {11, 20}, {19, 100}, {20, 150}, {23, 300}}) {
+        EXPECT_EQ(UpdateRateSeconds(position), seconds);
+        EXPECT_EQ(UpdateRateText(position), "Every " + std::to_string(seconds) + " Seconds");
+    }
+    EXPECT_EQ(UpdateRateSeconds(-1) + UpdateRateSeconds(32767), 0);
 }
 
 } // namespace

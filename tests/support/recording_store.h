@@ -34,4 +34,13 @@ private:
     MemorySettingsStore m_kept, m_lasting;
 };
 
+// All that was kept so far, for comparing.
+inline std::string StoredText(const RecordingStore& store)
+{
+    std::string text;
+    for (const auto& [key, value] : store.Values())
+        text += key + '=' + value + ' ';
+    return text;
+}
+
 } // namespace ruvenmark

@@ -4,7 +4,7 @@
 #include "ui/menus.h"
 #include "ui/tool_bar.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <algorithm>
 #include <set>
@@ -14,13 +14,16 @@
 namespace ruvenmark {
 namespace {
 
-// The entries that have a tick.
-std::vector<std::string> Ticked(const TestProgram& program, Menu menu)
+using testing::ElementsAre;
+
+// The entries of these menus that have a tick.
+std::vector<std::string_view> Ticked(const TestProgram& program, std::initializer_list<Menu> menus)
 {
-    std::vector<std::string> ticked;
-    for (const MenuItem& item : MenuItems(program.main, menu))
-        if (item.state.bChecked)
-            ticked.emplace_back(Info(item.entry).name);
+    std::vector<std::string_view> ticked;
+    for (const Menu menu : menus)
+        for (const MenuItem& item : MenuItems(program.main, menu))
+            if (item.state.bChecked)
+                ticked.emplace_back(Info(item.entry).name);
     return ticked;
 }
 
@@ -76,37 +79,29 @@ TEST(Menus, EveryCommandOfTheMenuBarRunsOnAFreshProgramAndWithoutAMap)
     }
 }
 
-TEST(Menus, ViewTicksWhatShows)
+TEST(Menus, WhatShowsAndIsChosenIsTicked)
 {
     TestProgram program;
-    EXPECT_EQ(Ticked(program, Menu::View),
-              (std::vector<std::string>{"mnuViewToolbar", "mnuViewStatusBar", "mnuTreeView", "mnuViewMap"}));
-    RunMenuEntry(program.main, MenuEntry::mnuViewMessages);
-    EXPECT_EQ(Ticked(program, Menu::View).back(), "mnuViewMessages");
-    RunMenuEntry(program.main, MenuEntry::mnuViewMap);
-    EXPECT_EQ(Ticked(program, Menu::View).back(), "mnuViewMap");
-    EXPECT_EQ(Ticked(program, Menu::MapFont), std::vector<std::string>{"mnuFontMedium"});
-    EXPECT_EQ(Ticked(program, Menu::MapStyle), std::vector<std::string>{"mnuRoadMap"});
-    EXPECT_EQ(Ticked(program, Menu::MapToolbars),
-              (std::vector<std::string>{"mnuNavigationToolbar", "mnuDrawingToolbar"}));
-    EXPECT_EQ(Ticked(program, Menu::Region), std::vector<std::string>{"mnuRegionNorthAmerica"});
-    EXPECT_EQ(Ticked(program, Menu::Tools),
-              (std::vector<std::string>{"mnuToolsStationTracking", "mnuToolsGpsTracking", "mnuToolsShowTrackLine"}));
-    EXPECT_FALSE(FindState(MenuItems(program.main, Menu::Tools), MenuEntry::mnuRemoveAllTracks)->bEnabled);
-
+    const auto ticked = [&] {
+        return Ticked(program,
+                      {Menu::View, Menu::MapFont, Menu::MapStyle, Menu::MapToolbars, Menu::Region, Menu::Tools});
+    };
+    EXPECT_THAT(ticked(),
+                ElementsAre("mnuViewToolbar", "mnuViewStatusBar", "mnuTreeView", "mnuViewMap", "mnuFontMedium",
+                            "mnuRoadMap", "mnuNavigationToolbar", "mnuDrawingToolbar", "mnuRegionNorthAmerica",
+                            "mnuToolsStationTracking", "mnuToolsGpsTracking", "mnuToolsShowTrackLine"));
+    for (const MenuEntry entry : {MenuEntry::mnuViewMessages, MenuEntry::mnuViewMap}) {
+        RunMenuEntry(program.main, entry);
+        EXPECT_EQ(Ticked(program, {Menu::View}).back(), Info(entry).name);
+    }
     for (const MenuEntry entry :
          {MenuEntry::mnuViewToolbar, MenuEntry::mnuTreeView, MenuEntry::mnuOnlineTiles, MenuEntry::mnuFontSmallest,
           MenuEntry::mnuToolsShowTrackLine, MenuEntry::mnuDirections, MenuEntry::mnuPoliticalMap,
-          MenuEntry::mnuStandardToolbar, MenuEntry::mnuDrawingToolbar})
+          MenuEntry::mnuStandardToolbar, MenuEntry::mnuDrawingToolbar, MenuEntry::mnuRuvenmarkHelp})
         RunMenuEntry(program.main, entry);
-    RunMenuEntry(program.main, MenuEntry::mnuRuvenmarkHelp);
-    EXPECT_EQ(Ticked(program, Menu::View), (std::vector<std::string>{"mnuViewStatusBar", "mnuOnlineTiles"}));
-    EXPECT_EQ(Ticked(program, Menu::Tools),
-              (std::vector<std::string>{"mnuToolsStationTracking", "mnuToolsGpsTracking", "mnuDirections"}));
-    EXPECT_EQ(Ticked(program, Menu::MapFont), std::vector<std::string>{"mnuFontSmallest"});
-    EXPECT_EQ(Ticked(program, Menu::MapStyle), std::vector<std::string>{"mnuPoliticalMap"});
-    EXPECT_EQ(Ticked(program, Menu::MapToolbars),
-              (std::vector<std::string>{"mnuStandardToolbar", "mnuNavigationToolbar"}));
+    EXPECT_THAT(ticked(), ElementsAre("mnuViewStatusBar", "mnuOnlineTiles", "mnuFontSmallest", "mnuPoliticalMap",
+                                      "mnuStandardToolbar", "mnuNavigationToolbar", "mnuRegionNorthAmerica",
+                                      "mnuToolsStationTracking", "mnuToolsGpsTracking", "mnuDirections"));
 }
 
 // Each entry below the button speaks of its own link, and says what it would do now.
@@ -123,14 +118,12 @@ TEST(Menus, TheConnectButtonSaysWhatItsEntriesWouldDo)
             texts.push_back(std::string(entry.key) + ": " + DropDownCaption(program.main, entry));
         return texts;
     };
-    EXPECT_EQ(captions(),
-              (std::vector<std::string>{"mnuTbConnectTNC: Connect TNC...", "mnuTbConnectServer: Connect APRS Server...",
-                                        "mnuTbConnectGps: Connect GPS...", "mnuTbConnectWx: Connect Wx Station..."}));
+    EXPECT_THAT(captions(), ElementsAre("mnuTbConnectTNC: Connect TNC...", "mnuTbConnectServer: Connect APRS Server...",
+                                        "mnuTbConnectGps: Connect GPS...", "mnuTbConnectWx: Connect Wx Station..."));
     LinkState& links = program.main.links;
     links.bSocketConnected = links.bServerConnected = links.bGpsConnected = links.bWxConnected = true;
-    EXPECT_EQ(captions(),
-              (std::vector<std::string>{"mnuTbConnectTNC: Disconnect TNC", "mnuTbConnectServer: Disconnect APRS Server",
-                                        "mnuTbConnectGps: Disconnect GPS", "mnuTbConnectWx: Disconnect Wx Station"}));
+    EXPECT_THAT(captions(), ElementsAre("mnuTbConnectTNC: Disconnect TNC", "mnuTbConnectServer: Disconnect APRS Server",
+                                        "mnuTbConnectGps: Disconnect GPS", "mnuTbConnectWx: Disconnect Wx Station"));
 }
 
 // Points or lines of any channel are tracks.

@@ -79,14 +79,13 @@ TEST(PopupMenus, RootsShowTheirOwnForm)
 TEST(PopupMenus, NothingUnderThePointerOffersWhatIsForAll)
 {
     TestProgram program;
-    EXPECT_EQ(Shown(RightClick(program, "")),
-              (Names{"Delete all Reports", "Show All Station Names*", "Hide All Station Names",
-                     "-Hide All Range Circles", "Show Tracked Stations Only", "Load Stations..."}));
+    Names names{"Delete all Reports",      "Show All Station Names*",    "Hide All Station Names",
+                "-Hide All Range Circles", "Show Tracked Stations Only", "Load Stations..."};
+    EXPECT_EQ(Shown(RightClick(program, "")), names);
     SetSetting(program.main.Settings, Setting::ShowRFNames, "0");
     SetSetting(program.main.Settings, Setting::ShowTCPNames, "no number");
-    const auto captions = Shown(RightClick(program, ""));
-    EXPECT_EQ(captions[1], "Show All Station Names");
-    EXPECT_EQ(captions[2], "Hide All Station Names");
+    names[1].pop_back();
+    EXPECT_EQ(Shown(RightClick(program, "")), names);
 }
 
 TEST(PopupMenus, AStationsEntriesFollowItsChannel)

@@ -14,26 +14,19 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-TEST(StationTree, IsSortedOnceByCommand)
+TEST(StationTree, IsSortedOnceByCommandAndAnExpandedStationIsNoNews)
 {
     TestProgram program;
     for (const char* call : {"N3C", "n1a", "N2B"})
         program.Position(Channel::TCP, call, 40, -80);
     program.Select("TCPPositions");
     RunMenuEntry(program.main, MenuEntry::mnuTcpSort);
-    EXPECT_EQ(program.ChildTexts("TCPPositions"), (Texts{"n1a", "N2B", "N3C"}));
     program.Position(Channel::TCP, "N0Z", 40, -80);
     EXPECT_EQ(program.ChildTexts("TCPPositions"), (Texts{"n1a", "N2B", "N3C", "N0Z"}));
-}
-
-TEST(StationTree, AnExpandedStationIsNoNews)
-{
-    TestProgram program;
-    program.Position(Channel::RF, "N0CALL", 40, -80);
-    tvStationList_Expand(program.main, *program.Node("RFPositionsN0CALL"));
-    tvStationList_Expand(program.main, *program.Node("RFPositions"));
-    EXPECT_FALSE(program.Node("RFPositionsN0CALL")->IsBold());
-    EXPECT_TRUE(program.Node("RFPositions")->IsBold());
+    for (const char* key : {"TCPPositionsN0Z", "TCPPositions"})
+        tvStationList_Expand(program.main, *program.Node(key));
+    EXPECT_FALSE(program.Node("TCPPositionsN0Z")->IsBold());
+    EXPECT_TRUE(program.Node("TCPPositions")->IsBold());
 }
 
 TEST(StationTree, RemovesAStationAfterAsking)
@@ -128,19 +121,7 @@ TEST(StationTree, UnloadingWhileAFileLoadsEndsTheLoad)
     EXPECT_TRUE(program.prompts.messages.empty());
 }
 
-TEST(StationTree, RadioServerAndOwnStationAreNeverUnloaded)
-{
-    TestProgram program;
-    program.prompts.answers = {Answer::Yes, Answer::Yes, Answer::Yes};
-    for (const char* key : {"RF", "TCP", "My"}) {
-        program.Select(key);
-        RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
-        EXPECT_NE(program.Node(key), nullptr);
-    }
-    EXPECT_TRUE(program.prompts.questions.empty());
-}
-
-TEST(StationTree, FiltersAreSwitchedAndEditedByTheirRoot)
+TEST(StationTree, FiltersAreSwitchedAndEditedByTheirRootAndOnlyFilesAreUnloaded)
 {
     TestProgram program;
     program.Select("TCP");
@@ -148,11 +129,16 @@ TEST(StationTree, FiltersAreSwitchedAndEditedByTheirRoot)
     EXPECT_TRUE(program.main.Of(Channel::TCP).Filter.bOn);
     EXPECT_FALSE(program.main.Of(Channel::RF).Filter.bOn);
     RunMenuEntry(program.main, MenuEntry::mnuPopupEditFilter);
-    EXPECT_EQ(program.dialogs.calls, Texts{"Show frmFilter"});
     EXPECT_EQ(program.main.frmFilter.SSTab1, 1);
     program.Select("RFPositions");
     RunMenuEntry(program.main, MenuEntry::mnuPopupEditFilter);
-    EXPECT_EQ(program.dialogs.calls.size(), 1U);
+    EXPECT_EQ(program.dialogs.calls, Texts{"Show frmFilter"});
+    for (const char* key : {"RF", "TCP", "My"}) {
+        program.Select(key);
+        RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
+        EXPECT_NE(program.Node(key), nullptr);
+    }
+    EXPECT_TRUE(program.prompts.questions.empty());
 }
 
 TEST(StationTree, OperatorInfoOpensTheBrowserWithASafeAddress)
