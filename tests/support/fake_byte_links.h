@@ -14,7 +14,7 @@ namespace ruvenmark {
 
 // Wires of the test's making, with a clock that only the test moves. What the other end does happens on the wire that
 // was opened last, or on the one that is chosen.
-class FakeByteLinks final : public IByteLinks {
+class FakeByteLinks : public IByteLinks {
 public:
     // Goes on with the wire whose `opened` begins so: the one of them that was opened last.
     void Use(std::string_view how)

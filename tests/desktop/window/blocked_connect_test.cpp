@@ -7,29 +7,18 @@
 #include "support/black_hole.h"
 #include "window_program.h"
 
-#include <QElapsedTimer>
-#include <QPushButton>
-
 namespace ruvenmark {
 namespace {
 
 using namespace std::chrono_literals;
 
 // The system's wires, of which a connect may take a second instead of its own limit.
-class HastyByteLinks final : public IByteLinks {
+class HastyByteLinks final : public FakeByteLinks {
 public:
     std::function<void()> paint;
     std::chrono::seconds limit{}; // That was asked for.
     int connects = 0;
 
-    std::unique_ptr<IByteLink> OpenSerial(std::string_view port, std::int32_t baud, IByteSink& sink) override
-    {
-        return m_links.OpenSerial(port, baud, sink);
-    }
-    std::unique_ptr<IByteLink> StartSocket(std::string_view host, std::int32_t port, IByteSink& sink) override
-    {
-        return m_links.StartSocket(host, port, sink);
-    }
     std::unique_ptr<IByteLink> ConnectSocket(std::string_view host, std::int32_t port, std::chrono::seconds wanted,
                                              IByteSink& sink) override
     {
@@ -37,8 +26,6 @@ public:
         ++connects;
         return m_links.ConnectSocket(host, port, 1s, sink);
     }
-    std::vector<std::string> SerialPorts() override { return {}; }
-    Moment Now() const override { return m_links.Now(); }
 
 private:
     QtByteLinks m_links{[this] { paint(); }};

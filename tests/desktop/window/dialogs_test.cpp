@@ -13,16 +13,6 @@
 #include "tracking/track_lists.h"
 #include "window_program.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QTabBar>
-#include <QTabWidget>
-
 #include <algorithm>
 
 namespace ruvenmark {
@@ -31,13 +21,7 @@ namespace {
 class DialogsTest : public testing::Test {
 protected:
     QPushButton& Button(QDialog& dialog, const char* name) { return program.Find<QPushButton>(name, &dialog); }
-    void Type(QDialog& dialog, const char* name, const char* text)
-    {
-        auto& edit = program.Find<QLineEdit>(name, &dialog);
-        edit.selectAll();
-        edit.del();
-        QTest::keyClicks(&edit, QString::fromLatin1(text));
-    }
+    QLineEdit& Edit(QDialog& dialog, const char* name) { return program.Find<QLineEdit>(name, &dialog); }
     QDialog& Modeless(const char* title)
     {
         for (auto* dialog : program.window.findChildren<QDialog*>())
@@ -72,50 +56,41 @@ void ExpectAccessible(const QDialog& dialog)
     EXPECT_GT(count, 0) << dialog.windowTitle().toStdString();
 }
 
-TEST_F(DialogsTest, ImportRefusesWhatIsNoDelayAndKeepsIt)
+TEST_F(DialogsTest, ImportRefusesWhatIsNoDelayButNotOnTheWayToCancel)
 {
-    program.main.frmImport.iFLDelay = -1;
-    program.main.frmImport.bFLShow = false;
+    ImportForm& form = program.main.frmImport;
+    form.iFLDelay = -1;
+    form.bFLShow = false;
     WhenModal([&](QDialog& dialog) {
         ExpectAccessible(dialog);
-        EXPECT_EQ(program.Find<QLineEdit>("txtDelay", &dialog).text(), QStringLiteral("0"));
+        QLineEdit& delay = Edit(dialog, "txtDelay");
+        auto& add = program.Find<QCheckBox>("chkAdd", &dialog);
+        EXPECT_EQ(delay.text(), QStringLiteral("0"));
         EXPECT_FALSE(program.Find<QCheckBox>("chkShow", &dialog).isChecked());
-        for (const char* wrong : {"-5", "soon", "99999"}) {
-            Type(dialog, "txtDelay", wrong);
-            QTest::keyClick(&dialog, Qt::Key_Return);
-            EXPECT_TRUE(dialog.isVisible());
-            EXPECT_EQ(program.Find<QLineEdit>("txtDelay", &dialog).text(), QLatin1String(wrong));
-        }
-        Type(dialog, "txtDelay", "25");
-        program.Find<QCheckBox>("chkAdd", &dialog).click();
-        QTest::keyClick(&dialog, Qt::Key_Return);
-    });
-    frmImport_Load(program.main.frmImport);
-    program.dialogs.Run(Form::frmImport, program.main);
-    EXPECT_EQ(program.prompts.messages, (std::vector<std::string>(3, "Enter a non negative number for delay!")));
-    EXPECT_EQ(program.main.frmImport.iFLDelay, 25);
-    EXPECT_FALSE(program.main.frmImport.bFLAdd);
-    EXPECT_FALSE(program.main.frmImport.bFLShow);
-}
-
-TEST_F(DialogsTest, ImportTellsOnLeavingTheFieldButNotOnTheWayToCancel)
-{
-    WhenModal([&](QDialog& dialog) {
-        auto& delay = program.Find<QLineEdit>("txtDelay", &dialog);
         delay.setFocus();
-        Type(dialog, "txtDelay", "-5");
+        Type(delay, "-5");
         Button(dialog, "Cancel").setFocus(Qt::TabFocusReason);
         QCoreApplication::processEvents();
         EXPECT_TRUE(program.prompts.messages.empty());
         delay.setFocus();
-        program.Find<QCheckBox>("chkAdd", &dialog).setFocus(Qt::TabFocusReason);
+        add.setFocus(Qt::TabFocusReason);
         EXPECT_TRUE(QTest::qWaitFor([&] { return delay.hasFocus(); }));
         EXPECT_EQ(program.prompts.messages.size(), 1U);
-        QTest::keyClick(&dialog, Qt::Key_Escape);
+        for (const char* wrong : {"-5", "soon", "99999"}) {
+            Type(delay, wrong);
+            QTest::keyClick(&dialog, Qt::Key_Return);
+            EXPECT_TRUE(dialog.isVisible());
+            EXPECT_EQ(delay.text(), QLatin1String(wrong));
+        }
+        Type(delay, "25");
+        add.click();
+        QTest::keyClick(&dialog, Qt::Key_Return);
     });
-    frmImport_Load(program.main.frmImport);
+    frmImport_Load(form);
     program.dialogs.Run(Form::frmImport, program.main);
-    EXPECT_EQ(program.main.frmImport.iFLDelay, -1);
+    EXPECT_EQ(program.prompts.messages, (std::vector<std::string>(4, "Enter a non negative number for delay!")));
+    EXPECT_EQ(form.iFLDelay, 25);
+    EXPECT_FALSE(form.bFLAdd || form.bFLShow);
 }
 
 TEST_F(DialogsTest, RegionIsThatOfTheCountryAndOneWithoutAChoice)
@@ -138,14 +113,14 @@ TEST_F(DialogsTest, TrackListTakesTheListsOver)
     program.prompts.files = {"/sounds/ping.wav"};
     WhenModal([&](QDialog& dialog) {
         ExpectAccessible(dialog);
-        EXPECT_EQ(program.Find<QLineEdit>("txtRfTrackList", &dialog).text(), QStringLiteral("N0CALL-9"));
+        EXPECT_EQ(Edit(dialog, "txtRfTrackList").text(), QStringLiteral("N0CALL-9"));
         EXPECT_EQ(program.Find<QComboBox>("cboTLSize", &dialog).currentText(), QStringLiteral("2 Points"));
-        Type(dialog, "txtTcpTrackList", "dl1abc  dl2xyz");
+        Type(Edit(dialog, "txtTcpTrackList"), "dl1abc  dl2xyz");
         auto& style = program.Find<QComboBox>("cboTLStyle", &dialog);
         style.setFocus();
         QTest::keyClick(&style, Qt::Key_End);
         Button(dialog, "cmdBrowse").click();
-        EXPECT_EQ(program.Find<QLineEdit>("txtTrackWaveFile", &dialog).text(), QStringLiteral("/sounds/ping.wav"));
+        EXPECT_EQ(Edit(dialog, "txtTrackWaveFile").text(), QStringLiteral("/sounds/ping.wav"));
         Button(dialog, "OK").click();
     });
     mnuTrackedStations_Click(program.main);
@@ -154,39 +129,37 @@ TEST_F(DialogsTest, TrackListTakesTheListsOver)
     EXPECT_EQ(SettingText(program.main.Settings, Setting::TrackWaveFile), "/sounds/ping.wav");
 }
 
-TEST_F(DialogsTest, FilterIsSavedInUpperCaseAndOnlyBySave)
+TEST_F(DialogsTest, FilterIsSavedOnlyBySaveAndNotOutOfBounds)
 {
     QDialog& dialog = Filter();
     ExpectAccessible(dialog);
-    Type(dialog, "txtRfName", "n0*");
-    Type(dialog, "txtFlRange", "30");
-    program.Find<QCheckBox>("chkRfFilter", &dialog).click();
+    const ReportFilter& kept = program.main.Of(Channel::RF).Filter;
+    const auto fill = [&] {
+        EXPECT_EQ(Edit(dialog, "txtRfName").text(), QString());
+        Type(Edit(dialog, "txtRfName"), "n0*");
+        program.Find<QCheckBox>("chkRfFilter", &dialog).click();
+    };
+    fill();
     QTest::keyClick(&dialog, Qt::Key_Escape);
-    EXPECT_EQ(program.main.Of(Channel::RF).Filter.Call, "");
+    EXPECT_EQ(kept.Call, "");
     Filter();
-    EXPECT_EQ(program.Find<QLineEdit>("txtRfName", &dialog).text(), QString());
-    Type(dialog, "txtRfName", "n0*");
-    program.Find<QCheckBox>("chkRfFilter", &dialog).click();
-    Button(dialog, "OK").click();
-    EXPECT_FALSE(dialog.isVisible());
-    EXPECT_EQ(program.main.Of(Channel::RF).Filter.Call, "N0*");
-    EXPECT_TRUE(program.main.Of(Channel::RF).Filter.bOn);
-}
-
-TEST_F(DialogsTest, FilterEmptiesAFieldThatIsOutOfBounds)
-{
-    QDialog& dialog = Filter();
-    auto& lat = program.Find<QLineEdit>("txtRfLat", &dialog);
+    fill();
+    QLineEdit& lat = Edit(dialog, "txtRfLat");
     lat.setFocus();
-    Type(dialog, "txtRfLat", "91");
-    program.Find<QLineEdit>("txtRfLon", &dialog).setFocus(Qt::TabFocusReason);
+    Type(lat, "91");
+    Edit(dialog, "txtRfLon").setFocus(Qt::TabFocusReason);
     EXPECT_TRUE(QTest::qWaitFor([&] { return lat.text().isEmpty(); }));
-    Type(dialog, "txtTcpRange", "-1");
+    Type(Edit(dialog, "txtTcpRange"), "-1");
     Button(dialog, "OK").click();
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_EQ(program.prompts.messages, (std::vector<std::string>{"Enter a value between -90 and 90 for latitude!",
                                                                   "Enter a positive number for range!"}));
     EXPECT_EQ(program.Find<QTabWidget>("SSTab1", &dialog).currentIndex(), 1);
+    Type(Edit(dialog, "txtTcpRange"), "30");
+    Button(dialog, "OK").click();
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_EQ(kept.Call, "N0*");
+    EXPECT_TRUE(kept.bOn);
 }
 
 TEST_F(DialogsTest, FilterStandsAsideForAClickOnTheMapAndComesBack)
@@ -194,7 +167,7 @@ TEST_F(DialogsTest, FilterStandsAsideForAClickOnTheMapAndComesBack)
     ShowFilterOf(program.main, Channel::TCP);
     QDialog& dialog = Modeless("Filter Settings");
     EXPECT_EQ(program.Find<QTabWidget>("SSTab1", &dialog).currentIndex(), 1);
-    Type(dialog, "txtTcpName", "n0call");
+    Type(Edit(dialog, "txtTcpName"), "n0call");
     Button(dialog, "PinPoint").click();
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_TRUE(program.dialogs.IsVisible(Form::frmFilter));
@@ -202,9 +175,9 @@ TEST_F(DialogsTest, FilterStandsAsideForAClickOnTheMapAndComesBack)
     program.main.mpCtrl.RequireMap().SetView({40, -90}, 8);
     QTest::mouseClick(&program.window.Map(), Qt::LeftButton, {}, program.window.Map().rect().center());
     EXPECT_TRUE(dialog.isVisible());
-    EXPECT_NEAR(program.Find<QLineEdit>("txtTcpLat", &dialog).text().toDouble(), 40, 0.01);
-    EXPECT_NEAR(program.Find<QLineEdit>("txtTcpLon", &dialog).text().toDouble(), -90, 0.01);
-    EXPECT_EQ(program.Find<QLineEdit>("txtTcpName", &dialog).text(), QStringLiteral("n0call"));
+    EXPECT_NEAR(Edit(dialog, "txtTcpLat").text().toDouble(), 40, 0.01);
+    EXPECT_NEAR(Edit(dialog, "txtTcpLon").text().toDouble(), -90, 0.01);
+    EXPECT_EQ(Edit(dialog, "txtTcpName").text(), QStringLiteral("n0call"));
     EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerDefault);
     EXPECT_EQ(program.main.Of(Channel::TCP).Filter.Lat, "");
 
@@ -258,7 +231,7 @@ TEST_F(DialogsTest, SettingsAreBoundBoxByBoxAndSaved)
     ExpectAccessible(dialog);
     for (const OptionBox& box : kOptionBoxes)
         EXPECT_NE(dialog.findChild<QWidget*>(QString::fromStdString(std::string(box.control))), nullptr) << box.control;
-    EXPECT_EQ(program.Find<QLineEdit>("txtCall", &dialog).text(), QStringLiteral("N0CALL"));
+    EXPECT_EQ(Edit(dialog, "txtCall").text(), QStringLiteral("N0CALL"));
     EXPECT_EQ(program.Find<QComboBox>("cboMobileColor", &dialog).currentText(), QStringLiteral("Green"));
     EXPECT_EQ(program.Find<QComboBox>("cboPositionInterval", &dialog).currentText(), QStringLiteral("Manual"));
     EXPECT_TRUE(program.Find<QRadioButton>("optMe", &dialog).isChecked());
@@ -267,30 +240,26 @@ TEST_F(DialogsTest, SettingsAreBoundBoxByBoxAndSaved)
     EXPECT_FALSE(Button(dialog, "PinPoint").isVisible());
     tabs.setCurrentIndex(static_cast<int>(OptionPage::Position));
     EXPECT_TRUE(Button(dialog, "PinPoint").isVisible());
-    Type(dialog, "txtLat", "95");
-    Button(dialog, "OK").click();
-    EXPECT_TRUE(dialog.isVisible());
-    EXPECT_EQ(program.Find<QLineEdit>("txtLat", &dialog).text(), QString());
-    Type(dialog, "txtLat", "37.5");
-    Type(dialog, "txtCall", "");
+    Type(Edit(dialog, "txtLat"), "37.5");
+    Type(Edit(dialog, "txtCall"), "");
     Button(dialog, "OK").click();
     EXPECT_EQ(tabs.currentIndex(), static_cast<int>(OptionPage::General));
-    EXPECT_EQ(program.prompts.messages, (std::vector<std::string>{"Enter a value between -90 and 90 for latitude!",
-                                                                  "You must enter call sign and unproto path!"}));
-    Type(dialog, "txtCall", "N1CALL");
+    EXPECT_EQ(program.prompts.messages, std::vector<std::string>{"You must enter call sign and unproto path!"});
+    EXPECT_TRUE(dialog.isVisible());
+    Type(Edit(dialog, "txtCall"), "N1CALL");
     program.Find<QRadioButton>("optAll", &dialog).click();
     program.Find<QCheckBox>("chkShowRfNames", &dialog).click();
     auto& color = program.Find<QComboBox>("cboMobileColor", &dialog);
     QTest::keyClick(&color, Qt::Key_End);
     Button(dialog, "OK").click();
     EXPECT_FALSE(dialog.isVisible());
-    const auto kept = [&](Setting setting) { return SettingText(program.main.Settings, setting); };
-    EXPECT_EQ(kept(Setting::Call), "N1CALL");
-    EXPECT_EQ(kept(Setting::Lat), "37.5");
-    EXPECT_EQ(kept(Setting::All), "True");
-    EXPECT_EQ(kept(Setting::ShowRFNames), "0");
-    EXPECT_EQ(kept(Setting::MobileColor), "7");
-    EXPECT_EQ(kept(Setting::PositionInt), "-1"); // Untouched.
+    for (const auto& [setting, kept] : {std::pair{Setting::Call, "N1CALL"},
+                                        {Setting::Lat, "37.5"},
+                                        {Setting::All, "True"},
+                                        {Setting::ShowRFNames, "0"},
+                                        {Setting::MobileColor, "7"},
+                                        {Setting::PositionInt, "-1"}}) // Untouched.
+        EXPECT_EQ(SettingText(program.main.Settings, setting), kept);
 }
 
 TEST_F(DialogsTest, FindOffersWhileTypingAndGoesThereOnEnter)
@@ -299,7 +268,7 @@ TEST_F(DialogsTest, FindOffersWhileTypingAndGoesThereOnEnter)
     mnuFind_Click(program.main);
     QDialog& dialog = Modeless("Find");
     ExpectAccessible(dialog);
-    auto& text = program.Find<QLineEdit>("txtFind", &dialog);
+    auto& text = Edit(dialog, "txtFind");
     auto& list = program.Find<QListWidget>("lstFound", &dialog);
     QTest::keyClicks(&text, QStringLiteral("sp"));
     ASSERT_EQ(list.count(), 3);
@@ -397,16 +366,16 @@ TEST_F(DialogsTest, TheTileServerIsChosenTestedAndRefusedWhereItIsNone)
         auto& server = program.Find<QComboBox>("cboServer", &dialog);
         server.setCurrentIndex(1);
         emit server.activated(1);
-        EXPECT_EQ(program.Find<QLineEdit>("txtUrl", &dialog).text().toStdString(), kTileServers[1].url);
+        EXPECT_EQ(Edit(dialog, "txtUrl").text().toStdString(), kTileServers[1].url);
         Button(dialog, "btnTest").click();
         ASSERT_TRUE(program.desktop.takePicture);
         program.desktop.takePicture({200, "", 1234, 256, 256});
         EXPECT_TRUE(program.Find<QLabel>("lblResult", &dialog).text().contains(QLatin1String("256 x 256")));
-        Type(dialog, "txtUrl", "https://tiles.example/");
+        Type(Edit(dialog, "txtUrl"), "https://tiles.example/");
         EXPECT_EQ(server.currentIndex(), -1);
         Button(dialog, "OK").click();
         EXPECT_TRUE(dialog.isVisible());
-        Type(dialog, "txtUrl", "https://tiles.example/{z}/{x}/{y}");
+        Type(Edit(dialog, "txtUrl"), "https://tiles.example/{z}/{x}/{y}");
         Button(dialog, "OK").click();
     });
     mnuTileServer_Click(program.main);

@@ -4,14 +4,6 @@
 #include "links/tnc_link.h"
 #include "window_program.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
-#include <QToolBar>
-#include <QToolButton>
-
 namespace ruvenmark {
 namespace {
 
@@ -21,12 +13,6 @@ class LinksWindow : public testing::Test {
 protected:
     LinksWindow() { SetSetting(main.Settings, Setting::Call, "W1AW-7"); }
 
-    static void Type(QLineEdit& edit, const char* text)
-    {
-        edit.selectAll();
-        edit.del();
-        QTest::keyClicks(&edit, QString::fromLatin1(text));
-    }
     void TypeInto(QDialog& dialog, const char* list, const char* text)
     {
         Type(*program.Find<QComboBox>(list, &dialog).lineEdit(), text);
@@ -114,23 +100,16 @@ TEST_F(LinksWindow, TheTncsDialogShowsWhatItsLinkNeeds)
 // The entries are named when the menu opens, and act as those of the menu bar.
 TEST_F(LinksWindow, TheConnectButtonOpensItsMenu)
 {
-    auto* button = program.window.findChild<QToolBar*>(QStringLiteral("tbToolBar"));
-    ASSERT_NE(button, nullptr);
     QAction& connect = program.Action("tbConnect");
-    auto* shown = qobject_cast<QToolButton*>(button->widgetForAction(&connect));
-    ASSERT_TRUE(shown && connect.menu());
-    EXPECT_EQ(shown->popupMode(), QToolButton::InstantPopup);
+    auto* button = qobject_cast<QToolButton*>(program.Find<QToolBar>("tbToolBar").widgetForAction(&connect));
+    ASSERT_TRUE(button && connect.menu());
+    EXPECT_EQ(button->popupMode(), QToolButton::InstantPopup);
     EXPECT_EQ(connect.menu()->actions().size(), 4);
-    EXPECT_FALSE(connect.icon().isNull());
-
-    main.frmTcp.sServerAddress = "prime";
-    main.frmTcp.iServerPort = 14580;
     ConnectServerLink(main);
     QAction& server = program.Action("mnuTbConnectServer");
-    EXPECT_FALSE(server.icon().isNull());
+    EXPECT_FALSE(connect.icon().isNull() || server.icon().isNull());
     emit connect.menu()->aboutToShow();
     EXPECT_EQ(server.text(), QStringLiteral("Disconnect APRS Server"));
-    EXPECT_EQ(program.Action("mnuTbConnectTNC").text(), QStringLiteral("Connect TNC..."));
     server.trigger();
     EXPECT_FALSE(main.links.bServerConnected);
     WhenModal([&](QDialog& dialog) {

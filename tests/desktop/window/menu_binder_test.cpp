@@ -2,9 +2,6 @@
 #include "desktop/tree/tree_view.h"
 #include "window_program.h"
 
-#include <QMenu>
-#include <QMenuBar>
-
 namespace ruvenmark {
 namespace {
 

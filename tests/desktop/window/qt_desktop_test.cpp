@@ -5,15 +5,8 @@
 #include "platform/failure.h"
 #include "window_program.h"
 
-#include <QAbstractButton>
-#include <QClipboard>
-#include <QFile>
-#include <QFileDialog>
-#include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QRegularExpression>
-#include <QTemporaryDir>
 
 namespace ruvenmark {
 namespace {

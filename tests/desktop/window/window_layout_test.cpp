@@ -1,8 +1,6 @@
 #include "ui/layout.h"
 #include "window_program.h"
 
-#include <QToolBar>
-
 #include <vector>
 
 namespace ruvenmark {

@@ -11,11 +11,8 @@
 #include "platform/settings_store.h"
 #include "support/test_machine.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QDialog>
 #include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 
@@ -65,6 +62,13 @@ struct WindowProgramOver : TestMachine<MemorySettingsStore, QtYield, Wires> {
         return *widget;
     }
 };
+
+inline void Type(QLineEdit& edit, const char* text)
+{
+    edit.selectAll();
+    edit.del();
+    QTest::keyClicks(&edit, QString::fromLatin1(text));
+}
 
 using WindowProgram = WindowProgramOver<FakeByteLinks>;
 

@@ -1,8 +1,10 @@
 #include "desktop/icons/icon_set.h"
+#include "desktop/panes/row_model.h"
 #include "desktop/tree/readable_color.h"
 #include "desktop/tree/tree_model.h"
 #include "desktop/tree/tree_view.h"
 #include "platform/keyed_tree.h"
+#include "platform/row_list.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
@@ -182,12 +184,10 @@ TEST_F(TreeViewTest, TypingACallJumpsIntoACollapsedFolder)
 TEST_F(TreeViewTest, TheSameLetterGoesRound)
 {
     tree.Select(tree.Find("FLPositionsDL1ABC"));
-    QTest::keyClick(&view, 'd');
-    EXPECT_EQ(SelectedText(), "DL2XYZ");
-    QTest::keyClick(&view, 'd');
-    EXPECT_EQ(SelectedText(), "DL2ZZZ-9");
-    QTest::keyClick(&view, 'd');
-    EXPECT_EQ(SelectedText(), "DL1ABC");
+    for (const char* next : {"DL2XYZ", "DL2ZZZ-9", "DL1ABC"}) {
+        QTest::keyClick(&view, 'd');
+        EXPECT_EQ(SelectedText(), next);
+    }
 }
 
 TEST_F(TreeViewTest, SelectionGoesBothWays)
@@ -259,6 +259,18 @@ TEST(ReadableColorTest, KeepsTheHueAndReachesAContrastOnLightAndDark)
     const QColor onLight = ReadableColor(QColor(255, 255, 0), Qt::white);
     EXPECT_LT(onLight.lightness(), 100);
     EXPECT_EQ(ReadableColor(QColor(255, 0, 0), QColor(10, 10, 10)), QColor(255, 0, 0));
+}
+
+// Rendered, the text of a message off the air could show anything, or have the program look for pictures.
+TEST(RowModelTest, AMessageIsItsOwnTipAsPlainText)
+{
+    RowList list;
+    list.Add({"W1AW", "N0CALL", "", "", "<h1>5 < 6</h1>", ""}, true);
+    const IconSet icons;
+    const RowModel model(list, icons, {"From", "To", "Via", "Date", "Text", "Number"});
+    const QModelIndex text = model.index(0, 4);
+    EXPECT_EQ(text.data().toString(), QStringLiteral("<h1>5 < 6</h1>"));
+    EXPECT_EQ(text.data(Qt::ToolTipRole).toString(), QStringLiteral("<span>&lt;h1&gt;5 &lt; 6&lt;/h1&gt;</span>"));
 }
 
 } // namespace
