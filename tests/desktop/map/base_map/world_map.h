@@ -37,14 +37,21 @@ inline int Difference(QRgb a, QRgb b)
     return std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b));
 }
 
-// How many pixels of two pictures of one size differ visibly.
-inline std::size_t DifferentPixels(const QImage& a, const QImage& b)
+// How many pixels of a picture are such.
+template <typename IsSuch>
+std::size_t CountPixels(const QImage& image, IsSuch isSuch)
 {
     std::size_t count = 0;
-    for (int y = 0; y < a.height(); ++y)
-        for (int x = 0; x < a.width(); ++x)
-            count += Difference(a.pixel(x, y), b.pixel(x, y)) > 12 ? 1 : 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += isSuch(x, y) ? 1 : 0;
     return count;
+}
+
+// How many pixels of two pictures of one size differ visibly.
+inline std::size_t DifferentPixels(const QImage& a, const QImage& b, int tolerated = 12)
+{
+    return CountPixels(a, [&](int x, int y) { return Difference(a.pixel(x, y), b.pixel(x, y)) > tolerated; });
 }
 
 } // namespace ruvenmark

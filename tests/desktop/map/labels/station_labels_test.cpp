@@ -102,12 +102,9 @@ TEST_F(StationLabelsTest, BadgeCountsWhatIsHidden)
     Painted();
     EXPECT_EQ(widget.Scene().Labels().Badges().size(), 1U) << "one spot stays one spot at any zoom";
 
-    EXPECT_EQ(StationLabels::CountText(2), "2");
-    EXPECT_EQ(StationLabels::CountText(999), "999");
-    EXPECT_EQ(StationLabels::CountText(1000), "1k");
-    EXPECT_EQ(StationLabels::CountText(1299), "1.2k");
-    EXPECT_EQ(StationLabels::CountText(34999), "34k");
-    EXPECT_EQ(StationLabels::CountText(2000000), "2M");
+    for (const auto& [count, text] :
+         {std::pair{2, "2"}, {999, "999"}, {1000, "1k"}, {1299, "1.2k"}, {34999, "34k"}, {2000000, "2M"}})
+        EXPECT_EQ(StationLabels::CountText(static_cast<std::uint32_t>(count)), text);
 }
 
 TEST_F(StationLabelsTest, TheMapsFontSizesTheNames)

@@ -18,33 +18,35 @@ PinPoint PointAt(const MapView& view, double x, double y, bool bBalloon = false)
     return {static_cast<std::uint32_t>(at.x * kUnits), static_cast<std::uint32_t>(at.y * kUnits), 1, true, bBalloon};
 }
 
-std::uint32_t Counted(const MarkerLayout& layout)
-{
-    const auto& items = layout.Items();
-    return std::accumulate(items.begin(), items.end(), 0U, [](auto sum, const auto& item) { return sum + item.count; });
-}
+struct MarkerLayoutTest : testing::Test {
+    void LayOut(const MapView& view = kView, std::optional<std::uint32_t> selected = {})
+    {
+        layout.Update(points, ViewFrame(view), selected);
+    }
 
-TEST(MarkerLayout, EveryMarkerInViewCountsOnceAndPicturesAreBounded)
-{
     std::vector<PinPoint> points;
-    points.reserve(200000);
+    MarkerLayout layout;
+};
+
+TEST_F(MarkerLayoutTest, EveryMarkerInViewCountsOnceAndPicturesAreBounded)
+{
     for (int i = 0; i < 200000; ++i)
         points.push_back(PointAt(kView, i * 37 % 800, (i * 91 / 7) % 600));
     points[500].bLive = false;
-    MarkerLayout layout;
-    layout.Update(points, ViewFrame(kView), std::nullopt);
-    EXPECT_EQ(Counted(layout), 199999U);
+    LayOut();
+    const auto& items = layout.Items();
+    EXPECT_EQ(
+        std::accumulate(items.begin(), items.end(), 0U, [](auto sum, const auto& item) { return sum + item.count; }),
+        199999U);
     constexpr std::size_t kSquares =
         (std::size_t{800} / MarkerLayout::kSquare + 2) * (std::size_t{600} / MarkerLayout::kSquare + 2);
-    EXPECT_LE(layout.Items().size(), kSquares * MarkerLayout::kMostInSquare);
+    EXPECT_LE(items.size(), kSquares * MarkerLayout::kMostInSquare);
 }
 
-TEST(MarkerLayout, MarkersThatHideEachOtherAreOneAndOthersStayApart)
+TEST_F(MarkerLayoutTest, MarkersThatHideEachOtherAreOneAndOthersStayApart)
 {
-    const std::vector<PinPoint> points{PointAt(kView, 100, 100), PointAt(kView, 101, 102), PointAt(kView, 300, 100),
-                                       PointAt(kView, 310, 100)};
-    MarkerLayout layout;
-    layout.Update(points, ViewFrame(kView), std::nullopt);
+    points = {PointAt(kView, 100, 100), PointAt(kView, 101, 102), PointAt(kView, 300, 100), PointAt(kView, 310, 100)};
+    LayOut();
     ASSERT_EQ(layout.Items().size(), 3U);
     EXPECT_EQ(layout.Items()[0].slot, 1U) << "the newest stands for both";
     EXPECT_EQ(layout.Items()[0].count, 2U);
@@ -52,18 +54,15 @@ TEST(MarkerLayout, MarkersThatHideEachOtherAreOneAndOthersStayApart)
     EXPECT_NEAR(layout.Items()[1].at.x(), 300, 0.1);
 }
 
-TEST(MarkerLayout, ANamedMarkerStandsForItsGroupAndTheSelectedOneForItself)
+TEST_F(MarkerLayoutTest, ANamedMarkerStandsForItsGroupAndTheSelectedOneForItself)
 {
-    std::vector<PinPoint> points;
-    points.reserve(20);
     for (int i = 0; i < 20; ++i)
         points.push_back(PointAt(kView, 100, 100, i == 4));
-    MarkerLayout layout;
-    layout.Update(points, ViewFrame(kView), std::nullopt);
+    LayOut();
     ASSERT_EQ(layout.Items().size(), 1U);
     EXPECT_EQ(layout.Items()[0].slot, 4U);
     EXPECT_EQ(layout.Members(points, layout.Items()[0]).size(), 20U);
-    layout.Update(points, ViewFrame(kView), 11);
+    LayOut(kView, 11);
     ASSERT_EQ(layout.Items().size(), 2U);
     EXPECT_EQ(layout.Items().back().slot, 11U);
     EXPECT_EQ(layout.Items().back().count, 1U);
@@ -72,15 +71,13 @@ TEST(MarkerLayout, ANamedMarkerStandsForItsGroupAndTheSelectedOneForItself)
 }
 
 // One that is heard just now would else hide in the faded picture of an old one.
-TEST(MarkerLayout, AHeapFadesWithTheYoungestOfIt)
+TEST_F(MarkerLayoutTest, AHeapFadesWithTheYoungestOfIt)
 {
-    std::vector<PinPoint> points;
     for (int i = 0; i < 20; ++i)
         points.push_back(PointAt(kView, 100, 100, i == 4)); // A crowded square ...
     points.push_back(PointAt(kView, 300, 100));
     points.push_back(PointAt(kView, 301, 100)); // ... and a pair.
-    MarkerLayout layout;
-    layout.Update(points, ViewFrame(kView), std::nullopt);
+    LayOut();
     ASSERT_EQ(layout.Items().size(), 2U);
     const auto faded = [&](std::uint32_t young) {
         layout.Fade(points, [&](std::uint32_t slot) { return slot != young; });
@@ -92,20 +89,19 @@ TEST(MarkerLayout, AHeapFadesWithTheYoungestOfIt)
     EXPECT_EQ(faded(99), std::pair(true, true));
 }
 
-TEST(MarkerLayout, ViewAcrossTheDateLineAndWiderThanTheWorld)
+TEST_F(MarkerLayoutTest, ViewAcrossTheDateLineAndWiderThanTheWorld)
 {
     const MapView across{{0, 179.9}, 8, 800, 600};
-    std::vector<PinPoint> points{PointAt(across, 390, 300), PointAt(across, 700, 300)};
+    points = {PointAt(across, 390, 300), PointAt(across, 700, 300)};
     ASSERT_GT(points[0].x, points[1].x) << "they lie on both sides of the line";
-    MarkerLayout layout;
-    layout.Update(points, ViewFrame(across), std::nullopt);
+    LayOut(across);
     ASSERT_EQ(layout.Items().size(), 2U);
     EXPECT_NEAR(layout.Items()[0].at.x(), 390, 0.1);
     EXPECT_NEAR(layout.Items()[1].at.x(), 700, 0.1);
 
     const MapView wide{{0, 0}, 1, 1500, 500}; // The world is 512 pixels wide.
     points = {PointAt(wide, 750, 250)};
-    layout.Update(points, ViewFrame(wide), std::nullopt);
+    LayOut(wide);
     EXPECT_EQ(layout.Items().size(), 3U) << "one in each copy of the world";
 }
 

@@ -51,13 +51,14 @@ protected:
     QTemporaryDir folder;
     qint64 cacheBytes = TileCache::kDefaultBytes;
     TileServer server;
+    const TileChoice fromServer{Kind::Server, server.Template().toStdString()};
 };
 
 TEST_F(MapTilesTest, AsksNothingBeforeItIsSwitchedOnAndNothingAfterwards)
 {
     MapTiles tiles(OptionsHere());
     tiles.Want({{1, 0, 0}});
-    tiles.Choose({Kind::Server, server.Template().toStdString()});
+    tiles.Choose(fromServer);
     ASSERT_TRUE(Arrives(tiles, {1, 1, 0}));
     EXPECT_EQ(server.paths, QStringList{"/1/1/0.png"});
     EXPECT_TRUE(server.lastRequest.contains("\r\nUser-Agent: Ruvenmark/1.0.0 (+desktop APRS client)\r\n"));
@@ -90,7 +91,7 @@ TEST_F(MapTilesTest, IsBusyUntilEveryTileIsThereAndNotOverAServerThatFails)
 TEST_F(MapTilesTest, TwoRequestsAtOnceAndOnlyForWhatIsStillWanted)
 {
     MapTiles tiles(OptionsHere());
-    tiles.Choose({Kind::Server, server.Template().toStdString()});
+    tiles.Choose(fromServer);
     server.bHold = true;
     tiles.Want({{3, 0, 0}, {3, 1, 0}, {3, 2, 0}, {3, 3, 0}});
     ASSERT_TRUE(QTest::qWaitFor([&] { return server.Waiting() == 2; }));
@@ -114,13 +115,13 @@ TEST_F(MapTilesTest, WhatWasFetchedIsKeptOnDiskUnlessTheServerForbidsIt)
     };
     {
         MapTiles tiles(OptionsHere());
-        tiles.Choose({Kind::Server, server.Template().toStdString()});
+        tiles.Choose(fromServer);
         ASSERT_TRUE(Arrives(tiles, {4, 1, 2}));
         ASSERT_TRUE(Arrives(tiles, {5, 1, 2}));
     }
     EXPECT_EQ(FilesKept(), 1);
     MapTiles again(OptionsHere());
-    again.Choose({Kind::Server, server.Template().toStdString()});
+    again.Choose(fromServer);
     ASSERT_TRUE(Arrives(again, {4, 1, 2}));
     EXPECT_EQ(server.paths.size(), 2) << "taken from disk";
 }
@@ -131,7 +132,7 @@ TEST_F(MapTilesTest, StaleTilesAreShownAndFetchedAnew)
     TileCache(folder.filePath("cache"))
         .Store(server.Template(), tile, PngTile("blue"), QDateTime::currentDateTime().addDays(-1));
     MapTiles tiles(OptionsHere());
-    tiles.Choose({Kind::Server, server.Template().toStdString()});
+    tiles.Choose(fromServer);
     server.bHold = true;
     ASSERT_TRUE(Arrives(tiles, tile));
     EXPECT_EQ(tiles.Find(tile)->pixelColor(0, 0), QColor("blue"));
@@ -160,7 +161,7 @@ TEST_F(MapTilesTest, ErrorsAndWhatIsNoPictureAreNeitherShownNorKept)
     };
     for (std::size_t i = 0; i < answers.size(); ++i) {
         MapTiles tiles(OptionsHere());
-        tiles.Choose({Kind::Server, server.Template().toStdString()});
+        tiles.Choose(fromServer);
         server.paths.clear();
         server.answer = [&](const QString& path) {
             return path == "/6/0/0.png"
@@ -180,7 +181,7 @@ TEST_F(MapTilesTest, AFailingServerIsAskedLessAndLessAndThenUsedAgain)
     MapTiles::Options options = OptionsHere();
     options.firstPause = 15ms;
     MapTiles tiles(options);
-    tiles.Choose({Kind::Server, server.Template().toStdString()});
+    tiles.Choose(fromServer);
     server.answer = [](const QString&) { return TileServer::Answer{503, {}}; };
     const QSignalSpy told(&tiles, &MapTiles::ProblemFound);
     tiles.Want({{6, 0, 0}});
@@ -281,7 +282,7 @@ TEST_F(MapTilesTest, WhatCannotBeUsedShowsNoTilesAndIsTold)
         {Kind::Local, PathOf("no.mbtiles")},
     };
     for (const TileChoice& choice : choices) {
-        tiles.Choose({Kind::Server, server.Template().toStdString()});
+        tiles.Choose(fromServer);
         EXPECT_EQ(tiles.Problem(), "");
         EXPECT_TRUE(tiles.IsOn());
         tiles.Choose(choice);

@@ -1,4 +1,6 @@
+#include "desktop/map/tiles/tile_choice.h"
 #include "desktop/map/tiles/tile_image.h"
+#include "map/tile_settings.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -49,6 +51,21 @@ TEST(TileImage, NothingElseIsReadWhateverItIsCalled)
     // The right first bytes and then something that another reader would take.
     EXPECT_TRUE(TileImage(QByteArray("\x89PNG\r\n\x1a\n", 8) + svg).isNull());
     EXPECT_TRUE(TileImage(Saved("png").first(100)).isNull());
+}
+
+TEST(TileChoice, WhatLiesHereGoesBeforeTheServerAndTheNetworkIsOnlyUsedWhenSwitchedOn)
+{
+    using Kind = TileChoice::Kind;
+    TileSettings settings;
+    EXPECT_EQ(TileChoiceOf(settings).kind, Kind::Off);
+    settings.bOnline = true;
+    EXPECT_EQ(TileChoiceOf(settings).kind, Kind::Server);
+    EXPECT_EQ(TileChoiceOf(settings).where, settings.urlTemplate);
+    settings.source = "/maps/a\xff.mbtiles"; // Bytes stay bytes.
+    EXPECT_EQ(TileChoiceOf(settings).kind, Kind::Local);
+    EXPECT_EQ(TileChoiceOf(settings).where, settings.source);
+    settings.bOnline = false;
+    EXPECT_EQ(TileChoiceOf(settings).kind, Kind::Local);
 }
 
 } // namespace

@@ -1,16 +1,10 @@
 // What is painted for reports must leave the same pixels on the screen as painting everything anew: a place that is
 // forgotten shows a marker or a name that is gone, until the map is moved.
-#include "desktop/icons/icon_set.h"
 #include "desktop/map/base_map/world_map.h"
-#include "desktop/map/widget/map_widget.h"
-#include "platform/files.h"
-#include "platform/map_control.h"
+#include "desktop/map/widget/map_fixture.h"
 
 #include <QPixmap>
 #include <QScreen>
-#include <QTest>
-
-#include <gtest/gtest.h>
 
 #include <random>
 #include <string>
@@ -19,21 +13,20 @@
 namespace ruvenmark {
 namespace {
 
-class ChangedPlaces : public testing::Test {
+const BaseMap& World()
+{
+    static const BaseMap map = BaseMap::Open(kWorldMapPath);
+    return map;
+}
+
+class ChangedPlaces : public MapFixture {
 protected:
-    ChangedPlaces()
+    ChangedPlaces() : MapFixture(&World(), {700, 500})
     {
-        control.NewMap(kRegionNorthAmerica);
-        QObject::connect(&widget, &MapWidget::SelectionWanted,
-                         [this](const MapSelection& wanted) { selection = wanted; });
         widget.SetClock([this] { return now; });
         widget.SetFadeAfter(30);
-        widget.resize(700, 500);
-        widget.show();
-        TheMap().SetView({40, -90}, 6);
     }
 
-    Map& TheMap() { return control.RequireMap(); }
     int Below(int most) { return std::uniform_int_distribution<int>(0, most - 1)(random); }
     Location Anywhere() { return TheMap().XYToLocation(Below(760) - 30, Below(560) - 30); }
     QImage Screen() { return widget.screen()->grabWindow(widget.winId()).toImage(); }
@@ -44,7 +37,7 @@ protected:
         return bReady;
     }
 
-    void AddPin()
+    void AddAny()
     {
         Pushpin pin = TheMap().AddPushpin(Anywhere(), "K" + std::to_string(Below(900)));
         pin.SetSymbol(static_cast<std::int16_t>(79 + Below(20)));
@@ -55,7 +48,7 @@ protected:
     {
         const int what = Below(12);
         if (pins.size() < 40 || what == 0)
-            return AddPin();
+            return AddAny();
         Pushpin& pin = pins[static_cast<std::size_t>(Below(static_cast<int>(pins.size())))];
         switch (what) {
         case 1:
@@ -85,19 +78,13 @@ protected:
 
     std::mt19937 random{11};
     std::int64_t now = 1'000'000;
-    PosixFiles files;
-    MapControl control{files};
-    IconSet icons;
-    BaseMap base = BaseMap::Open(kWorldMapPath);
-    MapSelection selection;
-    MapWidget widget{control, icons, &base, selection};
     std::vector<Pushpin> pins;
 };
 
 TEST_F(ChangedPlaces, ArePaintedAsTheWholeIs)
 {
     for (int i = 0; i < 150; ++i)
-        AddPin();
+        AddAny();
     ASSERT_TRUE(Settle());
     int partly = 0;
     for (int round = 0; round < 30; ++round) {
@@ -123,9 +110,8 @@ TEST_F(ChangedPlaces, ArePaintedAsTheWholeIs)
 TEST_F(ChangedPlaces, TheBalloonOfADeletedMarkerGoes)
 {
     for (int i = 0; i < 5; ++i)
-        AddPin();
-    Pushpin pin = TheMap().AddPushpin(TheMap().XYToLocation(350, 250), "N0CALL");
-    pin.SetNote("a note");
+        AddAny();
+    Pushpin pin = AddPin({350, 250}, "N0CALL", "a note", false);
     ASSERT_TRUE(Settle());
     const QImage before = Screen();
     QTest::mouseMove(&widget, {350, 250});

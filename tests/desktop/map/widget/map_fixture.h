@@ -16,15 +16,16 @@
 
 namespace ruvenmark {
 
-// A map of 800 x 600 pixels without a built-in map beneath, shown.
+// A map without a built-in map beneath where none is given, shown.
 class MapFixture : public testing::Test {
 protected:
-    MapFixture()
+    explicit MapFixture(const BaseMap* base = nullptr, QSize size = {800, 600})
+        : widget(control, icons, base, selection)
     {
         control.NewMap(kRegionNorthAmerica);
         QObject::connect(&widget, &MapWidget::SelectionWanted,
                          [this](const MapSelection& wanted) { selection = wanted; });
-        widget.resize(800, 600);
+        widget.resize(size);
         widget.show();
         TheMap().SetView({40, -90}, 6);
         QCoreApplication::processEvents();
@@ -60,7 +61,7 @@ protected:
     MapControl control{files};
     IconSet icons;
     MapSelection selection;
-    MapWidget widget{control, icons, nullptr, selection};
+    MapWidget widget;
 };
 
 } // namespace ruvenmark
