@@ -46,12 +46,11 @@ struct Station {
 
 void WriteOldMessages(const Station& station)
 {
-    QFile file(station.run->folder.filePath("Inbox.txt"));
-    if (!file.open(QIODevice::WriteOnly))
-        Fail("no inbox can be written");
+    QByteArray rows;
     for (int i = 0; i < kOldMessages; ++i)
-        file.write((i == 0 ? "" : "\r\n") + QByteArray("N1CALL#####") + station.call.toUtf8() +
-                   "#####WIDE2-2#####2026-11-22 20:15:03#####an old message#####" + QByteArray::number(i));
+        rows += (i == 0 ? "" : "\r\n") + QByteArray("N1CALL#####") + station.call.toUtf8() +
+                "#####WIDE2-2#####2026-11-22 20:15:03#####an old message#####" + QByteArray::number(i);
+    station.run->Write("Inbox.txt", rows);
 }
 
 QList<QByteArrayList> Rows(const QByteArray& text)

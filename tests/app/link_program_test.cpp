@@ -23,6 +23,7 @@ protected:
     void StartWith(const QString& links, const QStringList& more) { Start("W1AW-7", links, more); }
     void StartAtServer(const QStringList& more)
     {
+        Write("igatepw.txt", "n0call:1\r\nw1aw:25988\r\n");
         StartWith(QStringLiteral("server=127.0.0.1:%1").arg(server.serverPort()), more);
     }
     // The next connection, once its login line has come.
@@ -49,19 +50,12 @@ protected:
         constexpr int kUser = 11, kSystem = 12; // Behind the name.
         return (fields[kUser].toDouble() + fields[kSystem].toDouble()) / static_cast<double>(sysconf(_SC_CLK_TCK));
     }
-    void WritePassword() const
-    {
-        QFile file(folder.filePath("igatepw.txt"));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write("n0call:1\r\nw1aw:25988\r\n");
-    }
 
     QTcpServer server;
 };
 
 TEST_F(LinkProgram, LogsInHearsPrintsAndEndsOnASignal)
 {
-    WritePassword();
     StartAtServer({"--follow", "--print", "tree"});
     QTcpSocket* peer = Login(server);
     ASSERT_NE(peer, nullptr);
@@ -77,7 +71,6 @@ TEST_F(LinkProgram, LogsInHearsPrintsAndEndsOnASignal)
 
 TEST_F(LinkProgram, LosesNothingOfAFloodNorMemoryToALineWithoutAnEnd)
 {
-    WritePassword();
     StartAtServer({});
     QTcpSocket* peer = Login(server);
     ASSERT_NE(peer, nullptr);
@@ -97,7 +90,6 @@ TEST_F(LinkProgram, LosesNothingOfAFloodNorMemoryToALineWithoutAnEnd)
 // A server that takes calls and drops them is not called without a pause, and is left for the backup in the end.
 TEST_F(LinkProgram, TriesThreeTimesAndGoesToTheBackupServerOnTheFourthLoss)
 {
-    WritePassword();
     QTcpServer backup;
     Listen(backup);
     StartAtServer({"--set", "ReconnectServer=True", "--set", "ReconnectAttempt=3", "--set", "BackupServer=127.0.0.1",
@@ -150,20 +142,14 @@ TEST_F(LinkProgram, HearsAPacketByDirewolf)
         GTEST_SKIP() << "direwolf is not installed";
     const quint16 port = server.serverPort();
     server.close();
-    const auto write = [&](const char* name, const QByteArray& text) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-    };
-    write("direwolf.conf",
+    Write("direwolf.conf",
           "ADEVICE stdin null\nARATE 44100\nACHANNELS 1\nCHANNEL 0\nMYCALL N0CALL\nMODEM 1200\nKISSPORT 0\n"
           "AGWPORT " +
               QByteArray::number(port) + "\n");
-    write("packets.txt", "N1CALL-9>APRS,WIDE1-1:!4903.50N/07201.75W>by radio\n");
+    Write("packets.txt", "N1CALL-9>APRS,WIDE1-1:!4903.50N/07201.75W>by radio\n");
     ASSERT_EQ(QProcess::execute(tones, {"-o", folder.filePath("tones.wav"), folder.filePath("packets.txt")}), 0);
-    QFile file(folder.filePath("tones.wav"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     constexpr int kWaveHeader = 44;
-    const QByteArray audio = file.readAll().mid(kWaveHeader);
+    const QByteArray audio = File("tones.wav").mid(kWaveHeader);
 
     QProcess direwolf;
     direwolf.start(engine, {"-c", folder.filePath("direwolf.conf"), "-t", "0", "-q", "d", "-"});

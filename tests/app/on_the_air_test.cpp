@@ -36,44 +36,35 @@ QByteArray WaveFile(const QByteArray& samples)
     return bytes + samples;
 }
 
-void Write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
 TEST(OnTheAir, WhatWeSendIsReadFromItsSound)
 {
     if (QStandardPaths::findExecutable("direwolf").isEmpty() || QStandardPaths::findExecutable("atest").isEmpty())
         GTEST_SKIP() << "direwolf and its atest are not installed";
-    QTemporaryDir folder;
-    const QString air = folder.filePath("air.raw");
+    StationProgram station;
+    const QString air = station.folder.filePath("air.raw"), sound = station.folder.filePath("air.wav");
     quint16 port = 0;
     {
         QTcpServer free; // A port that nobody uses.
         Listen(free);
         port = free.serverPort();
     }
-    Write(folder.filePath(".asoundrc"),
-          "pcm.air { type file slave.pcm \"null\" file \"" + air.toUtf8() + "\" format \"raw\" }\n");
-    Write(folder.filePath("modem.conf"),
-          "ADEVICE stdin air\nARATE 44100\nCHANNEL 0\nMYCALL N0CALL\nMODEM 1200\nTXDELAY 10\n"
-          "TXTAIL 5\nSLOTTIME 1\nPERSIST 255\nKISSPORT 0\nAGWPORT " +
-              QByteArray::number(port) + "\n");
+    station.Write(".asoundrc",
+                  "pcm.air { type file slave.pcm \"null\" file \"" + air.toUtf8() + "\" format \"raw\" }\n");
+    station.Write("modem.conf", "ADEVICE stdin air\nARATE 44100\nCHANNEL 0\nMYCALL N0CALL\nMODEM 1200\nTXDELAY 10\n"
+                                "TXTAIL 5\nSLOTTIME 1\nPERSIST 255\nKISSPORT 0\nAGWPORT " +
+                                    QByteArray::number(port) + "\n");
     QProcess modem;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("HOME", folder.path());
+    environment.insert("HOME", station.folder.path());
     modem.setProcessEnvironment(environment);
     modem.setProcessChannelMode(QProcess::MergedChannels);
-    modem.start("direwolf", {"-t", "0", "-c", folder.filePath("modem.conf")});
+    modem.start("direwolf", {"-t", "0", "-c", station.folder.filePath("modem.conf")});
     QByteArray said;
     ASSERT_TRUE(RunUntil([&] {
         return (said += modem.readAll()).contains("Ready to accept AGW client") ||
                modem.state() == QProcess::NotRunning;
     }));
 
-    StationProgram station;
     station.Start("W1AW-7", QStringLiteral("agw=127.0.0.1:%1").arg(port), {"--set",  "Lat=-33.9",
                                                                            "--set",  "Lon=151.2",
                                                                            "--set",  "WindDir=220",
@@ -88,13 +79,9 @@ TEST(OnTheAir, WhatWeSendIsReadFromItsSound)
     EXPECT_EQ(station.Status(), 0) << station.err.toStdString() << said.toStdString();
     // It tells a packet when it has sent it.
     EXPECT_TRUE(RunUntil([&] { return (said += modem.readAll()).contains("FLOOD    "); })) << said.toStdString();
-    const QString sound = folder.filePath("air.wav");
     QByteArray read;
     EXPECT_TRUE(RunUntil([&] { // The last samples may still be on their way to the file.
-        QFile raw(air);
-        if (!raw.open(QIODevice::ReadOnly))
-            return false;
-        Write(sound, WaveFile(raw.readAll()));
+        station.Write("air.wav", WaveFile(station.File("air.raw")));
         QProcess decoder;
         decoder.start("atest", {sound});
         decoder.waitForFinished();

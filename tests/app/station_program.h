@@ -69,6 +69,11 @@ public:
         ::kill(static_cast<pid_t>(program.processId()), SIGTERM);
         return Status();
     }
+    void Write(const QString& name, const QByteArray& bytes) const // In its folder.
+    {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+    }
     QByteArray File(const QString& name) const
     {
         QFile file(folder.filePath(name));
