@@ -2,11 +2,9 @@
 #include "support/test_program.h"
 #include "ui/layout.h"
 #include "ui/menus.h"
-#include "ui/tool_bar.h"
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
 #include <set>
 #include <string>
 #include <vector>
@@ -102,28 +100,6 @@ TEST(Menus, WhatShowsAndIsChosenIsTicked)
     EXPECT_THAT(ticked(), ElementsAre("mnuViewStatusBar", "mnuOnlineTiles", "mnuFontSmallest", "mnuPoliticalMap",
                                       "mnuStandardToolbar", "mnuNavigationToolbar", "mnuRegionNorthAmerica",
                                       "mnuToolsStationTracking", "mnuToolsGpsTracking", "mnuDirections"));
-}
-
-// Each entry below the button speaks of its own link, and says what it would do now.
-TEST(Menus, TheConnectButtonSaysWhatItsEntriesWouldDo)
-{
-    TestProgram program;
-    const auto buttons = ToolBar();
-    const auto connect =
-        std::find_if(buttons.begin(), buttons.end(), [](const auto& row) { return row.key == "Connect"; });
-    ASSERT_NE(connect, buttons.end());
-    const auto captions = [&] {
-        std::vector<std::string> texts;
-        for (const DropDownEntry& entry : connect->dropDown)
-            texts.push_back(std::string(entry.key) + ": " + DropDownCaption(program.main, entry));
-        return texts;
-    };
-    EXPECT_THAT(captions(), ElementsAre("mnuTbConnectTNC: Connect TNC...", "mnuTbConnectServer: Connect APRS Server...",
-                                        "mnuTbConnectGps: Connect GPS...", "mnuTbConnectWx: Connect Wx Station..."));
-    LinkState& links = program.main.links;
-    links.bSocketConnected = links.bServerConnected = links.bGpsConnected = links.bWxConnected = true;
-    EXPECT_THAT(captions(), ElementsAre("mnuTbConnectTNC: Disconnect TNC", "mnuTbConnectServer: Disconnect APRS Server",
-                                        "mnuTbConnectGps: Disconnect GPS", "mnuTbConnectWx: Disconnect Wx Station"));
 }
 
 // Points or lines of any channel are tracks.

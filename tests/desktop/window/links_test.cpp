@@ -97,21 +97,31 @@ TEST_F(LinksWindow, TheTncsDialogShowsWhatItsLinkNeeds)
     EXPECT_EQ(program.wires.opened, "serial /dev/tnc 9600");
 }
 
-// The entries are named when the menu opens, and act as those of the menu bar.
+// Each entry below the button says what it would do now to its own link, and does as that of the menu bar.
 TEST_F(LinksWindow, TheConnectButtonOpensItsMenu)
 {
     QAction& connect = program.Action("tbConnect");
     auto* button = qobject_cast<QToolButton*>(program.Find<QToolBar>("tbToolBar").widgetForAction(&connect));
     ASSERT_TRUE(button && connect.menu());
     EXPECT_EQ(button->popupMode(), QToolButton::InstantPopup);
-    EXPECT_EQ(connect.menu()->actions().size(), 4);
+    const auto texts = [&] {
+        emit connect.menu()->aboutToShow();
+        QStringList shown;
+        for (const QAction* entry : connect.menu()->actions())
+            shown << entry->text();
+        return shown.join(QLatin1Char('|')).toStdString();
+    };
     ConnectServerLink(main);
+    main.links.bGpsConnected = true;
+    EXPECT_EQ(texts(), "Connect TNC...|Disconnect APRS Server|Disconnect GPS|Connect Wx Station...");
+    main.links.bGpsConnected = false;
     QAction& server = program.Action("mnuTbConnectServer");
     EXPECT_FALSE(connect.icon().isNull() || server.icon().isNull());
-    emit connect.menu()->aboutToShow();
-    EXPECT_EQ(server.text(), QStringLiteral("Disconnect APRS Server"));
     server.trigger();
     EXPECT_FALSE(main.links.bServerConnected);
+    main.links.bSocketConnected = main.links.bWxConnected = true;
+    EXPECT_EQ(texts(), "Disconnect TNC|Connect APRS Server...|Connect GPS...|Disconnect Wx Station");
+    main.links.bSocketConnected = main.links.bWxConnected = false;
     WhenModal([&](QDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Connect Wx Station"));
         dialog.close();
