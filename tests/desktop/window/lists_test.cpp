@@ -6,12 +6,8 @@
 #include "platform/keyed_tree.h"
 #include "platform/row_list.h"
 
-#include <QAbstractItemModelTester>
-#include <QApplication>
-#include <QContextMenuEvent>
-#include <QIcon>
-#include <QSignalSpy>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <gtest/gtest.h>
 

@@ -4,14 +4,6 @@
 #include "desktop/map/widget/map_fixture.h"
 #include "mapfiles/archive_file.h"
 
-#include <QDir>
-#include <QDirIterator>
-#include <QElapsedTimer>
-#include <QFile>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
-
 namespace ruvenmark {
 namespace {
 

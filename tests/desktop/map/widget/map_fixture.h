@@ -5,10 +5,9 @@
 #include "platform/files.h"
 #include "platform/map_control.h"
 
-#include <QCoreApplication>
 #include <QHelpEvent>
-#include <QTest>
 #include <QWheelEvent>
+#include <QtTest>
 
 #include <gtest/gtest.h>
 

@@ -2,11 +2,7 @@
 #include "desktop/map/widget/map_widget.h"
 #include "platform/geometry.h"
 
-#include <QBuffer>
-#include <QCoreApplication>
 #include <QPdfWriter>
-#include <QSignalSpy>
-#include <QTest>
 #include <QTreeView>
 
 namespace ruvenmark {
