@@ -54,8 +54,7 @@ TEST_F(Agw, AsksForPortsAndOnceForRawFrames)
     EXPECT_EQ(links.Written(), Frame('G', "") + Frame('k', ""));
     EXPECT_THAT(recorded.events, ElementsAre("SocketConnected"));
     links.Say(kPorts);
-    links.Tick(59s);
-    EXPECT_EQ(links.Written(), "");
+    EXPECT_EQ(links.WrittenIn(59s), "");
 }
 
 TEST_F(Agw, HearsRawFramesAmongOthersHoweverTheyArrive)
@@ -167,8 +166,7 @@ TEST_F(Agw, ASilentEngineIsALostOne)
 
     source = std::make_unique<AgwSource>(links, recorded.sink, counts);
     Connect();
-    links.Tick(61s); // Nothing on the air: asked, and answered.
-    EXPECT_EQ(links.Written(), Frame('R', ""));
+    EXPECT_EQ(links.WrittenIn(61s), Frame('R', "")); // Nothing on the air: asked, and answered.
     links.Say(Frame('R', std::string(8, '\0')));
     links.Tick(59s);
     EXPECT_THAT(recorded.events, IsEmpty());

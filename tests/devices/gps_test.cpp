@@ -1,4 +1,5 @@
 #include "devices/gps_server.h"
+#include "recorded_events.h"
 #include "support/fake_byte_links.h"
 
 #include <gmock/gmock.h>
@@ -166,20 +167,14 @@ TEST_F(Gps, OpensClosesAndFailsOnce)
 
 TEST_F(Gps, DroppedInsideAnyOfItsEventsItFallsSilent)
 {
-    for (std::size_t last = 1; last <= 4; ++last) {
-        recorded.events.clear();
-        server = std::make_unique<GpsServer>(links, recorded);
-        recorded.onEvent = [&] {
-            if (recorded.events.size() == last)
-                server.reset();
-        };
-        Open();
+    const auto run = [&](std::unique_ptr<GpsServer>& gps) {
+        gps = std::make_unique<GpsServer>(links, recorded);
+        gps->OpenGpsPort("/dev/ttyS0", 4800, kAccessToken);
         links.Say(Rmc("1") + Rmc("2") + Rmc("3"));
         links.Tick(1s);
         links.Lose();
-        EXPECT_EQ(recorded.events.size(), last);
-        EXPECT_EQ(server, nullptr);
-    }
+    };
+    EXPECT_TRUE(IsSilentOnceDropped<GpsServer>(4, recorded, run));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "devices/file_report_source.h"
 #include "devices/packet_events.h"
 #include "platform/failure.h"
+#include "recorded_events.h"
 
 #include <gmock/gmock.h>
 
@@ -80,21 +81,13 @@ TEST(FileReportSource, RaisesBeforeItReturnsAndCounts)
 // A load that is cancelled drops the source from inside an event: the rest of the line must stay unsaid.
 TEST(FileReportSource, DroppedInsideAnyOfItsEventsItFallsSilent)
 {
-    RecordingSink all;
+    RecordingSink recorded;
     LineCounts counts;
-    FileReportSource(all.sink, counts).ParseLine(kFourEvents);
-    ASSERT_EQ(all.events.size(), 4U);
-    for (std::size_t last = 1; last <= all.events.size(); ++last) {
-        RecordingSink recorded;
-        std::unique_ptr<IReportSource> source = std::make_unique<FileReportSource>(recorded.sink, counts);
-        recorded.onEvent = [&] {
-            if (recorded.events.size() == last)
-                source.reset();
-        };
+    const auto run = [&](std::unique_ptr<IReportSource>& source) {
+        source = std::make_unique<FileReportSource>(recorded.sink, counts);
         source->ParseLine(kFourEvents);
-        EXPECT_EQ(recorded.events.size(), last);
-        EXPECT_EQ(source, nullptr);
-    }
+    };
+    EXPECT_TRUE(IsSilentOnceDropped<IReportSource>(4, recorded, run));
 }
 
 TEST(FileReportSource, DroppedInsideANestedLineSilencesTheOuterToo)

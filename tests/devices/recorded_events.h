@@ -38,8 +38,8 @@ struct RecordedEvents {
 
 // Runs what a source is told with the source dropped inside its first event, its second and so on, and asks that it is
 // silent from there on. `run` makes the source into the pointer and lets it be told; it must come to `count` events.
-template <class Source>
-bool IsSilentOnceDropped(std::size_t count, RecordedEvents& recorded,
+template <class Source, class Recorded>
+bool IsSilentOnceDropped(std::size_t count, Recorded& recorded,
                          const std::function<void(std::unique_ptr<Source>&)>& run)
 {
     for (std::size_t last = 1; last <= count + 1; ++last) {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <set>
 
 namespace ruvenmark {
 namespace {
@@ -13,13 +14,16 @@ namespace {
 TEST(SymbolWords, AllHaveTheirPictures)
 {
     const std::filesystem::path tree = RUVENMARK_SOURCE_DIR "/data/icons/tree";
+    std::set<std::string> seen;
     for (const char table : {'/', '\\', 'D', '7'}) {
         for (char code = '!'; code <= '~'; ++code) {
             const std::string word(SymbolWord({table, code}));
+            seen.insert(word);
             EXPECT_TRUE(std::filesystem::exists(tree / (word + ".svg"))) << word;
             EXPECT_TRUE(word == "Default" || SymbolId(word) != kDefaultSymbol) << word;
         }
     }
+    EXPECT_GT(seen.size(), 45U);
 }
 
 TEST(SymbolWords, CodesBeyondTheTablesHaveTheDefault)

@@ -102,27 +102,17 @@ TEST_F(Tnc, TypesEachCommandBehindThePromptAndTheTextOnce)
     EXPECT_EQ(links.opened, "serial /dev/ttyS0 9600");
     EXPECT_EQ(links.Written(), "\x03");
     Send({"MYCALL W1AW", "UNPROTO APRS VIA WIDE1-1", "CONV", "N0CALL>APRS:>my own\rtext\x03"});
-    links.Tick(1s);
-    EXPECT_EQ(links.Written(), "");
-    links.Say("\r\ncm");
-    EXPECT_EQ(links.Written(), "");
-    links.Say("d:");
-    EXPECT_EQ(links.Written(), "\x03");
-    links.Say("\r\ncmd:\r\n"); // With a line end.
-    EXPECT_EQ(links.Written(), "MYCALL W1AW\r");
-    links.Say("MYCALL W1AW\r\nMYCALL   was NOCALL\r\n");
-    EXPECT_EQ(links.Written(), "");
-    links.Say("cmd:W1XM>APRS:>heard meanwhile\r\n");
-    EXPECT_EQ(links.Written(), "UNPROTO APRS VIA WIDE1-1\r");
-    links.Say("UNPROTO APRS VIA WIDE1-1\r\ncmd:");
-    EXPECT_EQ(links.Written(), "CONV\r");
-    links.Tick(250ms);
-    EXPECT_EQ(links.Written(), "");
-    links.Tick(500ms);
-    EXPECT_EQ(links.Written(), "N0CALL>APRS:>my owntext\r");
+    EXPECT_EQ(links.WrittenIn(1s), "");
+    EXPECT_EQ(links.AnswerTo("\r\ncm"), "");
+    EXPECT_EQ(links.AnswerTo("d:"), "\x03");
+    EXPECT_EQ(links.AnswerTo("\r\ncmd:\r\n"), "MYCALL W1AW\r"); // With a line end.
+    EXPECT_EQ(links.AnswerTo("MYCALL W1AW\r\nMYCALL   was NOCALL\r\n"), "");
+    EXPECT_EQ(links.AnswerTo("cmd:W1XM>APRS:>heard meanwhile\r\n"), "UNPROTO APRS VIA WIDE1-1\r");
+    EXPECT_EQ(links.AnswerTo("UNPROTO APRS VIA WIDE1-1\r\ncmd:"), "CONV\r");
+    EXPECT_EQ(links.WrittenIn(250ms), "");
+    EXPECT_EQ(links.WrittenIn(500ms), "N0CALL>APRS:>my owntext\r");
     links.Say("N0CALL>APRS:>my ow\r\nntext\r\n"); // The echo, as wide as the TNC's screen: not heard.
-    links.Tick(2min);
-    EXPECT_EQ(links.Written(), "");
+    EXPECT_EQ(links.WrittenIn(2min), "");
     EXPECT_THAT(recorded.Raw(), ElementsAre("W1XM>APRS:>heard meanwhile"));
     Send({"LTM 0"});
     EXPECT_EQ(links.Written(), "\x03");
@@ -132,35 +122,29 @@ TEST_F(Tnc, GivesUpARunWhosePromptDoesNotComeAndSaysSoAtTheNext)
 {
     OpenToPrompt();
     Send({"MYCALL W1AW", "CONV", ">one"});
-    links.Tick(5750ms);
-    EXPECT_EQ(links.Written(), "\x03\x03\x03"); // Never anything else.
+    EXPECT_EQ(links.WrittenIn(5750ms), "\x03\x03\x03"); // Never anything else.
     links.Tick(1s);
     EXPECT_THROW(source->EnterCommandMode(), Failure);
     EXPECT_EQ(links.Written(), "\x03");
     links.Tick(7s);
     links.Say("cmd:"); // Too late for that run, but it answers again.
-    links.Tick(5s);
-    EXPECT_EQ(links.Written(), "\x03\x03");
+    EXPECT_EQ(links.WrittenIn(5s), "\x03\x03");
     Send({"MYCALL W1AW", "CONV", ">two"});
-    links.Say("cmd:");
-    EXPECT_EQ(links.Written(), "\x03MYCALL W1AW\r");
+    EXPECT_EQ(links.AnswerTo("cmd:"), "\x03MYCALL W1AW\r");
     links.Tick(4s);
     links.Say("LISTS PAGES\r\n"); // It is at work still.
     links.Tick(4s);
-    links.Say("cmd:");
-    EXPECT_EQ(links.Written(), "CONV\r");
+    EXPECT_EQ(links.AnswerTo("cmd:"), "CONV\r");
     Send({"MYCALL W1AW", "CONV", ">three"});
     links.Tick(750ms);
-    links.Say("cmd:");
-    EXPECT_EQ(links.Written(), ">two\r\x03MYCALL W1AW\r");
+    EXPECT_EQ(links.AnswerTo("cmd:"), ">two\r\x03MYCALL W1AW\r");
     links.Tick(4750ms); // Silent in the middle.
     EXPECT_EQ(fates.size(), 2U);
     links.Tick(250ms);
     EXPECT_THAT(fates, ElementsAre("given up >one", "typed >two", "given up >three"));
     EXPECT_THROW(source->SendCommand("CONV"), Failure);
     links.Say("cmd:");
-    links.Tick(1s);
-    EXPECT_EQ(links.Written(), "");
+    EXPECT_EQ(links.WrittenIn(1s), "");
 }
 
 TEST_F(Tnc, GivesUpOneThatIsBusyForAMinute)
@@ -227,15 +211,11 @@ TEST_F(Tnc, ObeysXoffButNotForever)
     OpenToPrompt();
     links.Say("\x13");
     Send({"MYCALL W1AW"});
-    links.Tick(9s);
-    EXPECT_EQ(links.Written(), "");
-    links.Say("W1XM\x11>APRS:>Hi\r\n");
-    EXPECT_EQ(links.Written(), "\x03");
+    EXPECT_EQ(links.WrittenIn(9s), "");
+    EXPECT_EQ(links.AnswerTo("W1XM\x11>APRS:>Hi\r\n"), "\x03");
     links.Say("cmd:\x13");
-    links.Tick(9s); // A packet may hold the byte.
-    EXPECT_EQ(links.Written(), "");
-    links.Tick(2s);
-    EXPECT_EQ(links.Written(), "MYCALL W1AW\r");
+    EXPECT_EQ(links.WrittenIn(9s), ""); // A packet may hold the byte.
+    EXPECT_EQ(links.WrittenIn(2s), "MYCALL W1AW\r");
     EXPECT_THAT(recorded.Raw(), ElementsAre("W1XM>APRS:>Hi"));
 }
 

@@ -1,4 +1,5 @@
 #include "devices/weather_server.h"
+#include "recorded_events.h"
 #include "support/fake_byte_links.h"
 
 #include <gmock/gmock.h>
@@ -157,30 +158,21 @@ std::string DavisPacket(int rain)
 TEST_F(Weather, WakesADavisConsoleAsksForItsGaugeAndReads)
 {
     Open(19200);
-    links.Tick(250ms);
-    EXPECT_EQ(links.Written(), "\n");
-    links.Tick(1s);
-    EXPECT_EQ(links.Written(), "");
-    links.Tick(500ms);
-    EXPECT_EQ(links.Written(), "\n");
-    links.Say("\n\r");
-    EXPECT_EQ(links.Written(), "EEBRD 2B 01\n");
+    EXPECT_EQ(links.WrittenIn(250ms), "\n");
+    EXPECT_EQ(links.WrittenIn(1s), "");
+    EXPECT_EQ(links.WrittenIn(500ms), "\n");
+    EXPECT_EQ(links.AnswerTo("\n\r"), "EEBRD 2B 01\n");
     const std::string gauge = "\x06" + WithCrc("\x10"); // 0.2 mm a click.
-    links.Say(gauge.substr(0, 2));
-    EXPECT_EQ(links.Written(), "");
-    links.Say(gauge.substr(2));
-    EXPECT_EQ(links.Written(), "LOOP 200\n");
+    EXPECT_EQ(links.AnswerTo(gauge.substr(0, 2)), "");
+    EXPECT_EQ(links.AnswerTo(gauge.substr(2)), "LOOP 200\n");
     links.Say("\x06" + DavisPacket(100));
     EXPECT_THAT(recorded.events, ElementsAre("268/6g6 t74.7 r0p0P79 h57 b10096"));
     links.Tick(5s);
     links.Say(DavisPacket(110));
     EXPECT_EQ(recorded.events.back(), "268/6g6 t74.7 r8p8P87 h57 b10096");
-    links.Tick(9s);
-    EXPECT_EQ(links.Written(), "");
-    links.Tick(2s);
-    EXPECT_EQ(links.Written(), "\n");
-    links.Say("\n\r");
-    EXPECT_EQ(links.Written(), "LOOP 200\n");
+    EXPECT_EQ(links.WrittenIn(9s), "");
+    EXPECT_EQ(links.WrittenIn(2s), "\n");
+    EXPECT_EQ(links.AnswerTo("\n\r"), "LOOP 200\n");
     for (int i = 0; i < 200; ++i)
         links.Say(DavisPacket(110));
     EXPECT_EQ(links.Written(), "\n"); // All that was asked for has come.
@@ -206,8 +198,7 @@ TEST_F(Weather, FindsDavisPacketsAmongNoise)
     Open(19200);
     links.Tick(250ms);
     links.Say("\n\r");
-    links.Tick(2s);
-    EXPECT_EQ(links.Written(), "\nEEBRD 2B 01\nLOOP 200\n");
+    EXPECT_EQ(links.WrittenIn(2s), "\nEEBRD 2B 01\nLOOP 200\n");
 
     server = std::make_unique<WeatherServer>(links, recorded);
     Open(19200);
@@ -222,13 +213,11 @@ TEST_F(Weather, FindsDavisPacketsAmongNoise)
 TEST_F(Weather, LeavesAnUltimeterInPeace)
 {
     Open(2400);
-    links.Tick(10s);
-    EXPECT_EQ(links.Written(), "");
+    EXPECT_EQ(links.WrittenIn(10s), "");
     server = std::make_unique<WeatherServer>(links, recorded);
     Open(19200);
     links.Say(kLogger);
-    links.Tick(10s);
-    EXPECT_EQ(links.Written(), "");
+    EXPECT_EQ(links.WrittenIn(10s), "");
     EXPECT_EQ(recorded.events.size(), 1U);
 }
 
@@ -240,19 +229,13 @@ TEST_F(Weather, OpensClosesFailsOnceAndFallsSilentOnceDropped)
     EXPECT_EQ(links.opened, "serial /dev/ttyS0 2400");
     server->CloseWxPort();
     EXPECT_FALSE(links.IsKept());
-    for (std::size_t last = 1; last <= 3; ++last) {
-        recorded.events.clear();
-        server = std::make_unique<WeatherServer>(links, recorded);
-        recorded.onEvent = [&] {
-            if (recorded.events.size() == last)
-                server.reset();
-        };
-        Open(2400);
+    const auto run = [&](std::unique_ptr<WeatherServer>& weather) {
+        weather = std::make_unique<WeatherServer>(links, recorded);
+        weather->OpenWxPort("/dev/ttyS0", 2400, kAccessToken);
         links.Say(std::string(kLogger) + std::string(kLogger));
         links.Lose();
-        EXPECT_EQ(recorded.events.size(), last);
-        EXPECT_EQ(server, nullptr);
-    }
+    };
+    EXPECT_TRUE(IsSilentOnceDropped<WeatherServer>(3, recorded, run));
     EXPECT_EQ(recorded.events.back(), "error");
 }
 

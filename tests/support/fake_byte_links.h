@@ -53,6 +53,17 @@ public:
     }
     // What was written since it was asked last.
     std::string Written() { return std::exchange(m_wire->written, {}); }
+    // What is written in answer to bytes, and while time passes, on top of what nobody asked for yet.
+    std::string AnswerTo(std::string_view bytes)
+    {
+        Say(bytes);
+        return Written();
+    }
+    std::string WrittenIn(std::chrono::milliseconds time)
+    {
+        Tick(time);
+        return Written();
+    }
     bool IsKept() const { return m_wire->sink != nullptr; }
 
     std::string opened; // "serial /dev/ttyS0 9600", "socket localhost 8000", "connect localhost 14580 15"
