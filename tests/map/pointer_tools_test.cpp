@@ -26,15 +26,6 @@ protected:
     TestProgram program;
 };
 
-TEST_F(PointerTools, CoordinatesUnderThePointerHaveFiveDecimals)
-{
-    mpCtrl_MouseMove(program.main, 400, 300);
-    EXPECT_EQ(program.main.sbStatusBar.Coordinates(), "47.12346, 8.5");
-    program.TheMap().SetView({-33.5, -70.25}, 12);
-    mpCtrl_MouseMove(program.main, 400, 300);
-    EXPECT_EQ(program.main.sbStatusBar.Coordinates(), "-33.5, -70.25");
-}
-
 TEST_F(PointerTools, PressingTwiceStillGivesThePointerBack)
 {
     program.main.mpCtrl.SetMousePointer(7);
