@@ -6,6 +6,7 @@ std::optional<std::string> LineSplitter::Next()
 {
     for (std::size_t end = 0; (end = m_text.find('\n', m_start)) != std::string::npos;) {
         std::string line = m_text.substr(m_start, end - m_start);
+        m_lookAhead.Pass(end + 1 - m_start);
         m_start = end + 1;
         while (line.ends_with('\r'))
             line.pop_back();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/line_look_ahead.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -17,11 +19,14 @@ public:
     // The next whole line without its end; nothing once all that was taken is handed out. What it then keeps is never
     // longer than the limit.
     std::optional<std::string> Next();
+    // Lines behind that one, as far as they were taken: each call gives the next. Live until Next or Take.
+    std::optional<std::string_view> Ahead() { return m_lookAhead.Next(std::string_view(m_text).substr(m_start)); }
 
 private:
     std::size_t m_longest;
     std::string m_text;
     std::size_t m_start = 0; // Of the first line not handed out.
+    LineLookAhead m_lookAhead;
     bool m_bTooLong = false; // The beginning of this line is thrown away already.
 };
 

@@ -29,6 +29,8 @@ public:
     // The next line; nothing once all that was taken is read. Comments that only show that the link stands are left
     // out.
     std::optional<ServerLine> Next();
+    // Lines of any kind behind that one, each once, as far as they were taken; live until Next or Take.
+    std::optional<std::string_view> Ahead() { return m_lines.Ahead(); }
 
     Moment LastHeard() const { return m_lastHeard; }
 

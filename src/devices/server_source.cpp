@@ -2,6 +2,7 @@
 
 #include "devices/event_text.h"
 #include "devices/live_lines.h"
+#include "devices/log_line.h"
 
 namespace ruvenmark {
 
@@ -63,6 +64,8 @@ void ServerSource::OnBytes(std::string_view bytes, Moment now)
         auto line = m_session->Next();
         if (!line)
             break;
+        while (const auto ahead = m_session->Ahead())
+            m_sink.ExpectReport(LikelyCall(*ahead));
         m_mask.Hide(line->text);
         Raise(*line, bDropped);
     }

@@ -47,17 +47,6 @@ std::optional<std::string_view> LineStream::Rest() const
     return m_bStreamEnded ? std::optional(Unread()) : std::nullopt;
 }
 
-std::optional<std::string_view> LineStream::Ahead()
-{
-    const std::string_view behind = Unread().substr(m_lookedAt);
-    const auto end = m_linesAhead < kLookAhead ? behind.find('\n') : std::string_view::npos;
-    if (end == std::string_view::npos)
-        return std::nullopt;
-    m_lookedAt += end + 1;
-    ++m_linesAhead;
-    return behind.substr(0, end > 0 && behind[end - 1] == '\r' ? end - 1 : end);
-}
-
 std::string_view LineStream::Unread() const
 {
     return {m_buffer.data() + m_begin, m_end - m_begin};
@@ -69,8 +58,7 @@ void LineStream::Take(std::size_t length, std::size_t lengthWithEnd)
     m_lineStart = m_offset + m_begin;
     m_begin += lengthWithEnd;
     m_searched = 0;
-    m_lookedAt -= std::min(m_lookedAt, lengthWithEnd);
-    m_linesAhead -= std::min<std::size_t>(m_linesAhead, 1);
+    m_lookAhead.Pass(lengthWithEnd);
     if (m_line.ends_with('\r'))
         m_line.remove_suffix(1);
     if (m_lineStart == 0 && m_line.starts_with(kUtf8Mark))
@@ -82,7 +70,8 @@ void LineStream::SkipLongLine()
     const auto end = Unread().find('\n');
     m_bSkipping = end == std::string_view::npos && !m_bStreamEnded;
     m_begin = end == std::string_view::npos ? m_end : m_begin + end + 1;
-    m_searched = m_lookedAt = m_linesAhead = 0;
+    m_searched = 0;
+    m_lookAhead = {};
 }
 
 // False where nothing came for now.

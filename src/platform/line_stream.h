@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/line_look_ahead.h"
+
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
@@ -31,10 +33,8 @@ public:
     std::uint64_t LineStart() const { return m_lineStart; } // In bytes from the stream's beginning.
     // What stands behind the line, where the stream was read to its end; lives until Next.
     std::optional<std::string_view> Rest() const;
-    // A look at the lines behind this one, as far as they are in memory already: each call gives the next one, up to
-    // kLookAhead lines ahead. Lives until Next.
-    static constexpr std::size_t kLookAhead = 5;
-    std::optional<std::string_view> Ahead();
+    // Lines behind this one, as far as they are in memory already: each call gives the next. Live until Next.
+    std::optional<std::string_view> Ahead() { return m_lookAhead.Next(Unread()); }
 
 private:
     std::string_view Unread() const;
@@ -46,11 +46,10 @@ private:
     std::vector<char> m_buffer;
     std::size_t m_begin = 0, m_end = 0; // Of what is unread in the buffer.
     std::size_t m_searched = 0;         // So much of it holds no line end.
-    std::size_t m_lookedAt = 0;         // So much of it was seen by looks ahead: this many lines.
-    std::size_t m_linesAhead = 0;
-    std::uint64_t m_offset = 0; // Of the buffer's first byte in the stream.
+    std::uint64_t m_offset = 0;         // Of the buffer's first byte in the stream.
     std::uint64_t m_lineStart = 0;
     std::string_view m_line;
+    LineLookAhead m_lookAhead;
     bool m_bSkipping = false; // The rest of a line that was too long.
     bool m_bStreamEnded = false;
     bool m_bAtEnd = false;

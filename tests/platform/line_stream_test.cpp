@@ -29,7 +29,7 @@ std::vector<std::string> LinesOf(std::vector<std::string> pieces)
         }
         while (const auto ahead = stream.Ahead())
             seen.emplace_back(*ahead);
-        EXPECT_LE(seen.size(), LineStream::kLookAhead);
+        EXPECT_LE(seen.size(), LineLookAhead::kMostLines);
         if (!stream.Line().empty())
             lines.emplace_back(stream.Line());
     }
