@@ -38,6 +38,7 @@ struct BenchMachine {
                 .notices = notices,
                 .dialogs = dialogs,
                 .desktop = desktop,
+                .places = places,
                 .wires = wires,
                 .sources = sources,
                 .gpsServers = gpsServers,
@@ -55,6 +56,7 @@ struct BenchMachine {
     PrintedNotices notices{std::cerr};
     BareDialogs dialogs;
     BareDesktop desktop;
+    BarePlaces places;
     Wires wires;
     ReportSources sources{wires};
     GpsServers gpsServers{wires};

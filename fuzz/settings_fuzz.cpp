@@ -28,6 +28,7 @@ void StartAndStop(MemoryFiles& files)
                              .notices = machine.notices,
                              .dialogs = machine.dialogs,
                              .desktop = machine.desktop,
+                             .places = machine.places,
                              .wires = machine.wires,
                              .sources = machine.sources,
                              .gpsServers = machine.gpsServers,

@@ -68,7 +68,7 @@ std::optional<BaseMap> OpenBaseMap()
 struct DesktopRun {
     explicit DesktopRun(const ProgramOptions& options)
         : settings(files, options), baseMap(OpenBaseMap()),
-          places(Base(), DataPath(QStringLiteral("basemap/other_names.tsv"))), dialogs(icons, places),
+          places(Base(), DataPath(QStringLiteral("basemap/other_names.tsv"))), dialogs(icons),
           main({.store = settings.Store(),
                 .files = files,
                 .clock = clock,
@@ -79,6 +79,7 @@ struct DesktopRun {
                 .notices = notices,
                 .dialogs = Dialogs(options),
                 .desktop = desktop,
+                .places = places,
                 .wires = wires,
                 .sources = sources,
                 .gpsServers = gpsServers,

@@ -86,6 +86,7 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
         notices.Say("another program uses these settings: nothing will be saved");
     SendDialogs dialogs;
     BareDesktop desktop;
+    BarePlaces places;
     IByteLinks& wires = wiring.links;
     ReportSources sources{wires};
     SendRun sends(sources.Events(), dialogs, prompts, err);
@@ -101,6 +102,7 @@ int RunHeadless(const ProgramOptions& options, std::ostream& out, std::ostream& 
                      .notices = notices,
                      .dialogs = dialogs,
                      .desktop = desktop,
+                     .places = places,
                      .wires = wires,
                      .sources = sources,
                      .gpsServers = gpsServers,

@@ -3,6 +3,7 @@
 #include "contracts/byte_link.h"
 #include "core/desktop.h"
 #include "core/forms.h"
+#include "core/place_search.h"
 #include "platform/failure.h"
 
 // What stands behind the window's interfaces where nobody watches.
@@ -33,6 +34,13 @@ public:
 
 private:
     std::string m_text;
+};
+
+// No map of the world.
+class BarePlaces final : public IPlaceSearch {
+public:
+    std::vector<FoundPlace> Search(std::string_view /*text*/, std::size_t /*limit*/) const override { return {}; }
+    std::optional<FoundPlace> Named(std::string_view /*name*/) const override { return std::nullopt; }
 };
 
 // A machine without a wire.

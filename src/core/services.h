@@ -6,6 +6,7 @@
 #include "contracts/weather_server.h"
 #include "core/desktop.h"
 #include "core/forms.h"
+#include "core/place_search.h"
 #include "platform/clock.h"
 #include "platform/files.h"
 #include "platform/prompts.h"
@@ -29,6 +30,7 @@ struct Services {
     INotices& notices;
     IDialogs& dialogs;
     IDesktop& desktop;
+    const IPlaceSearch& places;
     IByteLinks& wires; // The dialogs of the links ask for the ports of this machine.
     IReportSources& sources;
     IGpsServers& gpsServers;

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace ruvenmark {
 
@@ -84,6 +85,8 @@ std::optional<DirectionsEnd> ReadDirectionsEnd(const MainWindow& main, std::stri
     // A call may look like a locator.
     if (const auto point = ReadLocator(typed))
         return DirectionsEnd{"", *point};
+    if (auto place = main.services.places.Named(typed))
+        return DirectionsEnd{std::move(place->name), place->point};
     return std::nullopt;
 }
 
@@ -96,12 +99,11 @@ std::string DirectionsEndText(const DirectionsEnd& end)
 
 bool SetDirectionsEnd(MainWindow& main, std::size_t end, std::string_view text)
 {
-    auto value = ReadDirectionsEnd(main, text);
-    if (!value && !Trim(text).empty())
-        return false;
-    main.map.directions.at(end) = std::move(value);
+    std::optional<DirectionsEnd>& value = main.map.directions.at(end);
+    value = ReadDirectionsEnd(main, text);
+    const bool bTaken = value || Trim(text).empty();
     main.map.DirectionsChanged.Raise();
-    return true;
+    return bTaken;
 }
 
 void SetDirectionsEnd(MainWindow& main, std::size_t end, const DirectionsEnd& value)

@@ -13,7 +13,7 @@ struct MainWindow;
 
 // Where directions start or end.
 struct DirectionsEnd {
-    std::string name; // A marker's name, or empty for a bare point.
+    std::string name; // A marker's or a place's, or empty for a bare point.
     GeoPoint point;
 };
 
@@ -27,14 +27,14 @@ Directions WorkOutDirections(GeoPoint from, GeoPoint to);
 // One of the 16 words from "N" to "NNW".
 std::string_view CompassPoint(double bearing);
 
-// What a typed text stands for: a latitude and longitude, a marker's name, a station's call on any channel, or a
-// locator.
+// What a typed text stands for: a latitude and longitude, a marker's name, a station's call on any channel, a locator,
+// or a place's name.
 std::optional<DirectionsEnd> ReadDirectionsEnd(const MainWindow& main, std::string_view text);
 // How an end is shown, and read again.
 std::string DirectionsEndText(const DirectionsEnd& end);
 
-// End 0 is the start, 1 the end. False, with nothing changed, for a text that stands for nothing; an empty text clears
-// it. Both raise MapSession::DirectionsChanged.
+// End 0 is the start, 1 the end. A text that stands for nothing clears it, as an empty one does, and gives false: what
+// was measured before must not stand beside it. Both raise MapSession::DirectionsChanged.
 bool SetDirectionsEnd(MainWindow& main, std::size_t end, std::string_view text);
 void SetDirectionsEnd(MainWindow& main, std::size_t end, const DirectionsEnd& value);
 

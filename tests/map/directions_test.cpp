@@ -34,11 +34,20 @@ TEST(Directions, EndsAreStationsMarkersOrPoints)
     for (const char* typed : {"", "N0CAL", "91, 0", "0, 181", "1,2,3", "40", "nan, 0"})
         EXPECT_FALSE(ReadDirectionsEnd(program.main, typed)) << typed;
 
-    EXPECT_TRUE(SetDirectionsEnd(program.main, 0, "n0call"));
-    EXPECT_FALSE(SetDirectionsEnd(program.main, 0, "nobody"));
-    EXPECT_TRUE(program.main.map.directions[0]);
-    EXPECT_TRUE(SetDirectionsEnd(program.main, 0, ""));
-    EXPECT_FALSE(program.main.map.directions[0]);
+    // A place comes after all else, and only by its whole name.
+    const auto place = ReadDirectionsEnd(program.main, "springfield");
+    ASSERT_TRUE(place);
+    EXPECT_EQ(DirectionsEndText(*place), "Springfield");
+    EXPECT_FALSE(ReadDirectionsEnd(program.main, "springf"));
+    program.Position(Channel::TCP, "Springdale", 40, -80);
+    EXPECT_EQ(DirectionsEndText(*ReadDirectionsEnd(program.main, "Springdale")), "Springdale(t)");
+
+    // The old way must not stand beside a text that nobody knows.
+    for (const char* typed : {"nobody", ""}) {
+        EXPECT_TRUE(SetDirectionsEnd(program.main, 0, "n0call"));
+        EXPECT_EQ(SetDirectionsEnd(program.main, 0, typed), *typed == 0);
+        EXPECT_FALSE(program.main.map.directions[0]);
+    }
 }
 
 } // namespace

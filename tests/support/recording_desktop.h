@@ -92,5 +92,10 @@ public:
         return found;
     }
 };
+    std::optional<FoundPlace> Named(std::string_view name) const override
+    {
+        const auto found = Search(name, 1);
+        return found.empty() || found[0].name.size() != name.size() ? std::nullopt : std::optional(found[0]);
+    }
 
 } // namespace ruvenmark

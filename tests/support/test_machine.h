@@ -27,6 +27,7 @@ struct TestMachine {
                 .notices = notices,
                 .dialogs = dialogs,
                 .desktop = desktop,
+                .places = places,
                 .wires = wires,
                 .sources = sources,
                 .gpsServers = gpsServers,
@@ -43,6 +44,7 @@ struct TestMachine {
     RecordingPrompts prompts;
     RecordingNotices notices;
     RecordingDesktop desktop;
+    FakePlaces places;
     Wires wires;
     ReportSources sources{wires};
     GpsServers gpsServers{wires};

@@ -67,4 +67,23 @@ std::vector<FoundPlace> BasePlaces::Search(std::string_view text, std::size_t li
     return found;
 }
 
+// Lower numbers are larger places.
+std::optional<FoundPlace> BasePlaces::Named(std::string_view name) const
+{
+    if (!m_base)
+        return std::nullopt;
+    const QString typed = ForDisplay(name);
+    const std::string folded = FoldForSearch(QStringView(typed).trimmed());
+    std::optional<std::size_t> largest;
+    const auto offer = [&](std::size_t index, std::string_view itsName) {
+        if (itsName.size() == folded.size() && BeginsWith(itsName, folded) && (!largest || index < *largest))
+            largest = index;
+    };
+    for (const std::size_t index : FindPlaces(*m_base, typed, m_base->PlaceCount()))
+        offer(index, m_base->FoldedName(index));
+    for (const OtherNames::Row& row : Others().Find(folded))
+        offer(row.place, row.folded);
+    return largest ? std::optional(PlaceOf(*largest, {})) : std::nullopt;
+}
+
 } // namespace ruvenmark

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/place_search.h"
 #include "desktop/map/base_map/other_names.h"
-#include "map/find.h"
 
 #include <QString>
 
@@ -17,6 +17,7 @@ public:
     BasePlaces(const BaseMap* base, QString otherNames) : m_base(base), m_otherNames(std::move(otherNames)) {}
 
     std::vector<FoundPlace> Search(std::string_view text, std::size_t limit) const override;
+    std::optional<FoundPlace> Named(std::string_view name) const override;
 
 private:
     FoundPlace PlaceOf(std::size_t index, std::string_view otherName) const;

@@ -41,7 +41,7 @@ void BringToFront(FormDialog& dialog)
 
 } // namespace
 
-QtDialogs::QtDialogs(const IconSet& icons, const IPlaceSearch& places) : m_icons(icons), m_places(places) {}
+QtDialogs::QtDialogs(const IconSet& icons) : m_icons(icons) {}
 
 QtDialogs::~QtDialogs() = default;
 
@@ -59,7 +59,7 @@ std::unique_ptr<FormDialog> QtDialogs::Make(Form form, MainWindow& main) const
     case Form::frmFilter:
         return std::make_unique<FrmFilterDialog>(main, m_window);
     case Form::frmFind:
-        return std::make_unique<FindDialog>(main, m_places, m_window);
+        return std::make_unique<FindDialog>(main, m_window);
     case Form::frmGps:
         return std::make_unique<FrmGpsDialog>(main, m_window);
     case Form::frmWx:

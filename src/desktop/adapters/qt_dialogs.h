@@ -11,15 +11,13 @@
 namespace ruvenmark {
 
 class FormDialog;
-class IPlaceSearch;
 class IconSet;
 
 // The dialogs as windows. A modal one lives while it runs; a modeless one is made when it is first shown and belongs to
 // the main window.
 class QtDialogs final : public IDialogs {
 public:
-    // Both are lent for the whole run.
-    QtDialogs(const IconSet& icons, const IPlaceSearch& places);
+    explicit QtDialogs(const IconSet& icons); // Lent for the whole run.
     ~QtDialogs() override;
 
     void SetWindow(QWidget* window) { m_window = window; }
@@ -43,7 +41,6 @@ private:
     const Window& Of(Form form) const { return m_windows[Index(form)]; }
 
     const IconSet& m_icons;
-    const IPlaceSearch& m_places;
     QPointer<QWidget> m_window;
     std::array<Window, kForms.size()> m_windows;
 };

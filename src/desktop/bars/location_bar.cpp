@@ -47,7 +47,8 @@ LocationBar::LocationBar(MainWindow& main, QWidget* parent)
     setAccessibleName(windowTitle());
     setContextMenuPolicy(Qt::PreventContextMenu);
     NameControl(*m_centre, "txtCentre", QStringLiteral("Middle of the map"));
-    m_centre->setToolTip(QStringLiteral("Middle of the map: type latitude and longitude, a locator or a call"));
+    m_centre->setToolTip(
+        QStringLiteral("Middle of the map: type a place, a call, latitude and longitude or a locator"));
     m_centre->setFixedWidth(CoordinatesWidth(*this));
     NameControl(*m_zoom, "numZoom", QStringLiteral("Zoom level"));
     m_zoom->setRange(kMinZoom, kMaxZoom);
@@ -89,7 +90,8 @@ void LocationBar::GoToTyped()
     if (!map || !end) {
         m_centre->selectAll();
         QToolTip::showText(m_centre->mapToGlobal(QPoint(0, m_centre->height())),
-                           QStringLiteral("No such call, and no latitude and longitude or locator"), m_centre);
+                           QStringLiteral("No such place, call or marker, and no latitude and longitude or locator"),
+                           m_centre);
         return;
     }
     m_centre->setModified(false);

@@ -29,8 +29,8 @@ QString RowText(const FoundPlace& found)
 
 } // namespace
 
-FindDialog::FindDialog(MainWindow& main, const IPlaceSearch& places, QWidget* parent)
-    : FormDialog(parent), m_main(main), m_places(places), m_text(new QLineEdit(this)), m_list(new QListWidget(this))
+FindDialog::FindDialog(MainWindow& main, QWidget* parent)
+    : FormDialog(parent), m_main(main), m_text(new QLineEdit(this)), m_list(new QListWidget(this))
 {
     setWindowTitle(QStringLiteral("Find"));
     auto* label = new QLabel(QStringLiteral("&Place or station"), this);
@@ -87,7 +87,7 @@ bool FindDialog::eventFilter(QObject* watched, QEvent* event)
 void FindDialog::Search()
 {
     const QString text = m_text->text().trimmed();
-    m_found = Find(m_main, m_places, text.toStdString(), kMostRows);
+    m_found = Find(m_main, m_main.services.places, text.toStdString(), kMostRows);
     m_list->clear();
     for (const FoundPlace& found : m_found)
         m_list->addItem(RowText(found));

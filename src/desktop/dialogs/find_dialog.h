@@ -15,7 +15,7 @@ struct MainWindow;
 // Finds stations, markers and places while the operator types; Enter goes to the one that is chosen.
 class FindDialog final : public FormDialog {
 public:
-    FindDialog(MainWindow& main, const IPlaceSearch& places, QWidget* parent);
+    FindDialog(MainWindow& main, QWidget* parent);
 
     // Ready for another text; the former one stays until it is typed over.
     void Refresh() override;
@@ -28,7 +28,6 @@ private:
     void Search();
 
     MainWindow& m_main;
-    const IPlaceSearch& m_places;
     QLineEdit* m_text;
     QListWidget* m_list;
     std::vector<FoundPlace> m_found; // By row of the list.

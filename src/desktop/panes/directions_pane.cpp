@@ -29,7 +29,7 @@ constexpr std::array<EndTexts, 2> kEndTexts = {
     {{"txtDirectionsFrom", "PickFrom", "Fro&m", "Take the start from a click on the map"},
      {"txtDirectionsTo", "PickTo", "T&o", "Take the end from a click on the map"}}};
 
-constexpr const char* kHint = "Call, marker, lat and lon, locator";
+constexpr const char* kHint = "Place, call, marker, lat and lon, locator";
 constexpr const char* kMissing = "Name a start and an end, or pick them on the map.";
 
 } // namespace
@@ -107,9 +107,28 @@ void DirectionsPane::showEvent(QShowEvent* event)
 // A text that stands for nothing stays to be mended.
 void DirectionsPane::Enter(std::size_t end)
 {
-    const std::string text = m_ends[end].text->text().toStdString();
-    if (m_ends[end].text->isModified() && !SetDirectionsEnd(m_main, end, text))
-        m_result->setText(QStringLiteral("Nothing is known of “%1”.").arg(ForDisplay(text)));
+    End& entered = m_ends[end];
+    if (!entered.text->isModified())
+        return;
+    entered.bUnknown = !SetDirectionsEnd(m_main, end, entered.text->text().toStdString());
+    Refresh();
+}
+
+QString DirectionsPane::ResultText() const
+{
+    QStringList lines;
+    for (const End& end : m_ends)
+        if (end.bUnknown)
+            lines += QStringLiteral("“%1” is no place, call, marker, latitude and longitude or locator.")
+                         .arg(end.text->text());
+    if (!lines.isEmpty())
+        return lines.join(QLatin1Char('\n'));
+    const std::string directions = DirectionsText(m_main);
+    if (directions.empty())
+        return QString::fromLatin1(kMissing);
+    for (const std::string_view line : Lines(directions))
+        lines += ForDisplay(line);
+    return lines.mid(2).join(QLatin1Char('\n')); // The ends stand in their fields.
 }
 
 void DirectionsPane::Refresh()
@@ -117,20 +136,16 @@ void DirectionsPane::Refresh()
     const auto& ends = m_main.map.directions;
     for (std::size_t end = 0; end < m_ends.size(); ++end) {
         QLineEdit* edit = m_ends[end].text;
-        if (ends[end])
+        if (ends[end]) {
             edit->setText(ForDisplay(DirectionsEndText(*ends[end])));
-        else if (!edit->isModified())
-            edit->clear();
-        if (ends[end])
             edit->setModified(false);
+            m_ends[end].bUnknown = false;
+        } else if (!edit->isModified()) {
+            edit->clear();
+        }
     }
-    QStringList lines;
-    const std::string directions = DirectionsText(m_main);
-    for (const std::string_view line : Lines(directions))
-        lines += ForDisplay(line);
-    // The ends stand in their fields.
-    m_result->setText(directions.empty() ? QString::fromLatin1(kMissing) : lines.mid(2).join(QLatin1Char('\n')));
-    m_copy->setEnabled(!directions.empty());
+    m_result->setText(ResultText());
+    m_copy->setEnabled(ends[0] && ends[1]);
 }
 
 } // namespace ruvenmark

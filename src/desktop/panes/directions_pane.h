@@ -17,7 +17,8 @@ namespace ruvenmark {
 class IconSet;
 struct MainWindow;
 
-// Distance and bearings between two points, each typed (a call, a marker's name, or "lat, lon") or clicked on the map.
+// Distance and bearings between two points, each typed (a place, a call, a marker's name, or "lat, lon") or clicked on
+// the map.
 class DirectionsPane final : public QFrame {
 public:
     DirectionsPane(MainWindow& main, const IconSet& icons, QWidget* parent = nullptr);
@@ -31,10 +32,12 @@ private:
     struct End {
         QLineEdit* text = nullptr;
         QPushButton* pick = nullptr;
+        bool bUnknown = false; // What it holds stands for nothing.
     };
 
     void AddEnd(QGridLayout& layout, std::size_t end);
     void Enter(std::size_t end);
+    QString ResultText() const;
     void Refresh();
 
     MainWindow& m_main;

@@ -263,6 +263,12 @@ TEST(MainWindowViewTest, TheDirectionsPaneMeasuresBetweenAStationAndAPoint)
     program.Find<QAbstractButton>("CloseDirections").click();
     EXPECT_FALSE(from.isVisible());
 }
+    from.selectAll();
+    QTest::keyClicks(&from, QStringLiteral("nobody\r"));
+    const QString bad = program.Find<QLabel>("lblDirections").text();
+    EXPECT_TRUE(bad.contains(QStringLiteral("nobody")) && bad.contains(QStringLiteral("nowhere"))) << "each is told";
+    from.selectAll();
+    QTest::keyClicks(&from, QStringLiteral("n0call\r"));
 
 TEST(MainWindowViewTest, TheLocationBarGoesWhereItIsTold)
 {

@@ -1,7 +1,10 @@
+#include "../map/base_map/world_map.h"
 #include "../map/tiles/tile_server.h"
+#include "desktop/adapters/base_places.h"
 #include "desktop/adapters/qt_desktop.h"
 #include "desktop/adapters/qt_prompts.h"
 #include "desktop/map/widget/map_widget.h"
+#include "mapfiles/base_map.h"
 #include "platform/failure.h"
 #include "window_program.h"
 
@@ -55,6 +58,22 @@ TEST(QtDesktopTest, PrintingAsksFirstAndFillsThePage)
     desktop.SetWindow(&program.window, &program.window.Map());
     EXPECT_THROW(desktop.PrintMap({}), Failure);
     WhenModal([](QDialog& dialog) {
+// Whoever types a whole name means the largest place of it, not a larger one that only begins so.
+TEST(BasePlacesTest, AWholeNameIsTheLargestPlaceOfIt)
+{
+    const BaseMap map = BaseMap::Open(kWorldMapPath);
+    const BasePlaces places(&map, QString::fromLatin1(kOtherNamesPath));
+    const auto name = [&](std::string_view typed) {
+        const auto place = places.Named(typed);
+        return place ? place->name + ", " + place->detail : std::string();
+    };
+    EXPECT_TRUE(name(" yORK ").starts_with("York, ")) << name("york");
+    EXPECT_TRUE(name("zurich").starts_with("Zürich, ")) << name("zurich");
+    EXPECT_TRUE(name("Wien").starts_with("Vienna, ")) << name("Wien");
+    EXPECT_EQ(name("Yor"), "");
+    EXPECT_FALSE(BasePlaces(nullptr, {}).Named("York"));
+}
+
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Print"));
         dialog.reject();
     });

@@ -25,8 +25,7 @@ namespace ruvenmark {
 template <class Wires>
 struct WindowProgramOver : TestMachine<MemorySettingsStore, QtYield, Wires> {
     IconSet icons;
-    FakePlaces places;
-    QtDialogs dialogs{icons, places};
+    QtDialogs dialogs{icons};
     MainWindow main{this->Lend(dialogs)};
     MainWindowView window{main, icons, nullptr};
 
