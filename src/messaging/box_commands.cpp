@@ -91,7 +91,7 @@ void mnuMsgOpen_Click(MainWindow& main)
 void mnuMsgDelete_Click(MainWindow& main)
 {
     RowList* list = VisibleList(main);
-    if (!list || !main.services.prompts.AskYesNo("Are you sure you want to delete the selected message(s)?"))
+    if (!list || !main.services.prompts.AskToDelete("Are you sure you want to delete the selected message(s)?"))
         return;
     list->RemoveSelected();
     TellDeleted(main, *list);
@@ -103,8 +103,8 @@ void mnuMsgDeleteAll_Click(MainWindow& main)
     if (!list)
         return;
     const bool bInbox = list == &main.messages.lvMessageList;
-    if (!main.services.prompts.AskYesNo(bInbox ? "Are you sure you want to delete all received messages?"
-                                               : "Are you sure you want to delete all sent messages?"))
+    if (!main.services.prompts.AskToDelete(bInbox ? "Are you sure you want to delete all received messages?"
+                                                  : "Are you sure you want to delete all sent messages?"))
         return;
     list->Clear();
     TellDeleted(main, *list);

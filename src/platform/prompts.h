@@ -27,6 +27,8 @@ public:
     virtual ~IPrompts() = default;
     virtual void Message(std::string_view text) = 0;
     virtual bool AskYesNo(std::string_view text) = 0;
+    // As AskYesNo, for what cannot be brought back: a key pressed in haste means no.
+    virtual bool AskToDelete(std::string_view text) = 0;
     virtual Answer AskYesNoCancel(std::string_view text) = 0;
     virtual std::optional<std::string> OpenFile(std::string_view title, FileFilter filter) = 0;
     // Asks before an existing file is taken.

@@ -115,7 +115,7 @@ void mnuRemoveTrack_Click(MainWindow& main)
     if (!selection)
         return;
     const std::string key = TrackKey(selection->call);
-    if (!main.services.prompts.AskYesNo("Are you sure you want to remove track for " + key + "?"))
+    if (!main.services.prompts.AskToDelete("Are you sure you want to remove track for " + key + "?"))
         return;
     const ChannelState& state = selection->state;
     RemoveStationTrack(main, state.channel, HasTrack(state, key) ? key : selection->call);
@@ -135,7 +135,7 @@ void mnuShowTrack_Click(MainWindow& main)
 
 void mnuRemoveAllTracks_Click(MainWindow& main)
 {
-    if (main.services.prompts.AskYesNo("Are you sure you want to remove all station tracks?"))
+    if (main.services.prompts.AskToDelete("Are you sure you want to remove all station tracks?"))
         RemoveAllTracks(main);
 }
 

@@ -148,7 +148,7 @@ void mnuRemoveStation_Click(MainWindow& main)
     const Channel channel = *station->channel;
     const std::string call(station->node->Text());
     const std::string folderWord(station->folder->Word());
-    if (main.services.prompts.AskYesNo("Are you sure you want to delete report for " + call + "?"))
+    if (main.services.prompts.AskToDelete("Are you sure you want to delete report for " + call + "?"))
         RemoveStation(main, channel, call, folderWord);
 }
 
@@ -158,13 +158,13 @@ void mnuClearReports_Click(MainWindow& main)
     if (!channel)
         return;
     const std::string word(Traits(*channel).word);
-    if (main.services.prompts.AskYesNo("Are you sure you want to delete all " + word + " reports?"))
+    if (main.services.prompts.AskToDelete("Are you sure you want to delete all " + word + " reports?"))
         ClearChannelReports(main, *channel);
 }
 
 void mnuClearAllReports_Click(MainWindow& main)
 {
-    if (!main.services.prompts.AskYesNo("Are you sure you want to delete all reports?"))
+    if (!main.services.prompts.AskToDelete("Are you sure you want to delete all reports?"))
         return;
     for (const Channel channel : kChannels)
         ClearChannelReports(main, channel);
@@ -179,8 +179,8 @@ void mnuUnloadFolder_Click(MainWindow& main)
     const auto channel = ChannelOf(*root);
     if (channel && Traits(*channel).bRootAtStart)
         return;
-    if (!main.services.prompts.AskYesNo("Are you sure you want to unload all " + std::string(root->Text()) +
-                                        " reports?"))
+    if (!main.services.prompts.AskToDelete("Are you sure you want to unload all " + std::string(root->Text()) +
+                                           " reports?"))
         return;
     TreeNode* const standing = main.tvStationList.Find(key);
     if (!standing)

@@ -63,6 +63,7 @@ public:
 
     void Message(std::string_view text) override { messages.emplace_back(text); }
     bool AskYesNo(std::string_view text) override { return Ask(text, Answer::No) == Answer::Yes; }
+    bool AskToDelete(std::string_view text) override { return AskYesNo(text); }
     Answer AskYesNoCancel(std::string_view text) override { return Ask(text, Answer::Cancel); }
     std::optional<std::string> OpenFile(std::string_view title, FileFilter /*filter*/) override
     {

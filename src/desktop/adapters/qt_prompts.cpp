@@ -69,6 +69,12 @@ bool QtPrompts::AskYesNo(std::string_view text)
     return RunBox(Owner(), QMessageBox::Question, text, buttons, QMessageBox::Yes) == QMessageBox::Yes;
 }
 
+bool QtPrompts::AskToDelete(std::string_view text)
+{
+    const auto buttons = QMessageBox::Yes | QMessageBox::No;
+    return RunBox(Owner(), QMessageBox::Question, text, buttons, QMessageBox::No) == QMessageBox::Yes;
+}
+
 Answer QtPrompts::AskYesNoCancel(std::string_view text)
 {
     const auto buttons = QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;

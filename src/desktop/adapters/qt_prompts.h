@@ -14,6 +14,7 @@ public:
 
     void Message(std::string_view text) override;
     bool AskYesNo(std::string_view text) override;
+    bool AskToDelete(std::string_view text) override;
     Answer AskYesNoCancel(std::string_view text) override;
     std::optional<std::string> OpenFile(std::string_view title, FileFilter filter) override;
     std::optional<std::string> SaveFile(std::string_view title, FileFilter filter) override;

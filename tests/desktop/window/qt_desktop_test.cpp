@@ -43,6 +43,13 @@ TEST(QtPromptsTest, BoxesCarryTheTitleAndPlainText)
     EXPECT_EQ(prompts.AskYesNoCancel("?"), Answer::Cancel);
     WhenModal([](QDialog& dialog) { dynamic_cast<QMessageBox&>(dialog).button(QMessageBox::No)->click(); });
     EXPECT_FALSE(prompts.AskYesNo("?"));
+    // A Return in haste saves a map, but deletes nothing.
+    WhenModal([](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
+    EXPECT_TRUE(prompts.AskYesNo("?"));
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        WhenModal([key](QDialog& dialog) { QTest::keyClick(&dialog, key); });
+        EXPECT_FALSE(prompts.AskToDelete("?"));
+    }
     WhenModal([](QDialog& dialog) {
         auto& files = dynamic_cast<QFileDialog&>(dialog);
         EXPECT_EQ(files.nameFilters(), QStringList{QStringLiteral("Station Files (*.*) (*)")});
@@ -51,13 +58,6 @@ TEST(QtPromptsTest, BoxesCarryTheTitleAndPlainText)
     EXPECT_FALSE(prompts.OpenFile("Open", {"Station Files (*.*)", "*.*"}));
 }
 
-TEST(QtDesktopTest, PrintingAsksFirstAndFillsThePage)
-{
-    WindowProgram program;
-    QtDesktop desktop;
-    desktop.SetWindow(&program.window, &program.window.Map());
-    EXPECT_THROW(desktop.PrintMap({}), Failure);
-    WhenModal([](QDialog& dialog) {
 // Whoever types a whole name means the largest place of it, not a larger one that only begins so.
 TEST(BasePlacesTest, AWholeNameIsTheLargestPlaceOfIt)
 {
@@ -74,6 +74,13 @@ TEST(BasePlacesTest, AWholeNameIsTheLargestPlaceOfIt)
     EXPECT_FALSE(BasePlaces(nullptr, {}).Named("York"));
 }
 
+TEST(QtDesktopTest, PrintingAsksFirstAndFillsThePage)
+{
+    WindowProgram program;
+    QtDesktop desktop;
+    desktop.SetWindow(&program.window, &program.window.Map());
+    EXPECT_THROW(desktop.PrintMap({}), Failure);
+    WhenModal([](QDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Print"));
         dialog.reject();
     });
