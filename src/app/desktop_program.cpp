@@ -130,7 +130,7 @@ struct DesktopRun {
 void TakeScreenshot(DesktopRun& run, const ProgramOptions& options, IByteStream* load)
 {
     const SizeOption size = options.size.value_or(SizeOption{});
-    run.window.resize(size.width, size.height);
+    run.window.setFixedSize(size.width, size.height);
     if (load)
         run.window.LoadFile(*load);
     for (const char* key : {"FL", "FLPositions"})

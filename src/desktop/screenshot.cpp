@@ -20,7 +20,7 @@ constexpr int kLongestMs = 30000; // For a server that never answers.
 // A painting asks for what it lacks: the picture is whole when one lacked nothing.
 void SaveScreenshot(MainWindowView& window, QSize size, const QString& path)
 {
-    window.resize(size);
+    window.setFixedSize(size); // Whatever the screen is.
     QElapsedTimer watch;
     watch.start();
     QPixmap picture;
