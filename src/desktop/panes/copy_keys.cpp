@@ -1,6 +1,8 @@
 #include "desktop/panes/copy_keys.h"
 
+#include <QAbstractItemModel>
 #include <QKeyEvent>
+#include <QStringList>
 #include <QWidget>
 
 namespace ruvenmark {
@@ -29,6 +31,14 @@ protected:
 void KeepCopyKeys(QWidget& text)
 {
     text.installEventFilter(new CopyKeys(&text));
+}
+
+QString RowText(const QModelIndex& row)
+{
+    QStringList texts;
+    for (int column = 0; column < row.model()->columnCount(row.parent()); ++column)
+        texts << row.siblingAtColumn(column).data().toString();
+    return texts.join(QLatin1Char('\t'));
 }
 
 } // namespace ruvenmark

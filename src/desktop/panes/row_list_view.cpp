@@ -4,6 +4,8 @@
 #include "desktop/panes/row_model.h"
 #include "platform/row_list.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -99,10 +101,23 @@ void RowListView::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Delete))
         emit DeleteWanted();
+    else if (event->matches(QKeySequence::Copy))
+        Copy();
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         emit OpenWanted();
     else
         QTreeView::keyPressEvent(event);
+}
+
+// All that is selected, a line each.
+void RowListView::Copy() const
+{
+    QStringList rows;
+    for (int row = 0; row < m_model.rowCount(); ++row)
+        if (m_list.At(static_cast<std::size_t>(row)).IsSelected())
+            rows << RowText(m_model.index(row, 0));
+    if (!rows.isEmpty())
+        QApplication::clipboard()->setText(rows.join(QLatin1Char('\n')));
 }
 
 void RowListView::keyReleaseEvent(QKeyEvent* event)

@@ -38,6 +38,7 @@ private:
     void SortBy(int column);
     void ShowSelection();
     void FitMainColumn();
+    void Copy() const;
 
     RowList& m_list;
     RowModel& m_model;
