@@ -44,6 +44,7 @@ void StationDock::ApplyState()
         ShowList();
     } else {
         hide();
+        m_look = m_list->Look();
         setWidget(nullptr);
         std::exchange(m_list, nullptr)->deleteLater();
     }
@@ -56,6 +57,8 @@ void StationDock::ShowList()
     connect(m_list, &StationList::ShowWanted, this, m_actions.show);
     connect(m_list, &StationList::MenuWanted, this, m_actions.menu);
     setWidget(m_list);
+    if (m_look)
+        m_list->SetLook(*m_look);
     const DockPlace place = DockPlaceOf(m_main.window.stationListPlace);
     if (!std::exchange(m_bPlaced, true)) {
         m_area.addDockWidget(place.area, this);

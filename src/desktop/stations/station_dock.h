@@ -5,6 +5,7 @@
 #include <QDockWidget>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 class QMainWindow;
@@ -38,8 +39,9 @@ private:
     Actions m_actions;
     QMainWindow& m_area;
     StationList* m_list = nullptr;
-    bool m_bPlaced = false;  // It has been where it was left.
-    bool m_bPlacing = false; // Not by the operator.
+    std::optional<StationListLook> m_look; // When it was hidden.
+    bool m_bPlaced = false;                // It has been where it was left.
+    bool m_bPlacing = false;               // Not by the operator.
 };
 
 } // namespace ruvenmark

@@ -1,6 +1,7 @@
 #include "desktop/stations/station_list.h"
 
 #include "desktop/named_control.h"
+#include "desktop/panes/copy_keys.h"
 #include "desktop/stations/station_model.h"
 
 #include <QApplication>
@@ -161,16 +162,25 @@ void StationList::ShowCount()
     m_count->setText(text + (total == 1 ? QStringLiteral(" station") : QStringLiteral(" stations")));
 }
 
-// The row's texts, tabs between.
 void StationList::Copy()
 {
-    const QModelIndex current = m_table->currentIndex();
-    if (!current.isValid())
-        return;
-    QStringList texts;
-    for (int column = 0; column < m_model->columnCount(); ++column)
-        texts << current.siblingAtColumn(column).data().toString();
-    QApplication::clipboard()->setText(texts.join(QLatin1Char('\t')));
+    if (const QModelIndex current = m_table->currentIndex(); current.isValid())
+        QApplication::clipboard()->setText(RowText(current));
+}
+
+StationListLook StationList::Look() const
+{
+    return {m_calls->text(), m_within->currentIndex(), m_direct->isChecked(), m_table->horizontalHeader()->saveState()};
+}
+
+void StationList::SetLook(const StationListLook& look)
+{
+    m_calls->setText(look.calls);
+    m_within->setCurrentIndex(look.within);
+    m_direct->setChecked(look.bDirect);
+    m_table->horizontalHeader()->restoreState(look.columns);
+    m_table->sortByColumn(m_table->horizontalHeader()->sortIndicatorSection(),
+                          m_table->horizontalHeader()->sortIndicatorOrder());
 }
 
 void StationList::OpenMenu(QPoint place)

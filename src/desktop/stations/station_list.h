@@ -2,6 +2,8 @@
 
 #include "core/channel.h"
 
+#include <QByteArray>
+#include <QString>
 #include <QWidget>
 
 #include <string>
@@ -19,6 +21,14 @@ class StationModel;
 struct MainWindow;
 
 // The table of all stations with its filter above it. It costs only while it stands.
+// How the operator has arranged it.
+struct StationListLook {
+    QString calls;
+    int within = 0; // Row of the box.
+    bool bDirect = false;
+    QByteArray columns; // Widths and order, as the toolkit tells them.
+};
+
 class StationList final : public QWidget {
     Q_OBJECT
 
@@ -26,6 +36,9 @@ public:
     StationList(MainWindow& main, const IconSet& icons, QWidget* parent = nullptr);
 
 signals:
+    StationListLook Look() const;
+    void SetLook(const StationListLook& look);
+
     void ShowWanted(ruvenmark::Channel channel, const std::string& call);
     // Of the selected station; and where it belongs, on the screen.
     void MenuWanted(ruvenmark::Channel channel, const std::string& call, QPoint place);
