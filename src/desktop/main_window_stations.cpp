@@ -44,6 +44,9 @@ QWidget* MainWindowView::MakeStationDock()
                                  {[this](Channel channel, const std::string& call) {
                                       RunLogic([&] { ShowListedStation(m_main, channel, call); });
                                   },
+                                  [this](Channel channel, const std::string& call) {
+                                      RunLogic([&] { RemoveListedStation(m_main, channel, call); });
+                                  },
                                   [this](Channel channel, const std::string& call, QPoint place) {
                                       if (TreeNode* node = NodeOfStation(m_main, channel, call))
                                           PopUpFor(place, node);

@@ -112,6 +112,14 @@ void ShowListedStation(MainWindow& main, Channel channel, std::string_view call)
     }
 }
 
+void RemoveListedStation(MainWindow& main, Channel channel, std::string_view call)
+{
+    if (TreeNode* node = NodeOfStation(main, channel, call)) {
+        main.tvStationList.Select(node);
+        mnuRemoveStation_Click(main);
+    }
+}
+
 void mnuInfo_Click(MainWindow& main)
 {
     const auto station = SelectedStation(main.tvStationList);

@@ -44,6 +44,8 @@ void tvStationList_Expand(MainWindow& main, TreeNode& node);
 
 // Selects the station and shows it on the map.
 void ShowListedStation(MainWindow& main, Channel channel, std::string_view call);
+// Selects the station and deletes its report, after the question.
+void RemoveListedStation(MainWindow& main, Channel channel, std::string_view call);
 
 // Commands on the selected node.
 void mnuTcpSort_Click(MainWindow& main);     // Sorts once: later arrivals go to the end.

@@ -55,10 +55,11 @@ void StationDock::ShowList()
 {
     m_list = new StationList(m_main, m_icons, this);
     connect(m_list, &StationList::ShowWanted, this, m_actions.show);
+    connect(m_list, &StationList::DeleteWanted, this, m_actions.remove);
     connect(m_list, &StationList::MenuWanted, this, m_actions.menu);
-    setWidget(m_list);
     if (m_look)
         m_list->SetLook(*m_look);
+    setWidget(m_list);
     const DockPlace place = DockPlaceOf(m_main.window.stationListPlace);
     if (!std::exchange(m_bPlaced, true)) {
         m_area.addDockWidget(place.area, this);

@@ -18,6 +18,7 @@ class StationDock final : public QDockWidget {
 public:
     struct Actions {
         std::function<void(Channel, const std::string&)> show;
+        std::function<void(Channel, const std::string&)> remove;
         std::function<void(Channel, const std::string&, QPoint)> menu;
     };
 

@@ -42,6 +42,12 @@ bool IsCopyKey(const QEvent& event)
            static_cast<const QKeyEvent&>(event).matches(QKeySequence::Copy);
 }
 
+// Keys that the menus take for the map. Here nothing can be cut, and Del is the row's.
+bool IsDeletingKey(const QKeyEvent& key)
+{
+    return key.matches(QKeySequence::Delete) || key.matches(QKeySequence::Cut);
+}
+
 bool IsEnter(const QEvent& event)
 {
     if (event.type() != QEvent::KeyPress)
@@ -123,11 +129,29 @@ void StationList::MakeTable()
     m_table->installEventFilter(this);
     m_table->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_table, &QTableView::customContextMenuRequested, this, &StationList::OpenMenu);
-    connect(m_table, &QTableView::doubleClicked, this, [this](const QModelIndex& index) {
-        const StationRows& stations = m_model->Rows();
-        const StationRows::Id id = stations.At(static_cast<std::size_t>(index.row()));
-        emit ShowWanted(stations.ChannelOf(id), std::string(stations.Call(id)));
-    });
+    connect(m_table, &QTableView::doubleClicked, this,
+            [this](const QModelIndex& index) { emit ShowWanted(ChannelAt(index), CallAt(index)); });
+}
+
+Channel StationList::ChannelAt(const QModelIndex& index) const
+{
+    const StationRows& rows = m_model->Rows();
+    return rows.ChannelOf(rows.At(static_cast<std::size_t>(index.row())));
+}
+
+std::string StationList::CallAt(const QModelIndex& index) const
+{
+    const StationRows& rows = m_model->Rows();
+    return std::string(rows.Call(rows.At(static_cast<std::size_t>(index.row()))));
+}
+
+bool StationList::event(QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride && IsDeletingKey(static_cast<const QKeyEvent&>(*event))) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 bool StationList::eventFilter(QObject* watched, QEvent* event)
@@ -137,6 +161,11 @@ bool StationList::eventFilter(QObject* watched, QEvent* event)
         event->accept();
         if (event->type() == QEvent::KeyPress)
             Copy();
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Delete)) {
+        if (current.isValid())
+            emit DeleteWanted(ChannelAt(current), CallAt(current));
         return true;
     }
     if (IsEnter(*event) && current.isValid()) {
@@ -188,9 +217,7 @@ void StationList::OpenMenu(QPoint place)
     const QModelIndex index = m_table->indexAt(place);
     if (!index.isValid())
         return;
-    const StationRows& rows = m_model->Rows();
-    const StationRows::Id id = rows.At(static_cast<std::size_t>(index.row()));
-    emit MenuWanted(rows.ChannelOf(id), std::string(rows.Call(id)), m_table->viewport()->mapToGlobal(place));
+    emit MenuWanted(ChannelAt(index), CallAt(index), m_table->viewport()->mapToGlobal(place));
 }
 
 } // namespace ruvenmark

@@ -12,6 +12,7 @@ class QCheckBox;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QModelIndex;
 class QTableView;
 
 namespace ruvenmark {
@@ -20,7 +21,6 @@ class IconSet;
 class StationModel;
 struct MainWindow;
 
-// The table of all stations with its filter above it. It costs only while it stands.
 // How the operator has arranged it.
 struct StationListLook {
     QString calls;
@@ -29,21 +29,24 @@ struct StationListLook {
     QByteArray columns; // Widths and order, as the toolkit tells them.
 };
 
+// The table of all stations with its filter above it. It costs only while it stands.
 class StationList final : public QWidget {
     Q_OBJECT
 
 public:
     StationList(MainWindow& main, const IconSet& icons, QWidget* parent = nullptr);
 
-signals:
     StationListLook Look() const;
     void SetLook(const StationListLook& look);
 
+signals:
     void ShowWanted(ruvenmark::Channel channel, const std::string& call);
+    void DeleteWanted(ruvenmark::Channel channel, const std::string& call);
     // Of the selected station; and where it belongs, on the screen.
     void MenuWanted(ruvenmark::Channel channel, const std::string& call, QPoint place);
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -52,6 +55,8 @@ private:
     void TakeFilter();
     void ShowCount();
     void Copy();
+    Channel ChannelAt(const QModelIndex& index) const;
+    std::string CallAt(const QModelIndex& index) const;
     void OpenMenu(QPoint place);
 
     StationModel* m_model;
