@@ -66,13 +66,23 @@ void MainWindowView::ShowFirstSteps()
         m_hint->hide();
         return;
     }
-    MapHint::Actions actions = {{QStringLiteral("Load a packet file…"), [this] { Run(MenuEntry::mnuImportStations); }}};
+    // What was chosen takes the offer away; cancelled, it comes again.
+    const auto offer = [this](auto&& work) {
+        return [this, work] {
+            m_bFirstSteps = false;
+            work();
+            m_stateTimer.start();
+        };
+    };
+    MapHint::Actions actions = {
+        {QStringLiteral("Load a packet file…"), offer([this] { Run(MenuEntry::mnuImportStations); })}};
     if (const QString sample = DataPath(QStringLiteral("samples/day.log")); !sample.isEmpty())
         actions.emplace_back(QStringLiteral("Try the sample"),
-                             [this, path = QFile::encodeName(sample).toStdString()] { LoadFile(path); });
-    actions.emplace_back(QStringLiteral("Connect…"), [this] {
-        PopUp(m_hint->mapToGlobal(m_hint->rect().bottomLeft()), MenuItems(m_main, Menu::Communication));
-    });
+                             offer([this, path = QFile::encodeName(sample).toStdString()] { LoadFile(path); }));
+    actions.emplace_back(QStringLiteral("Connect…"), offer([this] {
+                             PopUp(m_hint->mapToGlobal(m_hint->rect().bottomLeft()),
+                                   MenuItems(m_main, Menu::Communication));
+                         }));
     m_viewTaken.reset();
     m_hint->Show({}, actions);
 }

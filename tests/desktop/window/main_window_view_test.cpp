@@ -77,6 +77,14 @@ TEST(MainWindowViewTest, FirstStepsAndZoomAreOfferedOnTheMap)
     program.files.texts["/log"] = ManyLines(20);
     auto& hint = program.Find<QWidget>("mapHint");
     EXPECT_TRUE(QTest::qWaitFor([&] { return hint.isVisible(); }));
+    hint.findChildren<QAbstractButton*>().at(0)->click(); // Load a file: none is chosen.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hint.isVisible(); })) << "a cancel must not take the offer away";
+    for (const int width : {560, 900}) { // On a narrow map the buttons must not lie on each other.
+        program.window.resize(width, 700);
+        QCoreApplication::processEvents();
+        for (const auto* button : hint.findChildren<QAbstractButton*>())
+            EXPECT_TRUE(!button->isVisible() || button->width() >= button->sizeHint().width()) << width;
+    }
     program.Hear(Channel::RF, "N0CALL", 40, -90);
     EXPECT_FALSE(hint.isVisible());
     program.window.LoadFile("/log");
