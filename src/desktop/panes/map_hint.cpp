@@ -1,7 +1,7 @@
 #include "desktop/panes/map_hint.h"
 
+#include <QBoxLayout>
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QToolButton>
 
@@ -13,10 +13,12 @@ namespace ruvenmark {
 namespace {
 
 constexpr int kFromTop = 6; // The map's height by this.
+constexpr int kSides = 40;  // Pixels; the zoom buttons stand there.
 
 } // namespace
 
-MapHint::MapHint(QWidget& map) : QFrame(&map), m_text(new QLabel(this)), m_row(new QHBoxLayout(this))
+MapHint::MapHint(QWidget& map)
+    : QFrame(&map), m_text(new QLabel(this)), m_row(new QBoxLayout(QBoxLayout::LeftToRight, this))
 {
     setObjectName(QStringLiteral("mapHint"));
     setAccessibleName(QStringLiteral("What to do next"));
@@ -36,7 +38,6 @@ void MapHint::Show(const QString& text, const Actions& actions)
 {
     m_hideTimer.stop();
     m_text->setText(text);
-    m_text->setVisible(!text.isEmpty());
     for (QWidget* button : std::exchange(m_buttons, {})) {
         m_row->removeWidget(button);
         button->hide();
@@ -46,11 +47,13 @@ void MapHint::Show(const QString& text, const Actions& actions)
         auto* button = new QToolButton(this);
         button->setText(caption);
         button->setAccessibleName(caption);
+        button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed); // As wide as one below it.
         connect(button, &QToolButton::clicked, this, [this, work = act] {
             hide();
             work();
         });
         m_row->addWidget(button);
+        button->show(); // The panel may show already.
         m_buttons.push_back(button);
     }
     show();
@@ -70,9 +73,20 @@ bool MapHint::eventFilter(QObject* watched, QEvent* event)
     return QFrame::eventFilter(watched, event);
 }
 
+// What is too wide stands below each other; a text that is too wide even then is left out.
 void MapHint::PlaceIt()
 {
     const QWidget& map = *parentWidget();
+    const int room = map.width() - 2 * kSides;
+    const auto fits = [&](QBoxLayout::Direction direction, bool bText) {
+        m_row->setDirection(direction);
+        m_text->setVisible(bText);
+        m_row->invalidate();
+        return m_row->sizeHint().width() <= room;
+    };
+    const bool bText = !m_text->text().isEmpty();
+    if (!fits(QBoxLayout::LeftToRight, bText) && !fits(QBoxLayout::TopToBottom, bText))
+        fits(QBoxLayout::TopToBottom, false);
     const QSize size = sizeHint().boundedTo(map.size());
     setGeometry({{std::max((map.width() - size.width()) / 2, 0), map.height() / kFromTop}, size});
 }

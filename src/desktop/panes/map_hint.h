@@ -7,12 +7,13 @@
 #include <utility>
 #include <vector>
 
-class QHBoxLayout;
+class QBoxLayout;
 class QLabel;
 
 namespace ruvenmark {
 
-// A quiet panel in the upper middle of the map: one line, and a few things that can be done about it.
+// A quiet panel in the upper middle of the map: one line, and a few things that can be done about it, beside each other
+// or, on a narrow map, below.
 class MapHint final : public QFrame {
 public:
     using Actions = std::vector<std::pair<QString, std::function<void()>>>;
@@ -30,7 +31,7 @@ private:
     void PlaceIt();
 
     QLabel* m_text;
-    QHBoxLayout* m_row;
+    QBoxLayout* m_row;
     std::vector<QWidget*> m_buttons;
     QTimer m_hideTimer;
 };
