@@ -59,7 +59,7 @@ public:
     virtual void Hide(Form form) = 0;
     virtual bool IsVisible(Form form) const = 0; // One that is minimised or stands aside counts.
     virtual void Refresh(Form form) = 0;         // The logic has changed its fields.
-    // Out of the way while the map is clicked, and back in front.
+    // Out of the way, such as while the map is clicked, and back in front.
     virtual void StandAside(Form form) = 0;
     virtual void ComeBack(Form form) = 0;
 };

@@ -115,6 +115,12 @@ void frmObject_PinPoint(MainWindow& main)
     StartPinPoint(main, {IsObjectVisible, TakePoint, Form::frmObject});
 }
 
+void frmObject_Minimize(MainWindow& main)
+{
+    main.services.dialogs.StandAside(Form::frmObject);
+    main.sbStatusBar.SetNotice("Send, Object... brings the window back");
+}
+
 void mnuSendObject_Click(MainWindow& main)
 {
     if (!IsObjectVisible(main))

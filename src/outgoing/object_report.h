@@ -24,6 +24,7 @@ extern const std::array<ObjectBox, 3> kObjectBoxes;
 void frmObject_Load(MainWindow& main);
 void frmObject_Send(MainWindow& main); // Closes the dialog, unless something is missing or wrong.
 void frmObject_PinPoint(MainWindow& main);
+void frmObject_Minimize(MainWindow& main); // The dialog alone, until the command brings it back.
 
 void mnuSendObject_Click(MainWindow& main); // A dialog that is visible already keeps what was typed.
 

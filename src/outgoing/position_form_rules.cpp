@@ -132,6 +132,12 @@ void frmPosition_PinPoint(MainWindow& main)
     StartPinPoint(main, {IsPositionVisible, TakePoint, Form::frmPosition});
 }
 
+void frmPosition_Minimize(MainWindow& main)
+{
+    main.services.dialogs.StandAside(Form::frmPosition);
+    main.sbStatusBar.SetNotice("Send, Position... brings the window back");
+}
+
 void mnuSendPosition_Click(MainWindow& main)
 {
     if (!IsPositionVisible(main))

@@ -34,7 +34,7 @@ FrmObjectDialog::FrmObjectDialog(MainWindow& main, QWidget* parent) : FormDialog
     }
     AddEdit(*this, Bound(), *rows, "txtComment", QStringLiteral("Co&mment"), form.shown.txtComment);
     m_showRoads = AddRoads(*this, Bound(), *rows, form.roads, buttons);
-    AddFoot(*this, *rows, buttons, [this] { frmObject_PinPoint(m_main); });
+    AddFoot(*this, *rows, buttons, {[this] { frmObject_PinPoint(m_main); }, [this] { frmObject_Minimize(m_main); }});
 }
 
 void FrmObjectDialog::accept()

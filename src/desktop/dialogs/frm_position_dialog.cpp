@@ -28,7 +28,8 @@ FrmPositionDialog::FrmPositionDialog(MainWindow& main, QWidget* parent) : FormDi
     }
     AddEdit(*this, Bound(), *rows, "txtComment", QStringLiteral("Co&mment"), form.txtComment);
     m_showRoads = AddRoads(*this, Bound(), *rows, form.roads, buttons);
-    AddFoot(*this, *rows, buttons, [this] { frmPosition_PinPoint(m_main); });
+    AddFoot(*this, *rows, buttons,
+            {[this] { frmPosition_PinPoint(m_main); }, [this] { frmPosition_Minimize(m_main); }});
 }
 
 void FrmPositionDialog::accept()

@@ -92,14 +92,14 @@ std::function<void()> AddRoads(QDialog& dialog, Binder& binder, QFormLayout& row
     return show;
 }
 
-void AddFoot(QDialog& dialog, QFormLayout& rows, const DialogButtons& buttons, const std::function<void()>& pinPoint)
+void AddFoot(QDialog& dialog, QFormLayout& rows, const DialogButtons& buttons, const FootActions& actions)
 {
     QPushButton* place = MakeSideButton(dialog, "PinPoint", QStringLiteral("P&inPoint"),
                                         QStringLiteral("Take latitude and longitude from a click on the map"));
     QPushButton* minimize =
         MakeSideButton(dialog, "Minimize", QStringLiteral("Minimi&ze"), QStringLiteral("Minimize this window"));
-    QObject::connect(place, &QPushButton::clicked, &dialog, pinPoint);
-    QObject::connect(minimize, &QPushButton::clicked, &dialog, &QWidget::showMinimized);
+    QObject::connect(place, &QPushButton::clicked, &dialog, actions.pinPoint);
+    QObject::connect(minimize, &QPushButton::clicked, &dialog, actions.minimize);
     auto* foot = new QHBoxLayout;
     foot->addWidget(place);
     foot->addWidget(minimize);

@@ -35,6 +35,9 @@ void CheckWhenLeft(FormDialog& dialog, QLineEdit& edit, const DialogButtons& but
 std::function<void()> AddRoads(QDialog& dialog, Binder& binder, QFormLayout& rows, RoadBoxes& roads,
                                const DialogButtons& buttons);
 // "PinPoint" and "Minimize" before the dialog's own buttons.
-void AddFoot(QDialog& dialog, QFormLayout& rows, const DialogButtons& buttons, const std::function<void()>& pinPoint);
+struct FootActions {
+    std::function<void()> pinPoint, minimize;
+};
+void AddFoot(QDialog& dialog, QFormLayout& rows, const DialogButtons& buttons, const FootActions& actions);
 
 } // namespace ruvenmark
