@@ -81,7 +81,7 @@ std::function<void()> AddRoads(QDialog& dialog, Binder& binder, QFormLayout& row
     row->addWidget(tcp);
     row->addStretch();
     rows.addRow(QStringLiteral("Send over"), row);
-    const auto show = [rf, tcp, &roads, accept = buttons.accept] {
+    const auto show = [rf, tcp, why, &roads, accept = buttons.accept] {
         rf->setEnabled(roads.bRfEnabled);
         tcp->setEnabled(roads.bTcpEnabled);
         accept->setEnabled(roads.CanSend());
@@ -108,3 +108,7 @@ void AddFoot(QDialog& dialog, QFormLayout& rows, const DialogButtons& buttons, c
 }
 
 } // namespace ruvenmark
+    auto* why = new QLabel(QStringLiteral("Not connected: see Communication"), &dialog);
+    why->setObjectName(QStringLiteral("lblNoRoad"));
+    row->addWidget(why);
+        why->setVisible(!roads.bRfEnabled && !roads.bTcpEnabled);

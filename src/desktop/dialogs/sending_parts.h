@@ -31,7 +31,7 @@ void AddSymbols(QDialog& dialog, Binder& binder, QFormLayout& rows, std::span<co
 // Tells what is wrong with the number once its box is left, and shows what then stands there. All outlive the box.
 void CheckWhenLeft(FormDialog& dialog, QLineEdit& edit, const DialogButtons& buttons, std::string& field,
                    const NumberRule& rule, IPrompts& prompts);
-// chkRF and chkTCP; "OK" works while a box counts. Gives what shows that anew.
+// chkRF and chkTCP, and why neither can be ticked; "OK" works while a box counts. Gives what shows that anew.
 std::function<void()> AddRoads(QDialog& dialog, Binder& binder, QFormLayout& rows, RoadBoxes& roads,
                                const DialogButtons& buttons);
 // "PinPoint" and "Minimize" before the dialog's own buttons.
