@@ -17,13 +17,12 @@ void frmStatus_Load(MainWindow& main)
 
 std::string_view frmStatus_Accept(MainWindow& main)
 {
-    constexpr std::size_t kLongest = 62;
     StatusForm& form = main.frmStatus;
     if (form.calls.txtFrom.empty() || form.calls.txtTo.empty())
         return "You must enter call sign and unproto!";
     if (form.txtStatus.empty())
         return "Status field can not be empty!";
-    if (form.txtStatus.size() > kLongest)
+    if (form.txtStatus.size() > kLongestStatus)
         return "Status text can not have more than 62 characters!";
     Keep(form.calls);
     form.Status = form.txtStatus;

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace ruvenmark {
 
 struct MainWindow;
+
+inline constexpr std::size_t kLongestStatus = 62;
 
 // frmStatus: cancelled until it is accepted.
 void frmStatus_Load(MainWindow& main);

@@ -24,7 +24,7 @@ FrmMessageDialog::FrmMessageDialog(MainWindow& main, QWidget* parent) : FormDial
         frmMessage_cboMessageType_Click(m_main.frmMessage);
         Refresh();
     });
-    rows->addRow(typeLabel, types);
+    AddRow(*rows, typeLabel, types);
     AddEdit(*this, Bound(), *rows, "txtFrom", QStringLiteral("&From"), form.txtFrom);
     QLineEdit* to = AddEdit(*this, Bound(), *rows, "txtTo", QStringLiteral("&To"), form.txtTo);
     AddEdit(*this, Bound(), *rows, "txtVia", QStringLiteral("&Via"), form.txtVia);

@@ -4,6 +4,7 @@
 #include "desktop/dialogs/sending_parts.h"
 #include "desktop/named_control.h"
 #include "outgoing/object_report.h"
+#include "outgoing/report_text.h"
 #include "outgoing/symbol_lists.h"
 
 #include <QFormLayout>
@@ -24,7 +25,7 @@ FrmObjectDialog::FrmObjectDialog(MainWindow& main, QWidget* parent) : FormDialog
     for (const std::string_view state : kObjectStates)
         states->addItem(ForDisplay(state));
     Bound().Bind(*states, form.shown.cboState);
-    rows->addRow(QStringLiteral("&State"), states);
+    AddRow(*rows, QStringLiteral("&State"), states);
     AddSymbols(*this, Bound(), *rows, ObjectSymbols(), form.shown.cboSymbol);
     for (std::size_t i = 0; i < kLabels.size(); ++i) {
         const ObjectBox& box = kObjectBoxes[i];
@@ -32,7 +33,9 @@ FrmObjectDialog::FrmObjectDialog(MainWindow& main, QWidget* parent) : FormDialog
                                   form.shown.*box.text);
         CheckWhenLeft(*this, *edit, buttons, form.shown.*box.text, box.rule, main.services.prompts);
     }
-    AddEdit(*this, Bound(), *rows, "txtComment", QStringLiteral("Co&mment"), form.shown.txtComment);
+    QLineEdit* comment =
+        AddEdit(*this, Bound(), *rows, "txtComment", QStringLiteral("Co&mment"), form.shown.txtComment);
+    MakeWide(*comment, kLongestTail);
     m_showRoads = AddRoads(*this, Bound(), *rows, form.roads, buttons);
     AddFoot(*this, *rows, buttons, {[this] { frmObject_PinPoint(m_main); }, [this] { frmObject_Minimize(m_main); }});
 }

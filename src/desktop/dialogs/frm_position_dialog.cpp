@@ -3,6 +3,7 @@
 #include "core/main_window.h"
 #include "desktop/dialogs/sending_parts.h"
 #include "outgoing/position_form_rules.h"
+#include "outgoing/report_text.h"
 #include "outgoing/symbol_lists.h"
 
 #include <QFormLayout>
@@ -26,7 +27,8 @@ FrmPositionDialog::FrmPositionDialog(MainWindow& main, QWidget* parent) : FormDi
                                   form.*box.text);
         CheckWhenLeft(*this, *edit, buttons, form.*box.text, box.rule, main.services.prompts);
     }
-    AddEdit(*this, Bound(), *rows, "txtComment", QStringLiteral("Co&mment"), form.txtComment);
+    QLineEdit* comment = AddEdit(*this, Bound(), *rows, "txtComment", QStringLiteral("Co&mment"), form.txtComment);
+    MakeWide(*comment, kLongestTail);
     m_showRoads = AddRoads(*this, Bound(), *rows, form.roads, buttons);
     AddFoot(*this, *rows, buttons,
             {[this] { frmPosition_PinPoint(m_main); }, [this] { frmPosition_Minimize(m_main); }});

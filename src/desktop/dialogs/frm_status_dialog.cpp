@@ -13,7 +13,8 @@ FrmStatusDialog::FrmStatusDialog(MainWindow& main, QWidget* parent) : FormDialog
     setWindowTitle(QStringLiteral("Send Status"));
     auto* rows = new QFormLayout(this);
     AddCalls(*this, Bound(), *rows, main.frmStatus.calls);
-    AddEdit(*this, Bound(), *rows, "txtStatus", QStringLiteral("&Status"), main.frmStatus.txtStatus);
+    MakeWide(*AddEdit(*this, Bound(), *rows, "txtStatus", QStringLiteral("&Status"), main.frmStatus.txtStatus),
+             kLongestStatus);
     const DialogButtons buttons = MakeDialogButtons(*this, QStringLiteral("S&end"));
     AddRoads(*this, Bound(), *rows, main.frmStatus.roads, buttons);
     rows->addRow(buttons.row);

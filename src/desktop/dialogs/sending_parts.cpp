@@ -9,9 +9,12 @@
 #include "platform/prompts.h"
 
 #include <QDialog>
+#include <QFontMetrics>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QPushButton>
+
+#include <algorithm>
 
 namespace ruvenmark {
 
@@ -25,7 +28,35 @@ QPushButton* MakeSideButton(QDialog& dialog, const char* name, const QString& te
     return button;
 }
 
+// As wide as it is painted: around the underlined letter no pair of letters is moved together, though a label is
+// measured so.
+int PaintedWidth(const QLabel& label)
+{
+    const QString text = label.text();
+    const auto mark = text.indexOf(QLatin1Char('&'));
+    if (mark < 0 || mark + 1 >= text.size())
+        return 0;
+    const QFontMetrics metrics = label.fontMetrics();
+    return metrics.horizontalAdvance(text.left(mark)) + metrics.horizontalAdvance(text.at(mark + 1)) +
+           metrics.horizontalAdvance(text.mid(mark + 2));
+}
+
 } // namespace
+
+void AddRow(QFormLayout& rows, const QString& label, QWidget* field)
+{
+    rows.addRow(label, field);
+    auto* shown = qobject_cast<QLabel*>(rows.labelForField(field));
+    shown->setMinimumWidth(PaintedWidth(*shown) + 1);
+}
+
+void MakeWide(QLineEdit& edit, std::size_t characters)
+{
+    const QFontMetrics metrics = edit.fontMetrics();
+    constexpr int kCharactersOfHint = 17; // Of any edit.
+    const int frame = edit.sizeHint().width() - kCharactersOfHint * metrics.horizontalAdvance(QLatin1Char('x'));
+    edit.setMinimumWidth(metrics.averageCharWidth() * static_cast<int>(characters) + std::max(frame, 0));
+}
 
 QLineEdit* AddEdit(QDialog& dialog, Binder& binder, QFormLayout& rows, const char* name, const QString& label,
                    std::string& field)
@@ -33,7 +64,7 @@ QLineEdit* AddEdit(QDialog& dialog, Binder& binder, QFormLayout& rows, const cha
     auto* edit = new QLineEdit(&dialog);
     NameControl(*edit, name, label);
     binder.Bind(*edit, field);
-    rows.addRow(label, edit);
+    AddRow(rows, label, edit);
     return edit;
 }
 
@@ -52,7 +83,7 @@ void AddSymbols(QDialog& dialog, Binder& binder, QFormLayout& rows, std::span<co
     for (const SymbolChoice& symbol : symbols)
         list->addItem(ForDisplay(symbol.text));
     binder.Bind(*list, choice);
-    rows.addRow(QStringLiteral("S&ymbol"), list);
+    AddRow(rows, QStringLiteral("S&ymbol"), list);
 }
 
 void CheckWhenLeft(FormDialog& dialog, QLineEdit& edit, const DialogButtons& buttons, std::string& field,
@@ -79,11 +110,15 @@ std::function<void()> AddRoads(QDialog& dialog, Binder& binder, QFormLayout& row
     auto* row = new QHBoxLayout;
     row->addWidget(rf);
     row->addWidget(tcp);
+    auto* why = new QLabel(QStringLiteral("Not connected: see Communication"), &dialog);
+    why->setObjectName(QStringLiteral("lblNoRoad"));
+    row->addWidget(why);
     row->addStretch();
     rows.addRow(QStringLiteral("Send over"), row);
     const auto show = [rf, tcp, why, &roads, accept = buttons.accept] {
         rf->setEnabled(roads.bRfEnabled);
         tcp->setEnabled(roads.bTcpEnabled);
+        why->setVisible(!roads.bRfEnabled && !roads.bTcpEnabled);
         accept->setEnabled(roads.CanSend());
     };
     QObject::connect(rf, &QCheckBox::toggled, &dialog, show);
@@ -108,7 +143,3 @@ void AddFoot(QDialog& dialog, QFormLayout& rows, const DialogButtons& buttons, c
 }
 
 } // namespace ruvenmark
-    auto* why = new QLabel(QStringLiteral("Not connected: see Communication"), &dialog);
-    why->setObjectName(QStringLiteral("lblNoRoad"));
-    row->addWidget(why);
-        why->setVisible(!roads.bRfEnabled && !roads.bTcpEnabled);

@@ -20,6 +20,10 @@ struct SymbolChoice;
 
 // What the dialogs that send have in common.
 
+// A row with a label that may have a mnemonic.
+void AddRow(QFormLayout& rows, const QString& label, QWidget* field);
+// So many characters can be seen in it.
+void MakeWide(QLineEdit& edit, std::size_t characters);
 // A line edit under its own name; the label may have a mnemonic.
 QLineEdit* AddEdit(QDialog& dialog, Binder& binder, QFormLayout& rows, const char* name, const QString& label,
                    std::string& field);

@@ -8,6 +8,7 @@
 #include "map/find.h"
 #include "map/tile_form_rules.h"
 #include "options/options_rules.h"
+#include "outgoing/object_report.h"
 #include "tracking/filter_form_rules.h"
 #include "tracking/track_list_form_rules.h"
 #include "tracking/track_lists.h"
@@ -189,6 +190,23 @@ TEST_F(DialogsTest, FilterStandsAsideForAClickOnTheMapAndComesBack)
 }
 
 // Where the tab key jumps to and fro, or begins at Cancel, one cannot work without a mouse.
+// The program's window must not go with it, and what was typed is there when it comes back.
+TEST_F(DialogsTest, SendObjectGoesAloneWhenMinimizedAndTellsWhatItLacks)
+{
+    mnuSendObject_Click(program.main);
+    QDialog& dialog = Modeless("Send Object");
+    EXPECT_TRUE(program.Find<QLabel>("lblNoRoad", &dialog).isVisible());
+    EXPECT_GT(program.Find<QLineEdit>("txtComment", &dialog).width(), 43 * dialog.fontMetrics().averageCharWidth());
+    Type(dialog, "txtName", "tree");
+    Button(dialog, "Minimize").click();
+    EXPECT_FALSE(dialog.isVisible());
+    EXPECT_FALSE(program.window.isMinimized());
+    EXPECT_EQ(program.main.sbStatusBar.Notice(), "Send, Object... brings the window back");
+    mnuSendObject_Click(program.main);
+    EXPECT_TRUE(dialog.isVisible());
+    EXPECT_EQ(program.Find<QLineEdit>("txtName", &dialog).text(), QStringLiteral("tree"));
+}
+
 TEST_F(DialogsTest, TheKeysBeginAtAnEntryAndGoOnAsOneReads)
 {
     for (const Form form :
