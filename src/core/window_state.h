@@ -34,7 +34,8 @@ struct WindowState {
     bool bMapTicked = true;       // mnuViewMap
     bool bMessagesTicked = false; // mnuViewMessages
     std::string caption;
-    std::string webAddress; // What the web view shows: a path or a URL; empty at first.
+    std::string webAddress;      // What the web view shows: a path or a URL; empty at first.
+    bool bBrowserStarted = true; // For the URL.
     Event<> Changed;
     Event<> CloseWanted; // The operator ends the program.
 };

@@ -92,7 +92,7 @@ void MainWindowView::MakeRightPane(const BaseMap* base)
     m_hint = new MapHint(*m_map);
     m_mapPane = new MapPane(
         m_main, m_icons, [this](MenuEntry entry) { Run(entry); }, *m_map, m_right);
-    m_help = new HelpView(m_main.services.desktop, m_right);
+    m_help = new HelpView(m_main, m_right);
     m_right->addWidget(m_mapPane);
     m_right->addWidget(m_help);
     m_messages = new MessagePanes(m_main, m_icons,
@@ -187,7 +187,7 @@ void MainWindowView::ShowState()
     const WindowState& window = m_main.window;
     setWindowTitle(window.caption.empty() ? QStringLiteral("Ruvenmark") : ForDisplay(window.caption));
     if (window.rightView == RightView::Web)
-        m_help->Show(window.webAddress);
+        m_help->Show();
     QWidget* other = window.rightView == RightView::Web ? static_cast<QWidget*>(m_help) : m_mapPane;
     QWidget* list = m_messages->List(window.rightView);
     m_right->setCurrentWidget(list ? list : other);

@@ -126,7 +126,7 @@ void mnuInfo_Click(MainWindow& main)
     if (!station)
         return;
     const std::string page = CallSignPage(station->node->Text());
-    main.services.desktop.OpenBrowser(page);
+    main.window.bBrowserStarted = OpenInBrowser(main, page);
     ShowWebView(main, page);
 }
 

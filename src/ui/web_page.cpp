@@ -1,6 +1,7 @@
 #include "ui/web_page.h"
 
 #include "core/main_window.h"
+#include "core/notices.h"
 #include "platform/files.h"
 
 namespace ruvenmark {
@@ -58,12 +59,22 @@ bool IsBrowserPage(std::string_view address)
     return address.starts_with(kBrowserScheme);
 }
 
-std::string BrowserNotice(std::string_view address)
+bool OpenInBrowser(MainWindow& main, std::string_view url)
 {
-    const std::string shown = HtmlEscaped(address);
-    return "<html><body><h2>Operator Info</h2>\n<p>The page of the call-sign directory opens in your web browser:</p>\n"
-           "<p><a href=\"" +
-           shown + "\">" + shown + "</a></p></body></html>\n";
+    const bool bStarted = main.services.desktop.OpenBrowser(url);
+    if (!bStarted)
+        Tell(main, "No web browser could be started");
+    return bStarted;
+}
+
+std::string BrowserNotice(const WindowState& window)
+{
+    const std::string shown = HtmlEscaped(window.webAddress);
+    const std::string said = window.bBrowserStarted
+                                 ? "The page of the call-sign directory opens in your web browser:"
+                                 : "No web browser could be started. This is the page of the call-sign directory:";
+    return "<html><body><h2>Operator Info</h2>\n<p>" + said + "</p>\n<p><a href=\"" + shown + "\">" + shown +
+           "</a></p></body></html>\n";
 }
 
 } // namespace ruvenmark

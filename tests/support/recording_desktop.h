@@ -57,6 +57,7 @@ public:
     std::optional<PrintChoice> printChoice; // What the print dialog gives.
     std::vector<PrintChoice> prints;
     std::vector<std::string> pages; // Opened in the browser.
+    bool bBrowser = true;           // There is one.
     int mapPictures = 0;
 
     std::string ClipboardText(std::size_t longest) override { return clipboard.size() <= longest ? clipboard : ""; }
@@ -67,7 +68,7 @@ public:
     bool OpenBrowser(std::string_view url) override
     {
         pages.emplace_back(url);
-        return true;
+        return bBrowser;
     }
     std::string pictureAsked; // The address.
     std::function<void(const FetchedPicture&)> takePicture;
@@ -91,11 +92,11 @@ public:
                 found.push_back({FoundPlace::Kind::Place, name, "Illinois", {39.8, -89.6}, {}, {}});
         return found;
     }
-};
     std::optional<FoundPlace> Named(std::string_view name) const override
     {
         const auto found = Search(name, 1);
         return found.empty() || found[0].name.size() != name.size() ? std::nullopt : std::optional(found[0]);
     }
+};
 
 } // namespace ruvenmark

@@ -155,9 +155,16 @@ TEST(StationTree, OperatorInfoOpensTheBrowserWithASafeAddress)
     EXPECT_TRUE(program.desktop.pages[0].starts_with("https://"));
     EXPECT_EQ(program.main.window.rightView, RightView::Web);
     EXPECT_TRUE(IsBrowserPage(program.main.window.webAddress));
-    EXPECT_NE(BrowserNotice(program.main.window.webAddress).find("href=\"https://"), std::string::npos);
-    EXPECT_NE(BrowserNotice("https://\"><b>&lt;").find("href=\"https://&quot;&gt;&lt;b&gt;&amp;lt;\">https://&quot;"),
+    WindowState& window = program.main.window;
+    EXPECT_NE(BrowserNotice(window).find("href=\"https://"), std::string::npos);
+    EXPECT_EQ(BrowserNotice(window).find("could be started"), std::string::npos);
+    window.webAddress = "https://\"><b>&lt;";
+    EXPECT_NE(BrowserNotice(window).find("href=\"https://&quot;&gt;&lt;b&gt;&amp;lt;\">https://&quot;"),
               std::string::npos);
+    program.desktop.bBrowser = false;
+    RunMenuEntry(program.main, MenuEntry::mnuInfo);
+    EXPECT_NE(BrowserNotice(window).find("No web browser could be started"), std::string::npos);
+    EXPECT_EQ(program.main.sbStatusBar.Notice(), "No web browser could be started");
 }
 
 } // namespace

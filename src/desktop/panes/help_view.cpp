@@ -1,44 +1,130 @@
 #include "desktop/panes/help_view.h"
 
-#include "core/desktop.h"
+#include "core/main_window.h"
 #include "desktop/data_path.h"
 #include "desktop/icons/help_browser.h"
+#include "desktop/named_control.h"
 #include "desktop/panes/copy_keys.h"
 #include "ui/web_page.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QTextDocument>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QToolTip>
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace ruvenmark {
 
-HelpView::HelpView(IDesktop& desktop, QWidget* parent)
-    : QWidget(parent), m_desktop(desktop), m_browser(new HelpBrowser(this))
+HelpView::HelpView(MainWindow& main, QWidget* parent)
+    : QWidget(parent), m_main(main), m_browser(new HelpBrowser(this)), m_find(new QLineEdit(this))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
     layout->addWidget(m_browser);
+    layout->addWidget(m_find);
     m_browser->setObjectName(QStringLiteral("webCtrl"));
     m_browser->setAccessibleName(QStringLiteral("Help page"));
     m_browser->setOpenLinks(false);
     KeepCopyKeys(*m_browser);
     connect(m_browser, &QTextBrowser::anchorClicked, this, &HelpView::Follow);
+    MakeFindLine();
     setFocusProxy(m_browser);
 }
 
-void HelpView::Show(std::string_view address)
+void HelpView::MakeFindLine()
 {
-    if (address.empty() || address == m_address)
+    NameControl(*m_find, "txtFindInPage", QStringLiteral("Find in this page"));
+    m_find->setPlaceholderText(QStringLiteral("Find in this page: F3 for the next place, Escape to end"));
+    m_find->hide();
+    // While one types, the place found stays as long as the text fits.
+    connect(m_find, &QLineEdit::textEdited, this, [this] {
+        QTextCursor at = m_browser->textCursor();
+        at.setPosition(at.selectionStart());
+        m_browser->setTextCursor(at);
+        FindNext();
+    });
+    m_find->installEventFilter(this);
+    m_browser->installEventFilter(this);
+}
+
+// Ctrl+F and Escape are the page's own here, not the map's.
+bool HelpView::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto& key = static_cast<const QKeyEvent&>(*event);
+        if (key.matches(QKeySequence::Find) || (key.key() == Qt::Key_Escape && m_find->isVisible())) {
+            event->accept();
+            return true;
+        }
+    }
+    if (event->type() == QEvent::KeyPress && Press(static_cast<const QKeyEvent&>(*event)))
+        return true;
+    return QWidget::eventFilter(watched, event);
+}
+
+bool HelpView::Press(const QKeyEvent& key)
+{
+    const bool bEnter = m_find->hasFocus() && (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
+    if (key.matches(QKeySequence::Find))
+        OpenFindLine();
+    else if (key.key() == Qt::Key_Escape && m_find->isVisible())
+        CloseFindLine();
+    else if (key.key() == Qt::Key_F3 || bEnter)
+        FindNext(key.modifiers().testFlag(Qt::ShiftModifier) ? QTextDocument::FindBackward
+                                                             : QTextDocument::FindFlags());
+    else
+        return false;
+    return true;
+}
+
+void HelpView::OpenFindLine()
+{
+    m_find->show();
+    m_find->setFocus();
+    m_find->selectAll();
+}
+
+void HelpView::CloseFindLine()
+{
+    m_find->hide();
+    m_browser->setFocus();
+}
+
+// Behind the last place the first one follows.
+void HelpView::FindNext(QTextDocument::FindFlags flags)
+{
+    const QString text = m_find->text();
+    if (text.isEmpty() || m_browser->find(text, flags))
         return;
-    m_address = address;
-    if (IsBrowserPage(address)) {
-        m_browser->setHtml(QString::fromStdString(BrowserNotice(address)));
+    const QTextCursor before = m_browser->textCursor();
+    m_browser->moveCursor(flags.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
+    if (m_browser->find(text, flags))
+        return;
+    m_browser->setTextCursor(before);
+    QToolTip::showText(m_find->mapToGlobal(QPoint()), QStringLiteral("Not in this page"), m_find);
+}
+
+void HelpView::Show()
+{
+    const std::string& address = m_main.window.webAddress;
+    if (address.empty())
+        return;
+    const bool bNotice = IsBrowserPage(address);
+    std::string page = bNotice ? BrowserNotice(m_main.window) : address;
+    if (page == m_shown)
+        return;
+    m_shown = std::move(page);
+    if (bNotice) {
+        m_browser->setHtml(QString::fromStdString(m_shown));
         return;
     }
     // The page stands in the program's folder only where the operator put one of his own there.
-    QString path = QFile::decodeName(QByteArray(address.data(), static_cast<qsizetype>(address.size())));
+    QString path = QFile::decodeName(QByteArray::fromStdString(address));
     if (!QFileInfo::exists(path))
         path = DataPath(QStringLiteral("help/") + QFileInfo(path).fileName());
     if (path.isEmpty())
@@ -50,7 +136,7 @@ void HelpView::Show(std::string_view address)
 void HelpView::Follow(const QUrl& link)
 {
     if (link.scheme() == QLatin1String("https"))
-        m_desktop.OpenBrowser(link.toString(QUrl::FullyEncoded).toStdString());
+        OpenInBrowser(m_main, link.toString(QUrl::FullyEncoded).toStdString());
     else if (link.hasFragment() && link.path().isEmpty())
         m_browser->scrollToAnchor(link.fragment());
 }

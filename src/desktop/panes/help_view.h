@@ -1,31 +1,42 @@
 #pragma once
 
+#include <QTextDocument>
 #include <QWidget>
 
 #include <string>
-#include <string_view>
 
+class QLineEdit;
 class QUrl;
 
 namespace ruvenmark {
 
 class HelpBrowser;
-class IDesktop;
+struct MainWindow;
 
-// The pages of the right pane: the manual, and what is said of pages that the system's browser shows.
+// The pages of the right pane: the manual, and what is said of pages that the system's browser shows. Ctrl+F finds in
+// the page.
 class HelpView final : public QWidget {
 public:
-    HelpView(IDesktop& desktop, QWidget* parent = nullptr);
+    HelpView(MainWindow& main, QWidget* parent = nullptr);
 
-    // A path or a URL; the same one again changes nothing, so that the reader stays where he was.
-    void Show(std::string_view address);
+    // The page that the logic wants; the same one again changes nothing, so that the reader stays where he was.
+    void Show();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void MakeFindLine();
+    bool Press(const QKeyEvent& key);
+    void OpenFindLine();
+    void CloseFindLine();
+    void FindNext(QTextDocument::FindFlags flags = {});
     void Follow(const QUrl& link);
 
-    IDesktop& m_desktop;
+    MainWindow& m_main;
     HelpBrowser* m_browser;
-    std::string m_address;
+    QLineEdit* m_find;   // Hidden until it is asked for.
+    std::string m_shown; // Its address, or the notice itself.
 };
 
 } // namespace ruvenmark

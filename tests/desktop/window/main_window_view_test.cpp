@@ -264,6 +264,16 @@ TEST(MainWindowViewTest, TheDirectionsPaneMeasuresBetweenAStationAndAPoint)
     auto& from = program.Find<QLineEdit>("txtDirectionsFrom");
     auto& to = program.Find<QLineEdit>("txtDirectionsTo");
     QTest::keyClicks(&from, QStringLiteral("n0call\r"));
+    QTest::keyClicks(&to, QStringLiteral("nowhere\r"));
+    EXPECT_TRUE(program.Find<QLabel>("lblDirections").text().contains(QStringLiteral("nowhere")));
+    EXPECT_EQ(to.text(), QStringLiteral("nowhere"));
+    from.selectAll();
+    QTest::keyClicks(&from, QStringLiteral("nobody\r"));
+    const QString bad = program.Find<QLabel>("lblDirections").text();
+    EXPECT_TRUE(bad.contains(QStringLiteral("nobody")) && bad.contains(QStringLiteral("nowhere"))) << "each is told";
+    from.selectAll();
+    QTest::keyClicks(&from, QStringLiteral("n0call\r"));
+    to.selectAll();
     QTest::keyClicks(&to, QStringLiteral("41, -90\r"));
     EXPECT_TRUE(program.Find<QLabel>("lblDirections").text().contains(QStringLiteral("69.")));
     program.Find<QAbstractButton>("CopyDirections").click();
@@ -271,12 +281,6 @@ TEST(MainWindowViewTest, TheDirectionsPaneMeasuresBetweenAStationAndAPoint)
     program.Find<QAbstractButton>("CloseDirections").click();
     EXPECT_FALSE(from.isVisible());
 }
-    from.selectAll();
-    QTest::keyClicks(&from, QStringLiteral("nobody\r"));
-    const QString bad = program.Find<QLabel>("lblDirections").text();
-    EXPECT_TRUE(bad.contains(QStringLiteral("nobody")) && bad.contains(QStringLiteral("nowhere"))) << "each is told";
-    from.selectAll();
-    QTest::keyClicks(&from, QStringLiteral("n0call\r"));
 
 TEST(MainWindowViewTest, TheLocationBarGoesWhereItIsTold)
 {

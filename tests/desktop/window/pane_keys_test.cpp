@@ -1,0 +1,110 @@
+// Keys that a pane has to keep from the menus, whose entries of the same keys act on the map.
+
+#include "desktop/panes/row_list_view.h"
+#include "desktop/panes/row_model.h"
+#include "window_program.h"
+
+#include <QAbstractButton>
+#include <QClipboard>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTextBrowser>
+
+namespace ruvenmark {
+namespace {
+
+// The marker of another station, selected before, must not go; nor any unasked.
+TEST(PaneKeysTest, DelInTheStationListIsForItsRowAndAsks)
+{
+    WindowProgram program;
+    program.Hear(Channel::TCP, "W2BBB", 40, -90);
+    program.Hear(Channel::TCP, "W3CCC", 41, -90);
+    program.Action("mnuViewStations").trigger();
+    auto& table = program.Find<QTableView>("lvStations");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program.window));
+    table.setFocus();
+    table.selectRow(0);
+    QTest::keyClick(&table, Qt::Key_Return); // Selects its marker.
+    table.selectRow(1);
+    Map& map = program.main.mpCtrl.RequireMap();
+    program.prompts.answers = {Answer::No, Answer::Yes};
+    for (const char* key : {"Del", "Ctrl+X", "Del"})
+        QTest::keySequence(&table, QKeySequence(QString::fromLatin1(key)));
+    EXPECT_EQ(program.prompts.questions,
+              std::vector<std::string>(2, "Are you sure you want to delete report for W3CCC?"));
+    EXPECT_FALSE(program.main.Of(Channel::TCP).Stations.Contains("W3CCC"));
+    program.Hear(Channel::TCP, "W3CCC", 41, -90);
+    table.selectRow(0);
+    QTest::keyClick(&table, Qt::Key_Return);
+    for (const char* name : {"cboHeardWithin", "chkHeardDirectly"}) {
+        auto& box = program.Find<QWidget>(name);
+        box.setFocus();
+        for (const char* key : {"Del", "Ctrl+X"})
+            QTest::keySequence(&box, QKeySequence(QString::fromLatin1(key)));
+    }
+    EXPECT_TRUE(map.FindPushpin("W2BBB(t)"));
+    EXPECT_EQ(program.prompts.questions.size(), 2U);
+}
+
+TEST(PaneKeysTest, TheStationListIsArrangedAsItWasHidden)
+{
+    WindowProgram program;
+    program.Hear(Channel::TCP, "W2BBB", 40, -90);
+    program.Action("mnuViewStations").trigger();
+    program.Find<QLineEdit>("txtStationCalls").setText(QStringLiteral("w2"));
+    program.Find<QComboBox>("cboHeardWithin").setCurrentIndex(2);
+    auto* header = program.Find<QTableView>("lvStations").horizontalHeader();
+    header->resizeSection(1, 177);
+    header->setSortIndicator(3, Qt::DescendingOrder);
+    program.Action("mnuViewStations").trigger();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    program.Action("mnuViewStations").trigger();
+    EXPECT_EQ(program.Find<QLineEdit>("txtStationCalls").text(), QStringLiteral("w2"));
+    EXPECT_EQ(program.Find<QComboBox>("cboHeardWithin").currentIndex(), 2);
+    header = program.Find<QTableView>("lvStations").horizontalHeader();
+    EXPECT_EQ(header->sectionSize(1), 177);
+    EXPECT_EQ(header->sortIndicatorSection(), 3);
+    EXPECT_EQ(header->sortIndicatorOrder(), Qt::DescendingOrder);
+}
+
+TEST(PaneKeysTest, CopyTakesTheSelectedMessagesWhole)
+{
+    RowList list;
+    for (const char* call : {"N1X", "N2X", "N3X"})
+        list.Add({call, "N0CALL", "", "", "hello", ""}, false);
+    const IconSet icons;
+    RowModel model(list, icons, {"From", "To", "Via", "Date", "Text", "Number"});
+    RowListView view(list, model);
+    list.Select(0, true);
+    list.Select(2, true);
+    QTest::keySequence(&view, QKeySequence::Copy);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("N1X\tN0CALL\t\t\thello\t\nN3X\tN0CALL\t\t\thello\t"));
+}
+
+TEST(PaneKeysTest, FindInTheManualStaysThere)
+{
+    WindowProgram program;
+    program.Action("mnuRuvenmarkHelp").trigger();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&program.window));
+    auto& page = program.Find<QTextBrowser>("webCtrl");
+    page.setFocus();
+    QTest::keySequence(&page, QKeySequence::Find);
+    auto& find = program.Find<QLineEdit>("txtFindInPage");
+    ASSERT_TRUE(find.isVisible());
+    EXPECT_TRUE(page.isVisible());
+    QTest::keyClicks(&find, QStringLiteral("marker"));
+    const int first = page.textCursor().selectionStart();
+    EXPECT_EQ(page.textCursor().selectedText().toLower(), QStringLiteral("marker"));
+    QTest::keyClick(&find, Qt::Key_F3);
+    EXPECT_GT(page.textCursor().selectionStart(), first);
+    QTest::keyClick(&find, Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(page.textCursor().selectionStart(), first);
+    QTest::keyClick(&find, Qt::Key_Escape);
+    EXPECT_FALSE(find.isVisible());
+    EXPECT_TRUE(page.hasFocus());
+}
+
+} // namespace
+} // namespace ruvenmark
