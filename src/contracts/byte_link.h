@@ -46,12 +46,17 @@ public:
     virtual Arrival Wait(std::chrono::milliseconds limit) = 0;
 };
 
+// Whether XON and XOFF hold the other end up, as in talk with a TNC, or are bytes like all others: binary data hold
+// both.
+enum class SerialFlow : std::uint8_t { None, XonXoff };
+
 // Opens wires. The sink must outlive the link. All but Now and SerialPorts raise Failure.
 class IByteLinks {
 public:
     virtual ~IByteLinks() = default;
 
-    virtual std::unique_ptr<IByteLink> OpenSerial(std::string_view port, std::int32_t baud, IByteSink& sink) = 0;
+    virtual std::unique_ptr<IByteLink> OpenSerial(std::string_view port, std::int32_t baud, SerialFlow flow,
+                                                  IByteSink& sink) = 0;
     // Begins to connect; OnOpened or OnLost tells how it ended.
     virtual std::unique_ptr<IByteLink> StartSocket(std::string_view host, std::int32_t port, IByteSink& sink) = 0;
     // Connects before it returns, with no event let in. The limit reached is a Failure too.

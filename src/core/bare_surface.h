@@ -46,7 +46,7 @@ public:
 // A machine without a wire.
 class BareByteLinks final : public IByteLinks {
 public:
-    std::unique_ptr<IByteLink> OpenSerial(std::string_view /*port*/, std::int32_t /*baud*/,
+    std::unique_ptr<IByteLink> OpenSerial(std::string_view /*port*/, std::int32_t /*baud*/, SerialFlow /*flow*/,
                                           IByteSink& /*sink*/) override
     {
         Refuse();

@@ -15,7 +15,7 @@ void GpsServer::OpenGpsPort(std::string_view port, std::int32_t baud, std::strin
     CheckToken(token);
     if (m_link)
         throw Failure("the receiver's port is open");
-    m_link = m_links.OpenSerial(port, baud, *this);
+    m_link = m_links.OpenSerial(port, baud, SerialFlow::None, *this);
     m_fixes.emplace(m_links.Now(), kSilence);
 }
 

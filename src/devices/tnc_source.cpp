@@ -23,7 +23,7 @@ void TncSource::OpenPort(std::string_view port, std::int32_t baud, std::string_v
     CheckToken(token);
     if (m_link)
         throw Failure("the TNC's port is open");
-    m_link = m_links.OpenSerial(port, baud, *this);
+    m_link = m_links.OpenSerial(port, baud, SerialFlow::XonXoff, *this);
     m_terminal.EnterCommandMode(); // The last user may have left it in converse mode.
     Write(m_links.Now());
 }

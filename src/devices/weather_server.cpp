@@ -16,7 +16,7 @@ void WeatherServer::OpenWxPort(std::string_view port, std::int32_t baud, std::st
     CheckToken(token);
     if (m_link)
         throw Failure("the weather station's port is open");
-    m_link = m_links.OpenSerial(port, baud, *this);
+    m_link = m_links.OpenSerial(port, baud, SerialFlow::None, *this);
     if (baud == kDavisBaud)
         m_davis.emplace();
 }

@@ -25,9 +25,10 @@ std::uint16_t CheckedPort(std::string_view host, std::int32_t port)
 
 } // namespace
 
-std::unique_ptr<IByteLink> QtByteLinks::OpenSerial(std::string_view port, std::int32_t baud, IByteSink& sink)
+std::unique_ptr<IByteLink> QtByteLinks::OpenSerial(std::string_view port, std::int32_t baud, SerialFlow flow,
+                                                   IByteSink& sink)
 {
-    return std::make_unique<WireLink>(MakeWire<SerialWire>(port, baud, sink));
+    return std::make_unique<WireLink>(MakeWire<SerialWire>(port, baud, flow, sink));
 }
 
 std::unique_ptr<IByteLink> QtByteLinks::StartSocket(std::string_view host, std::int32_t port, IByteSink& sink)

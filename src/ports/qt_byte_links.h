@@ -13,7 +13,8 @@ public:
     // `paint` is called while a connect holds everything else up: it may paint and must not let any other event in.
     explicit QtByteLinks(std::function<void()> paint = {}) : m_paint(std::move(paint)) {}
 
-    std::unique_ptr<IByteLink> OpenSerial(std::string_view port, std::int32_t baud, IByteSink& sink) override;
+    std::unique_ptr<IByteLink> OpenSerial(std::string_view port, std::int32_t baud, SerialFlow flow,
+                                          IByteSink& sink) override;
     std::unique_ptr<IByteLink> StartSocket(std::string_view host, std::int32_t port, IByteSink& sink) override;
     std::unique_ptr<IByteLink> ConnectSocket(std::string_view host, std::int32_t port, std::chrono::seconds limit,
                                              IByteSink& sink) override;

@@ -18,11 +18,11 @@ constexpr unsigned long kFlushStep = 10; // Milliseconds.
 
 } // namespace
 
-SerialWire::SerialWire(std::string_view port, std::int32_t baud, IByteSink& sink) : Wire(sink, kGather)
+SerialWire::SerialWire(std::string_view port, std::int32_t baud, SerialFlow flow, IByteSink& sink) : Wire(sink, kGather)
 {
     const std::string name(port);
     m_port.setPortName(QString::fromStdString(name));
-    m_port.setFlowControl(QSerialPort::SoftwareControl);
+    m_port.setFlowControl(flow == SerialFlow::XonXoff ? QSerialPort::SoftwareControl : QSerialPort::NoFlowControl);
     m_port.setReadBufferSize(kReadAhead);
     if (baud <= 0 || !m_port.setBaudRate(baud))
         throw Failure("cannot open " + name + ": no serial port runs at " + std::to_string(baud) + " baud");

@@ -9,11 +9,11 @@
 
 namespace ruvenmark {
 
-// A serial port: eight bits, no parity, one stop bit, XON and XOFF obeyed and sent.
+// A serial port: eight bits, no parity, one stop bit.
 class SerialWire final : public Wire {
 public:
     // Raises Failure.
-    SerialWire(std::string_view port, std::int32_t baud, IByteSink& sink);
+    SerialWire(std::string_view port, std::int32_t baud, SerialFlow flow, IByteSink& sink);
 
 private:
     QIODevice& Device() override { return m_port; }

@@ -99,7 +99,7 @@ TEST_F(Tnc, LeavesOutLinesThatAreTooLong)
 TEST_F(Tnc, TypesEachCommandBehindThePromptAndTheTextOnce)
 {
     Open();
-    EXPECT_EQ(links.opened, "serial /dev/ttyS0 9600");
+    EXPECT_EQ(links.opened, "serial /dev/ttyS0 9600 xon");
     EXPECT_EQ(links.Written(), "\x03");
     Send({"MYCALL W1AW", "UNPROTO APRS VIA WIDE1-1", "CONV", "N0CALL>APRS:>my own\rtext\x03"});
     EXPECT_EQ(links.WrittenIn(1s), "");

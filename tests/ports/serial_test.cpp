@@ -7,6 +7,7 @@
 
 #include <ctime>
 #include <termios.h>
+#include <thread>
 
 namespace ruvenmark {
 namespace {
@@ -18,7 +19,7 @@ TEST(SerialWire, CarriesBytesBothWaysAndTicks)
     QtByteLinks links;
     NotingSink sink;
     PseudoTerminal terminal;
-    const auto link = links.OpenSerial(terminal.Name(), 9600, sink);
+    const auto link = links.OpenSerial(terminal.Name(), 9600, SerialFlow::XonXoff, sink);
 
     termios settings{};
     ASSERT_EQ(tcgetattr(terminal.Number(), &settings), 0);
@@ -34,12 +35,26 @@ TEST(SerialWire, CarriesBytesBothWaysAndTicks)
     EXPECT_EQ(sink.opened, 0);
 }
 
+// Swallowed, they would make every binary packet that holds them a broken one.
+TEST(SerialWire, WithoutFlowControlXonAndXoffAreBytes)
+{
+    QtByteLinks links;
+    NotingSink sink;
+    PseudoTerminal terminal;
+    const auto link = links.OpenSerial(terminal.Name(), 19200, SerialFlow::None, sink);
+    terminal.Say("a\x13 b\x11 c");
+    EXPECT_TRUE(RunUntil([&] { return sink.bytes.ends_with('c'); }));
+    EXPECT_EQ(sink.bytes, "a\x13 b\x11 c");
+    link->Write("d");
+    EXPECT_TRUE(RunUntil([&] { return terminal.Heard() == "d"; }));
+}
+
 TEST(SerialWire, WaitsWithoutTellingTheSink)
 {
     QtByteLinks links;
     NotingSink sink;
     PseudoTerminal terminal;
-    const auto link = links.OpenSerial(terminal.Name(), 9600, sink);
+    const auto link = links.OpenSerial(terminal.Name(), 9600, SerialFlow::XonXoff, sink);
     link->Write("MYCALL\r");
     EXPECT_TRUE(link->Wait(20ms).bytes.empty());
     EXPECT_EQ(terminal.Heard(), "MYCALL\r"); // A wait sends what was written.
@@ -52,13 +67,29 @@ TEST(SerialWire, WaitsWithoutTellingTheSink)
     EXPECT_TRUE(RunUntil([&] { return sink.lost == 1; }));
 }
 
+// An answer that waits was not late: a connect to a silent server holds the loop up for longer than most limits.
+TEST(SerialWire, WhatCameWhileTheLoopStoodStillIsToldBeforeTheNextTick)
+{
+    QtByteLinks links;
+    NotingSink sink;
+    PseudoTerminal terminal;
+    const auto link = links.OpenSerial(terminal.Name(), 9600, SerialFlow::XonXoff, sink);
+    ASSERT_TRUE(RunUntil([&] { return sink.ticks == 1; }));
+    std::string toldBefore = "no tick";
+    sink.onTick = [&] { toldBefore = sink.bytes; };
+    terminal.Say("cmd:");
+    std::this_thread::sleep_for(1300ms);
+    ASSERT_TRUE(RunUntil([&] { return sink.ticks > 1; }));
+    EXPECT_EQ(toldBefore, "cmd:");
+}
+
 // A port whose other end is gone would tell so without pause, at the cost of a processor.
 TEST(SerialWire, TellsAHangUpOnceAndCostsNothingAfterwards)
 {
     QtByteLinks links;
     NotingSink sink;
     PseudoTerminal terminal;
-    const auto link = links.OpenSerial(terminal.Name(), 9600, sink);
+    const auto link = links.OpenSerial(terminal.Name(), 9600, SerialFlow::XonXoff, sink);
     terminal.HangUp();
     ASSERT_TRUE(RunUntil([&] { return sink.lost > 0; }));
     const std::clock_t begun = std::clock();
@@ -74,12 +105,12 @@ TEST(SerialWire, SaysWhyAPortIsNotOpened)
     QtByteLinks links;
     NotingSink sink;
     try {
-        links.OpenSerial("/dev/no-such-port", 9600, sink);
+        links.OpenSerial("/dev/no-such-port", 9600, SerialFlow::XonXoff, sink);
         FAIL();
     } catch (const Failure& failure) {
         EXPECT_NE(std::string(failure.what()).find("cannot open /dev/no-such-port: "), std::string::npos);
     }
-    EXPECT_THROW(links.OpenSerial(PseudoTerminal().Name(), 0, sink), Failure);
+    EXPECT_THROW(links.OpenSerial(PseudoTerminal().Name(), 0, SerialFlow::XonXoff, sink), Failure);
 }
 
 } // namespace

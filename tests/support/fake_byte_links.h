@@ -66,14 +66,17 @@ public:
     }
     bool IsKept() const { return m_wire->sink != nullptr; }
 
-    std::string opened; // "serial /dev/ttyS0 9600", "socket localhost 8000", "connect localhost 14580 15"
+    std::string opened; // "serial /dev/ttyS0 9600 xon", "socket localhost 8000", "connect localhost 14580 15"
     bool bRefuse = false;
     std::function<std::string(const std::string& written)> answer; // While the program waits.
     std::function<void()> whileConnecting = [] {};                 // While a connect blocks.
 
-    std::unique_ptr<IByteLink> OpenSerial(std::string_view port, std::int32_t baud, IByteSink& sink) override
+    std::unique_ptr<IByteLink> OpenSerial(std::string_view port, std::int32_t baud, SerialFlow flow,
+                                          IByteSink& sink) override
     {
-        return Make("serial " + std::string(port) + ' ' + std::to_string(baud), sink);
+        return Make("serial " + std::string(port) + ' ' + std::to_string(baud) +
+                        (flow == SerialFlow::XonXoff ? " xon" : ""),
+                    sink);
     }
     std::unique_ptr<IByteLink> StartSocket(std::string_view host, std::int32_t port, IByteSink& sink) override
     {

@@ -94,7 +94,7 @@ TEST_F(LinksWindow, TheTncsDialogShowsWhatItsLinkNeeds)
         program.Find<QPushButton>("OK", &dialog).click();
     });
     program.Action("mnuConnect").trigger();
-    EXPECT_EQ(program.wires.opened, "serial /dev/tnc 9600");
+    EXPECT_EQ(program.wires.opened, "serial /dev/tnc 9600 xon");
 }
 
 // Each entry below the button says what it would do now to its own link, and does as that of the menu bar.
