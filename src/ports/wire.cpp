@@ -13,6 +13,7 @@ namespace ruvenmark {
 namespace {
 
 constexpr std::chrono::milliseconds kTick{250};
+constexpr std::chrono::milliseconds kLateTick{1000};
 constexpr qint64 kGathered = 4096;                     // So many never wait for more.
 constexpr std::size_t kPiece = std::size_t{64} * 1024; // Told at once; between two of them the window gets its turn.
 constexpr qint64 kMostUnsent = 16ll * 1024 * 1024;     // An other end that takes less is as good as gone.
@@ -156,10 +157,15 @@ void Wire::Deliver()
         m_sink->OnLost(WireNow());
 }
 
+// After what held the loop up, a limit must not pass before what came meanwhile is told: the next tick comes behind it.
 void Wire::Tick()
 {
     const auto kept = shared_from_this();
-    m_sink->OnTick(WireNow());
+    const Moment now = WireNow();
+    const bool bLate = now - std::exchange(m_lastTick, now) > kLateTick;
+    m_bTickPassed = bLate && !m_bTickPassed; // Never two: on a machine that is always late the clock goes on.
+    if (!m_bTickPassed)
+        m_sink->OnTick(now);
 }
 
 } // namespace ruvenmark

@@ -15,6 +15,8 @@ class QIODevice;
 
 namespace ruvenmark {
 
+Moment WireNow();
+
 // What serial ports and sockets have in common. The device's signals only mark what happened; the sink is told from
 // timers of the event loop, so that no call on the link and no code of the device is under way then, and the device can
 // be closed there.
@@ -58,6 +60,8 @@ private:
     QTimer m_ticks;
     QElapsedTimer m_sinceDelivery;
     std::string m_rest; // What a lost device still held.
+    Moment m_lastTick = WireNow();
+    bool m_bTickPassed = false; // The last one was late and not told.
     bool m_bOpen = false;
     bool m_bOpeningUntold = false;
     bool m_bLost = false;
@@ -67,8 +71,6 @@ private:
 
 // How much a device reads ahead of the sink: a flood waits in the system, and slows its sender down.
 inline constexpr int kReadAhead = 256 * 1024;
-
-Moment WireNow();
 
 void DeleteWire(Wire* wire);
 

@@ -1,12 +1,15 @@
 #include "platform/failure.h"
 #include "ports/noting_sink.h"
 #include "ports/qt_byte_links.h"
+#include "ports/socket_wire.h"
 #include "support/black_hole.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>
 
 #include <gtest/gtest.h>
+
+#include <thread>
 
 namespace ruvenmark {
 namespace {
@@ -174,6 +177,15 @@ TEST_F(Sockets, NameTheCauseOfARefusal)
     EXPECT_EQ(sink.opened, 0);
 }
 
+TEST_F(Sockets, TakeAHostInBrackets)
+{
+    const auto link = links.ConnectSocket("[127.0.0.1]", server.serverPort(), 30s, sink);
+    link->Write("x");
+    const auto started = links.StartSocket("[127.0.0.1]", server.serverPort(), sink);
+    EXPECT_TRUE(RunUntil([&] { return sink.opened == 1; }));
+    EXPECT_THROW(links.StartSocket("[]", server.serverPort(), sink), Failure);
+}
+
 TEST_F(Sockets, GiveUpAtTheLimitAndOnlyPaintMeanwhile)
 {
     const BlackHole swallowing;
@@ -190,6 +202,19 @@ TEST_F(Sockets, GiveUpAtTheLimitAndOnlyPaintMeanwhile)
     }
     EXPECT_GT(painted, 2);
     EXPECT_EQ(timers, 0);
+}
+
+// The look-up and the connect have succeeded by then, and the loop does not know it yet.
+TEST_F(Sockets, AConnectThatSucceededWhileTheLoopStoodStillIsNoneThatFailed)
+{
+    const WireLink link(MakeWire<SocketWire>("localhost", server.serverPort(), sink, 10ms));
+    std::this_thread::sleep_for(100ms);
+    ASSERT_TRUE(RunUntil([&] { return sink.opened + sink.lost > 0; }));
+    EXPECT_EQ(sink.opened, 1);
+
+    const BlackHole swallowing;
+    const WireLink unheard(MakeWire<SocketWire>(kHost, swallowing.Port(), sink, 10ms));
+    EXPECT_TRUE(RunUntil([&] { return sink.lost == 1; })); // It still has a limit.
 }
 
 // An other end that stands still must not eat the memory.
