@@ -26,6 +26,8 @@ constexpr auto kPromptLimit = 60s;  // though what it hears meanwhile breaks it 
 constexpr auto kConverseSettles = 500ms;
 constexpr auto kHeldLimit = 10s; // A packet that happens to hold XOFF must not stop the link for good.
 constexpr auto kInfoLimit = 2s;  // From a header to its information.
+// No digipeater can have repeated a text by then: where the TNC echoes nothing, what it shows later was heard.
+constexpr auto kEchoLimit = 500ms;
 
 bool IsLineEnd(char c)
 {
@@ -152,11 +154,8 @@ std::optional<std::string> TncTerminal::TakeLine()
 std::optional<TncLine> TncTerminal::Read(const std::string& line)
 {
     const bool bInfo = m_heard.IsWaiting();
-    if (bInfo ? line == m_echo && !line.empty() : TakeEcho(line)) {
-        if (bInfo)
-            m_echo.clear();
+    if (bInfo ? TakeEchoForInfo(line) : TakeEcho(line))
         return std::nullopt;
-    }
     if (auto packet = m_heard.Take(line))
         return TncLine{TncLine::Kind::Packet, std::move(*packet)};
     if (bInfo || m_heard.IsWaiting())
@@ -179,6 +178,15 @@ bool TncTerminal::TakeEcho(std::string_view line)
     return true;
 }
 
+// An echo that comes between a header and its information.
+bool TncTerminal::TakeEchoForInfo(std::string_view line)
+{
+    if (line.empty() || line != m_echo || m_lastHeard - m_written > kEchoLimit)
+        return false;
+    m_echo.clear();
+    return true;
+}
+
 std::string TncTerminal::ToWrite(Moment now)
 {
     if (m_heard.IsWaiting() && now - m_lastHeard > kInfoLimit)
@@ -189,7 +197,10 @@ std::string TncTerminal::ToWrite(Moment now)
         m_stageBegan = m_lastHeard = now; // What is not written yet cannot be answered.
     while (GoOn(now)) {
     }
-    return m_bHeld ? std::string() : std::exchange(m_typed, {});
+    if (m_bHeld || m_typed.empty())
+        return {};
+    m_written = now;
+    return std::exchange(m_typed, {});
 }
 
 // One step; false where something must be waited for.

@@ -77,6 +77,7 @@ private:
     std::optional<std::string> TakeLine();
     std::optional<TncLine> Read(const std::string& line);
     bool TakeEcho(std::string_view line);
+    bool TakeEchoForInfo(std::string_view line);
 
     std::deque<Item> m_queue;
     Stage m_stage = Stage::Free;
@@ -93,6 +94,7 @@ private:
     bool m_bHeld = false;
     Moment m_heldSince{};
     std::string m_echo; // What the TNC may still repeat of what was typed.
+    Moment m_written{};
 
     std::string m_in; // Begins where a line does.
     char m_lastEnd = 0;

@@ -118,6 +118,20 @@ TEST_F(Tnc, TypesEachCommandBehindThePromptAndTheTextOnce)
     EXPECT_EQ(links.Written(), "\x03");
 }
 
+// Taken for an echo, it would leave its header to the next station's lines.
+TEST_F(Tnc, HearsItsOwnTextRepeatedByADigipeaterWhereTheTncEchoesNothing)
+{
+    OpenToPrompt();
+    Send({"CONV", ">Hi"});
+    links.Say("cmd:");
+    links.Tick(750ms);
+    links.Say("W1XM>APRS: <UI>:\r\n>Hi\r\n>heard\r\n"); // The echo, in the middle of a packet.
+    source->SendCommand(">Ho");
+    links.Tick(750ms);
+    links.Say("N0CALL>APRS,W1MHL*: <UI>:\r\n>Ho\r\nW1XM>APRS: <UI>:\r\n>other\r\n");
+    EXPECT_THAT(recorded.Raw(), ElementsAre("W1XM>APRS:>heard", "N0CALL>APRS,W1MHL*:>Ho", "W1XM>APRS:>other"));
+}
+
 TEST_F(Tnc, GivesUpARunWhosePromptDoesNotComeAndSaysSoAtTheNext)
 {
     OpenToPrompt();
