@@ -39,8 +39,8 @@ std::optional<LinkOption> ReadLink(std::string_view word)
     const auto colon = address.rfind(':');
     if (colon == std::string_view::npos || colon == 0)
         return std::nullopt;
-    const auto number = ReadNumber(address.substr(colon + 1));
-    if (!number || !(*number >= 1 && *number <= (row->bIsSerial ? kMostBaud : kMostPort)))
+    const auto number = ReadWhole(address.substr(colon + 1), 1, row->bIsSerial ? kMostBaud : kMostPort);
+    if (!number)
         return std::nullopt;
     return LinkOption{row->link, std::string(address.substr(0, colon)), static_cast<std::int32_t>(*number)};
 }

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 
 namespace ruvenmark {
@@ -99,12 +100,12 @@ void ReadRegion(ProgramOptions& options, const std::string& option, std::string_
 void ReadSize(ProgramOptions& options, const std::string& option, std::string_view value)
 {
     const auto sides = Split(value, 'x');
-    const auto width = ReadNumber(sides.front());
-    const auto height = ReadNumber(sides.back());
-    if (sides.size() != 2 || !width || !height || !(*width >= 200 && *width <= 10000) ||
-        !(*height >= 200 && *height <= 10000))
-        Refuse(option, value, "WIDTHxHEIGHT between 200x200 and 10000x10000");
-    options.size = SizeOption{static_cast<int>(*width), static_cast<int>(*height)};
+    constexpr std::int32_t kLeast = 200, kMost = 10000;
+    const auto width = ReadWhole(sides.front(), kLeast, kMost);
+    const auto height = ReadWhole(sides.back(), kLeast, kMost);
+    if (sides.size() != 2 || !width || !height)
+        Refuse(option, value, "WIDTHxHEIGHT in whole numbers between 200x200 and 10000x10000");
+    options.size = SizeOption{*width, *height};
 }
 
 void ReadView(ProgramOptions& options, const std::string& option, std::string_view value)
@@ -144,7 +145,8 @@ void ReadConnect(ProgramOptions& options, const std::string& option, std::string
         const auto link = ReadLink(word);
         if (!link)
             Refuse(option, word,
-                   "tnc, agw, server, gps or wx with PORT:BAUD or HOST:PORT (1 to 32767), as --help tells");
+                   "tnc, agw, server, gps or wx with PORT:BAUD or HOST:PORT (whole numbers, a host's port 1 to 32767), "
+                   "as --help tells");
         const auto isSame = [&](const LinkOption& other) {
             return (other.link == LinkName::Agw ? LinkName::Tnc : other.link) ==
                    (link->link == LinkName::Agw ? LinkName::Tnc : link->link);
@@ -158,10 +160,9 @@ void ReadConnect(ProgramOptions& options, const std::string& option, std::string
 void ReadFor(ProgramOptions& options, const std::string& option, std::string_view value)
 {
     constexpr std::int32_t kMost = 1'000'000;
-    const auto seconds = ReadNumber(value);
-    if (!seconds || !(*seconds >= 0 && *seconds <= kMost))
-        Refuse(option, value, "a number of seconds up to " + std::to_string(kMost));
-    options.seconds = static_cast<std::int32_t>(*seconds);
+    options.seconds = ReadWhole(value, 0, kMost);
+    if (!options.seconds)
+        Refuse(option, value, "a whole number of seconds up to " + std::to_string(kMost));
 }
 
 void ReadSend(ProgramOptions& options, const std::string& option, std::string_view value)
@@ -288,6 +289,14 @@ void CheckTogether(ProgramOptions& options)
 } // namespace
 
 ProgramOptions ReadOptions(const std::vector<std::string>& arguments)
+std::optional<std::int32_t> ReadWhole(std::string_view text, std::int32_t least, std::int32_t most)
+{
+    const auto number = ReadNumber(text);
+    if (!number || !(*number >= least && *number <= most) || *number != std::trunc(*number))
+        return std::nullopt;
+    return static_cast<std::int32_t>(*number);
+}
+
 {
     ProgramOptions options;
     ArgumentWalk words(arguments);

@@ -67,6 +67,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// Nothing for what is no whole number between the two.
+std::optional<std::int32_t> ReadWhole(std::string_view text, std::int32_t least, std::int32_t most);
+
 ProgramOptions ReadOptions(const std::vector<std::string>& arguments);
 std::string_view HelpText();
 std::string VersionText();

@@ -46,7 +46,7 @@ TEST(Options, ReadLinks)
     EXPECT_TRUE(options.bFollow);
 
     for (const char* wrong : {"modem", "wx", "agw=localhost", "agw=:8000", "server=h:99999", "gps=/dev/x:fast",
-                              "gps,gps", "tnc,agw", "gps,,tnc"})
+                              "gps,gps", "tnc,agw", "gps,,tnc", "server=h:9.7"})
         EXPECT_THROW(ReadOptions({"--headless", "--connect", wrong}), UsageError) << wrong;
 }
 
@@ -86,9 +86,14 @@ TEST(Options, RefuseInOneClearLine)
         {{"--headless", "--send", "position"}, "--for, --follow and --send go with --connect"},
         {{"--headless", "--connect", "tnc", "--send", "beacon"},
          "--send: 'beacon' is not position, weather, status:TEXT, message:TO:TEXT or object:NAME:LAT,LON:TEXT"},
-        {{"--headless", "--connect", "gps", "--for", "-1"}, "--for: '-1' is not a number of seconds up to 1000000"},
+        {{"--headless", "--connect", "gps", "--for", "-1"},
+         "--for: '-1' is not a whole number of seconds up to 1000000"},
+        {{"--headless", "--connect", "gps", "--for", "0.9"},
+         "--for: '0.9' is not a whole number of seconds up to 1000000"},
         {{"a.txt", "b.txt"}, "one file at a time: 'b.txt' is one too many"},
-        {{"--size", "800"}, "--size: '800' is not WIDTHxHEIGHT between 200x200 and 10000x10000"},
+        {{"--size", "800.5x600"},
+         "--size: '800.5x600' is not WIDTHxHEIGHT in whole numbers between 200x200 and 10000x10000"},
+        {{"--size", "800"}, "--size: '800' is not WIDTHxHEIGHT in whole numbers between 200x200 and 10000x10000"},
         {{"--view", "91,0,4"}, "--view: '91,0,4' is not LAT,LON,ZOOM with a zoom from 1 to 19"},
         {{"--scale", "nan"}, "--scale: 'nan' is not a number from 1 to 4"},
     };
