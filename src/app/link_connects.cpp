@@ -12,50 +12,23 @@ namespace ruvenmark {
 
 namespace {
 
-// Without an address the stored fields of the link stand, but for which of the two reaches the air.
+// The options stand among the stored values of this run already, but for those of the weather station, which has none.
 constexpr std::array<LinkConnect, 5> kConnects = {{
-    {LinkName::Tnc,
-     [](MainWindow& main, const LinkOption& option) {
-         main.commDialog.bConnectSocket = false;
-         if (option.address.empty())
-             return;
-         main.commDialog.sSerialPort = option.address;
-         main.commDialog.lLastBaudRate = option.number;
-     },
-     ConnectSerialTnc, [](const MainWindow& main) { return main.links.bSerialConnected; }},
-    {LinkName::Agw,
-     [](MainWindow& main, const LinkOption& option) {
-         main.commDialog.bConnectSocket = true;
-         if (option.address.empty())
-             return;
-         main.commDialog.sSocketAddress = option.address;
-         main.commDialog.iSocketPort = static_cast<std::int16_t>(option.number);
-     },
-     ConnectAgw, [](const MainWindow& main) { return main.links.bSocketConnected; }},
-    {LinkName::Server,
-     [](MainWindow& main, const LinkOption& option) {
-         main.frmTcp.bCancel = false;
-         if (option.address.empty())
-             return;
-         main.frmTcp.sServerAddress = option.address;
-         main.frmTcp.iServerPort = static_cast<std::int16_t>(option.number);
-     },
-     ConnectServerLink, [](const MainWindow& main) { return main.links.bServerConnected; }},
-    {LinkName::Gps,
-     [](MainWindow& main, const LinkOption& option) {
-         main.frmGps.bConnect = true;
-         if (option.address.empty())
-             return;
-         main.frmGps.sGPSPort = option.address;
-         main.frmGps.lGPSBaud = option.number;
-     },
-     ConnectGps, [](const MainWindow& main) { return main.links.bGpsConnected; }},
+    {LinkName::Tnc, [](MainWindow& main, const LinkOption& /*option*/) { ConnectSerialTnc(main); },
+     [](const MainWindow& main) { return main.links.bSerialConnected; }},
+    {LinkName::Agw, [](MainWindow& main, const LinkOption& /*option*/) { ConnectAgw(main); },
+     [](const MainWindow& main) { return main.links.bSocketConnected; }},
+    {LinkName::Server, [](MainWindow& main, const LinkOption& /*option*/) { ConnectServerLink(main); },
+     [](const MainWindow& main) { return main.links.bServerConnected; }},
+    {LinkName::Gps, [](MainWindow& main, const LinkOption& /*option*/) { ConnectGps(main); },
+     [](const MainWindow& main) { return main.links.bGpsConnected; }},
     {LinkName::Wx,
      [](MainWindow& main, const LinkOption& option) {
          main.frmWx.sWxPort = option.address;
          main.frmWx.lWxBaud = option.number;
+         ConnectWx(main);
      },
-     ConnectWx, [](const MainWindow& main) { return main.links.bWxConnected; }},
+     [](const MainWindow& main) { return main.links.bWxConnected; }},
 }};
 
 } // namespace

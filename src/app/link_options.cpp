@@ -1,5 +1,6 @@
 #include "app/link_options.h"
 
+#include "core/settings.h"
 #include "platform/numbers.h"
 
 #include <algorithm>
@@ -15,12 +16,14 @@ struct LinkRow {
     std::string_view name;
     LinkName link;
     bool bIsSerial;
+    std::optional<Setting> address, number; // Where they are stored.
 };
-constexpr std::array<LinkRow, 5> kLinks = {{{"tnc", LinkName::Tnc, true},
-                                            {"agw", LinkName::Agw, false},
-                                            {"server", LinkName::Server, false},
-                                            {"gps", LinkName::Gps, true},
-                                            {"wx", LinkName::Wx, true}}};
+constexpr std::array<LinkRow, 5> kLinks = {
+    {{"tnc", LinkName::Tnc, true, Setting::SerialPort, Setting::LastBaudRate},
+     {"agw", LinkName::Agw, false, Setting::SocketAddress, Setting::SocketPort},
+     {"server", LinkName::Server, false, Setting::PrimaryServer, Setting::PrimaryPort},
+     {"gps", LinkName::Gps, true, Setting::GPSPort, Setting::GPSBaud},
+     {"wx", LinkName::Wx, true, std::nullopt, std::nullopt}}};
 
 } // namespace
 
@@ -42,7 +45,21 @@ std::optional<LinkOption> ReadLink(std::string_view word)
     const auto number = ReadWhole(address.substr(colon + 1), 1, row->bIsSerial ? kMostBaud : kMostPort);
     if (!number)
         return std::nullopt;
-    return LinkOption{row->link, std::string(address.substr(0, colon)), static_cast<std::int32_t>(*number)};
+    return LinkOption{row->link, std::string(address.substr(0, colon)), *number};
+}
+
+// Without an address the stored one stands, but the TNC or the engine is chosen all the same.
+void AddLinkSettings(std::vector<std::pair<std::string, std::string>>& settings, const LinkOption& link)
+{
+    const auto add = [&](Setting setting, std::string_view text) { settings.emplace_back(Info(setting).key, text); };
+    if (link.link == LinkName::Tnc || link.link == LinkName::Agw)
+        add(Setting::ConnectSocket, BoolText(link.link == LinkName::Agw));
+    const auto row =
+        std::find_if(kLinks.begin(), kLinks.end(), [&](const LinkRow& known) { return known.link == link.link; });
+    if (link.address.empty() || !row->address || !row->number)
+        return;
+    add(*row->address, link.address);
+    add(*row->number, ShortText(std::int64_t{link.number}));
 }
 
 // "message:W1AW:at 12:30": only the last field may hold colons.

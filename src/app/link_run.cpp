@@ -94,8 +94,7 @@ bool RunLinks(MainWindow& main, const ProgramOptions& options, SendRun& sends, s
     std::vector<const LinkConnect*> waiting;
     for (const LinkOption& option : options.connect) {
         const LinkConnect& link = *waiting.emplace_back(&ConnectOf(option.link));
-        link.use(main, option);
-        AttemptAloud(main, "A link could not be connected", [&] { link.connect(main); });
+        AttemptAloud(main, "A link could not be connected", [&] { link.connect(main, option); });
     }
     // A link may be connected later than it is asked for.
     const auto look = [&] { std::erase_if(waiting, [&](const LinkConnect* link) { return link->isConnected(main); }); };

@@ -13,8 +13,7 @@ struct MainWindow;
 // How a link is connected without its dialog.
 struct LinkConnect {
     LinkName link;
-    void (*use)(MainWindow& main, const LinkOption& option); // Takes the address into the link's fields.
-    void (*connect)(MainWindow& main);
+    void (*connect)(MainWindow& main, const LinkOption& option);
     bool (*isConnected)(const MainWindow& main);
 };
 const LinkConnect& ConnectOf(LinkName link);

@@ -36,6 +36,7 @@ constexpr std::string_view kHelp =
     "  --connect LINK[,LINK] connect before the print, until a signal; a LINK is tnc, agw,\n"
     "                        server or gps as the settings say, or tnc=PORT:BAUD,\n"
     "                        agw=HOST:PORT, server=HOST:PORT, gps=PORT:BAUD, wx=PORT:BAUD\n"
+    "                        for this run\n"
     "  --for SECONDS         stay connected so long\n"
     "  --follow              print each line that is heard\n"
     "  --send REPORT         send once over what is connected, then end unless --for is given;\n"
@@ -288,7 +289,6 @@ void CheckTogether(ProgramOptions& options)
 
 } // namespace
 
-ProgramOptions ReadOptions(const std::vector<std::string>& arguments)
 std::optional<std::int32_t> ReadWhole(std::string_view text, std::int32_t least, std::int32_t most)
 {
     const auto number = ReadNumber(text);
@@ -297,6 +297,7 @@ std::optional<std::int32_t> ReadWhole(std::string_view text, std::int32_t least,
     return static_cast<std::int32_t>(*number);
 }
 
+ProgramOptions ReadOptions(const std::vector<std::string>& arguments)
 {
     ProgramOptions options;
     ArgumentWalk words(arguments);
@@ -309,6 +310,8 @@ std::optional<std::int32_t> ReadWhole(std::string_view text, std::int32_t least,
             throw UsageError("one file at a time: '" + words.Option() + "' is one too many");
         options.loadFile = words.Option();
     }
+    for (const LinkOption& link : options.connect) // Behind --set: an option of its own is the nearer word.
+        AddLinkSettings(options.settings, link);
     if (!options.bHelp && !options.bVersion)
         CheckTogether(options);
     return options;

@@ -173,13 +173,22 @@ TEST_F(LinkProgram, HearsAPacketByDirewolf)
     EXPECT_TRUE(out.contains("RF reports (1)\n")) << out.toStdString();
 }
 
-TEST_F(LinkProgram, TellsWhyNothingCouldBeConnected)
+// What a script connects to is not what the operator's window connects to from then on.
+TEST_F(LinkProgram, TellsWhyNothingCouldBeConnectedAndKeepsTheStoredLinks)
 {
+    const QByteArray stored = "[Settings]\nConnectSocket=True\nSerialPort=/dev/tnc\nLastBaudRate=1200\n"
+                              "PrimaryServer=hub.example\nPrimaryPort=10152\nGPSPort=/dev/gps\nGPSBaud=9600\n";
+    {
+        QFile settings(folder.filePath("settings.ini"));
+        ASSERT_TRUE(settings.open(QIODevice::WriteOnly) && settings.write(stored) == stored.size());
+    }
     server.close();
-    StartWith("server=127.0.0.1:1,tnc=/dev/no-such-port:9600", {"--for", "1"});
+    StartWith("server=127.0.0.1:1,tnc=/dev/no-such-port:9600,gps=/dev/none:4800", {"--for", "1"});
     EXPECT_EQ(Status(), 1);
     EXPECT_TRUE(err.contains("refused")) << err.toStdString();
     EXPECT_TRUE(err.contains("/dev/no-such-port")) << err.toStdString();
+    EXPECT_TRUE(err.contains("/dev/none")) << err.toStdString();
+    EXPECT_TRUE(File("settings.ini").startsWith(stored)) << File("settings.ini").toStdString();
 }
 
 } // namespace

@@ -42,6 +42,9 @@ TEST(Options, ReadLinks)
     EXPECT_EQ(options.connect[0].number, 9600);
     EXPECT_EQ(options.connect[1].link, LinkName::Server);
     EXPECT_EQ(options.connect[1].address, "");
+    EXPECT_THAT(options.settings,
+                ElementsAre(Pair("ConnectSocket", "False"), Pair("SerialPort", "/dev/serial/by-path/a:b"),
+                            Pair("LastBaudRate", "9600")));
     EXPECT_EQ(options.seconds, 5);
     EXPECT_TRUE(options.bFollow);
 
