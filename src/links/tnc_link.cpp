@@ -34,8 +34,11 @@ IReportSource& Source(MainWindow& main)
     return *main.links.aprs;
 }
 
+// However a TNC goes, nothing more is known of the receiver behind it.
 void DropSource(MainWindow& main)
 {
+    if (main.links.bSerialConnected && main.commDialog.bTncGps)
+        ForgetFix(main);
     main.links.bSerialConnected = false;
     main.links.bSocketConnected = false;
     main.links.aprs.reset();
@@ -79,7 +82,6 @@ void DisconnectSerial(MainWindow& main)
     if (main.commDialog.bTncGps) {
         Source(main).EnterCommandMode();
         Source(main).SendCommand("LTM 0");
-        ForgetFix(main);
     }
     SendOriginalSettings(main);
     Source(main).ClosePort();
@@ -183,8 +185,6 @@ void aprs_SocketConnectionError(MainWindow& main)
 void aprs_SocketConnectionClosed(MainWindow& main)
 {
     const bool bSerial = main.links.bSerialConnected;
-    if (bSerial && main.commDialog.bTncGps)
-        ForgetFix(main);
     Drop(main, bSerial ? "TNC connection unexpectedly closed" : "AGW connection unexpectedly closed");
 }
 
