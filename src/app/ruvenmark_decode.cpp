@@ -19,6 +19,7 @@
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -26,6 +27,7 @@ using namespace ruvenmark;
 
 constexpr int kWrongUse = 2;
 constexpr int kWriteFailed = 1;
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF"; // Editors put it in front of a file.
 
 constexpr std::string_view kHelp =
     R"(Usage: ruvenmark-decode [OPTION] [FILE|-]
@@ -170,7 +172,10 @@ int Run(int descriptor, const Options& options)
     DecodeSummary summary;
     const bool bNeverStopped = false;
     EventJsonSink sink([&](const nlohmann::ordered_json& event) { output.Line(event); });
+    bool bFirst = true;
     const auto onLine = [&](std::string_view line) {
+        if (std::exchange(bFirst, false) && line.starts_with(kUtf8Mark))
+            line.remove_prefix(kUtf8Mark.size());
         if (IsBlankLine(line) || output.HasFailed())
             return;
         const LogLine log(line);
