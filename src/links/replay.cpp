@@ -14,6 +14,8 @@ using std::chrono::milliseconds;
 constexpr milliseconds kLongestWait{50}; // The operator's buttons act after so long at most.
 // What held everything up for longer, such as an open dialog, is not caught up.
 constexpr milliseconds kMostCaughtUp{1000};
+// Lines that several programs or threads wrote may stand in another order than their times.
+constexpr auto kOutOfOrder = 5min;
 
 std::int32_t Times(const MainWindow& main)
 {
@@ -89,16 +91,23 @@ void ReplayPace::Note(const std::optional<LineTime>& time)
     const bool bNews = bFirst || std::chrono::floor<std::chrono::seconds>(noted->at) !=
                                      std::chrono::floor<std::chrono::seconds>(time->at);
     const bool bOtherForm = !bFirst && noted->bDated != time->bDated; // Nothing tells how far apart they are.
-    if (!bFirst && !bOtherForm && !time->bDated && time->at + 12h < noted->at)
-        m_day += 24h;
     noted = time;
-    const Time due = time->at + m_day;
-    // A time before the last one's is that of a machine whose clock was set: from there on it goes by the new time.
-    if (bFirst || bOtherForm || due < m_due)
-        m_position = due;
-    m_due = due;
     if (bNews)
         m_main.replay.Changed.Raise();
+    const bool bOneDay = !bFirst && !bOtherForm && !time->bDated;
+    if (bOneDay && time->at + m_day + 12h < m_due)
+        m_day += 24h;
+    Time due = time->at + m_day;
+    if (bOneDay && due - 24h + kOutOfOrder >= m_due) // Or one day on, of a log that goes back to before midnight?
+        due -= 24h;
+    const bool bBack = !bFirst && !bOtherForm && due < m_due;
+    if (bBack && m_due - due <= kOutOfOrder)
+        return;
+    // A time long before the last one's is that of a machine whose clock was set: from there on it goes by the new
+    // time.
+    if (bFirst || bOtherForm || bBack)
+        m_position = due;
+    m_due = due;
 }
 
 bool ReplayPace::IsDue(Time due)

@@ -80,6 +80,12 @@ TEST_F(Replay, MidnightAndAClockSetBackAreNoLongWait)
     waited = 0ms;
     Load(Line("2026-11-22 10:00:00", "A") + Line("2026-11-22 09:00:00", "B") + Line("2026-11-22 09:00:02", "C"));
     EXPECT_EQ(waited, 2s);
+    waited = 0ms; // Lines out of order; of the third the day is the one before.
+    Load(Line("[23:59:59]", "A") + Line("[00:00:00]", "B") + Line("[23:59:59]", "C") + Line("[00:00:02]", "D"));
+    EXPECT_EQ(waited, 3s);
+    waited = 0ms;
+    Load(Line("10:00:00", "A") + Line("10:00:05", "B") + Line("10:00:03", "C") + Line("10:00:06", "D"));
+    EXPECT_EQ(waited, 6s);
 }
 
 TEST_F(Replay, APauseHoldsLinesBackAndTheRestOfADistanceFollows)
