@@ -15,6 +15,12 @@ namespace ruvenmark {
 
 namespace {
 
+// What a TNC says of a command it did not take is shown, but nobody sent it.
+bool IsPacketLine(std::string_view line)
+{
+    return line.find('>') < line.find(':');
+}
+
 class ReportSink final : public IReportSink {
 public:
     ReportSink(MainWindow& main, Channel channel) : m_main(main), m_channel(channel) {}
@@ -54,7 +60,8 @@ public:
             m_main.links.LineHeard.Raise(packet);
         if (m_channel == Channel::RF) {
             aprs_ReportRawData(m_main, packet);
-            NoteRadioLine(m_main);
+            if (IsPacketLine(packet))
+                NoteRadioLine(m_main);
         }
         if (m_channel == Channel::TCP) {
             aprstcp_ReportRawData(m_main, packet);

@@ -164,6 +164,7 @@ TEST_F(TncLink, TheTipTellsWhatTheRadioBrought)
     program.wires.Open();
     program.Sink(Channel::RF).ReportRawData("N0CALL>APRS:>hi");
     program.Sink(Channel::TCP).ReportRawData("N0CALL>APRS:>hi"); // Not the radio's.
+    program.Sink(Channel::RF).ReportRawData("?EH");              // Nobody sent it.
     program.wires.Tick(2s);
     EXPECT_EQ(tip(), "Connected for 2 seconds; 1 packet heard, the last one 2 seconds ago");
     program.wires.Lose();
