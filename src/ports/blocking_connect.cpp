@@ -43,7 +43,8 @@ Addresses LookUp(const std::string& host, std::uint16_t port)
     wanted.ai_socktype = SOCK_STREAM;
     wanted.ai_flags = AI_NUMERICSERV;
     addrinfo* found = nullptr;
-    const int error = getaddrinfo(host.c_str(), std::to_string(port).c_str(), &wanted, &found);
+    const std::string name(WithoutBrackets(host));
+    const int error = getaddrinfo(name.c_str(), std::to_string(port).c_str(), &wanted, &found);
     if (error != 0)
         throw Failure("the host is not found: " + std::string(gai_strerror(error)));
     return Addresses(found);
@@ -122,6 +123,11 @@ void StartWork(const std::shared_ptr<Attempted>& attempted, const std::string& h
 }
 
 } // namespace
+
+std::string_view WithoutBrackets(std::string_view host)
+{
+    return host.starts_with('[') && host.ends_with(']') ? host.substr(1, host.size() - 2) : host;
+}
 
 Descriptor ConnectWithin(const std::string& host, std::uint16_t port, std::chrono::milliseconds limit,
                          const std::function<void()>& paint)

@@ -16,7 +16,7 @@ namespace {
 // The port as the system takes it. Raises Failure for an address that can name nothing.
 std::uint16_t CheckedPort(std::string_view host, std::int32_t port)
 {
-    if (host.empty() || host.find('\0') != std::string_view::npos)
+    if (WithoutBrackets(host).empty() || host.find('\0') != std::string_view::npos)
         throw Failure("no host is given");
     if (port < 1 || port > std::numeric_limits<std::uint16_t>::max())
         throw Failure("there is no port " + std::to_string(port));
@@ -33,7 +33,7 @@ std::unique_ptr<IByteLink> QtByteLinks::OpenSerial(std::string_view port, std::i
 
 std::unique_ptr<IByteLink> QtByteLinks::StartSocket(std::string_view host, std::int32_t port, IByteSink& sink)
 {
-    return std::make_unique<WireLink>(MakeWire<SocketWire>(host, CheckedPort(host, port), sink));
+    return std::make_unique<WireLink>(MakeWire<SocketWire>(WithoutBrackets(host), CheckedPort(host, port), sink));
 }
 
 std::unique_ptr<IByteLink> QtByteLinks::ConnectSocket(std::string_view host, std::int32_t port,
