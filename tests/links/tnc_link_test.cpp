@@ -61,7 +61,7 @@ TEST_F(TncLink, ASerialConnectSendsTheOperatorsLinesThenThoseOfTheGps)
     program.files.texts["/program/originalsettings.txt"] = "MON OFF";
     AcceptSerial(true);
     ConnectTnc(main);
-    EXPECT_EQ(program.wires.opened, "serial /dev/ttyS0 9600");
+    EXPECT_EQ(program.wires.opened, "serial /dev/ttyS0 9600 xon");
     EXPECT_EQ(Panel(), "Connected to port /dev/ttyS0 at 9600bps");
     EXPECT_EQ(Caption(), "Disconnect &TNC");
     const std::string typed = Typed();
@@ -192,7 +192,7 @@ TEST_F(TncLink, TheStartConnectsWhatWasChosenAndTheStopPutsTheTncBack)
 
     TestProgram p(false);
     start(p, AutoConnect::Yes);
-    EXPECT_EQ(p.wires.opened, "serial /dev/ttyS0 4800");
+    EXPECT_EQ(p.wires.opened, "serial /dev/ttyS0 4800 xon");
     EXPECT_THAT(p.dialogs.calls, IsEmpty());
     std::string typed;
     p.wires.answer = [&](const std::string& written) {

@@ -197,7 +197,7 @@ TEST_F(DialogsTest, SendObjectGoesAloneWhenMinimizedAndTellsWhatItLacks)
     QDialog& dialog = Modeless("Send Object");
     EXPECT_TRUE(program.Find<QLabel>("lblNoRoad", &dialog).isVisible());
     EXPECT_GT(program.Find<QLineEdit>("txtComment", &dialog).width(), 43 * dialog.fontMetrics().averageCharWidth());
-    Type(dialog, "txtName", "tree");
+    Type(Edit(dialog, "txtName"), "tree");
     Button(dialog, "Minimize").click();
     EXPECT_FALSE(dialog.isVisible());
     EXPECT_FALSE(program.window.isMinimized());
