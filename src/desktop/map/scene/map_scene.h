@@ -53,7 +53,7 @@ public:
     const MarkerLayout& Markers() const { return m_markers; }
     const ShapeLayout& Shapes() const { return m_shapes; }
     const ShapeLayer& KeptShapes() const { return m_shapeLayer; }
-    void Forget() { m_shapeLayer.Forget(); } // Another map comes.
+    void Forget() { m_shapeLayer.Forget(); }                 // Another map comes.
     const StationLabels& Labels() const { return m_labels; } // As last painted.
 
 private:
