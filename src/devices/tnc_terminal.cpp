@@ -26,8 +26,10 @@ constexpr auto kPromptLimit = 60s;  // though what it hears meanwhile breaks it 
 constexpr auto kConverseSettles = 500ms;
 constexpr auto kHeldLimit = 10s; // A packet that happens to hold XOFF must not stop the link for good.
 constexpr auto kInfoLimit = 2s;  // From a header to its information.
-// No digipeater can have repeated a text by then: where the TNC echoes nothing, what it shows later was heard.
+// No digipeater can have repeated a text by then, which takes at least as long on the air as to the slowest TNC: where
+// the TNC echoes nothing, what it shows later was heard.
 constexpr auto kEchoLimit = 500ms;
+constexpr auto kSlowestByte = 9ms; // At 1200 baud.
 
 bool IsLineEnd(char c)
 {
@@ -181,7 +183,7 @@ bool TncTerminal::TakeEcho(std::string_view line)
 // An echo that comes between a header and its information.
 bool TncTerminal::TakeEchoForInfo(std::string_view line)
 {
-    if (line.empty() || line != m_echo || m_lastHeard - m_written > kEchoLimit)
+    if (line.empty() || line != m_echo || m_lastHeard - m_written > kEchoLimit + kSlowestByte * m_echo.size())
         return false;
     m_echo.clear();
     return true;

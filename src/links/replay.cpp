@@ -98,7 +98,7 @@ void ReplayPace::Note(const std::optional<LineTime>& time)
     if (bOneDay && time->at + m_day + 12h < m_due)
         m_day += 24h;
     Time due = time->at + m_day;
-    if (bOneDay && due - 24h + kOutOfOrder >= m_due) // Or one day on, of a log that goes back to before midnight?
+    if (bOneDay && due - 12h > m_due) // Out of order, from before midnight.
         due -= 24h;
     const bool bBack = !bFirst && !bOtherForm && due < m_due;
     if (bBack && m_due - due <= kOutOfOrder)

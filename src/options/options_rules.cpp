@@ -49,11 +49,15 @@ void LoadBox(MainWindow& main, const OptionBox& box)
     FieldOf(main.frmOptions, box) = std::move(field);
 }
 
-// Rain and pressure go on the air as they are stored, where "+12" or "1e2" cannot be read.
+// Rain and pressure go on the air as they are stored, where "+12" or "1e2" cannot be read. A fraction stays: another
+// number would be told in its place.
 std::string TextToStore(const OptionField& field, const OptionBox& box)
 {
     const bool bTypedWhole = box.rule && box.rule->kind == NumberRule::Kind::Whole && field.text != field.loaded;
-    return bTypedWhole && !field.text.empty() ? ShortText(std::int64_t{ToInt32(field.text)}) : field.text;
+    if (!bTypedWhole || field.text.empty())
+        return field.text;
+    const std::int32_t whole = ToInt32(field.text);
+    return ToDouble(field.text) == whole ? ShortText(std::int64_t{whole}) : field.text;
 }
 
 void StoreBox(MainWindow& main, const OptionBox& box)
@@ -203,8 +207,9 @@ bool IsPinPointOffered(const OptionsForm& form)
 
 void frmOptions_Save(MainWindow& main)
 {
-    std::string& call = FieldOf(main.frmOptions, Setting::Call).text;
-    call = ToUpper(Trim(call)); // A message for the station names it letter for letter.
+    OptionField& call = FieldOf(main.frmOptions, Setting::Call);
+    if (call.text != call.loaded)
+        call.text = ToUpper(Trim(call.text)); // A message for the station names it letter for letter.
     if (!IsComplete(main))
         return;
     Store(main);

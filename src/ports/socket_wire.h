@@ -26,7 +26,11 @@ private:
     void Hold() override;
     void Fetch() override;
     void Flush() override { m_socket.flush(); }
-    void Close() override { m_socket.abort(); }
+    void Close() override
+    {
+        m_limit.stop();
+        m_socket.abort();
+    }
     void Prepare();
     void SetOptions();
     void OnConnected();

@@ -103,6 +103,8 @@ void Wire::Arrive()
 
 void Wire::Lose()
 {
+    if (m_sink == nullptr)
+        return; // It was dropped, and is about to go.
     m_bLost = true;
     Arrive();
 }

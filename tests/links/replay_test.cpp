@@ -84,6 +84,9 @@ TEST_F(Replay, MidnightAndAClockSetBackAreNoLongWait)
     Load(Line("[23:59:59]", "A") + Line("[00:00:00]", "B") + Line("[23:59:59]", "C") + Line("[00:00:02]", "D"));
     EXPECT_EQ(waited, 3s);
     waited = 0ms;
+    Load(Line("[23:58:00]", "A") + Line("[00:02:00]", "B") + Line("[23:55:00]", "C") + Line("[00:03:00]", "D"));
+    EXPECT_EQ(waited, 12min);
+    waited = 0ms;
     Load(Line("10:00:00", "A") + Line("10:00:05", "B") + Line("10:00:03", "C") + Line("10:00:06", "D"));
     EXPECT_EQ(waited, 6s);
 }

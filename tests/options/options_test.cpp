@@ -158,7 +158,8 @@ TEST_F(Options, WhatNobodyTouchedIsNotComplainedOf)
     EXPECT_TRUE(IsOpen());
 }
 
-// A call in small letters is deaf to its messages; "1013.2" or " 12" spoil a weather report that goes out as stored.
+// A call in small letters is deaf to its messages; " 12" spoils a weather report, which goes out as stored, and
+// "1013.2" would be read as another pressure if it were rounded.
 TEST_F(Options, WhatWasTypedIsStoredAsItMustGoOut)
 {
     mnuViewOptions_Click(main);
@@ -170,7 +171,8 @@ TEST_F(Options, WhatWasTypedIsStoredAsItMustGoOut)
     Text(S::Lat) = "47.50"; // No whole number.
     frmOptions_Save(main);
     EXPECT_EQ(Kept(S::Call) + ' ' + Kept(S::Path), "N1CALL-7 Wide2-2");
-    EXPECT_EQ(Kept(S::Rain1) + ' ' + Kept(S::Pressure) + ' ' + Kept(S::Alt) + ' ' + Kept(S::Lat), "12 1013 100 47.50");
+    EXPECT_EQ(Kept(S::Rain1) + ' ' + Kept(S::Pressure) + ' ' + Kept(S::Alt) + ' ' + Kept(S::Lat),
+              "12 1013.2 100 47.50");
     mnuViewOptions_Click(main);
     Text(S::Call) = "  ";
     frmOptions_Save(main);
