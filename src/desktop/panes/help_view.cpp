@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QToolTip>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -82,8 +83,14 @@ bool HelpView::Press(const QKeyEvent& key)
     return true;
 }
 
+// From what is being read on, which scrolls without the cursor.
 void HelpView::OpenFindLine()
 {
+    QScrollBar& bar = *m_browser->verticalScrollBar();
+    const int place = bar.value();
+    if (!m_browser->viewport()->rect().intersects(m_browser->cursorRect()))
+        m_browser->setTextCursor(m_browser->cursorForPosition(QPoint()));
+    bar.setValue(place); // In a table the cursor goes to its begin.
     m_find->show();
     m_find->setFocus();
     m_find->selectAll();
@@ -95,18 +102,20 @@ void HelpView::CloseFindLine()
     m_browser->setFocus();
 }
 
-// Behind the last place the first one follows.
+// Behind the last place the first one follows. The page stays where it is when there is none.
 void HelpView::FindNext(QTextDocument::FindFlags flags)
 {
     const QString text = m_find->text();
-    if (text.isEmpty() || m_browser->find(text, flags))
+    if (text.isEmpty())
         return;
-    const QTextCursor before = m_browser->textCursor();
-    m_browser->moveCursor(flags.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
-    if (m_browser->find(text, flags))
-        return;
-    m_browser->setTextCursor(before);
-    QToolTip::showText(m_find->mapToGlobal(QPoint()), QStringLiteral("Not in this page"), m_find);
+    const QTextDocument& page = *m_browser->document();
+    QTextCursor found = page.find(text, m_browser->textCursor(), flags);
+    if (found.isNull())
+        found = page.find(text, flags.testFlag(QTextDocument::FindBackward) ? page.characterCount() - 1 : 0, flags);
+    if (found.isNull())
+        QToolTip::showText(m_find->mapToGlobal(QPoint()), QStringLiteral("Not in this page"), m_find);
+    else
+        m_browser->setTextCursor(found);
 }
 
 void HelpView::Show()

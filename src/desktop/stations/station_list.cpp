@@ -14,11 +14,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
+#include <QPointer>
 #include <QTableView>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace ruvenmark {
 
@@ -80,6 +82,7 @@ StationList::StationList(MainWindow& main, const IconSet& icons, QWidget* parent
     layout->addWidget(m_table, 1);
     setFocusProxy(m_table);
     connect(m_model, &StationModel::Counted, this, &StationList::ShowCount);
+    connect(m_model, &StationModel::Counted, this, &StationList::StayInPlace);
     ShowCount();
 }
 
@@ -165,7 +168,7 @@ bool StationList::eventFilter(QObject* watched, QEvent* event)
     }
     if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Delete)) {
         if (current.isValid())
-            emit DeleteWanted(ChannelAt(current), CallAt(current));
+            Delete(current);
         return true;
     }
     if (IsEnter(*event) && current.isValid()) {
@@ -173,6 +176,29 @@ bool StationList::eventFilter(QObject* watched, QEvent* event)
         return true;
     }
     return QWidget::eventFilter(watched, event);
+}
+
+// While it is asked about, the list may go too.
+void StationList::Delete(const QModelIndex& station)
+{
+    const QPersistentModelIndex wanted = station;
+    const int row = station.row();
+    const QPointer<StationList> self = this;
+    emit DeleteWanted(ChannelAt(station), CallAt(station));
+    if (!self)
+        return;
+    m_deleted = wanted;
+    m_deletedRow = row;
+    if (!wanted.isValid())
+        StayInPlace();
+}
+
+// The station behind the one that went takes its place under the keys.
+void StationList::StayInPlace()
+{
+    const int row = std::exchange(m_deletedRow, -1);
+    if (row >= 0 && !m_deleted.isValid() && m_model->rowCount() > 0)
+        m_table->selectRow(std::min(row, m_model->rowCount() - 1));
 }
 
 void StationList::TakeFilter()

@@ -3,6 +3,7 @@
 #include "core/channel.h"
 
 #include <QByteArray>
+#include <QPersistentModelIndex>
 #include <QString>
 #include <QWidget>
 
@@ -54,6 +55,8 @@ private:
     void MakeTable();
     void TakeFilter();
     void ShowCount();
+    void Delete(const QModelIndex& station);
+    void StayInPlace();
     void Copy();
     Channel ChannelAt(const QModelIndex& index) const;
     std::string CallAt(const QModelIndex& index) const;
@@ -65,6 +68,8 @@ private:
     QComboBox* m_within;
     QCheckBox* m_direct;
     QLabel* m_count;
+    QPersistentModelIndex m_deleted; // Stood here before it was deleted, the list may still show it;
+    int m_deletedRow = -1;           // -1: none.
 };
 
 } // namespace ruvenmark

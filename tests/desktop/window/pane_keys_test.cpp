@@ -9,18 +9,20 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTableView>
 #include <QTextBrowser>
 
 namespace ruvenmark {
 namespace {
 
-// The marker of another station, selected before, must not go; nor any unasked.
+// The marker of another station, selected before, must not go, nor any unasked, nor the first of the list next.
 TEST(PaneKeysTest, DelInTheStationListIsForItsRowAndAsks)
 {
     WindowProgram program;
     program.Hear(Channel::TCP, "W2BBB", 40, -90);
     program.Hear(Channel::TCP, "W3CCC", 41, -90);
+    program.Hear(Channel::TCP, "W4DDD", 42, -90);
     program.Action("mnuViewStations").trigger();
     auto& table = program.Find<QTableView>("lvStations");
     ASSERT_TRUE(QTest::qWaitForWindowActive(&program.window));
@@ -35,6 +37,8 @@ TEST(PaneKeysTest, DelInTheStationListIsForItsRowAndAsks)
     EXPECT_EQ(program.prompts.questions,
               std::vector<std::string>(2, "Are you sure you want to delete report for W3CCC?"));
     EXPECT_FALSE(program.main.Of(Channel::TCP).Stations.Contains("W3CCC"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return table.model()->rowCount() == 2; }));
+    EXPECT_EQ(table.currentIndex().siblingAtColumn(0).data().toString(), QStringLiteral("W4DDD"));
     program.Hear(Channel::TCP, "W3CCC", 41, -90);
     table.selectRow(0);
     QTest::keyClick(&table, Qt::Key_Return);
@@ -101,6 +105,12 @@ TEST(PaneKeysTest, FindInTheManualStaysThere)
     EXPECT_GT(page.textCursor().selectionStart(), first);
     QTest::keyClick(&find, Qt::Key_F3, Qt::ShiftModifier);
     EXPECT_EQ(page.textCursor().selectionStart(), first);
+    auto& place = *page.verticalScrollBar();
+    place.setValue(place.maximum());
+    QTest::keySequence(&find, QKeySequence::Find);
+    find.setText(QStringLiteral("qqq"));
+    QTest::keyClick(&find, Qt::Key_F3);
+    EXPECT_EQ(place.value(), place.maximum()) << "what is read stays when there is nothing to find";
     QTest::keyClick(&find, Qt::Key_Escape);
     EXPECT_FALSE(find.isVisible());
     EXPECT_TRUE(page.hasFocus());

@@ -98,7 +98,7 @@ void ShapeLayer::Paint(QPainter& painter, const ShapeLayout& layout, const SlotP
     if (lines < kFew || (lines <= kAtOnce && (bZooms || bAround))) {
         m_bKnown = false;
         ++m_version;
-        if (frame.world == m_place.world)
+        if (frame.world == m_place.world || shapes.Count() == 0)
             m_picture = {}; // Its shapes are gone. What was seen from elsewhere may be seen again.
         PaintShapes(painter, layout.InView(), frame, look, only);
         return;
@@ -259,7 +259,7 @@ void ShapeLayer::Take(std::uint64_t version, const Job& job, const QImage& pictu
 {
     m_bWorking = false;
     if (version == m_version) {
-        m_picture = QPixmap::fromImage(picture);
+        m_picture = QPixmap::fromImage(picture, Qt::NoOpaqueDetection); // What a move uncovers must be clear.
         m_place = job.place;
         m_look = job.look;
         m_bKnown = true;

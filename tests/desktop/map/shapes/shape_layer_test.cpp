@@ -246,5 +246,25 @@ TEST_F(ManyShapesTest, WhatChangesWhileAPictureIsMadeIsNotLost)
     EXPECT_LT(Inked(Kept(FrameAt(0, 0))), 0.01) << "another map's";
 }
 
+// A picture without a clear pixel must not be kept as one that knows no clear ones: what a move uncovers would be
+// black.
+TEST_F(ManyShapesTest, APictureThatIsFullMovesOnToBareGround)
+{
+    for (std::uint32_t slot = 0; slot < shapes.SlotCount(); ++slot)
+        shapes.Find(shapes.RefAt(slot))->weight = 13;
+    const double edge = std::round(6.0 / 360 * FrameAt(0, 0).world); // Where the last lines begin.
+    const auto frameAt = [&](double beyond) { return FrameAt(edge - kWidth / 2.0 + beyond, 0); };
+    Kept(frameAt(-20));
+    ASSERT_GT(layout.Lines().size(), ShapeLayer::kAtOnce);
+    EXPECT_TRUE(WaitForPicture()) << "to begin it";
+    Kept(frameAt(-20));
+    EXPECT_TRUE(WaitForPicture());
+    ASSERT_EQ(Inked(Kept(frameAt(-20))), 1);
+    for (const double beyond : {20, 60, 100, 140})
+        EXPECT_LT(Differing(frameAt(beyond)), 20) << beyond;
+    EXPECT_TRUE(layer.IsReady()) << "all painted at once";
+    EXPECT_LT(Inked(Kept(frameAt(140))), 1);
+}
+
 } // namespace
 } // namespace ruvenmark
