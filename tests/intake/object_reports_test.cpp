@@ -18,15 +18,14 @@ protected:
 // Its picture is that of its position report; the object report counts it but has none of its own.
 TEST_F(ObjectReports, CountTheirObjectAndLeaveItsPicture)
 {
-    Rf().ReportObjectItem({"OBJ", "APRS", 1, 2, "N0CALL", 1});
-    EXPECT_EQ(p.Text("RFPositions"), "Positions (1)");
-    EXPECT_EQ(p.Text("RF"), "RF reports (1)");
-    EXPECT_EQ(p.Image("RFPositionsOBJ"), "");
+    for (const char* image : {"", "House"}) {
+        Rf().ReportObjectItem({"OBJ", "APRS", 1, 2, "N0CALL", 1});
+        EXPECT_EQ(p.Text("RF"), "RF reports (1)");
+        EXPECT_EQ(p.Image("RFPositionsOBJ"), image);
+        p.Position(Channel::RF, "OBJ", 1, 2, "House");
+    }
     EXPECT_EQ(p.Image("RFPositionsOBJSender"), "Sender");
     EXPECT_EQ(p.Image("RFPositionsOBJState"), "State");
-    p.Position(Channel::RF, "OBJ", 1, 2, "House");
-    Rf().ReportObjectItem({"OBJ", "APRS", 1, 2, "N0CALL", 1});
-    EXPECT_EQ(p.Image("RFPositionsOBJ"), "House");
 }
 
 TEST_F(ObjectReports, ACancelledObjectLeavesTheMapButNotTheTree)

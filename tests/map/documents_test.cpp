@@ -15,68 +15,58 @@ protected:
     // A map with a change in it.
     void Mark() { program.Position(Channel::RF, "N0CALL", 40, -80); }
     void Run(MenuEntry entry) { RunMenuEntry(program.main, entry); }
-    const std::string& File() const { return program.main.map.sMainMapFile; }
-    const std::string& Caption() const { return program.main.window.caption; }
+    std::string Named() const { return program.main.map.sMainMapFile + ", " + program.main.window.caption; }
 
     TestProgram program;
 };
 
-TEST_F(Documents, SavesUnderANewNameThenUnderTheSame)
-{
-    Mark();
-    program.prompts.files = {"/maps/a.ptm"};
-    Run(MenuEntry::mnuFileSave);
-    EXPECT_EQ(File(), "/maps/a.ptm");
-    EXPECT_EQ(Caption(), "Ruvenmark - /maps/a.ptm");
-    EXPECT_TRUE(program.TheMap().Saved());
-    const std::string first = program.files.texts["/maps/a.ptm"];
-    program.Position(Channel::RF, "N1CALL", 41, -80);
-    Run(MenuEntry::mnuFileSave);
-    EXPECT_NE(program.files.texts["/maps/a.ptm"], first);
-    EXPECT_EQ(program.prompts.fileTitles, std::vector<std::string>{"Save As"});
-}
-
-TEST_F(Documents, OpenBringsBackWhatWasSaved)
+TEST_F(Documents, SavesUnderANewNameThenUnderTheSameAndOpensWhatWasSaved)
 {
     Mark();
     program.prompts.files = {"/a.ptm", "/a.ptm"};
-    Run(MenuEntry::mnuFileSaveAs);
+    Run(MenuEntry::mnuFileSave);
+    EXPECT_EQ(Named(), "/a.ptm, Ruvenmark - /a.ptm");
+    EXPECT_TRUE(program.TheMap().Saved());
+    program.Position(Channel::RF, "N1CALL", 41, -80);
+    Run(MenuEntry::mnuFileSave);
+    EXPECT_EQ(program.prompts.fileTitles, std::vector<std::string>{"Save As"});
+
     Run(MenuEntry::mnuFileNew);
-    EXPECT_EQ(Caption(), "Ruvenmark");
-    EXPECT_EQ(File(), "");
+    EXPECT_EQ(Named(), ", Ruvenmark");
     EXPECT_TRUE(program.MarkerNames().empty());
     Run(MenuEntry::mnuFileOpen);
-    EXPECT_EQ(program.MarkerNames(), std::vector<std::string>{"N0CALL(r)"});
-    EXPECT_EQ(Caption(), "Ruvenmark - /a.ptm");
+    EXPECT_EQ(program.MarkerNames(), (std::vector<std::string>{"N0CALL(r)", "N1CALL(r)"}));
+    EXPECT_EQ(Named(), "/a.ptm, Ruvenmark - /a.ptm");
     EXPECT_TRUE(program.prompts.questions.empty());
 }
 
 TEST_F(Documents, CancelInTheQuestionLeavesEverything)
 {
     Mark();
-    program.prompts.files = {"/a.ptm"};
-    Run(MenuEntry::mnuFileSaveAs);
-    program.Position(Channel::RF, "N1CALL", 41, -80);
     program.prompts.answers = {Answer::Cancel, Answer::Cancel};
     Run(MenuEntry::mnuFileNew);
     Run(MenuEntry::mnuFileOpen);
-    EXPECT_EQ(program.prompts.questions, (std::vector<std::string>{"Do you want to save the current map?",
-                                                                   "Do you want to save the current map?"}));
-    EXPECT_EQ(program.MarkerNames().size(), 2U);
-    EXPECT_EQ(Caption(), "Ruvenmark - /a.ptm");
-    EXPECT_EQ(File(), "/a.ptm");
+    const std::string question = "Do you want to save the current map?";
+    EXPECT_EQ(program.prompts.questions, (std::vector<std::string>{question, question}));
+    EXPECT_TRUE(program.prompts.fileTitles.empty());
+    EXPECT_EQ(program.MarkerNames().size(), 1U);
 }
 
-// Without that the next command would ask again.
-TEST_F(Documents, NoCountsAsSavedEvenWhereNothingFollows)
+// Else the next command would ask again.
+TEST_F(Documents, NoAndACancelledSaveCountAsSaved)
 {
-    Mark();
-    program.prompts.answers = {Answer::No};
-    Run(MenuEntry::mnuFileOpen); // No file is chosen.
-    EXPECT_TRUE(program.TheMap().Saved());
-    EXPECT_EQ(program.MarkerNames().size(), 1U);
-    Run(MenuEntry::mnuFileOpen);
-    EXPECT_EQ(program.prompts.questions.size(), 1U);
+    for (const Answer answer : {Answer::No, Answer::Yes}) { // No file is chosen, neither to save nor to open.
+        Mark();
+        program.prompts.answers = {answer};
+        Run(MenuEntry::mnuFileOpen);
+        EXPECT_TRUE(program.TheMap().Saved());
+        EXPECT_EQ(program.MarkerNames().size(), 1U);
+        EXPECT_TRUE(program.files.texts.empty());
+        Run(MenuEntry::mnuFileNew);
+        EXPECT_TRUE(program.MarkerNames().empty());
+    }
+    EXPECT_EQ(program.prompts.questions.size(), 2U);
+    EXPECT_EQ(program.prompts.fileTitles, (std::vector<std::string>{"Open", "Save As", "Open"}));
 }
 
 // Style and font are of the document: changing them is a change, and a new map begins with its own.
@@ -99,60 +89,27 @@ TEST_F(Documents, StyleAndFontAreChangesAndStayBehindWithTheirMap)
     EXPECT_EQ(program.TheMap().MapFont(), font);
 }
 
-TEST_F(Documents, NoForgetsTheChangesAndASaveAsCancelledGoesOn)
+TEST_F(Documents, WhatCannotBeWrittenOrReadLeavesMapAndName)
 {
     Mark();
-    program.prompts.answers = {Answer::No};
-    Run(MenuEntry::mnuFileNew);
-    EXPECT_TRUE(program.MarkerNames().empty());
-
-    Mark();
-    program.prompts.answers = {Answer::Yes}; // No file is chosen.
-    Run(MenuEntry::mnuFileNew);
-    EXPECT_EQ(program.prompts.fileTitles.back(), "Save As");
-    EXPECT_TRUE(program.MarkerNames().empty());
-    EXPECT_TRUE(program.files.texts.empty());
-}
-
-TEST_F(Documents, ASaveThatFailsOrIsCancelledKeepsTheOldName)
-{
-    Mark();
-    program.prompts.files = {"/a.ptm", "/b.ptm"};
+    program.prompts.files = {"/a.ptm", "/b.ptm", "/broken.ptm"};
     Run(MenuEntry::mnuFileSaveAs);
     program.files.FailWrite(1);
     Run(MenuEntry::mnuFileSaveAs);
-    EXPECT_EQ(File(), "/a.ptm");
-    EXPECT_EQ(Caption(), "Ruvenmark - /a.ptm");
+    EXPECT_EQ(Named(), "/a.ptm, Ruvenmark - /a.ptm");
     EXPECT_TRUE(program.prompts.messages.empty());
 
-    program.Position(Channel::RF, "N1CALL", 41, -80);
-    Run(MenuEntry::mnuFileSaveAs); // Cancelled: counts as saved.
-    EXPECT_TRUE(program.TheMap().Saved());
-    EXPECT_EQ(File(), "/a.ptm");
-}
-
-TEST_F(Documents, AFailedSaveInTheQuestionEndsTheCommandWithTheMapAsItWas)
-{
-    Mark();
-    program.prompts.answers = {Answer::Yes};
-    program.prompts.files = {"/a.ptm"};
-    program.files.FailWrite(1);
-    Run(MenuEntry::mnuFileNew);
-    EXPECT_EQ(program.MarkerNames().size(), 1U);
-    EXPECT_FALSE(program.TheMap().Saved());
-    EXPECT_EQ(File(), "");
-}
-
-TEST_F(Documents, AnUnreadableFileLeavesMapAndName)
-{
-    Mark();
-    program.prompts.files = {"/a.ptm", "/broken.ptm"};
-    Run(MenuEntry::mnuFileSaveAs);
     program.files.texts["/broken.ptm"] = "{\"type\":";
     Run(MenuEntry::mnuFileOpen);
     EXPECT_EQ(program.MarkerNames().size(), 1U);
-    EXPECT_EQ(File(), "/a.ptm");
-    EXPECT_EQ(Caption(), "Ruvenmark - /a.ptm");
+    EXPECT_EQ(Named(), "/a.ptm, Ruvenmark - /a.ptm");
+
+    program.Position(Channel::RF, "N1CALL", 41, -80); // Changed, and asked ahead of a new map.
+    program.prompts.answers = {Answer::Yes};
+    program.files.FailWrite(1);
+    Run(MenuEntry::mnuFileNew);
+    EXPECT_EQ(program.MarkerNames().size(), 2U);
+    EXPECT_FALSE(program.TheMap().Saved());
 }
 
 TEST_F(Documents, ARegionIsKeptAtOnceAndMakesANewMapOnlyWhereItIsAnother)
@@ -165,16 +122,16 @@ TEST_F(Documents, ARegionIsKeptAtOnceAndMakesANewMapOnlyWhereItIsAnother)
     EXPECT_EQ(program.store.Lasting("Region"), "2"); // Even if the program ended here.
     EXPECT_EQ(program.main.mpCtrl.MapRegion(), kRegionNorthAmerica);
     EXPECT_EQ(program.main.map.Region, kRegionNorthAmerica);
-    Run(MenuEntry::mnuRegionEurope);
-    EXPECT_EQ(program.main.mpCtrl.MapRegion(), kRegionEurope);
-    EXPECT_TRUE(program.MarkerNames().empty());
-    Run(MenuEntry::mnuFileNew);
-    EXPECT_EQ(program.main.mpCtrl.MapRegion(), kRegionEurope);
+    for (const MenuEntry entry : {MenuEntry::mnuRegionEurope, MenuEntry::mnuFileNew}) {
+        Run(entry);
+        EXPECT_EQ(program.main.mpCtrl.MapRegion(), kRegionEurope);
+        EXPECT_TRUE(program.MarkerNames().empty());
+    }
     StopMainWindow(program.main);
     EXPECT_EQ(program.store.Get("Region", ""), "2");
 }
 
-TEST_F(Documents, PrintsWhatTheDialogGivesAndCopiesThePicture)
+TEST_F(Documents, PrintsWhatTheDialogGives)
 {
     Run(MenuEntry::mnuFilePrint);
     EXPECT_TRUE(program.desktop.prints.empty());
@@ -183,8 +140,6 @@ TEST_F(Documents, PrintsWhatTheDialogGivesAndCopiesThePicture)
     ASSERT_EQ(program.desktop.prints.size(), 1U);
     EXPECT_EQ(program.desktop.prints[0].copies, 3);
     EXPECT_TRUE(program.desktop.prints[0].bLandscape);
-    Run(MenuEntry::mnuCopyMap);
-    EXPECT_EQ(program.desktop.mapPictures, 1);
 }
 
 } // namespace

@@ -56,7 +56,6 @@ TEST_F(EditCommands, ShapesGoTheSameWay)
     Map& map = program.TheMap();
     Shape line = map.AddLine(map.GetLocation(40, -80), map.GetLocation(41, -81));
     line.SetWeight(8);
-    line.SetEndArrowhead(true);
     SelectOnMap(program.main, line);
     Run(MenuEntry::mnuEditCopy);
     Run(MenuEntry::mnuEditDelete);
@@ -65,7 +64,6 @@ TEST_F(EditCommands, ShapesGoTheSameWay)
     ASSERT_EQ(map.Shapes().Count(), 1U);
     const auto& pasted = *map.Shapes().At(std::get<Shape>(program.main.map.Selection).Ref().slot);
     EXPECT_EQ(pasted.weight, 8);
-    EXPECT_TRUE(pasted.bEndArrowhead);
     EXPECT_EQ(pasted.to, (GeoPoint{41, -81}));
 }
 
@@ -94,16 +92,10 @@ TEST_F(EditCommands, WhatIsGoneIsNotSelected)
 
 TEST_F(EditCommands, OtherTextsAreNotPasted)
 {
-    MapDocument empty;
     MapDocument one;
     one.pins.push_back({"X", "", {1, 2}, 1, 0, 0, {}, {}});
-    const std::vector<std::string> others = {"",
-                                             "hello",
-                                             "{",
-                                             "{\"type\":\"Point\"}",
-                                             WriteMapDocument(empty),
-                                             "{" + std::string(2U << 20U, ' ') + WriteMapDocument(one).substr(1)};
-    for (const std::string& text : others) {
+    for (const std::string& text : {std::string("hello"), std::string("{\"type\":\"Point\"}"), WriteMapDocument({}),
+                                    "{" + std::string(2U << 20U, ' ') + WriteMapDocument(one).substr(1)}) {
         program.desktop.clipboard = text;
         EXPECT_FALSE(CanPaste(program.main));
         Run(MenuEntry::mnuEditPaste);

@@ -63,17 +63,9 @@ TEST_F(PointerTools, ADialogWhoseClickIsTakenOverComesBack)
     EXPECT_EQ(program.dialogs.calls.back(), "ComeBack frmFilter");
     EXPECT_TRUE(ClickMiddle());
     EXPECT_EQ(Fields(Channel::RF).Lat, "");
-    EXPECT_TRUE(program.main.map.directions[0]);
-}
-
-TEST_F(PointerTools, DirectionsTakeBothEnds)
-{
-    RunMenuEntry(program.main, MenuEntry::mnuDirections);
-    PinPointDirectionsEnd(program.main, 1);
-    ClickMiddle();
-    EXPECT_FALSE(program.main.map.directions[0]);
-    ASSERT_TRUE(program.main.map.directions[1]);
-    EXPECT_EQ(program.main.map.directions[1]->point, (GeoPoint{47.12346, 8.5}));
+    ASSERT_TRUE(program.main.map.directions[0]);
+    EXPECT_EQ(program.main.map.directions[0]->point, (GeoPoint{47.12346, 8.5}));
+    EXPECT_FALSE(program.main.map.directions[1]);
 }
 
 } // namespace

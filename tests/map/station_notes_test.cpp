@@ -37,7 +37,6 @@ TEST_F(StationNotesTest, AreOfTheLastReport)
     p.Position(Channel::RF, "N0CALL", 49, 11, "Van", "away");
     EXPECT_THAT(Note(), EndsWith("49°, 11°\r\naway"));
     EXPECT_NE(Note().substr(0, Note().find('\r')), before.substr(0, before.find('\r')));
-    EXPECT_TRUE(p.Marker("N0CALL(r)")->NoteBeginsWith("RF"));
     EXPECT_TRUE(p.Marker("N0CALL(r)")->NoteBeginsWith(Note()));
     EXPECT_FALSE(p.Marker("N0CALL(r)")->NoteBeginsWith("FL"));
 }
@@ -75,12 +74,6 @@ TEST_F(StationNotesTest, StayWithThePinAndGoWhereItIsCopied)
     p.Position(Channel::RF, "N0CALL", 50, 12, "Van", "elsewhere");
     EXPECT_EQ(pin.Note(), note);
     EXPECT_THAT(Note(), EndsWith("elsewhere"));
-
-    Pushpin second = *p.Marker("N0CALL(r)");
-    second.SetNote("by hand");
-    EXPECT_EQ(second.Note(), "by hand");
-    p.Position(Channel::RF, "N0CALL", 51, 13);
-    EXPECT_THAT(second.Note(), EndsWith("51°, 13°"));
 }
 
 } // namespace

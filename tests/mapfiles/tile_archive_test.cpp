@@ -53,9 +53,8 @@ TEST_F(TileArchiveTest, RowsCountFromTheSouthAndTheRestIsNotThere)
     TileArchive archive(path);
     EXPECT_EQ(archive.MaxZoom(), 4);
     EXPECT_EQ(archive.Attribution(), "© Some & people");
-    EXPECT_EQ(archive.Read({4, 3, 1}), "picture");
-    EXPECT_EQ(archive.Read({4, 3, 14}), "");
-    EXPECT_EQ(archive.Read({4, 3, 1}), "picture") << "the question is asked anew each time";
+    for (const auto& [row, bytes] : {std::pair(1, "picture"), {14, ""}, {1, "picture"}}) // Asked anew each time.
+        EXPECT_EQ(archive.Read({4, 3, row}), bytes);
 }
 
 TEST_F(TileArchiveTest, EqualPicturesMayBeKeptOnceBehindAView)
@@ -80,19 +79,16 @@ TEST_F(TileArchiveTest, TheDeepestZoomIsTakenFromTheMetadataAndKeptWithinReason)
 
 TEST_F(TileArchiveTest, WhatRunsForEverIsRefusedOrEnds)
 {
-    const std::string view = "CREATE VIEW tiles AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
-                             "SELECT i AS zoom_level, 0 AS tile_column, 0 AS tile_row, 'x' AS tile_data FROM n "
-                             "WHERE i < 0;";
-    EXPECT_NE(FailureOf(view), "") << "a view without end";
-
     EXPECT_EQ(FailureOf(SlowArchive()), "The tile archive takes too long to answer.");
-
-    // One call of such a function would not be interrupted.
-    EXPECT_NE(FailureOf("CREATE VIEW tiles AS SELECT 1 AS zoom_level, 0 AS tile_column, 1 AS tile_row, "
-                        "instr(replace(hex(zeroblob(1000000)), '0', 'a'), replace(hex(zeroblob(500000)), '0', 'a') || "
-                        "'x') AS tile_data;"),
-              "");
-    EXPECT_NE(FailureOf("CREATE VIRTUAL TABLE tiles USING fts4(zoom_level, tile_column, tile_row, tile_data);"), "");
+    for (const char* statement :
+         {"CREATE VIEW tiles AS WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n) "
+          "SELECT i AS zoom_level, 0 AS tile_column, 0 AS tile_row, 'x' AS tile_data FROM n WHERE i < 0;",
+          // One call of such a function would not be interrupted.
+          "CREATE VIEW tiles AS SELECT 1 AS zoom_level, 0 AS tile_column, 1 AS tile_row, "
+          "instr(replace(hex(zeroblob(1000000)), '0', 'a'), replace(hex(zeroblob(500000)), '0', 'a') || "
+          "'x') AS tile_data;",
+          "CREATE VIRTUAL TABLE tiles USING fts4(zoom_level, tile_column, tile_row, tile_data);"})
+        EXPECT_NE(FailureOf(statement), "") << statement;
 }
 
 TEST_F(TileArchiveTest, StopEndsWhatIsBeingRead)

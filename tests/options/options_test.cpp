@@ -9,7 +9,9 @@
 
 #include <cmath>
 #include <limits>
+#include <map>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace ruvenmark {
@@ -17,7 +19,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using Texts = std::vector<std::string>;
 using S = Setting;
 
 class Options : public testing::Test {
@@ -36,82 +37,52 @@ protected:
     MainWindow& main = program.main;
 };
 
-// A box on another page, under another name or behind another setting than the manual says.
-TEST(OptionBoxes, StandOnTheirPagesInTheOrderOfSave)
-{
-    std::vector<Texts> pages(kOptionPages.size());
-    for (const OptionBox& box : kOptionBoxes)
-        pages.at(static_cast<std::size_t>(PageOf(box)))
-            .push_back(std::string(Info(box.setting).key) + ' ' + std::string(box.control));
-    EXPECT_THAT(pages,
-                ElementsAre(ElementsAre("Call txtCall", "Dest txtDest", "Path txtVia", "Symbol cboSymbol",
-                                        "ShowRFNames chkShowRfNames", "ShowTCPNames chkShowTcpNames",
-                                        "PositionInt cboPositionInterval", "WeatherInt cboWeatherInterval"),
-                            ElementsAre("Lat txtLat", "Lon txtLon", "Alt txtAlt", "Power txtPower", "Height txtHeight",
-                                        "Gain txtGain", "Directivity txtPosDir", "Comment txtComment"),
-                            ElementsAre("WindDir txtDir", "WindSpeed txtSpeed", "Gust txtGust", "Temperature txtTemp",
-                                        "Rain1 txtRain1", "Rain24 txtRain24", "Rain12 txtRain12",
-                                        "Humidity txtHumidity", "Pressure txtPressure"),
-                            ElementsAre("ReceiveBulletin chkBulletin", "MatchSSID chkMatch", "PlayAll chkPlayAll",
-                                        "All optAll", "MessageSubnet txtSubnet", "WaveFile txtWaveFile"),
-                            ElementsAre("DefaultMap txtDefaultMap", "TNCLog txtTNCLog", "TCPLog txtTCPLog",
-                                        "LogTcpData chkLogTcpData", "MobileColor cboMobileColor",
-                                        "Tactical txtTactical", "BeaconTactical chkTactical")));
-    EXPECT_EQ(ChoicesOf(BoxOf(S::Symbol)).size(), 31U);
-    EXPECT_EQ(ChoicesOf(BoxOf(S::PositionInt)).size(), 12U);
-    EXPECT_EQ(ChoicesOf(BoxOf(S::WeatherInt)).back(), "12 Hours");
-    EXPECT_THAT(ChoicesOf(BoxOf(S::MobileColor)),
-                ElementsAre("Black", "Red", "Green", "Yellow", "Blue", "Magenta", "Cyan", "White"));
-}
-
 TEST_F(Options, BoxesTakeTheirBoundsAndNothingBeyond)
 {
     constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
     struct Row {
         Setting setting;
         double lowest, highest; // NaN: none.
-        const char* message;
+        const char* asked;
     };
-    constexpr Row kRows[] = {{S::Alt, 0, 999999, "Enter a number between 0 and 999999 for altitude!"},
-                             {S::Directivity, 0, 360, "Enter an interger between 0 and 360 for directivity!"},
-                             {S::Gain, kNone, kNone, ""},
-                             {S::Height, 0, 2000000000, "Enter a number between 0 and 2000000000 for height!"},
-                             {S::Lat, -90, 90, "Enter a value between -90 and 90 for latitude!"},
-                             {S::Lon, -180, 180, "Enter a value between -180 and 180 for longitude!"},
-                             {S::Power, 0, kNone, "Enter a positive number for station power!"},
-                             {S::WindDir, 0, 360, "Enter an interger between 0 and 360 for wind direction!"},
-                             {S::WindSpeed, 0, 999, "Enter an interger between 0 and 999 for wind speed!"},
-                             {S::Gust, 0, 999, "Enter an interger between 0 and 999 for gust!"},
-                             {S::Temperature, -99, 999, "Enter an interger between -99 and 999 for temperature!"},
-                             {S::Rain1, 0, 999, "Enter an interger between 0 and 999 for rain in the last hour!"},
-                             {S::Rain24, 0, 999, "Enter an interger between 0 and 999 for rain in the last 24 hours!"},
-                             {S::Rain12, 0, 999, "Enter an interger between 0 and 999 for rain since midnight!"},
-                             {S::Humidity, 0, 99, "Enter an interger between 0 and 99 for humidity!"},
-                             {S::Pressure, 0, 99999, "Enter an interger between 0 and 99999 for pressure!"}};
-    const auto leave = [&](Setting setting, const std::string& text) {
-        Text(setting) = text;
-        return frmOptions_LostFocus(main.frmOptions, BoxOf(setting));
-    };
-    for (const Row& row : kRows) {
-        const std::string key(Info(row.setting).key);
-        const auto expectTaken = [&](double value, bool bTaken) {
-            if (std::isnan(value))
-                return;
-            const std::string text = std::to_string(static_cast<std::int64_t>(value));
-            EXPECT_EQ(leave(row.setting, text), bTaken ? "" : row.message) << key << ' ' << text;
-            EXPECT_EQ(Text(row.setting), bTaken ? text : "") << key;
+    constexpr Row kRows[] = {{S::Alt, 0, 999999, "a number between 0 and 999999 for altitude"},
+                             {S::Directivity, 0, 360, "an interger between 0 and 360 for directivity"},
+                             {S::Height, 0, 2000000000, "a number between 0 and 2000000000 for height"},
+                             {S::Lat, -90, 90, "a value between -90 and 90 for latitude"},
+                             {S::Lon, -180, 180, "a value between -180 and 180 for longitude"},
+                             {S::Power, 0, kNone, "a positive number for station power"},
+                             {S::WindDir, 0, 360, "an interger between 0 and 360 for wind direction"},
+                             {S::WindSpeed, 0, 999, "an interger between 0 and 999 for wind speed"},
+                             {S::Gust, 0, 999, "an interger between 0 and 999 for gust"},
+                             {S::Temperature, -99, 999, "an interger between -99 and 999 for temperature"},
+                             {S::Rain1, 0, 999, "an interger between 0 and 999 for rain in the last hour"},
+                             {S::Rain24, 0, 999, "an interger between 0 and 999 for rain in the last 24 hours"},
+                             {S::Rain12, 0, 999, "an interger between 0 and 999 for rain since midnight"},
+                             {S::Humidity, 0, 99, "an interger between 0 and 99 for humidity"},
+                             {S::Pressure, 0, 99999, "an interger between 0 and 99999 for pressure"}};
+    for (const auto& [setting, lowest, highest, asked] : kRows) {
+        const OptionBox& box = BoxOf(setting);
+        const auto expect = [&](const std::string& typed, bool bTaken) {
+            Text(box.setting) = typed;
+            const std::string message = bTaken ? "" : "Enter " + std::string(asked) + '!';
+            EXPECT_EQ(frmOptions_LostFocus(main.frmOptions, box), message) << box.control << ' ' << typed;
+            EXPECT_EQ(Text(box.setting), bTaken ? typed : "");
         };
-        expectTaken(row.lowest, true);
-        expectTaken(row.lowest - 1, false);
-        expectTaken(row.highest, true);
-        expectTaken(row.highest + 1, false);
-        EXPECT_EQ(leave(row.setting, "a few"), row.message) << key;
-        EXPECT_EQ(Text(row.setting), "") << key;
-        EXPECT_EQ(leave(row.setting, ""), "") << key;
+        const auto whole = [](double value) { return std::to_string(static_cast<std::int64_t>(value)); };
+        expect("", true);
+        expect("a few", false);
+        expect(whole(lowest), true);
+        expect(whole(lowest - 1), false);
+        if (!std::isnan(highest)) {
+            expect(whole(highest), true);
+            expect(whole(highest + 1), false);
+        }
     }
-    EXPECT_EQ(leave(S::Power, "6000"), ""); // Beyond what the position dialog takes.
-    EXPECT_EQ(leave(S::Gain, "-40"), "");
-    EXPECT_EQ(Text(S::Gain), "-40");
+    for (const auto& [typed, left] : {std::pair("-40", "-40"), {"a few", ""}}) { // Any number, and no message.
+        Text(S::Gain) = typed;
+        EXPECT_EQ(frmOptions_LostFocus(main.frmOptions, BoxOf(S::Gain)), "");
+        EXPECT_EQ(Text(S::Gain), left);
+    }
 }
 
 TEST_F(Options, NothingIsStoredWhileSomethingIsMissingOrWrong)
@@ -189,31 +160,22 @@ TEST_F(Options, SaveStoresWhatTheBoxesShow)
     OptionsForm& form = main.frmOptions;
     EXPECT_TRUE(FieldOf(form, S::ShowRFNames).bTicked);
     EXPECT_FALSE(FieldOf(form, S::ShowTCPNames).bTicked);
-    EXPECT_TRUE(FieldOf(form, S::All).bTicked);
     EXPECT_EQ(FieldOf(form, S::Symbol).choice, -1);
-    int i = 0;
-    for (const OptionBox& box : kOptionBoxes)
-        FieldOf(form, box).text = std::to_string(++i);
+    std::map<Setting, std::string> expected = {
+        {S::Call, "N1CALL"}, {S::ShowRFNames, "0"}, {S::ReceiveBulletin, "False"},
+        {S::All, "True"},    {S::Symbol, "40"},     {S::PositionInt, "1"}};
+    for (const OptionBox& box : kOptionBoxes) {
+        FieldOf(form, box).text = std::to_string(expected.size());
+        if (box.kind == OptionKind::Text || box.kind == OptionKind::Number || box.kind >= OptionKind::Wave)
+            expected.try_emplace(box.setting, FieldOf(form, box).text);
+    }
     Text(S::Call) = "N1CALL";
     FieldOf(form, S::ShowRFNames).bTicked = false;
     FieldOf(form, S::ReceiveBulletin).bTicked = false;
     FieldOf(form, S::PositionInt).choice = 1;
     frmOptions_Save(main);
-    EXPECT_EQ(Kept(S::Call), "N1CALL");
-    EXPECT_EQ(Kept(S::ShowRFNames), "0");
-    EXPECT_EQ(Kept(S::ReceiveBulletin), "False");
-    EXPECT_EQ(Kept(S::All), "True");
-    EXPECT_EQ(Kept(S::Symbol), "40");
-    EXPECT_EQ(Kept(S::PositionInt), "1");
-    i = 0;
-    for (const OptionBox& box : kOptionBoxes) {
-        ++i;
-        const bool bText =
-            box.kind == OptionKind::Text || box.kind == OptionKind::Number || box.kind >= OptionKind::Wave;
-        if (bText && box.setting != S::Call) {
-            EXPECT_EQ(Kept(box.setting), std::to_string(i)) << box.control;
-        }
-    }
+    for (const auto& [setting, kept] : expected)
+        EXPECT_EQ(Kept(setting), kept) << Info(setting).key;
 }
 
 TEST_F(Options, ASaveTakesEffectAtOnce)
@@ -258,33 +220,31 @@ TEST_F(Options, PinPointTakesTheClickOnThePositionPageAlone)
     mnuMyStationEdit_Click(main);
     OptionsForm& form = main.frmOptions;
     EXPECT_TRUE(IsPinPointOffered(form));
-    for (const int page : {0, 2, 3, 4}) {
-        form.SSTab1 = page;
-        EXPECT_FALSE(IsPinPointOffered(form));
-    }
+    form.SSTab1 = static_cast<int>(OptionPage::Weather);
+    EXPECT_FALSE(IsPinPointOffered(form));
     program.TheMap().SetSize(800, 600);
     program.TheMap().SetView({48.5, -11.25}, 12);
     frmOptions_PinPoint(main);
     EXPECT_TRUE(mpCtrl_Click(main, 400, 300));
-    EXPECT_EQ(Text(S::Lat), "48.5");
-    EXPECT_EQ(Text(S::Lon), "-11.25");
+    EXPECT_EQ(Text(S::Lat) + ' ' + Text(S::Lon), "48.5 -11.25");
     EXPECT_EQ(Kept(S::Lat), ""); // Not before Save.
 }
 
 TEST_F(Options, EachWayInOpensItsPageAndKeepsWhatWasTyped)
 {
-    const auto page = [&](const char* node, MenuEntry entry) {
+    const std::tuple<const char*, MenuEntry, OptionPage> kWays[] = {
+        {"MyWeather", MenuEntry::mnuMyStationEdit, OptionPage::Weather},
+        {"MyPosition", MenuEntry::mnuMyStationEdit, OptionPage::Position},
+        {"My", MenuEntry::mnuMsgboxOptions, OptionPage::Message},
+        {"My", MenuEntry::mnuViewOptions, OptionPage::Message},
+        {"My", MenuEntry::mnuMyStationEdit, OptionPage::General}};
+    for (const auto& [node, entry, page] : kWays) {
         program.Select(node);
         RunMenuEntry(main, entry);
-        return static_cast<OptionPage>(main.frmOptions.SSTab1);
-    };
-    EXPECT_EQ(page("MyWeather", MenuEntry::mnuMyStationEdit), OptionPage::Weather);
-    Text(S::Tactical) = "BASE";
-    EXPECT_EQ(page("MyPosition", MenuEntry::mnuMyStationEdit), OptionPage::Position);
-    EXPECT_EQ(page("My", MenuEntry::mnuMsgboxOptions), OptionPage::Message);
-    EXPECT_EQ(page("My", MenuEntry::mnuViewOptions), OptionPage::Message);
-    EXPECT_EQ(page("My", MenuEntry::mnuMyStationEdit), OptionPage::General);
-    EXPECT_EQ(Text(S::Tactical), "BASE");
+        EXPECT_EQ(static_cast<OptionPage>(main.frmOptions.SSTab1), page);
+        Text(S::Tactical) += '!';
+    }
+    EXPECT_EQ(Text(S::Tactical), "!!!!!");
 }
 
 TEST_F(Options, BrowsingFillsTheBoxOrLeavesIt)
@@ -297,7 +257,6 @@ TEST_F(Options, BrowsingFillsTheBoxOrLeavesIt)
     EXPECT_EQ(Text(S::WaveFile), "/sounds/ping.wav");
 }
 
-// Whoever starts without a call is told where to put it, until something else is to be told.
 TEST(FirstStart, SaysHowToBegin)
 {
     TestProgram program;

@@ -19,51 +19,18 @@ std::vector<std::string> Texts(const TreeNode& parent)
     return texts;
 }
 
-TEST(KeyedTree, SortedParentTakesChildrenAtTheirPlace)
+TEST(KeyedTree, SortedParentTakesChildrenAtTheirPlaceAndAnyOtherAtItsEnd)
 {
     KeyedTree tree;
     TreeNode& folder = tree.AddRoot("RF", "Stations");
-    for (const char* call : {"delta", "ALFA", "Charlie"})
+    for (const char* call : {"delta", "ALFA"})
         tree.Add(folder, call, call);
-    EXPECT_EQ(Texts(folder), (std::vector<std::string>{"delta", "ALFA", "Charlie"}));
-
     tree.SetSorted(folder, true);
-    tree.Add(folder, "b", "bravo");
     tree.Add(folder, "A2", "alfa"); // Equal but for case: behind the one that was there.
-    EXPECT_EQ(Texts(folder), (std::vector<std::string>{"ALFA", "alfa", "bravo", "Charlie", "delta"}));
-
-    tree.SetText(*tree.Find("RFb"), "ZULU");
-    EXPECT_EQ(Texts(folder).back(), "ZULU");
-
+    EXPECT_EQ(Texts(folder), (std::vector<std::string>{"ALFA", "alfa", "delta"}));
     tree.SetSorted(folder, false);
     tree.Add(folder, "last", "aaa");
     EXPECT_EQ(Texts(folder).back(), "aaa");
-}
-
-// A station whose call is another's call and a fact's word must neither take that fact over nor be taken for it.
-TEST(KeyedTree, APlaceIsOneNodeHoweverTheKeyIsSplit)
-{
-    KeyedTree tree;
-    TreeNode& folder = tree.AddRoot("RFPositions", "Positions");
-    TreeNode& station = tree.Add(folder, "AB", "AB");
-    TreeNode& fact = tree.Add(station, "Path", "Path: x");
-    EXPECT_EQ(fact.Key(), "RFPositionsABPath");
-    EXPECT_EQ(tree.Find("RFPositionsABPath"), &fact);
-    EXPECT_EQ(tree.Find(folder, "ABPath"), nullptr);
-
-    TreeNode& object = tree.Add(folder, "ABPath", "ABPath");
-    EXPECT_EQ(tree.Find(station, "Path"), &fact);
-    EXPECT_EQ(tree.Find(folder, "ABPath"), &object);
-    EXPECT_EQ(tree.Find("RFPositionsABPath"), &object); // The station before the fact.
-    TreeNode& root = tree.AddRoot("RFPositionsABPath", "");
-    EXPECT_EQ(tree.Find("RFPositionsABPath"), &root);
-    tree.Remove(root);
-    tree.Remove(object);
-    EXPECT_EQ(tree.Find("RFPositionsABPath"), &fact);
-
-    EXPECT_THROW(tree.Add(station, "Path", ""), Failure);
-    EXPECT_THROW(tree.AddRoot("RFPositions", ""), Failure);
-    EXPECT_EQ(tree.Find("rfpositions"), nullptr); // Case counts.
 }
 
 TEST(KeyedTree, RemovingTheSelectedNodeOrOneAboveItEndsTheSelection)
@@ -81,11 +48,10 @@ TEST(KeyedTree, RemovingTheSelectedNodeOrOneAboveItEndsTheSelection)
     tree.Remove(station);
     EXPECT_EQ(tree.Selected(), nullptr);
     EXPECT_EQ(told, 2);
-    EXPECT_EQ(tree.NodeCount(), 1U);
-    EXPECT_EQ(tree.Find("FSx"), nullptr);
 }
 
-// Random edits, and beside them the plainest model of what stands where.
+// Random edits, and beside them the plainest model of what stands where. Calls and facts share their few letters, so
+// that a station whose call is another's call and a fact's word must neither take that fact over nor be taken for it.
 class RandomEdits {
 public:
     void Step()

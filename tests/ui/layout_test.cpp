@@ -85,25 +85,20 @@ TEST(Layout, TheLeftPaneComesBackWithTheTreeOfTheRightView)
     mnuTreeView_Click(program.main);
     EXPECT_TRUE(window.bLeftPane);
     EXPECT_EQ(window.leftTree, LeftTree::Messages);
-
-    window.bMessagesTicked = true;
     mnuViewMap_Click(program.main);
     EXPECT_EQ(window.leftTree, LeftTree::Stations);
-    EXPECT_TRUE(window.bMapTicked);
-    EXPECT_FALSE(window.bMessagesTicked);
 }
 
 TEST(Layout, HelpStaysWhereItIsWhenItIsThePageAlready)
 {
     TestProgram program;
-    program.main.window.webAddress = "file:///elsewhere/Readme.htm";
-    program.main.window.bMapTicked = program.main.window.bMessagesTicked = true;
-    mnuRuvenmarkHelp_Click(program.main);
-    EXPECT_EQ(program.main.window.webAddress, "file:///elsewhere/Readme.htm");
-    EXPECT_FALSE(program.main.window.bMapTicked || program.main.window.bMessagesTicked);
-    program.main.window.webAddress = "https://example.org/detail/N0CALL";
-    mnuRuvenmarkHelp_Click(program.main);
-    EXPECT_EQ(program.main.window.webAddress, "/program/Readme.htm");
+    std::string& address = program.main.window.webAddress;
+    for (const auto& [before, after] : {std::pair("file:///elsewhere/Readme.htm", "file:///elsewhere/Readme.htm"),
+                                        {"https://example.org/detail/N0CALL", "/program/Readme.htm"}}) {
+        address = before;
+        mnuRuvenmarkHelp_Click(program.main);
+        EXPECT_EQ(address, after);
+    }
 }
 
 } // namespace

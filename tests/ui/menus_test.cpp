@@ -102,31 +102,19 @@ TEST(Menus, WhatShowsAndIsChosenIsTicked)
                                       "mnuToolsStationTracking", "mnuToolsGpsTracking", "mnuDirections"));
 }
 
-// Points or lines of any channel are tracks.
 TEST(Menus, RemoveAllTracksIsOfferedWhereThereIsATrack)
 {
     for (const Channel channel : kChannels) {
         TestProgram program;
-        if (channel == Channel::FL)
-            AddChannelTree(program.Tree(), channel);
         const auto isOffered = [&] {
             return FindState(MenuItems(program.main, Menu::Tools), MenuEntry::mnuRemoveAllTracks)->bEnabled;
         };
-        ChannelState& state = program.main.Of(channel);
-        state.Tracked.Set("N0CALL", "N0CALL");
-        program.Position(channel, "N0CALL", 40, -80);
         EXPECT_FALSE(isOffered());
-        program.Position(channel, "N0CALL", 41, -80);
-        const auto points = state.TrackMarkers;
-        state.TrackMarkers.Clear();
+        program.main.Of(channel).TrackMarkers.Set("N0CALL", {});
         EXPECT_TRUE(isOffered());
-        state.TrackLines.Clear();
-        EXPECT_FALSE(isOffered());
-        state.TrackMarkers = points;
+        program.main.Of(channel).TrackMarkers.Clear();
+        program.main.Of(channel).TrackLines.Set("N0CALL", {});
         EXPECT_TRUE(isOffered());
-        program.prompts.answers = {Answer::Yes};
-        RunMenuEntry(program.main, MenuEntry::mnuRemoveAllTracks);
-        EXPECT_FALSE(isOffered());
     }
 }
 

@@ -32,14 +32,13 @@ TEST(StationTree, IsSortedOnceByCommandAndAnExpandedStationIsNoNews)
 TEST(StationTree, RemovesAStationAfterAsking)
 {
     TestProgram program;
-    program.Position(Channel::RF, "N0CALL", 40, -80);
-    program.Position(Channel::RF, "N1CALL", 41, -80);
+    for (const char* call : {"N0CALL", "N1CALL"})
+        program.Position(Channel::RF, call, 40, -80);
     program.Select("RFPositionsN0CALL");
+    program.prompts.answers = {Answer::No, Answer::Yes};
     RunMenuEntry(program.main, MenuEntry::mnuRemoveStation);
     EXPECT_EQ(program.prompts.questions, Texts{"Are you sure you want to delete report for N0CALL?"});
     EXPECT_EQ(program.MarkerNames().size(), 2U);
-
-    program.prompts.answers = {Answer::Yes};
     RunMenuEntry(program.main, MenuEntry::mnuRemoveStation);
     EXPECT_EQ(program.ChildTexts("RFPositions"), Texts{"N1CALL"});
     EXPECT_EQ(program.MarkerNames(), Texts{"N1CALL(r)"});
@@ -48,26 +47,20 @@ TEST(StationTree, RemovesAStationAfterAsking)
 TEST(StationTree, ClearsOneChannelOrAll)
 {
     TestProgram program;
-    for (const Channel channel : kChannels) {
-        if (channel == Channel::FL)
-            AddChannelTree(program.Tree(), channel);
+    AddChannelTree(program.Tree(), Channel::FL);
+    for (const Channel channel : kChannels)
         program.Position(channel, "N0CALL", 40, -80);
-    }
     program.Select("RF");
-    program.prompts.answers = {Answer::No, Answer::Yes};
+    program.prompts.answers = {Answer::No, Answer::Yes, Answer::Yes};
     RunMenuEntry(program.main, MenuEntry::mnuClearReports);
-    EXPECT_EQ(program.prompts.questions.back(), "Are you sure you want to delete all RF reports?");
-    EXPECT_EQ(program.Text("RF"), "RF reports (1)");
+    EXPECT_EQ(program.MarkerNames().size(), 3U);
     RunMenuEntry(program.main, MenuEntry::mnuClearReports);
-    EXPECT_EQ(program.Text("RF"), "RF reports");
     EXPECT_EQ(program.MarkerNames(), (Texts{"N0CALL(t)", "N0CALL(f)"}));
-
-    program.prompts.answers = {Answer::Yes};
     RunMenuEntry(program.main, MenuEntry::mnuClearAllReports);
-    EXPECT_EQ(program.prompts.questions.back(), "Are you sure you want to delete all reports?");
-    EXPECT_EQ(program.Text("TCP"), "TCP reports");
-    EXPECT_EQ(program.Text("FL"), "FL reports");
     EXPECT_TRUE(program.MarkerNames().empty());
+    EXPECT_EQ(program.Text("FL"), "FL reports");
+    const std::string one = "Are you sure you want to delete all RF reports?";
+    EXPECT_EQ(program.prompts.questions, (Texts{one, one, "Are you sure you want to delete all reports?"}));
 }
 
 TEST(StationTree, UnloadsTheFilesWithTheirMarkersAndCircles)
@@ -82,20 +75,16 @@ TEST(StationTree, UnloadsTheFilesWithTheirMarkersAndCircles)
         ASSERT_EQ(program.TheMap().Shapes().Count(), 1U);
 
         program.Select("FL");
+        program.prompts.answers = {Answer::No, Answer::Yes};
         RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
         EXPECT_EQ(program.prompts.questions.back(), "Are you sure you want to unload all FL reports (1) reports?");
         EXPECT_NE(program.Node("FL"), nullptr);
-
-        program.prompts.answers = {Answer::Yes};
         RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
         EXPECT_EQ(program.Node("FL"), nullptr);
-        EXPECT_EQ(program.Node("FLPositionsN0CALL"), nullptr);
-        EXPECT_FALSE(program.Marker("N0CALL(f)"));
         EXPECT_EQ(program.MarkerNames().size(), static_cast<std::size_t>(others));
         EXPECT_EQ(program.TheMap().Shapes().Count(), 0U);
         EXPECT_TRUE(program.main.Of(Channel::FL).Stations.IsEmpty());
         EXPECT_TRUE(program.main.Of(Channel::FL).StationRanges.IsEmpty());
-        EXPECT_FALSE(program.main.sbStatusBar.IsProgressVisible());
 
         program.Hear("N0CALL>APRS:!4000.00N/08000.00W>");
         EXPECT_EQ(program.Text("FL"), "FL reports (1)");
@@ -143,7 +132,6 @@ TEST(StationTree, FiltersAreSwitchedAndEditedByTheirRootAndOnlyFilesAreUnloaded)
 
 TEST(StationTree, OperatorInfoOpensTheBrowserWithASafeAddress)
 {
-    EXPECT_TRUE(CallSignPage("N0CALL").ends_with("/detail/N0CALL"));
     EXPECT_TRUE(CallSignPage("N0CALL-9-1").ends_with("/detail/N0CALL"));
     EXPECT_TRUE(CallSignPage("A/../?q=\"<b>\xC3\xA9").ends_with("/detail/A%2F..%2F%3Fq%3D%22%3Cb%3E%C3%A9"));
 
@@ -152,11 +140,9 @@ TEST(StationTree, OperatorInfoOpensTheBrowserWithASafeAddress)
     program.Select("RFPositionsN0CALL-9");
     RunMenuEntry(program.main, MenuEntry::mnuInfo);
     ASSERT_EQ(program.desktop.pages, Texts{CallSignPage("N0CALL")});
-    EXPECT_TRUE(program.desktop.pages[0].starts_with("https://"));
-    EXPECT_EQ(program.main.window.rightView, RightView::Web);
-    EXPECT_TRUE(IsBrowserPage(program.main.window.webAddress));
     WindowState& window = program.main.window;
-    EXPECT_NE(BrowserNotice(window).find("href=\"https://"), std::string::npos);
+    EXPECT_EQ(window.rightView, RightView::Web);
+    EXPECT_TRUE(IsBrowserPage(window.webAddress));
     EXPECT_EQ(BrowserNotice(window).find("could be started"), std::string::npos);
     window.webAddress = "https://\"><b>&lt;";
     EXPECT_NE(BrowserNotice(window).find("href=\"https://&quot;&gt;&lt;b&gt;&amp;lt;\">https://&quot;"),

@@ -61,7 +61,6 @@ TEST(FirstSteps, AreGoneWithTheFirstReport)
 {
     TestProgram program;
     EXPECT_TRUE(WantsFirstSteps(program.main));
-    EXPECT_FALSE(HasPlacedStations(program.main));
     program.Sink(Channel::RF).ReportStatus({"N0CALL", "APRS", "", kNoPosition, kNoPosition, "here"});
     EXPECT_FALSE(WantsFirstSteps(program.main));
     EXPECT_FALSE(HasPlacedStations(program.main));
@@ -106,17 +105,15 @@ TEST(OpenedFile, IsKnownByItsContent)
 TEST(MapAtStart, IsTheOneThatIsOpenOrNone)
 {
     TestProgram program;
-    const auto state = [&] { return StateOf(MenuEntry::mnuFileUseAtStart, {program.main, nullptr}); };
-    EXPECT_FALSE(state().bEnabled);
-    program.main.map.sMainMapFile = "/home.ptm";
-    RunMenuEntry(program.main, MenuEntry::mnuFileUseAtStart);
-    EXPECT_EQ(SettingText(program.main.Settings, Setting::DefaultMap), "/home.ptm");
-    EXPECT_TRUE(state().bChecked);
-    program.main.map.sMainMapFile.clear();
-    EXPECT_TRUE(state().bEnabled);
-    EXPECT_FALSE(state().bChecked);
-    RunMenuEntry(program.main, MenuEntry::mnuFileUseAtStart);
-    EXPECT_EQ(SettingText(program.main.Settings, Setting::DefaultMap), "");
+    const auto run = [&](const char* open) {
+        program.main.map.sMainMapFile = open;
+        RunMenuEntry(program.main, MenuEntry::mnuFileUseAtStart);
+        const MenuEntryState state = StateOf(MenuEntry::mnuFileUseAtStart, {program.main, nullptr});
+        return SettingText(program.main.Settings, Setting::DefaultMap) + (state.bEnabled ? ",enabled" : "") +
+               (state.bChecked ? ",ticked" : "");
+    };
+    EXPECT_EQ(run("/home.ptm"), "/home.ptm,enabled,ticked");
+    EXPECT_EQ(run(""), "");
 }
 
 } // namespace
