@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 
 namespace ruvenmark::aprs {
@@ -30,21 +29,24 @@ TEST(DestinationDevice, EveryPatternIsFoundByWhatItStandsFor)
     }
 }
 
+// A byte short of its pattern, or one more, is none.
 TEST(DestinationDevice, TheLongestBeginningWins)
 {
-    EXPECT_EQ(DestinationDeviceName("APZ999"), "Experimental");
-    EXPECT_EQ(DestinationDeviceName("APZ"), "Experimental");
-    EXPECT_EQ(DestinationDeviceName("APZ18"), "IW3FQG UIdigi");
-    EXPECT_EQ(DestinationDeviceName("APZ186"), "IW3FQG UIdigi");
-    EXPECT_EQ(DestinationDeviceName("APZ187"), "Experimental");
-    EXPECT_EQ(DestinationDeviceName("AP123U"), "Painter Engineering: uSmartDigi Digipeater");
-    EXPECT_EQ(DestinationDeviceName("AP12AU"), "");
-    EXPECT_EQ(DestinationDeviceName("APAF1"), "") << "a byte short of its pattern";
-    EXPECT_EQ(DestinationDeviceName("APAF123"), "") << "a byte more than its pattern";
-    EXPECT_EQ(DestinationDeviceName("APAF12-11"), "AFilter");
-    EXPECT_EQ(DestinationDeviceName("apaf12"), "");
-    EXPECT_EQ(DestinationDeviceName(""), "");
-    EXPECT_EQ(DestinationDeviceName("-7"), "");
+    const std::pair<const char*, const char*> kDestinations[] = {
+        {"APZ", "Experimental"},
+        {"APZ18", "IW3FQG UIdigi"},
+        {"APZ186", "IW3FQG UIdigi"},
+        {"APZ187", "Experimental"},
+        {"AP123U", "Painter Engineering: uSmartDigi Digipeater"},
+        {"AP12AU", ""},
+        {"APAF1", ""},
+        {"APAF123", ""},
+        {"APAF12-11", "AFilter"},
+        {"apaf12", ""},
+        {"", ""},
+        {"-7", ""}};
+    for (const auto& [destination, name] : kDestinations)
+        EXPECT_EQ(DestinationDeviceName(destination), name) << destination;
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "support/test_program.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <limits>
 #include <tuple>
@@ -173,10 +172,9 @@ TEST_F(OtherReports, UndecodedPacketsAreKeptOnlyWhereWanted)
 TEST_F(OtherReports, EveryKindPassesTheFilter)
 {
     auto& filter = p.main.Of(Channel::RF).Filter;
-    filter.bOn = true;
+    filter.bOn = filter.bApply = true; // Without a usable position: out.
     filter.Range = "10", filter.Lat = "1", filter.Lon = "2";
-    filter.bApply = true; // Without a usable position: out.
-    const auto raiseAll = [&](double lat) {
+    const auto raise = [&](double lat) {
         p.Position(Channel::RF, "N0CALL", lat, 2);
         Rf().ReportPosExt({.call = "N0CALL", .dest = "APRS", .lat = lat, .lon = 2, .altitude = 1});
         Rf().ReportDataExt({"N0CALL", "APRS", lat, 2, 1, 1, 1, ""});
@@ -184,30 +182,91 @@ TEST_F(OtherReports, EveryKindPassesTheFilter)
         Rf().ReportTime({"N0CALL", "APRS", lat, 2, 1, 2, 3, 4, 5, "", "Positions"});
         Rf().ReportWeather({"N0CALL", "APRS", "", lat, 2});
         Rf().ReportObjectItem({"N0CALL", "APRS", lat, 2, "S", 1});
-    };
-    const auto raisePlaceless = [&] {
         Rf().ReportStatusTime({"N0CALL", "APRS", 1, 2, 3, "z"});
         Rf().ReportCapabilities({"N0CALL", "APRS", "", "x"});
         Rf().ReportInfo({"N0CALL", "APRS", "", "x"});
     };
-    raiseAll(60);
-    raisePlaceless();
+    raise(60);
     EXPECT_EQ(p.main.Of(Channel::RF).Stations.Count(), 0U);
     EXPECT_EQ(p.Text("RF"), "RF reports");
     EXPECT_THAT(p.MarkerNames(), IsEmpty());
-    raiseAll(1); // Each in its own right: none of them is without a position.
+    raise(1); // Each in its own right: none of them is without a position.
     EXPECT_EQ(p.Text("RF"), "RF reports (3)");
-    for (const auto& [field, text] :
-         {std::pair(Field::Lat, "1"), std::pair(Field::Alt, "1"), std::pair(Field::Power, "1"),
-          std::pair(Field::Status, "x"), std::pair(Field::PositionTime, "(DHM)02:03:04 "),
-          std::pair(Field::WeatherReceived, "2026-11-22 20:15:03"), std::pair(Field::Sender, "S")})
-        EXPECT_EQ(Recorded(field), text) << FieldName(field);
-    EXPECT_EQ(Recorded(Field::Info), "(not set)");
+    for (const Field field : {Field::Lat, Field::Alt, Field::Power, Field::Status, Field::PositionTime,
+                              Field::WeatherReceived, Field::Sender})
+        EXPECT_NE(Recorded(field), "(not set)") << FieldName(field);
+    const auto placeless = {Field::StatusTime, Field::Capabilities, Field::Info};
+    for (const Field field : placeless)
+        EXPECT_EQ(Recorded(field), "(not set)") << FieldName(field);
     filter.bApply = false;
-    raisePlaceless();
-    EXPECT_EQ(Recorded(Field::StatusTime), "(DMH)01:02:03 z");
-    EXPECT_EQ(Recorded(Field::Capabilities), "x");
-    EXPECT_EQ(Recorded(Field::Info), "x");
+    raise(60);
+    for (const Field field : placeless)
+        EXPECT_NE(Recorded(field), "(not set)") << FieldName(field);
+}
+
+using ObjectReports = OtherReports;
+
+// Its picture is that of its position report; the object report counts it but has none of its own.
+TEST_F(ObjectReports, CountTheirObjectAndLeaveItsPicture)
+{
+    for (const char* image : {"", "House"}) {
+        Rf().ReportObjectItem({"OBJ", "APRS", 1, 2, "N0CALL", 1});
+        EXPECT_EQ(p.Text("RF"), "RF reports (1)");
+        EXPECT_EQ(p.Image("RFPositionsOBJ"), image);
+        p.Position(Channel::RF, "OBJ", 1, 2, "House");
+    }
+    EXPECT_EQ(p.Image("RFPositionsOBJSender"), "Sender");
+    EXPECT_EQ(p.Image("RFPositionsOBJState"), "State");
+}
+
+TEST_F(ObjectReports, ACancelledObjectLeavesTheMapButNotTheTree)
+{
+    p.Hear(Channel::RF, "N0CALL>APRS:;LEADER   *092345z4930.00N/07201.75W>test");
+    EXPECT_TRUE(p.Marker("LEADER(r)"));
+    EXPECT_EQ(p.Text("RFPositionsLEADERSender"), "Sender: N0CALL");
+    EXPECT_EQ(p.Text("RFPositionsLEADERState"), "Valid");
+    EXPECT_EQ(p.RecordText(Channel::RF, "LEADER", Field::Sender), "N0CALL");
+    p.Position(Channel::RF, "N0CALL", 1, 2);
+
+    p.Hear(Channel::RF, "N1CALL>APRS:;LEADER   _092345z4903.50N/07201.75W>test");
+    EXPECT_THAT(p.MarkerNames(), ElementsAre("N0CALL(r)"));
+    EXPECT_EQ(p.Text("RFPositionsLEADERState"), "Cancelled");
+    EXPECT_EQ(p.Text("RFPositionsLEADERLat"), "Lat: 49.5°");
+    EXPECT_EQ(p.RecordText(Channel::RF, "LEADER", Field::Sender), "N1CALL");
+}
+
+TEST_F(ObjectReports, OnlyStateNullDeletesAndOnlyTheChannelsOwnMarker)
+{
+    p.Position(Channel::RF, "OBJ", 1, 2);
+    const auto stands = [&](std::int32_t state, const char* note) {
+        p.Marker("OBJ(r)")->SetNote(note);
+        Rf().ReportObjectItem({"OBJ", "APRS", 1, 2, "N0CALL", state});
+        EXPECT_EQ(p.Text("RFPositionsOBJState"), "Cancelled");
+        return p.Marker("OBJ(r)").has_value();
+    };
+    EXPECT_TRUE(stands(2, "RF"));
+    EXPECT_TRUE(stands(0, "TCP, of another channel"));
+    EXPECT_FALSE(stands(0, "RF"));
+
+    // Objects are filtered under their name, not their sender's.
+    p.main.Of(Channel::RF).Filter.bOn = true;
+    p.main.Of(Channel::RF).Filter.Reject = "OBJ";
+    Rf().ReportObjectItem({"OBJ", "APRS", 1, 2, "N9CALL", 1});
+    EXPECT_EQ(p.RecordText(Channel::RF, "OBJ", Field::Sender), "N0CALL");
+    Rf().ReportObjectItem({"SAFE", "APRS", 1, 2, "OBJ", 1});
+    EXPECT_EQ(p.RecordText(Channel::RF, "SAFE", Field::Sender), "OBJ");
+}
+
+// An object's failure goes to its record; every other report's ends it.
+TEST_F(ObjectReports, WithoutAFolderOnlyAnObjectIsRecorded)
+{
+    IReportSink& fl = p.Sink(Channel::FL); // Its tree comes with the first file.
+    fl.ReportObjectItem({"OBJ", "APRS", 1, 2, "N0CALL", 1});
+    fl.ReportPos({"N0CALL", "APRS", "", 1, 2, "Car", ""});
+    fl.ReportStatus({"N0CALL", "APRS", "", 1, 2, "x"});
+    EXPECT_EQ(p.RecordText(Channel::FL, "OBJ", Field::Sender), "N0CALL");
+    EXPECT_EQ(p.main.Of(Channel::FL).Stations.Count(), 1U);
+    EXPECT_EQ(p.Text("FL"), "(no node)");
 }
 
 } // namespace

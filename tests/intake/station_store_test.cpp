@@ -1,10 +1,8 @@
-#include "intake/station_store.h"
 #include "map/range_circles.h"
 #include "support/test_program.h"
 #include "tracking/track_lists.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace ruvenmark {
 namespace {
@@ -92,15 +90,13 @@ TEST_F(FullStation, RemovedFromAnotherFolderKeepsItsPlaceOnTheMap)
 
 TEST_F(FullStation, RemovalGoesOnPastWhatIsGone)
 {
-    Pushpin pin = *p.Marker("N0CALL(r)");
-    pin.SetNote("TCP, of another channel");
+    p.Marker("N0CALL(r)")->SetNote("TCP, of another channel");
     RemoveStation(p.main, Channel::RF, "N0CALL", kPositions);
     EXPECT_TRUE(p.Marker("N0CALL(r)")); // Not the channel's own.
 
     p.main.mpCtrl.NewMap(kRegionEurope); // Points, lines and circle are dead now.
     RemoveStation(p.main, Channel::TCP, "N0CALL", kPositions);
-    EXPECT_EQ(p.main.Of(Channel::TCP).TrackMarkers.Count(), 0U);
-    EXPECT_EQ(p.main.Of(Channel::TCP).RangeCircles.Count(), 0U);
+    EXPECT_EQ(p.main.Of(Channel::TCP).TrackMarkers.Count() + p.main.Of(Channel::TCP).RangeCircles.Count(), 0U);
     EXPECT_EQ(p.Text("TCPPositions"), "Positions");
     RemoveStation(p.main, Channel::FL, "N0CALL", kPositions); // Never heard there, nor is there a tree.
     EXPECT_EQ(p.Text("FL"), "(no node)");

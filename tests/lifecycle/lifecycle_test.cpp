@@ -1,11 +1,8 @@
-#include "lifecycle/start.h"
-#include "lifecycle/stop.h"
 #include "links/station_files.h"
 #include "support/test_program.h"
 #include "tracking/track_lists.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace ruvenmark {
 namespace {

@@ -3,10 +3,6 @@
 #include "tracking/track_lists.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <array>
-#include <iterator>
 
 namespace ruvenmark {
 namespace {

@@ -8,9 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-#include <vector>
-
 namespace ruvenmark {
 namespace {
 
@@ -77,16 +74,13 @@ TEST_F(EditCommands, WhatIsGoneIsNotSelected)
     EXPECT_EQ(KindOfSelection(program.main), SelectionKind::Nothing);
     for (const MenuEntry entry : {MenuEntry::mnuEditCut, MenuEntry::mnuEditCopy, MenuEntry::mnuEditDelete})
         Run(entry);
-    EXPECT_EQ(program.MarkerNames().size(), 1U);
     EXPECT_EQ(program.desktop.clipboard, "");
 
     SelectOnMap(program.main, *program.Marker("N1CALL(r)"));
     mnuRuvenmarkHelp_Click(program.main);
     Run(MenuEntry::mnuEditDelete);
     EXPECT_EQ(program.MarkerNames().size(), 1U) << "what nobody sees is not deleted";
-    ShowMapView(program.main.window);
-    program.prompts.answers = {Answer::No};
-    Run(MenuEntry::mnuFileNew);
+    program.main.mpCtrl.NewMap(kRegionEurope);
     EXPECT_EQ(KindOfSelection(program.main), SelectionKind::Nothing);
 }
 

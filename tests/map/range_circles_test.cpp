@@ -5,7 +5,6 @@
 #include "support/test_program.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace ruvenmark {
 namespace {
@@ -22,12 +21,13 @@ protected:
     }
     void Own(const char* lat, const char* power)
     {
-        SetSetting(p.main.Settings, Setting::Call, "N9CALL");
-        SetSetting(p.main.Settings, Setting::Lat, lat);
-        SetSetting(p.main.Settings, Setting::Lon, "11");
-        SetSetting(p.main.Settings, Setting::Power, power);
-        SetSetting(p.main.Settings, Setting::Height, "20");
-        SetSetting(p.main.Settings, Setting::Gain, "3");
+        for (const auto& [setting, text] : {std::pair(Setting::Call, "N9CALL"),
+                                            {Setting::Lat, lat},
+                                            {Setting::Lon, "11"},
+                                            {Setting::Power, power},
+                                            {Setting::Height, "20"},
+                                            {Setting::Gain, "3"}})
+            SetSetting(p.main.Settings, setting, text);
     }
 
     TestProgram p;
@@ -78,13 +78,13 @@ TEST_F(RangeCircles, HideAllGoesOnPastADeadOneAndLeavesTheOwn)
     mnuHideAllRangeCircles_Click(p.main);
     EXPECT_EQ(Circles().size(), 1U);
     EXPECT_TRUE(p.main.Of(Channel::TCP).RangeCircles.IsEmpty());
-    EXPECT_TRUE(p.main.map.MyRangeCircle);
 
     p.main.mpCtrl.NewMap(kRegionEurope); // The own one is dead too; it is drawn all the same.
     DrawMyRange(p.main);
     EXPECT_EQ(Circles().size(), 1U);
     mnuHideMyRange_Click(p.main);
     EXPECT_THAT(Circles(), IsEmpty());
+    EXPECT_FALSE(p.main.map.MyRangeCircle);
 }
 
 TEST_F(RangeCircles, NoRangeOrNoPositionDrawsNothing)

@@ -6,6 +6,8 @@
 #include "map/selection.h"
 #include "map/show_on_map.h"
 #include "support/test_program.h"
+#include "tracking/filter_form_rules.h"
+#include "ui/menus.h"
 #include "ui/web_page.h"
 
 #include <gtest/gtest.h>
@@ -21,13 +23,14 @@ protected:
         p.Position(Channel::TCP, "N1CALL", 48, 11);
         p.TheMap().SetView({0, 0}, 3);
     }
-    void ExpectShown(const char* marker, const char* node)
+    void ExpectShown(const std::string& call)
     {
         EXPECT_EQ(p.main.window.rightView, RightView::Map);
         EXPECT_NEAR(p.TheMap().View().centre.lat, 48, 1e-9);
         EXPECT_GE(p.TheMap().View().zoom, 10);
-        EXPECT_EQ(p.main.map.Selection, MapSelection(*p.Marker(marker)));
-        EXPECT_EQ(p.Tree().Selected(), p.Node(node));
+        EXPECT_EQ(p.main.map.Selection, MapSelection(*p.Marker(call + "(t)")));
+        EXPECT_EQ(p.Tree().Selected(), p.Node("TCPPositions" + call));
+        p.TheMap().SetView({0, 0}, 3);
     }
 
     TestProgram p;
@@ -38,16 +41,12 @@ TEST_F(Showing, EveryRoadCentresNearsSelectsAndFindsTheNode)
 {
     p.Select("TCPPositionsN0CALL");
     mnuViewPosition_Click(p.main);
-    ExpectShown("N0CALL(t)", "TCPPositionsN0CALL");
-
-    p.TheMap().SetView({0, 0}, 3);
+    ExpectShown("N0CALL");
     mnuRuvenmarkHelp_Click(p.main);
     GoToFound(p.main, Find(p.main, FakePlaces(), "n1call", 1).at(0));
-    ExpectShown("N1CALL(t)", "TCPPositionsN1CALL");
-
-    p.TheMap().SetView({0, 0}, 3);
+    ExpectShown("N1CALL");
     ShowOnMap(p.main, *p.Marker("N0CALL(t)"));
-    ExpectShown("N0CALL(t)", "TCPPositionsN0CALL");
+    ExpectShown("N0CALL");
 
     p.TheMap().SetView({0, 0}, 12);
     mnuViewPosition_Click(p.main);
@@ -60,27 +59,21 @@ TEST_F(Showing, MarkerAndNodeFollowEachOther)
     PickOut(p.main, *p.Marker("N1CALL(t)"));
     EXPECT_EQ(p.Tree().Selected(), p.Node("TCPPositionsN1CALL"));
     EXPECT_EQ(p.TheMap().View().centre, before.centre);
-    p.Select("TCPPositionsN0CALL");
-    tvStationList_Select(p.main);
-    EXPECT_EQ(p.main.map.Selection, MapSelection(*p.Marker("N0CALL(t)")));
-    p.Select("TCP"); // No station: what is selected on the map stays.
-    tvStationList_Select(p.main);
-    EXPECT_EQ(p.main.map.Selection, MapSelection(*p.Marker("N0CALL(t)")));
-
+    for (const char* key : {"TCPPositionsN0CALL", "TCP"}) { // No station: what is selected on the map stays.
+        p.Select(key);
+        tvStationList_Select(p.main);
+        EXPECT_EQ(p.main.map.Selection, MapSelection(*p.Marker("N0CALL(t)")));
+    }
     // A point of the trail is not exchanged for its station, else Delete would hit the wrong one.
-    const Location there = p.TheMap().GetLocation(47, 11);
-    const Pushpin point = p.TheMap().AddPushpin(there, "N1CALL(t)*");
+    const Pushpin point = p.TheMap().AddPushpin(p.TheMap().GetLocation(47, 11), "N1CALL(t)*");
     PickOut(p.main, point);
     tvStationList_Select(p.main);
     EXPECT_EQ(p.Tree().Selected(), p.Node("TCPPositionsN1CALL"));
     EXPECT_EQ(p.main.map.Selection, MapSelection(point));
 
-    // Whoever reads a fact, or the station's status, is not torn away from it.
-    for (const char* node : {"TCPPositionsN0CALLPath", "TCPPositionsN0CALL"}) {
-        p.Select(node);
-        PickOut(p.main, *p.Marker("N0CALL(t)"));
-        EXPECT_EQ(p.Tree().Selected(), p.Node(node));
-    }
+    p.Select("TCPPositionsN0CALLPath"); // Whoever reads a fact is not torn away from it.
+    PickOut(p.main, *p.Marker("N0CALL(t)"));
+    EXPECT_EQ(p.Tree().Selected(), p.Node("TCPPositionsN0CALLPath"));
 }
 
 TEST_F(Showing, TrailsAndOddNamesBelongToTheirStations)
@@ -130,26 +123,80 @@ TEST_F(Showing, TheCoordinateBoxChangesItsFormAndEmptiesOffTheWorld)
 // The next packet must not wipe away what the operator is to do.
 TEST_F(Showing, PinpointSaysWhatToDoUntilItEnds)
 {
-    const std::string prompt = "Click the place on the map (Esc to cancel)";
-    PinPointDirectionsEnd(p.main, 0);
-    p.main.sbStatusBar.SetPacketLine("N0CALL>APRS:>x");
-    EXPECT_EQ(p.main.sbStatusBar.Prompt(), prompt);
-    EndPinPoint(p.main);
-    EXPECT_EQ(p.main.sbStatusBar.Prompt(), "");
-    EXPECT_FALSE(mpCtrl_Click(p.main, 400, 300));
-    PinPointDirectionsEnd(p.main, 0);
-    EXPECT_TRUE(mpCtrl_Click(p.main, 400, 300));
-    EXPECT_EQ(p.main.sbStatusBar.Prompt(), "");
+    for (const bool bClick : {false, true}) {
+        PinPointDirectionsEnd(p.main, 0);
+        p.main.sbStatusBar.SetPacketLine("N0CALL>APRS:>x");
+        EXPECT_EQ(p.main.sbStatusBar.Prompt(), "Click the place on the map (Esc to cancel)");
+        if (!bClick)
+            EndPinPoint(p.main);
+        EXPECT_EQ(mpCtrl_Click(p.main, 400, 300), bClick);
+        EXPECT_EQ(p.main.sbStatusBar.Prompt(), "");
+    }
 }
 
 TEST_F(Showing, AReportTellsItsMarkerWhenItWasHeard)
 {
-    const std::uint32_t first = p.Marker("N0CALL(t)")->Heard();
-    EXPECT_EQ(first, p.clock.UnixSeconds());
+    const std::int64_t first = p.clock.UnixSeconds();
     p.clock.Advance(std::chrono::hours(2));
     p.Position(Channel::TCP, "N1CALL", 48, 11);
     EXPECT_EQ(p.Marker("N1CALL(t)")->Heard(), first + 7200);
     EXPECT_EQ(p.Marker("N0CALL(t)")->Heard(), first);
+}
+
+class PointerTools : public testing::Test {
+protected:
+    PointerTools()
+    {
+        program.TheMap().SetSize(800, 600);
+        program.TheMap().SetView({47.123456789, 8.5}, 12);
+    }
+    // The middle of the map window is the centre of the view.
+    bool ClickMiddle() { return mpCtrl_Click(program.main, 400, 300); }
+    ReportFilter& Fields(Channel channel) { return program.main.frmFilter.fields[static_cast<std::size_t>(channel)]; }
+
+    TestProgram program;
+};
+
+TEST_F(PointerTools, PressingTwiceStillGivesThePointerBack)
+{
+    program.main.mpCtrl.SetMousePointer(7);
+    ShowFilterOf(program.main, Channel::FL);
+    mnuRuvenmarkHelp_Click(program.main);
+    frmFilter_PinPoint(program.main);
+    frmFilter_PinPoint(program.main);
+    EXPECT_EQ(program.main.window.rightView, RightView::Map);
+    EXPECT_TRUE(ClickMiddle());
+    EXPECT_EQ(program.main.mpCtrl.MousePointer(), 7);
+    EXPECT_EQ(Fields(Channel::FL).Lat, "47.12346");
+    EXPECT_EQ(Fields(Channel::RF).Lat, "");
+    EXPECT_FALSE(ClickMiddle()) << "a click that nobody waits for is the map's";
+}
+
+TEST_F(PointerTools, ADialogClosedInTheMeantimeGetsNothing)
+{
+    mnuToolsFilter_Click(program.main);
+    frmFilter_PinPoint(program.main);
+    program.dialogs.Hide(Form::frmFilter);
+    EXPECT_TRUE(ClickMiddle());
+    EXPECT_EQ(Fields(Channel::RF).Lat, "");
+    EXPECT_EQ(program.main.mpCtrl.MousePointer(), kPointerDefault);
+    EXPECT_EQ(program.dialogs.calls.back(), "ComeBack frmFilter")
+        << "whatever stood aside for the click must not stay hidden";
+}
+
+// Whoever asks next takes the click over; the dialog that waited before must not stay hidden for ever.
+TEST_F(PointerTools, ADialogWhoseClickIsTakenOverComesBack)
+{
+    RunMenuEntry(program.main, MenuEntry::mnuDirections);
+    mnuToolsFilter_Click(program.main);
+    frmFilter_PinPoint(program.main);
+    PinPointDirectionsEnd(program.main, 0);
+    EXPECT_EQ(program.dialogs.calls.back(), "ComeBack frmFilter");
+    EXPECT_TRUE(ClickMiddle());
+    EXPECT_EQ(Fields(Channel::RF).Lat, "");
+    ASSERT_TRUE(program.main.map.directions[0]);
+    EXPECT_EQ(program.main.map.directions[0]->point, (GeoPoint{47.12346, 8.5}));
+    EXPECT_FALSE(program.main.map.directions[1]);
 }
 
 } // namespace

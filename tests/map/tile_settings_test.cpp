@@ -8,25 +8,21 @@
 namespace ruvenmark {
 namespace {
 
-TEST(TileSettings, AreOffUntilSwitchedOnAndOutliveTheRun)
+TEST(TileSettings, AreSwitchedAndChosenByTheMenu)
 {
     TestProgram program;
-    EXPECT_FALSE(program.main.map.tiles.bOnline);
-    EXPECT_EQ(program.main.map.tiles.urlTemplate, DefaultOf(Setting::TileURL));
+    const TileSettings& tiles = program.main.map.tiles;
     int changes = 0;
     const auto subscription = program.main.map.TilesChanged.Observe([&] { ++changes; });
     mnuOnlineTiles_Click(program.main);
+    EXPECT_TRUE(tiles.bOnline);
     program.prompts.files = {"/maps/alps.mbtiles"};
-    mnuTileFile_Click(program.main);
-    EXPECT_EQ(changes, 2);
-    SaveTileSettings(program.main);
-    program.main.map.tiles = {};
-    LoadTileSettings(program.main);
-    EXPECT_TRUE(program.main.map.tiles.bOnline);
-    EXPECT_EQ(program.main.map.tiles.source, "/maps/alps.mbtiles");
-    mnuTileFile_Click(program.main); // Puts it away without asking.
-    EXPECT_EQ(program.main.map.tiles.source, "");
+    for (const char* source : {"/maps/alps.mbtiles", ""}) { // Puts it away without asking.
+        mnuTileFile_Click(program.main);
+        EXPECT_EQ(tiles.source, source);
+    }
     EXPECT_EQ(program.prompts.fileTitles.size(), 1U);
+    EXPECT_EQ(changes, 3);
 }
 
 TEST(TileSettings, UnusableOnesInTheStoreAreTheDefaults)
@@ -46,24 +42,17 @@ TEST(TileForm, AServerOfTheListBringsItsCreditAndIsSavedOnlyWhereAccepted)
 {
     TestProgram program;
     TileForm& form = program.main.frmTiles;
-    const auto choose = [&](MainWindow&) {
-        EXPECT_EQ(form.cboServer, 0);
-        EXPECT_EQ(form.txtCredit, kTileServers[0].credit); // The settings name none.
-        form.cboServer = 1;
-        frmTiles_cboServer_Click(form);
-        form.chkOnline = true;
-    };
-    program.dialogs.onRun[Form::frmTiles] = choose;
-    mnuTileServer_Click(program.main); // Cancelled.
-    EXPECT_FALSE(program.main.map.tiles.bOnline);
-    EXPECT_EQ(program.main.map.tiles.urlTemplate, kTileServers[0].url);
-    program.dialogs.onRun[Form::frmTiles] = [&](MainWindow& main) {
-        choose(main);
-        EXPECT_TRUE(frmTiles_Accept(form));
-    };
-    mnuTileServer_Click(program.main);
-    EXPECT_TRUE(program.main.map.tiles.bOnline);
-    EXPECT_EQ(program.main.map.tiles.urlTemplate, kTileServers[1].url);
+    for (const std::size_t accepted : {0U, 1U}) {
+        program.dialogs.onRun[Form::frmTiles] = [&](MainWindow&) {
+            EXPECT_EQ(form.cboServer, 0);
+            EXPECT_EQ(form.txtCredit, kTileServers[0].credit); // The settings name none.
+            form.cboServer = 1;
+            frmTiles_cboServer_Click(form);
+            EXPECT_TRUE(accepted == 0 || frmTiles_Accept(form));
+        };
+        mnuTileServer_Click(program.main);
+        EXPECT_EQ(program.main.map.tiles.urlTemplate, kTileServers[accepted].url);
+    }
     EXPECT_EQ(program.main.map.tiles.credit, kTileServers[1].credit);
     EXPECT_EQ(MaxZoomOfTiles(kTileServers[1].url), 17); // Nothing deeper is asked for.
 }
@@ -72,7 +61,6 @@ TEST(TileForm, TheTestAsksForTheTileInViewAndTellsWhatCame)
 {
     TestProgram program;
     TileForm& form = program.main.frmTiles;
-    frmTiles_Load(form, program.main.map.tiles);
     form.txtUrl = "http://localhost/{z}/{x}";
     EXPECT_FALSE(frmTiles_Accept(form));
     frmTiles_Test(program.main);
@@ -81,16 +69,16 @@ TEST(TileForm, TheTestAsksForTheTileInViewAndTellsWhatCame)
 
     program.TheMap().SetView({47.0, 8.0}, 6);
     form.txtUrl = " http://localhost/{z}/{x}/{y}.png?zoom={z}";
-    frmTiles_txtUrl_Change(form);
-    EXPECT_EQ(form.cboServer, -1);
     frmTiles_Test(program.main);
     EXPECT_EQ(program.desktop.pictureAsked, "http://localhost/6/33/22.png?zoom=6");
-    program.desktop.takePicture({200, "", 1234, 256, 256});
-    EXPECT_EQ(form.lblResult, "A tile of 256 x 256 pixels came, 1234 bytes.");
-    program.desktop.takePicture({403, "Forbidden", 9, 0, 0});
-    EXPECT_EQ(form.lblResult, "The server answered 403: Forbidden");
-    program.desktop.takePicture({200, "", 9, 0, 0});
-    EXPECT_EQ(form.lblResult, "What came is no PNG, JPEG or WebP picture that can be shown.");
+    const std::pair<FetchedPicture, const char*> kPictures[] = {
+        {{200, "", 1234, 256, 256}, "A tile of 256 x 256 pixels came, 1234 bytes."},
+        {{403, "Forbidden", 9, 0, 0}, "The server answered 403: Forbidden"},
+        {{200, "", 9, 0, 0}, "What came is no PNG, JPEG or WebP picture that can be shown."}};
+    for (const auto& [picture, result] : kPictures) {
+        program.desktop.takePicture(picture);
+        EXPECT_EQ(form.lblResult, result);
+    }
     form.txtUrl += "x"; // What comes for another address says nothing about this one.
     form.lblResult.clear();
     program.desktop.takePicture({0, "Connection refused", 0, 0, 0});

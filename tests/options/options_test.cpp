@@ -5,14 +5,11 @@
 #include "ui/menus.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <cmath>
 #include <limits>
 #include <map>
-#include <string>
 #include <tuple>
-#include <vector>
 
 namespace ruvenmark {
 namespace {
@@ -87,6 +84,7 @@ TEST_F(Options, BoxesTakeTheirBoundsAndNothingBeyond)
 
 TEST_F(Options, NothingIsStoredWhileSomethingIsMissingOrWrong)
 {
+    const std::string missing = "You must enter call sign and unproto path!";
     for (const Setting required : {S::Call, S::Dest}) {
         mnuMyStationEdit_Click(main);
         main.frmOptions.SSTab1 = static_cast<int>(OptionPage::Weather);
@@ -103,8 +101,7 @@ TEST_F(Options, NothingIsStoredWhileSomethingIsMissingOrWrong)
     Text(S::Lat) = "95";         // Enter was pressed in the box.
     frmOptions_Save(main);
     EXPECT_THAT(program.prompts.messages,
-                ElementsAre("You must enter call sign and unproto path!", "You must enter call sign and unproto path!",
-                            "Enter a value between -90 and 90 for latitude!"));
+                ElementsAre(missing, missing, "Enter a value between -90 and 90 for latitude!"));
     EXPECT_TRUE(IsOpen());
     EXPECT_EQ(main.frmOptions.SSTab1, static_cast<int>(OptionPage::Position));
     frmOptions_Save(main);
@@ -180,38 +177,33 @@ TEST_F(Options, SaveStoresWhatTheBoxesShow)
 
 TEST_F(Options, ASaveTakesEffectAtOnce)
 {
-    program.Position(Channel::RF, "N2CALL", 40, -80);
-    program.Position(Channel::TCP, "N2CALL", 40, -80);
+    for (const Channel channel : {Channel::RF, Channel::TCP})
+        program.Position(channel, "N2CALL", 40, -80);
     program.Sink(Channel::RF).ReportPosExt({"N3CALL", "APRS", 41, -80, kAbsent, 20});
-    program.Position(Channel::RF, "N3CALL", 41, -80);
     const TreeNode* moving = program.Node("RFPositionsN3CALL");
-    ASSERT_EQ(moving->Color(), 255U);
     program.Marker("N2CALL(t)")->SetBalloonState(2); // Opened by hand.
 
-    mnuViewOptions_Click(main);
-    OptionsForm& form = main.frmOptions;
-    Text(S::Lat) = "37.5";
-    Text(S::Lon) = "-122.25";
-    Text(S::Comment) = "hello";
-    Text(S::Call) = "N1CALL";
-    FieldOf(form, S::PositionInt).choice = 3;
-    FieldOf(form, S::ShowRFNames).bTicked = false;
-    FieldOf(form, S::MobileColor).choice = 0;
-    frmOptions_Save(main);
+    const auto save = [&](const char* comment, int color) {
+        mnuViewOptions_Click(main);
+        Text(S::Comment) = comment;
+        Text(S::Lat) = "37.5";
+        Text(S::Lon) = "-122.25";
+        Text(S::Call) = "N1CALL";
+        FieldOf(main.frmOptions, S::PositionInt).choice = 3;
+        FieldOf(main.frmOptions, S::ShowRFNames).bTicked = false;
+        FieldOf(main.frmOptions, S::MobileColor).choice = color;
+        frmOptions_Save(main);
+        EXPECT_THAT(program.ChildTexts("MyPosition"),
+                    ElementsAre("Lat: 37.5°", "Lon: -122.25°", "Path: WIDE2-2", comment));
+        EXPECT_EQ(moving->Color(), color == 4 ? 16711680U : 0U);
+    };
+    save("hello", 0);
     EXPECT_EQ(main.sbStatusBar.PanelText(Panel::Call), "N1CALL");
-    EXPECT_THAT(program.ChildTexts("MyPosition"), ElementsAre("Lat: 37.5°", "Lon: -122.25°", "Path: WIDE2-2", "hello"));
     EXPECT_EQ(main.beacons.positionInterval, 4);
     EXPECT_EQ(program.Marker("N2CALL(r)")->BalloonState(), 0);
     EXPECT_EQ(program.Marker("N2CALL(t)")->BalloonState(), 2); // Its tick has not changed.
-    EXPECT_EQ(moving->Color(), 0U);
-
-    mnuViewOptions_Click(main);
-    FieldOf(form, S::MobileColor).choice = 4;
-    Text(S::Comment) = "bye";
-    frmOptions_Save(main);
-    EXPECT_EQ(moving->Color(), 16711680U);
+    save("bye", 4);
     EXPECT_EQ(program.Node("RFPositionsN2CALL")->Color(), 0U);
-    EXPECT_EQ(program.ChildTexts("MyPosition").back(), "bye");
 }
 
 TEST_F(Options, PinPointTakesTheClickOnThePositionPageAlone)

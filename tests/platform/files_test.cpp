@@ -1,3 +1,4 @@
+#include "platform/clock.h"
 #include "platform/failure.h"
 #include "platform/file_lock.h"
 #include "platform/file_replacement.h"
@@ -8,6 +9,7 @@
 #include <array>
 #include <csignal>
 #include <cstdlib>
+#include <ctime>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
@@ -101,22 +103,19 @@ TEST_F(PosixFilesTest, KeepsThePermissionsAndFollowsLinks)
     ASSERT_EQ(::chmod(In("d/target").c_str(), 0640), 0);
     fs::create_symlink("d/target", In("link"));
     fs::create_symlink(In("link"), In("link2"));
-
     files.WriteText("new", In("link2"), FileKind::Map);
     EXPECT_TRUE(fs::is_symlink(In("link2")) && fs::is_symlink(In("link")));
     EXPECT_EQ(files.ReadText(In("d/target"), FileKind::Map), "new");
     EXPECT_EQ(Mode(In("d/target")), 0640U);
-
-    fs::create_symlink("d/made", In("dangling"));
-    files.WriteText("x", In("dangling"), FileKind::Map);
-    EXPECT_EQ(files.ReadText(In("d/made"), FileKind::Map), "x");
     fs::create_symlink("loop", In("loop"));
     EXPECT_THAT(Words([&] { files.WriteText("x", In("loop"), FileKind::Map); }), testing::HasSubstr("symbolic links"));
 
+    fs::create_symlink("d/made", In("dangling"));
     const mode_t former = ::umask(027);
-    files.WriteText("", In("fresh"), FileKind::Map);
+    files.WriteText("x", In("dangling"), FileKind::Map);
     ::umask(former);
-    EXPECT_EQ(Mode(In("fresh")), 0640U);
+    EXPECT_EQ(files.ReadText(In("d/made"), FileKind::Map), "x");
+    EXPECT_EQ(Mode(In("d/made")), 0640U);
 }
 
 TEST_F(PosixFilesTest, OnlyOrdinaryFilesOfFairSizeAreTexts)
@@ -140,17 +139,16 @@ TEST_F(PosixFilesTest, OnlyOrdinaryFilesOfFairSizeAreTexts)
 // A pipe without a writer waits for one; one whose writers have gone is at its end.
 TEST_F(PosixFilesTest, StreamsAreFilesAndPipes)
 {
-    std::array<char, 8> room{};
-    const auto read = [&](IByteStream& stream) -> std::string {
+    const auto read = [](IByteStream& stream) -> std::string {
+        std::array<char, 8> room{};
         const auto count = stream.Read(room, std::chrono::milliseconds(0));
         return count ? std::string(room.data(), *count) : "(end)";
     };
     files.WriteText("0123456789", In("a"), FileKind::Map);
     const auto file = files.OpenStream(In("a"));
     EXPECT_EQ(file->Size(), 10U);
-    EXPECT_EQ(read(*file), "01234567");
-    EXPECT_EQ(read(*file), "89");
-    EXPECT_EQ(read(*file), "(end)");
+    for (const char* bytes : {"01234567", "89", "(end)"})
+        EXPECT_EQ(read(*file), bytes);
 
     ASSERT_EQ(::mkfifo(In("fifo").c_str(), 0600), 0);
     const auto pipe = files.OpenStream(In("fifo"));
@@ -231,6 +229,17 @@ TEST(Paths, FollowTheEnvironment)
     EXPECT_EQ(DefaultSettingsFile(), "/home/op/.config/ruvenmark/settings.ini");
     ::unsetenv("XDG_DATA_HOME");
     EXPECT_EQ(DefaultProgramFolder(), "/home/op/.local/share/ruvenmark");
+}
+
+TEST(Clocks, ShowLocalTimeInOneForm)
+{
+    ::setenv("TZ", "UTC-2", 1); // Two hours east.
+    ::tzset();
+    const std::string text(SystemClock().LocalNowText());
+    std::tm shown = {};
+    const char* end = ::strptime(text.c_str(), "%Y-%m-%d %H:%M:%S", &shown);
+    ASSERT_TRUE(end && *end == '\0' && text.size() == 19U) << text;
+    EXPECT_NEAR(static_cast<double>(::timegm(&shown)), static_cast<double>(std::time(nullptr)) + 7200, 60);
 }
 
 } // namespace

@@ -1,14 +1,18 @@
 #include "platform/line_stream.h"
+#include "platform/records.h"
 #include "platform/text.h"
 #include "support/doubles.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <deque>
 #include <random>
 
 namespace ruvenmark {
 namespace {
+
+using namespace std::string_literals;
+using testing::ElementsAre;
 
 // Those that are not empty. On the way, that a look ahead saw is the line that came, but for what of it is not kept.
 std::vector<std::string> LinesOf(std::vector<std::string> pieces)
@@ -82,6 +86,22 @@ TEST(LineStream, ALineOfAnyLengthIsOneLineInBoundedMemory)
         EXPECT_EQ(LinesOf({begin, rest, "z\r", "\nb"}), (std::vector<std::string>{begin, "b"})) << more;
         EXPECT_EQ(LinesOf({begin + rest}), (std::vector<std::string>{begin})) << more;
     }
+}
+
+TEST(Records, AreTheUsedLinesSplitAtTheDelimiter)
+{
+    const auto records = [](std::string text, std::string_view delimiter = ":") {
+        MemoryFiles files;
+        files.texts["/f"] = std::move(text);
+        return ReadRecords(files, "/f", delimiter);
+    };
+    EXPECT_THAT(records("\r\na:b\r\n\r\nc\n"), ElementsAre(ElementsAre("a", "b"), ElementsAre("c")));
+    EXPECT_THAT(records("a\0b\r\nc\r\n\0\r\n"s), ElementsAre(ElementsAre("c"))); // A NUL takes its line along.
+    EXPECT_THAT(records(":a::"), ElementsAre(ElementsAre("", "a", "", "")));
+    EXPECT_THAT(records("a::b:c", "::"), ElementsAre(ElementsAre("a", "b:c")));
+    EXPECT_THAT(records(" \r\na\rb"), ElementsAre(ElementsAre(" "), ElementsAre("a\rb"))); // Neither is empty nor two.
+    MemoryFiles files;
+    EXPECT_THAT(ReadRecords(files, "/missing", ":"), testing::IsEmpty());
 }
 
 } // namespace

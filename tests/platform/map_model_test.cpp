@@ -147,17 +147,6 @@ TEST_F(MapModel, PaintersSeeEveryChange)
     EXPECT_EQ(TheMap().RecordCount(), 0);
 }
 
-TEST(MapControl, BeforeTheFirstMapThereIsNone)
-{
-    MemoryFiles files;
-    MapControl control(files);
-    EXPECT_THROW(control.SaveMapAs("a.ptm"), Failure);
-    EXPECT_THROW(control.NewMap(100), Failure);
-    EXPECT_EQ(control.ActiveMap(), nullptr);
-    EXPECT_THROW(control.ToolbarVisible(0), Failure);
-    EXPECT_THROW(control.SetToolbarVisible(5, true), Failure);
-}
-
 TEST_F(MapModel, ANewMapShowsItsRegion)
 {
     TheMap().SetView({-40, 170}, 12);

@@ -15,34 +15,29 @@ using namespace std::string_view_literals;
 
 TEST(MatchesPattern, KnowsRunsCharactersDigitsAndClasses)
 {
-    for (const auto& [text, pattern] :
-         {std::pair("", ""), std::pair("", "***"), std::pair("APRS", "APRS"), std::pair("APRS", "AP*"),
-          std::pair("APRS", "*S"), std::pair("APRS", "A*R*"), std::pair("APRS", "????"), std::pair("N0CALL", "N#CALL"),
-          std::pair("AB", "[A-C][!A-A]"), std::pair("-", "[-]"), std::pair("-", "[A-]"), std::pair("*", "[*]"),
-          std::pair("#", "[?#]"), std::pair("!", "[A!]"), std::pair("\xff", "[\x80-\xff]"), std::pair("\xff", "?"),
-          std::pair("aXbXc", "a*Xc"), std::pair("]", "]")})
+    const std::pair<const char*, const char*> kFit[] = {
+        {"", "***"},          {"APRS", "AP*"},         {"APRS", "*S"},    {"APRS", "A*R*"}, {"APRS", "????"},
+        {"N0CALL", "N#CALL"}, {"AB", "[A-C][!A-A]"},   {"-", "[-]"},      {"-", "[A-]"},    {"*", "[*]"},
+        {"!", "[A!]"},        {"\xff", "[\x80-\xff]"}, {"aXbXc", "a*Xc"}, {"]", "]"}};
+    for (const auto& [text, pattern] : kFit)
         EXPECT_TRUE(MatchesPattern(text, pattern)) << text << " like " << pattern;
-    for (const auto& [text, pattern] :
-         {std::pair("", "?"), std::pair("A", ""), std::pair("aprs", "APRS"), std::pair("APRS", "APR"),
-          std::pair("APRSX", "APRS"), std::pair("NXCALL", "N#CALL"), std::pair("D", "[A-C]"), std::pair("A", "[!A]"),
-          std::pair("", "[A]"), std::pair("A", "[]"), std::pair("A", "[A"), std::pair("[A", "[A"),
-          std::pair("APRS", "*X*"), std::pair("\xb2", "#")})
+    const std::pair<const char*, const char*> kDoNot[] = {
+        {"", "?"},      {"A", ""},     {"aprs", "APRS"}, {"APRS", "APR"}, {"APRSX", "APRS"}, {"NXCALL", "N#CALL"},
+        {"D", "[A-C]"}, {"A", "[!A]"}, {"", "[A]"},      {"A", "[]"},     {"[A", "[A"},      {"APRS", "*X*"},
+        {"\xb2", "#"}};
+    for (const auto& [text, pattern] : kDoNot)
         EXPECT_FALSE(MatchesPattern(text, pattern)) << text << " like " << pattern;
 }
 
+// An empty piece stands between two blanks and at the ends, and is like an empty text only. Pieces with a NUL are out.
 TEST(MatchesList, TakesThePiecesBetweenBlanks)
 {
-    EXPECT_TRUE(MatchesList("APRS", "TEST APRS"));
-    EXPECT_TRUE(MatchesList("APRS", "TEST AP*"));
-    EXPECT_FALSE(MatchesList("TEST APRS", "TEST APRS"));
-    // An empty piece stands between two blanks and at the ends, and is like an empty text only.
-    EXPECT_TRUE(MatchesList("", ""));
-    EXPECT_TRUE(MatchesList("", "A  B"));
-    EXPECT_TRUE(MatchesList("", "A "));
-    EXPECT_FALSE(MatchesList("", "A B"));
-    EXPECT_FALSE(MatchesList("A", "  "));
-    EXPECT_FALSE(MatchesList("A\0"sv, "A\0"sv)); // Pieces with a NUL are out.
-    EXPECT_TRUE(MatchesList("A", "B\0* A"sv));
+    for (const auto& [text, list] :
+         {std::pair("APRS"sv, "TEST AP*"sv), {"", ""}, {"", "A  B"}, {"", "A "}, {"A", "B\0* A"sv}})
+        EXPECT_TRUE(MatchesList(text, list)) << list;
+    for (const auto& [text, list] :
+         {std::pair("TEST APRS"sv, "TEST APRS"sv), {"", "A B"}, {"A", "  "}, {"A\0"sv, "A\0"sv}})
+        EXPECT_FALSE(MatchesList(text, list)) << list;
 }
 
 class FilterReports : public testing::Test {
@@ -57,10 +52,6 @@ protected:
     {
         filter.Lat = lat, filter.Lon = lon, filter.Range = range;
     }
-    double Miles(double lat1, double lon1, double lat2, double lon2)
-    {
-        return TravelDistance(p.main, lat1, lon1, lat2, lon2);
-    }
 
     TestProgram p;
     ReportFilter& filter;
@@ -68,7 +59,6 @@ protected:
 
 TEST_F(FilterReports, WithNothingFilledEverythingPasses)
 {
-    EXPECT_FALSE(Drops("N0CALL"));
     filter.bApply = true; // Without a range there is no test of positions either.
     filter.Lat = "48";
     EXPECT_FALSE(Drops("N0CALL"));
@@ -125,43 +115,37 @@ TEST_F(FilterReports, TrackListAcceptListAndRangeAreThreeWaysIn)
 
 TEST_F(FilterReports, ADistanceEqualToTheRangePasses)
 {
-    const double miles = Miles(48, 11, 48.5, 11.5);
-    Around("48", "11", ShortText(miles));
-    EXPECT_FALSE(Drops("N0CALL", "APRS", 48.5, 11.5));
-    Around("48", "11", ShortText(std::nextafter(miles, 0)));
-    EXPECT_TRUE(Drops("N0CALL", "APRS", 48.5, 11.5));
-    Around(" +48 ", "11.0", "0"); // As typed.
-    EXPECT_FALSE(Drops("N0CALL", "APRS", 48, 11));
+    const double miles = TravelDistance(p.main, 48, 11, 48.5, 11.5);
+    for (const auto& [range, bDropped] : {std::pair(miles, false), {std::nextafter(miles, 0), true}}) {
+        Around(" +48 ", "11.0", ShortText(range)); // As typed.
+        EXPECT_EQ(Drops("N0CALL", "APRS", 48.5, 11.5), bDropped);
+    }
 }
 
-// The flag overrides whatever the lists said.
+// The flag overrides whatever the lists said, but an accepted call is in ahead of that.
 TEST_F(FilterReports, AReportWithoutAPositionFollowsItsOwnFlag)
 {
     Around("48", "11", "10");
     filter.Call = "N1CALL";
-    EXPECT_FALSE(Drops("N2CALL"));
-    EXPECT_FALSE(Drops("N2CALL", "APRS", 90.01, 11));
-    filter.bApply = true;
-    EXPECT_TRUE(Drops("N2CALL"));
-    EXPECT_TRUE(Drops("N2CALL", "APRS", 48, -180.01));
-    EXPECT_FALSE(Drops("N1CALL")); // Accepted ahead of that.
-    EXPECT_FALSE(Drops("N2CALL", "APRS", 48, 11));
+    for (const bool bApply : {false, true}) {
+        filter.bApply = bApply;
+        EXPECT_EQ(Drops("N2CALL"), bApply);
+        EXPECT_EQ(Drops("N2CALL", "APRS", 90.01, 11), bApply);
+        EXPECT_FALSE(Drops("N1CALL"));
+        EXPECT_FALSE(Drops("N2CALL", "APRS", 48, 11));
+    }
     Around("90.01", "11", "10"); // A centre that is not on the earth counts as the same.
     EXPECT_TRUE(Drops("N2CALL", "APRS", 48, 11));
-    filter.bApply = false;
-    EXPECT_FALSE(Drops("N2CALL", "APRS", 48, 11));
 }
 
 TEST_F(FilterReports, NeverFails)
 {
     filter.Call = "N1CALL";
-    for (const char* range : {"far", " ", "1e999", "10 miles", "nan"}) { // Counts as empty.
-        Around("48", "11", range);
-        EXPECT_TRUE(Drops("N2CALL", "APRS", 48, 11)) << range;
+    for (const auto& [lon, range] :
+         {std::pair("11", "far"), {"11", " "}, {"11", "1e999"}, {"11", "10 miles"}, {"east", "10"}}) {
+        Around("48", lon, range); // Counts as empty.
+        EXPECT_TRUE(Drops("N2CALL", "APRS", 48, 11)) << lon << range;
     }
-    Around("48", "east", "10");
-    EXPECT_TRUE(Drops("N2CALL", "APRS", 48, 11));
-
     TestProgram bare(false); // No map: the result stands as the lists left it.
     ReportFilter& other = bare.main.Of(Channel::RF).Filter;
     other.Lat = "48", other.Lon = "11", other.Range = "10";

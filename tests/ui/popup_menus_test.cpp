@@ -5,9 +5,6 @@
 
 #include <gmock/gmock.h>
 
-#include <string>
-#include <vector>
-
 namespace ruvenmark {
 namespace {
 

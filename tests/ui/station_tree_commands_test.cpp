@@ -1,13 +1,10 @@
-#include "links/import_form_rules.h"
+#include "links/station_files.h"
 #include "support/test_program.h"
 #include "ui/call_sign_page.h"
 #include "ui/station_tree_commands.h"
 #include "ui/web_page.h"
 
 #include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace ruvenmark {
 namespace {
@@ -96,14 +93,12 @@ TEST(StationTree, UnloadingWhileAFileLoadsEndsTheLoad)
     TestProgram program;
     program.files.texts["/day.txt"] = "N0CALL>APRS:!4000.00N/08000.00W>\nN1CALL>APRS:!4000.00N/08000.00W>\n"
                                       "N2CALL>APRS:!4000.00N/08000.00W>\n";
-    program.prompts.files = {"/day.txt"};
     program.prompts.answers = {Answer::Yes};
-    program.dialogs.onRun[Form::frmImport] = [](MainWindow& main) { frmImport_Accept(main.frmImport); };
     program.yield.At(2, [&] {
         program.Select("FL");
         RunMenuEntry(program.main, MenuEntry::mnuUnloadFolder);
     });
-    RunMenuEntry(program.main, MenuEntry::mnuImportStations);
+    LoadStationFile(program.main, "/day.txt");
     EXPECT_EQ(program.yield.calls, 2);
     EXPECT_EQ(program.Node("FL"), nullptr);
     EXPECT_TRUE(program.MarkerNames().empty());
@@ -115,12 +110,12 @@ TEST(StationTree, FiltersAreSwitchedAndEditedByTheirRootAndOnlyFilesAreUnloaded)
     TestProgram program;
     program.Select("TCP");
     RunMenuEntry(program.main, MenuEntry::mnuPopupToggleFilter);
-    EXPECT_TRUE(program.main.Of(Channel::TCP).Filter.bOn);
-    EXPECT_FALSE(program.main.Of(Channel::RF).Filter.bOn);
-    RunMenuEntry(program.main, MenuEntry::mnuPopupEditFilter);
-    EXPECT_EQ(program.main.frmFilter.SSTab1, 1);
-    program.Select("RFPositions");
-    RunMenuEntry(program.main, MenuEntry::mnuPopupEditFilter);
+    EXPECT_TRUE(program.main.Of(Channel::TCP).Filter.bOn && !program.main.Of(Channel::RF).Filter.bOn);
+    for (const char* key : {"TCP", "RFPositions"}) {
+        program.Select(key);
+        RunMenuEntry(program.main, MenuEntry::mnuPopupEditFilter);
+        EXPECT_EQ(program.main.frmFilter.SSTab1, 1);
+    }
     EXPECT_EQ(program.dialogs.calls, Texts{"Show frmFilter"});
     for (const char* key : {"RF", "TCP", "My"}) {
         program.Select(key);
