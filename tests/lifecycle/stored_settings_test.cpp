@@ -36,29 +36,9 @@ std::string In(const M& main)
     return Shown(main.*Owner.*Value);
 }
 template <Channel Which, auto Value>
-std::string On(const M& main)
-{
-    return Shown(main.Of(Which).*Value);
-}
-template <Channel Which, auto Value>
 std::string Filter(const M& main)
 {
     return Shown(main.Of(Which).Filter.*Value);
-}
-template <Channel Which>
-std::string TrackList(const M& main)
-{
-    return TrackListText(main.Of(Which));
-}
-template <auto Value>
-std::string Tiles(const M& main)
-{
-    return Shown(main.map.tiles.*Value);
-}
-template <std::int32_t Bar>
-std::string MapBar(const M& main)
-{
-    return Shown(main.mpCtrl.ToolbarVisible(Bar));
 }
 MapView FirstView(const M& main)
 {
@@ -70,11 +50,6 @@ std::string Moved(const M& main, GeoPoint MapView::*centre, double GeoPoint::*pa
 {
     const double now = main.mpCtrl.RequireMap().View().*centre.*part;
     return now == FirstView(main).*centre.*part ? "" : ShortText(now);
-}
-
-std::string CoordinateFormText(const M& main)
-{
-    return Shown(static_cast<std::int32_t>(main.map.coordinates));
 }
 
 struct Row {
@@ -96,9 +71,9 @@ constexpr Row kRows[] = {
     {"Region", "1", "2", In<&M::map, &MapSession::Region>}, // 1: asked for, and closed without an answer.
     {"TrackStationPosition", "True", "False", In<&M::tracking, &TrackState::bTrackStationPosition>},
 
-    {"TrackedRFStations", "", "N0CALL", TrackList<RF>},
-    {"TrackedTCPStations", "", "N1CALL", TrackList<TCP>},
-    {"TrackedFLStations", "", "N2CALL", TrackList<FL>},
+    {"TrackedRFStations", "", "N0CALL", [](const M& main) { return TrackListText(main.Of(RF)); }},
+    {"TrackedTCPStations", "", "N1CALL", [](const M& main) { return TrackListText(main.Of(TCP)); }},
+    {"TrackedFLStations", "", "N2CALL", [](const M& main) { return TrackListText(main.Of(FL)); }},
     {"ShowTrackLine", "True", "False", In<&M::tracking, &TrackState::bShowTrackLine>},
 
     {"rfFilterDest", "", "A*", Filter<RF, &ReportFilter::Dest>},
@@ -205,20 +180,20 @@ constexpr Row kRows[] = {
     {"GPSBaud", "4800", "9600", In<&M::frmGps, &GpsForm::lGPSBaud>},
     {"TrackGPS", "True", "False", In<&M::frmGps, &GpsForm::bTrackGpsPosition>},
     {"AutoGPS", "False", "True", In<&M::frmGps, &GpsForm::bAutoGPS>},
-    {"ShowRFUnknown", "False", "True", On<RF, &ChannelState::bShowUnknown>},
-    {"ShowTCPUnknown", "False", "True", On<TCP, &ChannelState::bShowUnknown>},
-    {"ShowFLUnknown", "False", "True", On<FL, &ChannelState::bShowUnknown>},
+    {"ShowRFUnknown", "False", "True", [](const M& main) { return Shown(main.Of(RF).bShowUnknown); }},
+    {"ShowTCPUnknown", "False", "True", [](const M& main) { return Shown(main.Of(TCP).bShowUnknown); }},
+    {"ShowFLUnknown", "False", "True", [](const M& main) { return Shown(main.Of(FL).bShowUnknown); }},
     {"FLDelay", "0", "20", In<&M::frmImport, &ImportForm::iFLDelay>},
     {"FLAdd", "True", "False", In<&M::frmImport, &ImportForm::bFLAdd>},
     {"FLShow", "True", "False", In<&M::frmImport, &ImportForm::bFLShow>},
 
-    {"CoordinateForm", "0", "2", CoordinateFormText},
+    {"CoordinateForm", "0", "2", [](const M& main) { return Shown(static_cast<std::int32_t>(main.map.coordinates)); }},
     {"FadeAfter", "0", "120", In<&M::map, &MapSession::iFadeAfter>},
-    {"OnlineTiles", "False", "True", Tiles<&TileSettings::bOnline>},
+    {"OnlineTiles", "False", "True", [](const M& main) { return Shown(main.map.tiles.bOnline); }},
     {"TileURL", "https://tile.openstreetmap.org/{z}/{x}/{y}.png", "https://tiles.example/{z}/{x}/{y}",
-     Tiles<&TileSettings::urlTemplate>},
-    {"TileSource", "", "/maps/alps.mbtiles", Tiles<&TileSettings::source>},
-    {"TileCredit", "", "\xC2\xA9 Somebody", Tiles<&TileSettings::credit>},
+     [](const M& main) { return Shown(main.map.tiles.urlTemplate); }},
+    {"TileSource", "", "/maps/alps.mbtiles", [](const M& main) { return Shown(main.map.tiles.source); }},
+    {"TileCredit", "", "\xC2\xA9 Somebody", [](const M& main) { return Shown(main.map.tiles.credit); }},
 
     {"ShowToolBar", "True", "False", In<&M::window, &W::bToolBar>},
     {"ShowStatusBar", "True", "False", In<&M::window, &W::bStatusBar>},
@@ -226,10 +201,10 @@ constexpr Row kRows[] = {
     {"StationListPlace", "", "right 400", In<&M::window, &W::stationListPlace>},
     {"MapStyle", "0", "3", [](const M& main) { return Shown(main.mpCtrl.RequireMap().MapStyle()); }},
     {"MapFont", "2", "4", [](const M& main) { return Shown(main.mpCtrl.RequireMap().MapFont()); }},
-    {"StandardToolbar", "False", "True", MapBar<1>},
-    {"NavigationToolbar", "True", "False", MapBar<2>},
-    {"DrawingToolbar", "True", "False", MapBar<3>},
-    {"LocationScaleToolbar", "False", "True", MapBar<4>},
+    {"StandardToolbar", "False", "True", [](const M& main) { return Shown(main.mpCtrl.ToolbarVisible(1)); }},
+    {"NavigationToolbar", "True", "False", [](const M& main) { return Shown(main.mpCtrl.ToolbarVisible(2)); }},
+    {"DrawingToolbar", "True", "False", [](const M& main) { return Shown(main.mpCtrl.ToolbarVisible(3)); }},
+    {"LocationScaleToolbar", "False", "True", [](const M& main) { return Shown(main.mpCtrl.ToolbarVisible(4)); }},
     {"MapLat", "", "48.5", [](const M& main) { return Moved(main, &MapView::centre, &GeoPoint::lat); }},
     {"MapLon", "", "-11", [](const M& main) { return Moved(main, &MapView::centre, &GeoPoint::lon); }},
     {"MapZoom", "", "7.25",

@@ -66,24 +66,22 @@ TEST_F(Documents, NoAndACancelledSaveCountAsSaved)
     EXPECT_EQ(program.prompts.fileTitles, (std::vector<std::string>{"Open", "Save As", "Open"}));
 }
 
-// Style and font are of the document: changing them is a change, and a new map begins with its own.
 TEST_F(Documents, StyleAndFontAreChangesAndStayBehindWithTheirMap)
 {
+    const auto look = [&] { return std::pair(program.TheMap().MapStyle(), program.TheMap().MapFont()); };
+    const auto first = look();
     for (const MenuEntry entry : {MenuEntry::mnuPoliticalMap, MenuEntry::mnuFontSmallest}) {
+        program.TheMap().SetSaved(true);
         Run(entry);
         EXPECT_FALSE(program.TheMap().Saved());
-        program.TheMap().SetSaved(true);
     }
+    const auto chosen = look();
     program.prompts.files = {"/a.ptm", "/a.ptm"};
     Run(MenuEntry::mnuFileSaveAs);
-    const std::int32_t style = program.TheMap().MapStyle();
-    const std::int32_t font = program.TheMap().MapFont();
     Run(MenuEntry::mnuFileNew);
-    EXPECT_EQ(program.TheMap().MapStyle(), kFirstMapStyle);
-    EXPECT_EQ(program.TheMap().MapFont(), kFirstMapFont);
+    EXPECT_EQ(look(), first);
     Run(MenuEntry::mnuFileOpen);
-    EXPECT_EQ(program.TheMap().MapStyle(), style);
-    EXPECT_EQ(program.TheMap().MapFont(), font);
+    EXPECT_EQ(look(), chosen);
 }
 
 TEST_F(Documents, WhatCannotBeWrittenOrReadLeavesMapAndName)
@@ -107,6 +105,8 @@ TEST_F(Documents, WhatCannotBeWrittenOrReadLeavesMapAndName)
     Run(MenuEntry::mnuFileNew);
     EXPECT_EQ(program.MarkerNames().size(), 2U);
     EXPECT_FALSE(program.TheMap().Saved());
+    Run(MenuEntry::mnuFileSaveAs); // Cancelled.
+    EXPECT_TRUE(program.TheMap().Saved());
 }
 
 TEST_F(Documents, ARegionIsKeptAtOnceAndMakesANewMapOnlyWhereItIsAnother)

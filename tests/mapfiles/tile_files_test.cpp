@@ -23,13 +23,10 @@ using namespace std::string_literals;
 
 class TileFolderTest : public testing::Test {
 protected:
-    TileFolderTest() : folder(testing::TempDir() + "tiles-" + std::to_string(getpid()))
-    {
-        std::filesystem::create_directories(folder + "/3/1");
-    }
+    TileFolderTest() { std::filesystem::create_directories(folder + "/3/1"); }
     ~TileFolderTest() override { std::filesystem::remove_all(folder); }
 
-    std::string folder;
+    const std::string folder = testing::TempDir() + "tiles-" + std::to_string(getpid());
 };
 
 TEST_F(TileFolderTest, AnyOfTheEndingsIsFoundAndTheRestIsNotThere)
@@ -92,14 +89,8 @@ TEST(MarkupText, TagsGoAndCharactersStay)
 
 const std::string kTables(kTileTables);
 
-class TileArchiveTest : public testing::Test {
+class TileArchiveTest : public TileFolderTest {
 protected:
-    TileArchiveTest() : folder(testing::TempDir() + "archive-" + std::to_string(getpid()))
-    {
-        std::filesystem::create_directories(folder);
-    }
-    ~TileArchiveTest() override { std::filesystem::remove_all(folder); }
-
     // What opening and reading a tile fails with; empty when it does not.
     std::string FailureOf(const std::string& statements)
     {
@@ -119,7 +110,7 @@ protected:
         return what;
     }
 
-    std::string folder, path = folder + "/a#b?c%20d 'x'.mbtiles"; // Letters that a URI gives a meaning.
+    const std::string path = folder + "/a#b?c%20d 'x'.mbtiles"; // Letters that a URI gives a meaning.
 };
 
 TEST_F(TileArchiveTest, RowsCountFromTheSouthAndTheRestIsNotThere)

@@ -3,6 +3,7 @@
 #include "platform/file_lock.h"
 #include "platform/file_replacement.h"
 #include "platform/files.h"
+#include "platform/headless.h"
 
 #include <gmock/gmock.h>
 
@@ -13,6 +14,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -240,6 +242,19 @@ TEST(Clocks, ShowLocalTimeInOneForm)
     const char* end = ::strptime(text.c_str(), "%Y-%m-%d %H:%M:%S", &shown);
     ASSERT_TRUE(end && *end == '\0' && text.size() == 19U) << text;
     EXPECT_NEAR(static_cast<double>(::timegm(&shown)), static_cast<double>(std::time(nullptr)) + 7200, 60);
+}
+
+TEST(HeadlessPrompts, PrintsWithTheHarmlessAnswerAndKeepsTheMessages)
+{
+    std::ostringstream out;
+    HeadlessPrompts prompts(out);
+    EXPECT_EQ(prompts.AskYesNoCancel("Save?"), Answer::Cancel);
+    EXPECT_FALSE(prompts.AskYesNo("Remove?"));
+    EXPECT_EQ(prompts.OpenFile("Open", {"All (*.*)", "*.*"}), std::nullopt);
+    prompts.Message("gr\xFC\xDF\x1B");
+    EXPECT_EQ(out.str(), "ruvenmark: Save? Cancel\nruvenmark: Remove? No\n"
+                         "ruvenmark: Open, All (*.*): no file\nruvenmark: gr\xC3\xBC\xC3\x9F.\n");
+    EXPECT_THAT(prompts.Messages(), testing::ElementsAre("gr\xFC\xDF\x1B"));
 }
 
 } // namespace
