@@ -6,8 +6,7 @@
 
 #include <gmock/gmock.h>
 
-#include <cmath>
-#include <limits>
+#include <cstdio>
 #include <map>
 #include <tuple>
 
@@ -34,52 +33,37 @@ protected:
     MainWindow& main = program.main;
 };
 
-TEST_F(Options, BoxesTakeTheirBoundsAndNothingBeyond)
+// A bound on another box, or another than its message tells.
+TEST_F(Options, BoxesTakeWhatTheirMessagesSayAndNothingBeyond)
 {
-    constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-    struct Row {
-        Setting setting;
-        double lowest, highest; // NaN: none.
-        const char* asked;
+    const auto expect = [&](const OptionBox& box, const std::string& typed, std::string_view message) {
+        FieldOf(main.frmOptions, box).text = typed;
+        EXPECT_EQ(frmOptions_LostFocus(main.frmOptions, box), message) << box.control << ' ' << typed;
+        EXPECT_EQ(FieldOf(main.frmOptions, box).text, message.empty() ? typed : "");
     };
-    constexpr Row kRows[] = {{S::Alt, 0, 999999, "a number between 0 and 999999 for altitude"},
-                             {S::Directivity, 0, 360, "an interger between 0 and 360 for directivity"},
-                             {S::Height, 0, 2000000000, "a number between 0 and 2000000000 for height"},
-                             {S::Lat, -90, 90, "a value between -90 and 90 for latitude"},
-                             {S::Lon, -180, 180, "a value between -180 and 180 for longitude"},
-                             {S::Power, 0, kNone, "a positive number for station power"},
-                             {S::WindDir, 0, 360, "an interger between 0 and 360 for wind direction"},
-                             {S::WindSpeed, 0, 999, "an interger between 0 and 999 for wind speed"},
-                             {S::Gust, 0, 999, "an interger between 0 and 999 for gust"},
-                             {S::Temperature, -99, 999, "an interger between -99 and 999 for temperature"},
-                             {S::Rain1, 0, 999, "an interger between 0 and 999 for rain in the last hour"},
-                             {S::Rain24, 0, 999, "an interger between 0 and 999 for rain in the last 24 hours"},
-                             {S::Rain12, 0, 999, "an interger between 0 and 999 for rain since midnight"},
-                             {S::Humidity, 0, 99, "an interger between 0 and 99 for humidity"},
-                             {S::Pressure, 0, 99999, "an interger between 0 and 99999 for pressure"}};
-    for (const auto& [setting, lowest, highest, asked] : kRows) {
-        const OptionBox& box = BoxOf(setting);
-        const auto expect = [&](const std::string& typed, bool bTaken) {
-            Text(box.setting) = typed;
-            const std::string message = bTaken ? "" : "Enter " + std::string(asked) + '!';
-            EXPECT_EQ(frmOptions_LostFocus(main.frmOptions, box), message) << box.control << ' ' << typed;
-            EXPECT_EQ(Text(box.setting), bTaken ? typed : "");
-        };
-        const auto whole = [](double value) { return std::to_string(static_cast<std::int64_t>(value)); };
-        expect("", true);
-        expect("a few", false);
-        expect(whole(lowest), true);
-        expect(whole(lowest - 1), false);
-        if (!std::isnan(highest)) {
-            expect(whole(highest), true);
-            expect(whole(highest + 1), false);
-        }
+    std::string bounded;
+    for (const OptionBox& box : kOptionBoxes) {
+        int lowest = 0, highest = 0;
+        const std::string_view message = box.rule ? box.rule->message : "";
+        if (std::sscanf(message.data(), "%*[^-0-9]%d and %d", &lowest, &highest) != 2)
+            continue;
+        for (const int taken : {lowest, highest})
+            expect(box, std::to_string(taken), "");
+        for (const int beyond : {lowest - 1, highest + 1})
+            expect(box, std::to_string(beyond), message);
+        expect(box, "", "");
+        expect(box, "a few", message);
+        bounded +=
+            std::string(message.substr(message.rfind(" for ") + 5)) + ' ' + std::string(Info(box.setting).key) + '|';
     }
-    for (const auto& [typed, left] : {std::pair("-40", "-40"), {"a few", ""}}) { // Any number, and no message.
-        Text(S::Gain) = typed;
-        EXPECT_EQ(frmOptions_LostFocus(main.frmOptions, BoxOf(S::Gain)), "");
-        EXPECT_EQ(Text(S::Gain), left);
-    }
+    EXPECT_EQ(bounded, "latitude! Lat|longitude! Lon|altitude! Alt|height! Height|directivity! Directivity|"
+                       "wind direction! WindDir|wind speed! WindSpeed|gust! Gust|temperature! Temperature|"
+                       "rain in the last hour! Rain1|rain in the last 24 hours! Rain24|rain since midnight! Rain12|"
+                       "humidity! Humidity|pressure! Pressure|");
+    expect(BoxOf(S::Power), "-1", "Enter a positive number for station power!");
+    expect(BoxOf(S::Gain), "-40", "");
+    Text(S::Gain) = "a few";
+    EXPECT_EQ(frmOptions_LostFocus(main.frmOptions, BoxOf(S::Gain)) + Text(S::Gain), "");
 }
 
 TEST_F(Options, NothingIsStoredWhileSomethingIsMissingOrWrong)

@@ -100,17 +100,15 @@ TEST_F(FilterReports, TrackListAcceptListAndRangeAreThreeWaysIn)
     EXPECT_TRUE(Drops("N2CALL"));
     filter.bTracked = false; // Now judged by the accept list alone.
     EXPECT_TRUE(Drops("N0CALL"));
-    filter.bTracked = true;
-    filter.Call.clear();
-    EXPECT_TRUE(Drops("N2CALL")); // A track list alone keeps all others out ...
-    SetTrackList(p.main.Of(Channel::TCP), "");
-    EXPECT_FALSE(Drops("N2CALL")); // ... and an empty one does nothing at all.
-
-    filter.Call = "N1CALL";
     Around("48", "11", "10");
     EXPECT_FALSE(Drops("N1CALL", "APRS", 10, 10));
     EXPECT_FALSE(Drops("N2CALL", "APRS", 48.1, 11));
     EXPECT_TRUE(Drops("N2CALL", "APRS", 48.2, 11));
+
+    filter = {};
+    EXPECT_TRUE(Drops("N2CALL")); // A track list alone keeps all others out ...
+    SetTrackList(p.main.Of(Channel::TCP), "");
+    EXPECT_FALSE(Drops("N2CALL")); // ... and an empty one does nothing at all.
 }
 
 TEST_F(FilterReports, ADistanceEqualToTheRangePasses)

@@ -24,28 +24,28 @@ bool IsInside(const LayoutRect& rect, const LayoutInput& window)
             rect.left + rect.width <= window.scaleWidth && rect.top + rect.height <= window.scaleHeight);
 }
 
+void ExpectApart(const LayoutInput& window, std::int32_t x)
+{
+    const WindowLayout layout = SizeControls(window, x);
+    const std::array rects = {layout.toolBar, layout.statusBar, layout.tree, layout.imgSplitter, layout.rightPane};
+    for (std::size_t i = 0; i < rects.size(); ++i) {
+        EXPECT_TRUE(window.scaleWidth < kMinWindowWidth || IsInside(rects[i], window)) << i;
+        for (std::size_t other = 0; other < i; ++other)
+            EXPECT_FALSE(Overlap(rects[i], rects[other])) << i << ' ' << other;
+    }
+}
+
 TEST(Layout, NothingOverlapsOrIsClippedAtAnySize)
 {
-    for (const std::int32_t width : {0, 700, 1000, 3000, 12000, 28800}) {
-        for (const std::int32_t height : {0, 500, 975, 9000, 16200}) {
-            for (const std::int32_t x : {-5000, 0, 500, 2000, 11500, 99999}) {
-                for (int bars = 0; bars < 8; ++bars) {
-                    const LayoutInput window = {width,          height,          std::min(600, height / 2),
-                                                height / 4,     (bars & 1) != 0, (bars & 2) != 0,
-                                                (bars & 4) != 0};
-                    const WindowLayout layout = SizeControls(window, x);
-                    const std::array rects = {layout.toolBar, layout.statusBar, layout.tree, layout.imgSplitter,
-                                              layout.rightPane};
-                    for (std::size_t i = 0; i < rects.size(); ++i) {
-                        EXPECT_TRUE(width < kMinWindowWidth || IsInside(rects[i], window))
-                            << width << 'x' << height << " at " << x << ": " << i;
-                        for (std::size_t other = 0; other < i; ++other)
-                            EXPECT_FALSE(Overlap(rects[i], rects[other])) << width << 'x' << height << " at " << x;
-                    }
+    for (const std::int32_t width : {0, 700, 1000, 3000, 12000, 28800})
+        for (const std::int32_t height : {0, 500, 975, 9000, 16200})
+            for (const std::int32_t x : {-5000, 0, 500, 2000, 11500, 99999})
+                for (const unsigned bars : {0U, 1U, 2U, 3U, 4U, 5U, 6U, 7U}) {
+                    SCOPED_TRACE(testing::Message() << width << 'x' << height << " at " << x << " bars " << bars);
+                    ExpectApart({width, height, std::min(600, height / 2), height / 4, (bars & 1U) != 0,
+                                 (bars & 2U) != 0, (bars & 4U) != 0},
+                                x);
                 }
-            }
-        }
-    }
 }
 
 // What is hidden leaves its room to the others, and the splitter stops ahead of the edges.

@@ -26,21 +26,6 @@ TEST(StationTree, IsSortedOnceByCommandAndAnExpandedStationIsNoNews)
     EXPECT_TRUE(program.Node("TCPPositions")->IsBold());
 }
 
-TEST(StationTree, RemovesAStationAfterAsking)
-{
-    TestProgram program;
-    for (const char* call : {"N0CALL", "N1CALL"})
-        program.Position(Channel::RF, call, 40, -80);
-    program.Select("RFPositionsN0CALL");
-    program.prompts.answers = {Answer::No, Answer::Yes};
-    RunMenuEntry(program.main, MenuEntry::mnuRemoveStation);
-    EXPECT_EQ(program.prompts.questions, Texts{"Are you sure you want to delete report for N0CALL?"});
-    EXPECT_EQ(program.MarkerNames().size(), 2U);
-    RunMenuEntry(program.main, MenuEntry::mnuRemoveStation);
-    EXPECT_EQ(program.ChildTexts("RFPositions"), Texts{"N1CALL"});
-    EXPECT_EQ(program.MarkerNames(), Texts{"N1CALL(r)"});
-}
-
 TEST(StationTree, ClearsOneChannelOrAll)
 {
     TestProgram program;

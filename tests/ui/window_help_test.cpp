@@ -29,7 +29,8 @@ TEST(TreeKeys, TheEditCommandsActOnWhatHasTheFocus)
         RunMenuEntry(program.main, MenuEntry::mnuEditDelete);
         EXPECT_EQ(program.ChildTexts("RFPositions").size(), left);
     }
-    EXPECT_TRUE(program.Marker("N1CALL(r)").has_value());
+    EXPECT_EQ(program.MarkerNames(), std::vector<std::string>{"N1CALL(r)"});
+    EXPECT_EQ(program.prompts.questions.back(), "Are you sure you want to delete report for N0CALL?");
 
     program.Select("RFPositions");
     for (const MenuEntry entry : {MenuEntry::mnuEditDelete, MenuEntry::mnuEditCut}) // A folder is not deleted ...
