@@ -1,4 +1,6 @@
 #include "aprs/comment_marks.h"
+#include "aprs/destination_device.h"
+#include "aprs/device_table.h"
 #include "aprs/header.h"
 #include "aprs/header_bits.h"
 
@@ -94,6 +96,40 @@ TEST(CommentMarks, AreFoundAtEveryPlaceOfEveryLength)
             text[at] = 'H';
         }
     }
+}
+
+// A destination that the pattern stands for, as far from its letters as it may be.
+std::string Sample(std::string_view pattern)
+{
+    std::string sample;
+    for (const char c : pattern)
+        if (c != '*')
+            sample += c == '?' ? '~' : c == 'n' ? '0' : c;
+    return sample;
+}
+
+// The look-up searches by prefix: a table out of order hides devices without a word.
+TEST(DestinationDevice, EveryPatternIsFoundByWhatItStandsFor)
+{
+    const auto devices = DestinationDevices();
+    ASSERT_GT(devices.size(), 300U);
+    for (const DestinationDevice& device : devices) {
+        EXPECT_EQ(device.pattern.substr(0, device.prefixSize).find_first_of("?n*"), std::string_view::npos);
+        EXPECT_EQ(DestinationDeviceName(Sample(device.pattern)), device.name) << device.pattern;
+    }
+}
+
+// A byte short of its pattern, or one more, is none.
+TEST(DestinationDevice, TheLongestBeginningWins)
+{
+    EXPECT_EQ(DestinationDeviceName("AP123U"), "Painter Engineering: uSmartDigi Digipeater");
+    EXPECT_EQ(DestinationDeviceName("APAF12-11"), "AFilter");
+    for (const char* experimental : {"APZ", "APZ187"})
+        EXPECT_EQ(DestinationDeviceName(experimental), "Experimental");
+    for (const char* digi : {"APZ18", "APZ186"})
+        EXPECT_EQ(DestinationDeviceName(digi), "IW3FQG UIdigi");
+    for (const char* none : {"AP12AU", "APAF1", "APAF123", "apaf12", "", "-7"})
+        EXPECT_EQ(DestinationDeviceName(none), "") << none;
 }
 
 } // namespace

@@ -17,27 +17,23 @@ TEST(ReportPos, IsFiledInTreeRecordMarkerAndNote)
     TestProgram p;
     p.Position(Channel::TCP, "N0CALL-9", 48.5, -11.25, "Car", "on the road");
 
-    const std::string key = "TCPPositionsN0CALL-9";
-    EXPECT_THAT(p.ChildTexts(key), ElementsAre("Lat: 48.5°", "Lon: -11.25°", "Path: WIDE1-1,WIDE2-1", "on the road",
-                                               "Received: 2026-11-22 20:15:03"));
-    for (const auto& [word, image] : {std::pair("", "Car"),
-                                      {"Lat", "Parallel"},
-                                      {"Lon", "Parallel"},
-                                      {"Path", "Path"},
-                                      {"Comment", "Info"},
-                                      {"Received", "Received"}}) {
-        EXPECT_EQ(p.Image(key + word), image) << word;
-        EXPECT_EQ(p.Node(key + word)->IsBold(), *word == '\0') << word;
+    const TreeNode* const station = p.Node("TCPPositionsN0CALL-9");
+    EXPECT_THAT(p.ChildTexts(station->Key()), ElementsAre("Lat: 48.5°", "Lon: -11.25°", "Path: WIDE1-1,WIDE2-1",
+                                                          "on the road", "Received: 2026-11-22 20:15:03"));
+    std::string images = p.Image(station->Key());
+    for (const auto& fact : station->Children()) {
+        images += ' ' + p.Image(fact->Key());
+        EXPECT_FALSE(fact->IsBold());
     }
+    EXPECT_EQ(images, "Car Parallel Parallel Path Info Received");
+    EXPECT_TRUE(station->IsBold());
     EXPECT_EQ(p.Text("TCPPositions"), "Positions (1)");
     EXPECT_EQ(p.Text("TCP"), "TCP reports (1)");
-    for (const auto& [field, text] : {std::pair(Field::Call, "N0CALL-9"),
-                                      {Field::Lat, "48.5"},
-                                      {Field::Lon, "-11.25"},
-                                      {Field::PositionPath, "WIDE1-1,WIDE2-1"},
-                                      {Field::Symbol, "Car"},
-                                      {Field::Comment, "on the road"}})
-        EXPECT_EQ(p.RecordText(Channel::TCP, "N0CALL-9", field), text);
+    std::string record;
+    for (const auto& [field, text] : *p.main.Of(Channel::TCP).Stations.Find("N0CALL-9"))
+        record += std::string(FieldName(field)) + '=' + std::string(text) + ' ';
+    EXPECT_EQ(record, "Call=N0CALL-9 Lat=48.5 Lon=-11.25 PositionPath=WIDE1-1,WIDE2-1 Symbol=Car Comment=on the road "
+                      "PositionReceived=2026-11-22 20:15:03 ");
     EXPECT_EQ(p.Marker("N0CALL-9(t)")->Symbol(), 82);
     EXPECT_EQ(p.Note("N0CALL-9(t)"), "TCP, 2026-11-22 20:15:03\r\nWIDE1-1,WIDE2-1\r\n48.5°, -11.25°\r\non the road");
 }

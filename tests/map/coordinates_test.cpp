@@ -69,12 +69,15 @@ TEST(Coordinates, AreWrittenSoThatTheyReadBack)
         }
 }
 
+// An age below nothing is that of a clock that was put back.
 TEST(Age, IsToldInTheUnitThatTellsMost)
 {
     constexpr std::uint32_t kHeard = 1000000;
-    const std::pair<int, const char*> kAges[] = {{-50, "just now"}, // The clock was put back.
-                                                 {59, "just now"},         {60, "1 min ago"},
-                                                 {3600, "1 h ago"},        {3600 * 25 + 120, "25 h 2 min ago"},
+    const std::pair<int, const char*> kAges[] = {{-50, "just now"},
+                                                 {59, "just now"},
+                                                 {60, "1 min ago"},
+                                                 {3600, "1 h ago"},
+                                                 {3600 * 25 + 120, "25 h 2 min ago"},
                                                  {3600 * 48, "2 days ago"}};
     for (const auto& [seconds, text] : kAges)
         EXPECT_EQ(AgeText(kHeard + seconds, kHeard), text);

@@ -21,12 +21,10 @@ protected:
     }
     void Own(const char* lat, const char* power)
     {
-        for (const auto& [setting, text] : {std::pair(Setting::Call, "N9CALL"),
-                                            {Setting::Lat, lat},
-                                            {Setting::Lon, "11"},
-                                            {Setting::Power, power},
-                                            {Setting::Height, "20"},
-                                            {Setting::Gain, "3"}})
+        const std::pair<Setting, const char*> kOwn[] = {{Setting::Call, "N9CALL"}, {Setting::Lat, lat},
+                                                        {Setting::Lon, "11"},      {Setting::Power, power},
+                                                        {Setting::Height, "20"},   {Setting::Gain, "3"}};
+        for (const auto& [setting, text] : kOwn)
             SetSetting(p.main.Settings, setting, text);
     }
 

@@ -28,14 +28,12 @@ TEST(TileSettings, AreSwitchedAndChosenByTheMenu)
 TEST(TileSettings, UnusableOnesInTheStoreAreTheDefaults)
 {
     TestProgram program(false);
-    const auto loaded = [&](const char* url) {
+    const std::string usable = "http://localhost:8080/{z}/{y}/{x}.png?k=1";
+    for (const std::string& url : {std::string(), std::string("file:///etc/{z}/{x}/{y}"), usable}) {
         program.store.Set("TileURL", url);
         LoadTileSettings(program.main);
-        return program.main.map.tiles.urlTemplate;
-    };
-    for (const char* url : {"", "file:///etc/{z}/{x}/{y}"})
-        EXPECT_EQ(loaded(url), DefaultOf(Setting::TileURL)) << url;
-    EXPECT_EQ(loaded("http://localhost:8080/{z}/{y}/{x}.png?k=1"), "http://localhost:8080/{z}/{y}/{x}.png?k=1");
+        EXPECT_EQ(program.main.map.tiles.urlTemplate, url == usable ? url : DefaultOf(Setting::TileURL));
+    }
 }
 
 TEST(TileForm, AServerOfTheListBringsItsCreditAndIsSavedOnlyWhereAccepted)
