@@ -70,13 +70,20 @@ TEST(Start, AnUnreadableValueCountsAsItsDefaultAndStaysUntilItIsChanged)
         EXPECT_EQ(p.Value(key), text);
 }
 
-TEST(Start, WithoutAMapSaysSoAndReportsAreFiled)
+// The map of the region that is wanted, not that of the default.
+TEST(Start, WithoutAMapSaysWhichAndReportsAreFiled)
 {
-    Stored p{{"Region", "100"}, {"DefaultMap", "/gone.ptm"}};
+    Stored p{{"Region", "100"}, {"DefaultMap", "/gone.ptm"}}, europe{{"Region", "100"}};
     p.dialogs.onRun[Form::frmRegion] = [](MainWindow& main) { main.frmRegion.selectedRegion = 7; };
+    europe.dialogs.onRun[Form::frmRegion] = [](MainWindow& main) {
+        main.map.Region = kRegionEurope;
+        throw Failure("the window is gone");
+    };
+    europe.Start();
+    EXPECT_THAT(europe.prompts.messages, ElementsAre("Failed to initialize MapPoint Europe."));
     p.Start();
-    EXPECT_EQ(p.main.mpCtrl.ActiveMap(), nullptr);
     EXPECT_THAT(p.prompts.messages, ElementsAre("Failed to initialize MapPoint North America."));
+    EXPECT_EQ(p.main.mpCtrl.ActiveMap(), nullptr);
     p.files.texts["/f"] =
         "N0CALL>APRS:=4903.50N/07201.75W>088/036x\nN1CALL>APRS:;LEADER   _092345z4903.50N/07201.75W>\n";
     LoadStationFile(p.main, "/f");
@@ -85,18 +92,6 @@ TEST(Start, WithoutAMapSaysSoAndReportsAreFiled)
     EXPECT_EQ(p.Text("FL"), "FL reports");
     EXPECT_TRUE(p.Stop()); // No map, no question.
     EXPECT_THAT(p.prompts.questions, IsEmpty());
-}
-
-// The map of the region that is wanted, not that of the default.
-TEST(Start, WithoutTheMapOfEuropeSaysThat)
-{
-    Stored p{{"Region", "100"}};
-    p.dialogs.onRun[Form::frmRegion] = [](MainWindow& main) {
-        main.map.Region = kRegionEurope;
-        throw Failure("the window is gone");
-    };
-    p.Start();
-    EXPECT_THAT(p.prompts.messages, ElementsAre("Failed to initialize MapPoint Europe."));
 }
 
 TEST(Start, OpensTheDefaultMapAsANewOne)

@@ -30,11 +30,11 @@ TEST(Coordinates, AreReadAsPeopleWriteThem)
 // A call or a name must never be taken for a place, nor half of a text for the whole.
 TEST(Coordinates, RefuseWhatIsNone)
 {
-    const char* const kTexts[] = {"",         "48",        "48, ",      "N, E",       "48.1, 11.5, 3",
-                                  "91, 0",    "0, 181",    "48 60, 11", "48.5 7, 11", "-48 N, 11 E",
-                                  "48 N, 11", "48 N 11 N", "N0CALL",    "W1AW",       "S57",
-                                  "1e3, 4",   "48..1, 3",  "48, 11x",   "48 -7, 11",  "nan, 1"};
-    for (const char* text : kTexts)
+    for (const char* text :
+         {"", "48", "48, ", "N, E", "91, 0", "0, 181", "48 60, 11", "48.5 7, 11", "48 N, 11", "48 N 11 N", "48 -7, 11",
+          "48..1, 3", "48, 11x", "1e3, 4", "nan, 1", "N0CALL", "W1AW", "S57"})
+        EXPECT_FALSE(ReadLatLon(text)) << text;
+    for (const char* text : {"48.1, 11.5, 3", "-48 N, 11 E", "48 7 30 5 N 11 E", "1 2 3 4 5 6 7 8 9 10 11 12 13"})
         EXPECT_FALSE(ReadLatLon(text)) << text;
 }
 

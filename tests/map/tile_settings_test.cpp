@@ -46,10 +46,12 @@ TEST(TileForm, AServerOfTheListBringsItsCreditAndIsSavedOnlyWhereAccepted)
             EXPECT_EQ(form.txtCredit, kTileServers[0].credit); // The settings name none.
             form.cboServer = 1;
             frmTiles_cboServer_Click(form);
+            form.chkOnline = true;
             EXPECT_TRUE(accepted == 0 || frmTiles_Accept(form));
         };
         mnuTileServer_Click(program.main);
         EXPECT_EQ(program.main.map.tiles.urlTemplate, kTileServers[accepted].url);
+        EXPECT_EQ(program.main.map.tiles.bOnline, accepted == 1);
     }
     EXPECT_EQ(program.main.map.tiles.credit, kTileServers[1].credit);
     EXPECT_EQ(MaxZoomOfTiles(kTileServers[1].url), 17); // Nothing deeper is asked for.

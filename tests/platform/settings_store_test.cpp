@@ -88,5 +88,17 @@ TEST(FileSettingsStore, AFileThatCannotBeReadIsNotWrittenOver)
     EXPECT_EQ(FileSettingsStore(files, kPath).ReadFault(), ""); // A missing one is no fault.
 }
 
+TEST(OverlaySettingsStore, HoldsForThisRunUntilSet)
+{
+    MemorySettingsStore below;
+    below.Set("a", "1");
+    OverlaySettingsStore store(below);
+    store.SetForThisRun("a", "2");
+    store.Set("a", "2"); // Written back as it was read.
+    EXPECT_EQ(store.Get("a", "") + below.Get("a", ""), "21");
+    store.Set("a", "3");
+    EXPECT_EQ(store.Get("a", "") + below.Get("a", ""), "33");
+}
+
 } // namespace
 } // namespace ruvenmark

@@ -46,12 +46,14 @@ TEST_F(StationList, ListsWhatIsKnownOfAStation)
     UpdateAll();
     int told = 0;
     const auto subscription = rows.Due.Observe([&] { ++told; });
+    for (const char* call : {"Z1", "Z2"})
+        program.Position(Channel::RF, call, 40, 2);
     for (int i = 0; i < 10; ++i)
         program.Hear(Channel::TCP, "N0CALL-9>APRS,WIDE1-1*,qAR,N1GATE:!0100.00N/00000.00E>090/036on the road");
     EXPECT_EQ(told, 1);
     EXPECT_EQ(rows.Count(), 0U);
     UpdateAll();
-    ASSERT_EQ(rows.Count(), 1U);
+    ASSERT_EQ(rows.Count(), 3U);
     std::vector<std::string> texts;
     for (std::size_t column = 0; column < kStationColumns; ++column)
         texts.push_back(rows.Text(rows.At(0), static_cast<StationColumn>(column)));
