@@ -16,6 +16,7 @@ void ExpectNear(std::string_view text, GeoPoint expected)
     EXPECT_NEAR(point->lon, expected.lon, 1e-6) << text;
 }
 
+// As they stand in logs, on web pages, in receivers and on the air.
 TEST(Coordinates, AreReadAsPeopleWriteThem)
 {
     for (const char* text :

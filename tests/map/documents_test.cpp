@@ -66,6 +66,7 @@ TEST_F(Documents, NoAndACancelledSaveCountAsSaved)
     EXPECT_EQ(program.prompts.fileTitles, (std::vector<std::string>{"Open", "Save As", "Open"}));
 }
 
+// Style and font are of the document: changing them is a change, and a new map begins with its own.
 TEST_F(Documents, StyleAndFontAreChangesAndStayBehindWithTheirMap)
 {
     const auto look = [&] { return std::pair(program.TheMap().MapStyle(), program.TheMap().MapFont()); };

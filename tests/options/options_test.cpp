@@ -233,6 +233,7 @@ TEST_F(Options, BrowsingFillsTheBoxOrLeavesIt)
     EXPECT_EQ(Text(S::WaveFile), "/sounds/ping.wav");
 }
 
+// Whoever starts without a call is told where to put it, until something else is to be told.
 TEST(FirstStart, SaysHowToBegin)
 {
     TestProgram program;

@@ -120,6 +120,7 @@ TEST_F(PosixFilesTest, KeepsThePermissionsAndFollowsLinks)
     EXPECT_EQ(Mode(In("d/made")), 0640U);
 }
 
+// A pipe or a device has no end: it must neither be waited for nor read for ever, nor be replaced by a file.
 TEST_F(PosixFilesTest, OnlyOrdinaryFilesOfFairSizeAreTexts)
 {
     ASSERT_EQ(::mkfifo(In("fifo").c_str(), 0600), 0);

@@ -134,6 +134,8 @@ std::string WithOwn(const std::string& own)
     return R"({"type":"FeatureCollection","features":[],"ruvenmark":)" + own + "}";
 }
 
+// A file of another program says nothing of region and view: it must neither move the operator to another continent nor
+// show an empty sea.
 TEST(MapDocument, AFileOfAnotherProgramIsShownWhole)
 {
     MemoryFiles files;

@@ -90,6 +90,7 @@ TEST(Menus, WhatShowsAndIsChosenIsTicked)
                                       "mnuToolsStationTracking", "mnuToolsGpsTracking", "mnuDirections"));
 }
 
+// Points or lines of any channel are tracks.
 TEST(Menus, RemoveAllTracksIsOfferedWhereThereIsATrack)
 {
     for (const Channel channel : kChannels) {
