@@ -129,6 +129,7 @@ private:
 
     Value& Append(std::string_view key, Value value)
     {
+        m_index.MakeRoom(); // Where there is none, nothing has changed.
         m_entries.push_back(Entry{std::string(key), std::move(value)});
         const auto last = std::prev(m_entries.end());
         m_index.Add(Hash(key), last);

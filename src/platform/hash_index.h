@@ -12,10 +12,23 @@
 namespace ruvenmark {
 
 // Finds items by the hash of what they are called; of several with one hash the caller tells which it means. All stands
-// in one table, and the memory that a look-up will wait for can be asked for long before.
+// in one table, and the memory that a look-up will wait for can be asked for long before. With the last item the table
+// goes.
 template <typename Item>
 class HashIndex {
 public:
+    HashIndex() = default;
+    HashIndex(const HashIndex&) = default;
+    HashIndex& operator=(const HashIndex&) = default;
+    HashIndex(HashIndex&& other) noexcept { *this = std::move(other); }
+    HashIndex& operator=(HashIndex&& other) noexcept
+    {
+        m_places = std::exchange(other.m_places, {});
+        m_count = std::exchange(other.m_count, 0);
+        return *this;
+    }
+    ~HashIndex() = default;
+
     // Nothing where there is none.
     template <typename IsMeant>
     const Item* Find(std::uint64_t hash, const IsMeant& isMeant) const
@@ -24,11 +37,17 @@ public:
         return at != kNowhere ? &m_places[at].item : nullptr;
     }
 
-    // The item is not in it yet.
-    void Add(std::uint64_t hash, Item item)
+    // The next one that is added takes no memory.
+    void MakeRoom()
     {
         if ((m_count + 1) * 3 > m_places.size() * 2)
             Grow();
+    }
+
+    // The item is not in it yet.
+    void Add(std::uint64_t hash, Item item)
+    {
+        MakeRoom();
         Put({Tag(hash), static_cast<std::uint32_t>(hash), std::move(item)});
         ++m_count;
     }
@@ -46,15 +65,12 @@ public:
                 m_places[std::exchange(gap, at)] = std::move(m_places[at]);
         }
         m_places[gap] = {};
-        --m_count;
+        if (--m_count == 0)
+            Clear();
         return true;
     }
 
-    void Clear()
-    {
-        m_places.clear();
-        m_count = 0;
-    }
+    void Clear() { *this = {}; }
 
     // A look-up of this hash will come.
     void Expect(std::uint64_t hash) const

@@ -119,7 +119,10 @@ void Pushpin::Delete()
     m_map->Pin(m_ref); // Raises where it is gone already.
     m_map->UnlinkName(m_ref);
     m_map->m_pins.Remove(m_ref);
-    m_map->m_points[m_ref.slot] = PinPoint();
+    if (m_map->m_pins.Count() > 0)
+        m_map->m_points[m_ref.slot] = PinPoint();
+    else
+        m_map->m_points = {};
     m_map->Touch();
 }
 

@@ -50,10 +50,16 @@ public:
     {
         if (!Find(ref))
             return;
+        if (m_count == 1) {
+            Clear();
+            return;
+        }
         SlotAt(ref.slot) = Slot();
         m_free.push_back(ref.slot);
         --m_count;
     }
+
+    // Its memory goes back too.
 
     void Clear()
     {
@@ -63,7 +69,7 @@ public:
         }
         m_blocks.clear();
         m_slotCount = 0;
-        m_free.clear();
+        m_free = {};
         m_count = 0;
     }
 
@@ -78,8 +84,9 @@ public:
     std::size_t SlotCount() const { return m_slotCount; }
     // An empty reference for a slot that holds nothing.
     SlotRef RefAt(std::size_t slot) const { return {static_cast<std::uint32_t>(slot), SlotAt(slot).id}; }
-    Value* At(std::size_t slot) { return SlotAt(slot).id != 0 ? &SlotAt(slot).value : nullptr; }
-    const Value* At(std::size_t slot) const { return SlotAt(slot).id != 0 ? &SlotAt(slot).value : nullptr; }
+    // Nothing for such a slot, and for one beyond the last.
+    Value* At(std::size_t slot) { return IsTaken(slot) ? &SlotAt(slot).value : nullptr; }
+    const Value* At(std::size_t slot) const { return IsTaken(slot) ? &SlotAt(slot).value : nullptr; }
 
 private:
     struct Slot {
@@ -87,6 +94,7 @@ private:
         std::uint64_t id = 0;
     };
 
+    bool IsTaken(std::size_t slot) const { return slot < m_slotCount && SlotAt(slot).id != 0; }
     bool Holds(SlotRef ref) const { return ref.id != 0 && ref.slot < m_slotCount && SlotAt(ref.slot).id == ref.id; }
 
     void AddBlock()

@@ -14,6 +14,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
+#include <fstream>
 #include <random>
 #include <set>
 #include <string>
@@ -179,6 +181,7 @@ TEST(RoomPool, NobodySharesARoom)
     std::mt19937 random(9);
     for (const std::size_t size : {8U, 104U, 70000U, 3000000U}) {
         RoomPool pool(size);
+        void* const kept = pool.Take(); // With the last room the memory would go.
         std::vector<std::pair<unsigned char*, unsigned char>> out;
         std::set<void*> rooms;
         std::size_t most = 0;
@@ -198,8 +201,37 @@ TEST(RoomPool, NobodySharesARoom)
             }
         }
         EXPECT_EQ(rooms.size(), most) << size;
+        EXPECT_FALSE(rooms.contains(kept));
     }
 }
+
+#ifdef __linux__
+
+std::size_t ResidentPages()
+{
+    std::size_t total = 0, resident = 0;
+    std::ifstream("/proc/self/statm") >> total >> resident;
+    return resident;
+}
+
+// A station left running for months clears its lists: what they took goes back to the system.
+TEST(RoomPool, GivesItsMemoryBackWithTheLastRoom)
+{
+    constexpr std::size_t kSize = 4096, kRooms = 20000;
+    RoomPool pool(kSize);
+    std::vector<void*> rooms(kRooms);
+    for (int i = 0; i < 2; ++i) {
+        const std::size_t before = ResidentPages();
+        for (void*& room : rooms)
+            std::memset(room = pool.Take(), 1, kSize);
+        EXPECT_GT(ResidentPages(), before + kRooms / 2);
+        for (void* room : rooms)
+            pool.Return(room);
+        EXPECT_LT(ResidentPages(), before + kRooms / 2);
+    }
+}
+
+#endif
 
 // A place given twice shows as a number that is not the value's own, a value that is forgotten at the end as one too
 // many.

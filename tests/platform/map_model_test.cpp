@@ -143,8 +143,14 @@ TEST_F(MapModel, PaintersSeeEveryChange)
     EXPECT_GT(point.x, 0xFFFFFF00U); // The right edge, not around it.
     EXPECT_FALSE(TheMap().Saved());
     EXPECT_EQ(changes, 4);
+
+    Pushpin other = Add("B");
+    const auto slot = pin.Ref().slot;
     pin.Delete();
-    EXPECT_FALSE(TheMap().PinPoints().at(pin.Ref().slot).bLive);
+    EXPECT_FALSE(TheMap().PinPoints().at(slot).bLive);
+    other.Delete();
+    EXPECT_TRUE(TheMap().PinPoints().empty());
+    EXPECT_THROW(other.SetSymbol(1), Failure);
     EXPECT_EQ(TheMap().DataSetCount(), 1); // Something was added once.
     EXPECT_EQ(TheMap().RecordCount(), 0);
 }
