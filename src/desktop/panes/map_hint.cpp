@@ -12,8 +12,9 @@ namespace ruvenmark {
 
 namespace {
 
-constexpr int kFromTop = 6; // The map's height by this.
-constexpr int kSides = 40;  // Pixels; the zoom buttons stand there.
+// Pixels.
+constexpr int kFromTop = 12;
+constexpr int kSides = 40; // The zoom buttons stand there.
 
 } // namespace
 
@@ -88,7 +89,7 @@ void MapHint::PlaceIt()
     if (!fits(QBoxLayout::LeftToRight, bText) && !fits(QBoxLayout::TopToBottom, bText))
         fits(QBoxLayout::TopToBottom, false);
     const QSize size = sizeHint().boundedTo(map.size());
-    setGeometry({{std::max((map.width() - size.width()) / 2, 0), map.height() / kFromTop}, size});
+    setGeometry({{std::max((map.width() - size.width()) / 2, 0), kFromTop}, size});
 }
 
 } // namespace ruvenmark

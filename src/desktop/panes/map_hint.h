@@ -12,7 +12,7 @@ class QLabel;
 
 namespace ruvenmark {
 
-// A quiet panel in the upper middle of the map: one line, and a few things that can be done about it, beside each other
+// A quiet panel at the top of the map: one line, and a few things that can be done about it, beside each other
 // or, on a narrow map, below.
 class MapHint final : public QFrame {
 public:
