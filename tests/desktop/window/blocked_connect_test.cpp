@@ -63,39 +63,32 @@ TEST(BlockedConnect, EndsAtItsLimitWhileTheWindowOnlyPaints)
 
     EventCount window(program.window), panel(program.Find<ElidedLabel>("panelServer"));
     PaintOnly paintOnly(program.window);
-    int rounds = 0, timers = 0, paintsBefore = 0, panelPaintsBefore = 0, keysWithin = -1;
-    QTimer logic;
-    QObject::connect(&logic, &QTimer::timeout, &logic, [&] { ++timers; });
+    int rounds = 0, paintsBefore = 0, panelPaintsBefore = 0, keysWithin = -1;
     program.wires.paint = [&] {
         if (rounds++ == 0) {
             EXPECT_EQ(program.Find<ElidedLabel>("panelServer").Text(), QString::fromStdString("Connecting " + address));
             EXPECT_TRUE(main.sbStatusBar.IsWaitPointer());
             paintsBefore = window.paints;
             panelPaintsBefore = panel.paints;
-            logic.start(1);
             QCoreApplication::postEvent(&program.window, new QKeyEvent(QEvent::KeyPress, Qt::Key_F9, Qt::NoModifier));
         }
         paintOnly();
         keysWithin = window.keys;
     };
     WhenModal([&](QDialog& dialog) { program.Find<QPushButton>("OK", &dialog).click(); });
-    QElapsedTimer blocked;
-    blocked.start();
     program.Action("mnuConnectServer").trigger();
 
-    EXPECT_GE(blocked.elapsed(), 1000);
     EXPECT_EQ(program.wires.limit, 15s);
     EXPECT_GE(window.paints - paintsBefore, 2);
     EXPECT_GE(panel.paints - panelPaintsBefore, 1);
     EXPECT_EQ(keysWithin, 0);
-    EXPECT_EQ(timers, 0);
     const std::string cause =
         "APRS server connection failed: cannot connect to " + address + ": the connection timed out";
     EXPECT_EQ(main.sbStatusBar.Notice(), cause);
     EXPECT_EQ(program.notices.lines.back(), cause);
     EXPECT_EQ(main.sbStatusBar.PanelText(Panel::Server), "APRS server connection failed");
     EXPECT_FALSE(main.sbStatusBar.IsWaitPointer());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return window.keys == 1 && timers > 300; })); // What was shut out comes now.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.keys == 1; })); // What was shut out comes now.
     EXPECT_EQ(program.wires.connects, 1);
     EXPECT_EQ(main.links.ReconnectCount, 0);
     EXPECT_FALSE(main.links.bServerConnected || main.links.aprstcp);

@@ -9,18 +9,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class LinksWindow : public testing::Test {
+class LinksWindow : public WindowTest {
 protected:
     LinksWindow() { SetSetting(main.Settings, Setting::Call, "W1AW-7"); }
 
-    void TypeInto(QDialog& dialog, const char* list, const char* text)
-    {
-        Type(*program.Find<QComboBox>(list, &dialog).lineEdit(), text);
-    }
-    static std::string Text(const QComboBox& box) { return box.currentText().toStdString(); }
-
-    WindowProgram program;
-    MainWindow& main = program.main;
+    void TypeInto(QDialog& dialog, const char* list, const char* text) { Type(*List(dialog, list).lineEdit(), text); }
 };
 
 // Each control holds its own field: two that were mixed up would connect elsewhere than what stands there.
@@ -32,26 +25,26 @@ TEST_F(LinksWindow, TheServersDialogGivesEachOfItsFields)
     main.frmTcp.bBackupBeacon = main.frmTcp.bAutoTCP = false;
     main.serverLists.ServerFilterList.Set("filter m/50", "filter m/50");
     WhenModal([&](QDialog& dialog) {
-        EXPECT_EQ(Text(program.Find<QComboBox>("cboServer", &dialog)), "former");
-        EXPECT_EQ(Text(program.Find<QComboBox>("cboPort", &dialog)), "1");
-        EXPECT_EQ(program.Find<QComboBox>("cboBackupFilter", &dialog).itemText(0), QStringLiteral("filter m/50"));
-        EXPECT_FALSE(program.Find<QComboBox>("cboBackupServer", &dialog).isEnabled());
+        EXPECT_EQ(List(dialog, "cboServer").currentText(), QStringLiteral("former"));
+        EXPECT_EQ(List(dialog, "cboPort").currentText(), QStringLiteral("1"));
+        EXPECT_EQ(List(dialog, "cboBackupFilter").itemText(0), QStringLiteral("filter m/50"));
+        EXPECT_FALSE(List(dialog, "cboBackupServer").isEnabled());
         TypeInto(dialog, "cboServer", "prime");
         TypeInto(dialog, "cboPort", "14580");
         TypeInto(dialog, "cboFilter", "filter r/1/2/3");
-        program.Find<QCheckBox>("chkReconnect", &dialog).click();
-        EXPECT_TRUE(program.Find<QComboBox>("cboBackupServer", &dialog).isEnabled());
-        Type(program.Find<QLineEdit>("txtNumber", &dialog), "3");
+        Box(dialog, "chkReconnect").click();
+        EXPECT_TRUE(List(dialog, "cboBackupServer").isEnabled());
+        Type(Edit(dialog, "txtNumber"), "3");
         TypeInto(dialog, "cboBackupServer", "spare");
         TypeInto(dialog, "cboBackupPort", "10152");
         TypeInto(dialog, "cboBackupFilter", "filter t/m");
         for (const char* box : {"chkServerBeacon", "chkBackupBeacon", "chkAdd", "chkAuto"})
-            program.Find<QCheckBox>(box, &dialog).click();
-        program.Find<QPushButton>("OK", &dialog).click();
+            Box(dialog, box).click();
+        Button(dialog, "OK").click();
     });
-    program.Action("mnuConnectServer").trigger();
+    Action("mnuConnectServer").trigger();
     const ServerForm& form = main.frmTcp;
-    EXPECT_EQ(program.wires.opened, "connect prime 14580 15");
+    EXPECT_EQ(wires.opened, "connect prime 14580 15");
     EXPECT_EQ(form.sServerFilter, "filter r/1/2/3");
     EXPECT_EQ(form.sBackupServer + '|' + form.sBackupFilter, "spare|filter t/m");
     EXPECT_EQ(form.iBackupPort, 10152);
@@ -63,45 +56,44 @@ TEST_F(LinksWindow, TheServersDialogGivesEachOfItsFields)
 TEST_F(LinksWindow, TheTncsDialogShowsWhatItsLinkNeeds)
 {
     WhenModal([&](QDialog& dialog) {
-        const auto& port = program.Find<QComboBox>("cboSerialPort", &dialog);
-        const auto& address = program.Find<QLineEdit>("txtSocketAddress", &dialog);
-        auto& gps = program.Find<QCheckBox>("chkTncGps", &dialog);
-        const auto& rate = program.Find<QComboBox>("cboUpdateRate", &dialog);
+        const auto& port = List(dialog, "cboSerialPort");
+        const auto& address = Edit(dialog, "txtSocketAddress");
+        auto& gps = Box(dialog, "chkTncGps");
+        const auto& rate = List(dialog, "cboUpdateRate");
         EXPECT_TRUE(port.isVisible() && !address.isVisible() && gps.isEnabled() && !rate.isEnabled());
         gps.click();
         EXPECT_TRUE(rate.isEnabled());
-        auto& link = program.Find<QComboBox>("cboConnect", &dialog);
+        auto& link = List(dialog, "cboConnect");
         link.setFocus();
         QTest::keyClick(&link, Qt::Key_Down);
         EXPECT_TRUE(!port.isVisible() && address.isVisible() && !gps.isEnabled() && !rate.isEnabled());
-        EXPECT_EQ(address.text(), QStringLiteral("127.0.0.1"));
-        Type(program.Find<QLineEdit>("txtSocketPort", &dialog), "8001");
-        program.Find<QCheckBox>("chkAuto", &dialog).click();
-        program.Find<QPushButton>("OK", &dialog).click();
+        Type(Edit(dialog, "txtSocketPort"), "8001");
+        Box(dialog, "chkAuto").click();
+        Button(dialog, "OK").click();
     });
-    program.Action("mnuConnect").trigger();
-    EXPECT_EQ(program.wires.opened, "socket 127.0.0.1 8001");
+    Action("mnuConnect").trigger();
+    EXPECT_EQ(wires.opened, "socket 127.0.0.1 8001");
     EXPECT_TRUE(main.commDialog.bAutoConnect);
     EXPECT_FALSE(main.commDialog.bAutoSerialPort);
 
     WhenModal([&](QDialog& dialog) {
-        auto& link = program.Find<QComboBox>("cboConnect", &dialog);
+        auto& link = List(dialog, "cboConnect");
         EXPECT_EQ(link.currentIndex(), 1);
         link.setFocus();
         QTest::keyClick(&link, Qt::Key_Up);
         TypeInto(dialog, "cboSerialPort", "/dev/tnc");
         TypeInto(dialog, "cboSerialBaud", "9600");
-        program.Find<QPushButton>("OK", &dialog).click();
+        Button(dialog, "OK").click();
     });
-    program.Action("mnuConnect").trigger();
-    EXPECT_EQ(program.wires.opened, "serial /dev/tnc 9600 xon");
+    Action("mnuConnect").trigger();
+    EXPECT_EQ(wires.opened, "serial /dev/tnc 9600 xon");
 }
 
 // Each entry below the button says what it would do now to its own link, and does as that of the menu bar.
 TEST_F(LinksWindow, TheConnectButtonOpensItsMenu)
 {
-    QAction& connect = program.Action("tbConnect");
-    auto* button = qobject_cast<QToolButton*>(program.Find<QToolBar>("tbToolBar").widgetForAction(&connect));
+    QAction& connect = Action("tbConnect");
+    auto* button = qobject_cast<QToolButton*>(Find<QToolBar>("tbToolBar").widgetForAction(&connect));
     ASSERT_TRUE(button && connect.menu());
     EXPECT_EQ(button->popupMode(), QToolButton::InstantPopup);
     const auto texts = [&] {
@@ -115,7 +107,7 @@ TEST_F(LinksWindow, TheConnectButtonOpensItsMenu)
     main.links.bGpsConnected = true;
     EXPECT_EQ(texts(), "Connect TNC...|Disconnect APRS Server|Disconnect GPS|Connect Wx Station...");
     main.links.bGpsConnected = false;
-    QAction& server = program.Action("mnuTbConnectServer");
+    QAction& server = Action("mnuTbConnectServer");
     EXPECT_FALSE(connect.icon().isNull() || server.icon().isNull());
     server.trigger();
     EXPECT_FALSE(main.links.bServerConnected);
@@ -126,32 +118,25 @@ TEST_F(LinksWindow, TheConnectButtonOpensItsMenu)
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Connect Wx Station"));
         dialog.close();
     });
-    program.Action("mnuTbConnectWx").trigger();
+    Action("mnuTbConnectWx").trigger();
 }
 
 TEST_F(LinksWindow, ThePanelWarnsAndItsTipGrowsOlderWhileItIsSeen)
 {
-    auto& panel = program.Find<ElidedLabel>("panelServer");
+    auto& panel = Find<ElidedLabel>("panelServer");
     ConnectServerLink(main);
-    program.wires.Tick(2s);
+    wires.Tick(2s);
     EXPECT_TRUE(QTest::qWaitFor([&] { return panel.accessibleDescription().startsWith("Connected for 2 seconds"); }));
     const QImage calm = panel.grab().toImage();
-    program.wires.Tick(60s);
+    wires.Tick(60s);
     CheckServerSilence(main);
     EXPECT_TRUE(QTest::qWaitFor([&] { return panel.toolTip().contains("silent for 1 minute"); }));
     EXPECT_NE(panel.grab().toImage(), calm);
-    EXPECT_TRUE(program.Find<ElidedLabel>("txtPacket").Text().contains("said nothing for a minute"));
-}
-
-// A window that closed has ended the program's loop, also the next one.
-void AllowLoops()
-{
-    QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
-    QApplication::exec();
+    EXPECT_TRUE(Find<ElidedLabel>("txtPacket").Text().contains("said nothing for a minute"));
 }
 
 // The window only paints meanwhile, so the wish to close comes to it afterwards; or a signal's handler has it at once.
-TEST_F(LinksWindow, ClosedInTheMidstOfAConnectItEndsAfterIt)
+TEST(ConnectingWindow, ClosedInTheMidstOfAConnectItEndsAfterIt)
 {
     for (const bool bRefuse : {true, false}) {
         WindowProgram closed;
@@ -163,13 +148,14 @@ TEST_F(LinksWindow, ClosedInTheMidstOfAConnectItEndsAfterIt)
             closed.window.close();
             bShown = closed.window.isVisible();
         };
-        WhenModal([&](QDialog& dialog) { closed.Find<QPushButton>("OK", &dialog).click(); });
+        WhenModal([&](QDialog& dialog) { closed.Button(dialog, "OK").click(); });
         closed.Action("mnuConnectServer").trigger();
         EXPECT_TRUE(bShown); // The connect is on the stack below it.
         EXPECT_FALSE(closed.window.isVisible());
-        EXPECT_FALSE(closed.wires.IsKept());
-        EXPECT_FALSE(closed.main.links.bServerConnected);
-        AllowLoops();
+        EXPECT_FALSE(closed.wires.IsKept() || closed.main.links.bServerConnected);
+        // A window that closed has ended the program's loop, also the next one.
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
+        QApplication::exec();
     }
 }
 

@@ -5,6 +5,8 @@
 namespace ruvenmark {
 namespace {
 
+using MenuBinderTest = WindowTest;
+
 std::vector<MenuEntry> EntriesOf(const MainWindow& main, Menu menu)
 {
     std::vector<MenuEntry> entries;
@@ -19,16 +21,15 @@ std::vector<MenuEntry> EntriesOf(const MainWindow& main, Menu menu)
     return entries;
 }
 
-TEST(MenuBinderTest, EveryEntryOfTheMenuBarRunsItsCommand)
+TEST_F(MenuBinderTest, EveryEntryOfTheMenuBarRunsItsCommand)
 {
-    WindowProgram program;
     std::vector<MenuEntry> run;
     QMenuBar bar;
-    MenuBinder binder(program.main, program.icons, [&](MenuEntry entry) { run.push_back(entry); });
+    MenuBinder binder(main, icons, [&](MenuEntry entry) { run.push_back(entry); });
     binder.Fill(bar);
     std::size_t count = 0;
     for (const Menu menu : MenuBar()) {
-        for (const MenuEntry entry : EntriesOf(program.main, menu)) {
+        for (const MenuEntry entry : EntriesOf(main, menu)) {
             auto* action = bar.findChild<QAction*>(QString::fromStdString(std::string(Info(entry).name)));
             ASSERT_NE(action, nullptr) << Info(entry).name;
             action->trigger();
@@ -40,42 +41,35 @@ TEST(MenuBinderTest, EveryEntryOfTheMenuBarRunsItsCommand)
     EXPECT_GT(count, 40U);
 }
 
-TEST(MenuBinderTest, StatesAreThoseOfTheMomentAtWhichAMenuOpens)
+TEST_F(MenuBinderTest, StatesAreThoseOfTheMomentAtWhichAMenuOpens)
 {
-    WindowProgram program;
-    QMenu* file = nullptr;
-    QMenu* edit = nullptr;
-    for (QAction* action : program.window.menuBar()->actions()) {
-        if (action->text() == QStringLiteral("&File"))
-            file = action->menu();
-        if (action->text() == QStringLiteral("&Edit"))
-            edit = action->menu();
-    }
+    const auto menus = window.menuBar()->actions();
+    QMenu* file = menus.at(0)->menu();
+    QMenu* edit = menus.at(1)->menu();
     ASSERT_TRUE(file && edit);
-    QAction& load = program.Action("mnuImportStations");
-    program.main.links.FileLoading = true;
+    QAction& load = Action("mnuImportStations");
+    main.links.FileLoading = true;
     emit file->aboutToShow();
     EXPECT_EQ(load.text(), QStringLiteral("Stop File Loa&ding"));
-    program.main.links.FileLoading = false;
+    main.links.FileLoading = false;
     emit file->aboutToShow();
     EXPECT_EQ(load.text(), QStringLiteral("Loa&d Stations..."));
 
     // What was greyed when the menu was open must not keep its shortcut from working later.
-    QAction& del = program.Action("mnuEditDelete");
+    QAction& del = Action("mnuEditDelete");
     emit edit->aboutToShow();
     EXPECT_FALSE(del.isEnabled());
     emit edit->aboutToHide();
     EXPECT_TRUE(del.isEnabled());
 }
 
-TEST(MenuBinderTest, ThePopUpOfAStationActsOnIt)
+TEST_F(MenuBinderTest, ThePopUpOfAStationActsOnIt)
 {
-    WindowProgram program;
-    program.Hear(Channel::TCP, "N0CALL-9", 40, -90);
-    TreeNode* station = program.main.tvStationList.Find("TCPPositionsN0CALL-9");
+    Hear(Channel::TCP, "N0CALL-9", 40, -90);
+    TreeNode* station = main.tvStationList.Find("TCPPositionsN0CALL-9");
     ASSERT_NE(station, nullptr);
-    program.main.tvStationList.Select(station);
-    emit program.window.StationTree().MenuWanted(station, QPoint(50, 50));
+    main.tvStationList.Select(station);
+    emit window.StationTree().MenuWanted(station, QPoint(50, 50));
     auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(popup, nullptr);
     auto* start = popup->findChild<QAction*>(QStringLiteral("mnuStartTrack"));
@@ -83,7 +77,7 @@ TEST(MenuBinderTest, ThePopUpOfAStationActsOnIt)
     EXPECT_TRUE(start->isEnabled());
     EXPECT_FALSE(popup->findChild<QAction*>(QStringLiteral("mnuStopTrack"))->isEnabled());
     start->trigger();
-    EXPECT_TRUE(program.main.Of(Channel::TCP).Tracked.Contains("N0CALL-9"));
+    EXPECT_TRUE(main.Of(Channel::TCP).Tracked.Contains("N0CALL-9"));
     popup->close();
 }
 

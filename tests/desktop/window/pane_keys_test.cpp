@@ -4,81 +4,70 @@
 #include "desktop/panes/row_model.h"
 #include "window_program.h"
 
-#include <QAbstractButton>
-#include <QClipboard>
-#include <QComboBox>
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QScrollBar>
-#include <QTableView>
-#include <QTextBrowser>
-
 namespace ruvenmark {
 namespace {
 
+using PaneKeysTest = WindowTest;
+
 // The marker of another station, selected before, must not go, nor any unasked, nor the first of the list next.
-TEST(PaneKeysTest, DelInTheStationListIsForItsRowAndAsks)
+TEST_F(PaneKeysTest, DelInTheStationListIsForItsRowAndAsks)
 {
-    WindowProgram program;
-    program.Hear(Channel::TCP, "W2BBB", 40, -90);
-    program.Hear(Channel::TCP, "W3CCC", 41, -90);
-    program.Hear(Channel::TCP, "W4DDD", 42, -90);
-    program.Action("mnuViewStations").trigger();
-    auto& table = program.Find<QTableView>("lvStations");
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&program.window));
+    Hear(Channel::TCP, "W2BBB", 40, -90);
+    Hear(Channel::TCP, "W3CCC", 41, -90);
+    Hear(Channel::TCP, "W4DDD", 42, -90);
+    Action("mnuViewStations").trigger();
+    auto& table = Find<QTableView>("lvStations");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     table.setFocus();
     table.selectRow(0);
     QTest::keyClick(&table, Qt::Key_Return); // Selects its marker.
     table.selectRow(1);
-    Map& map = program.main.mpCtrl.RequireMap();
-    program.prompts.answers = {Answer::No, Answer::Yes};
+    Map& map = main.mpCtrl.RequireMap();
+    prompts.answers = {Answer::No, Answer::Yes};
     for (const char* key : {"Del", "Ctrl+X", "Del"})
         QTest::keySequence(&table, QKeySequence(QString::fromLatin1(key)));
-    EXPECT_EQ(program.prompts.questions,
-              std::vector<std::string>(2, "Are you sure you want to delete report for W3CCC?"));
-    EXPECT_FALSE(program.main.Of(Channel::TCP).Stations.Contains("W3CCC"));
+    EXPECT_EQ(prompts.questions, std::vector<std::string>(2, "Are you sure you want to delete report for W3CCC?"));
+    EXPECT_FALSE(main.Of(Channel::TCP).Stations.Contains("W3CCC"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return table.model()->rowCount() == 2; }));
     EXPECT_EQ(table.currentIndex().siblingAtColumn(0).data().toString(), QStringLiteral("W4DDD"));
-    program.Hear(Channel::TCP, "W3CCC", 41, -90);
+    Hear(Channel::TCP, "W3CCC", 41, -90);
     table.selectRow(0);
     QTest::keyClick(&table, Qt::Key_Return);
     for (const char* name : {"cboHeardWithin", "chkHeardDirectly"}) {
-        auto& box = program.Find<QWidget>(name);
+        auto& box = Find<QWidget>(name);
         box.setFocus();
         for (const char* key : {"Del", "Ctrl+X"})
             QTest::keySequence(&box, QKeySequence(QString::fromLatin1(key)));
     }
     EXPECT_TRUE(map.FindPushpin("W2BBB(t)"));
-    EXPECT_EQ(program.prompts.questions.size(), 2U);
+    EXPECT_EQ(prompts.questions.size(), 2U);
 }
 
-TEST(PaneKeysTest, TheStationListIsArrangedAsItWasHidden)
+TEST_F(PaneKeysTest, TheStationListIsArrangedAsItWasHidden)
 {
-    WindowProgram program;
-    program.Hear(Channel::TCP, "W2BBB", 40, -90);
-    program.Action("mnuViewStations").trigger();
-    program.Find<QLineEdit>("txtStationCalls").setText(QStringLiteral("w2"));
-    program.Find<QComboBox>("cboHeardWithin").setCurrentIndex(2);
-    auto* header = program.Find<QTableView>("lvStations").horizontalHeader();
+    Hear(Channel::TCP, "W2BBB", 40, -90);
+    Action("mnuViewStations").trigger();
+    Find<QLineEdit>("txtStationCalls").setText(QStringLiteral("w2"));
+    Find<QComboBox>("cboHeardWithin").setCurrentIndex(2);
+    auto* header = Find<QTableView>("lvStations").horizontalHeader();
     header->resizeSection(1, 177);
     header->setSortIndicator(3, Qt::DescendingOrder);
-    program.Action("mnuViewStations").trigger();
+    Action("mnuViewStations").trigger();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    program.Action("mnuViewStations").trigger();
-    EXPECT_EQ(program.Find<QLineEdit>("txtStationCalls").text(), QStringLiteral("w2"));
-    EXPECT_EQ(program.Find<QComboBox>("cboHeardWithin").currentIndex(), 2);
-    header = program.Find<QTableView>("lvStations").horizontalHeader();
+    Action("mnuViewStations").trigger();
+    EXPECT_EQ(Find<QLineEdit>("txtStationCalls").text(), QStringLiteral("w2"));
+    EXPECT_EQ(Find<QComboBox>("cboHeardWithin").currentIndex(), 2);
+    header = Find<QTableView>("lvStations").horizontalHeader();
     EXPECT_EQ(header->sectionSize(1), 177);
     EXPECT_EQ(header->sortIndicatorSection(), 3);
     EXPECT_EQ(header->sortIndicatorOrder(), Qt::DescendingOrder);
 }
 
-TEST(PaneKeysTest, CopyTakesTheSelectedMessagesWhole)
+TEST_F(PaneKeysTest, CopyTakesTheSelectedMessagesWhole)
 {
     RowList list;
     for (const char* call : {"N1X", "N2X", "N3X"})
         list.Add({call, "N0CALL", "", "", "hello", ""}, false);
-    const IconSet icons;
     RowModel model(list, icons, {"From", "To", "Via", "Date", "Text", "Number"});
     RowListView view(list, model);
     list.Select(0, true);
@@ -87,15 +76,14 @@ TEST(PaneKeysTest, CopyTakesTheSelectedMessagesWhole)
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("N1X\tN0CALL\t\t\thello\t\nN3X\tN0CALL\t\t\thello\t"));
 }
 
-TEST(PaneKeysTest, FindInTheManualStaysThere)
+TEST_F(PaneKeysTest, FindInTheManualStaysThere)
 {
-    WindowProgram program;
-    program.Action("mnuRuvenmarkHelp").trigger();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&program.window));
-    auto& page = program.Find<QTextBrowser>("webCtrl");
+    Action("mnuRuvenmarkHelp").trigger();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    auto& page = Find<QTextBrowser>("webCtrl");
     page.setFocus();
     QTest::keySequence(&page, QKeySequence::Find);
-    auto& find = program.Find<QLineEdit>("txtFindInPage");
+    auto& find = Find<QLineEdit>("txtFindInPage");
     ASSERT_TRUE(find.isVisible());
     EXPECT_TRUE(page.isVisible());
     QTest::keyClicks(&find, QStringLiteral("marker"));

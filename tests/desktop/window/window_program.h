@@ -60,6 +60,10 @@ struct WindowProgramOver : TestMachine<MemorySettingsStore, QtYield, Wires> {
         EXPECT_NE(widget, nullptr) << name;
         return *widget;
     }
+    QPushButton& Button(QDialog& in, const char* name) { return Find<QPushButton>(name, &in); }
+    QLineEdit& Edit(QDialog& in, const char* name) { return Find<QLineEdit>(name, &in); }
+    QComboBox& List(QDialog& in, const char* name) { return Find<QComboBox>(name, &in); }
+    QCheckBox& Box(QDialog& in, const char* name) { return Find<QCheckBox>(name, &in); }
 };
 
 inline void Type(QLineEdit& edit, const char* text)
@@ -70,6 +74,8 @@ inline void Type(QLineEdit& edit, const char* text)
 }
 
 using WindowProgram = WindowProgramOver<FakeByteLinks>;
+
+struct WindowTest : testing::Test, WindowProgram {};
 
 // Once a modal window has come up, does the work with it. The work must close it.
 inline void WhenModal(const std::function<void(QDialog&)>& work)
