@@ -96,24 +96,19 @@ TEST_F(LinksWindow, TheConnectButtonOpensItsMenu)
     auto* button = qobject_cast<QToolButton*>(Find<QToolBar>("tbToolBar").widgetForAction(&connect));
     ASSERT_TRUE(button && connect.menu());
     EXPECT_EQ(button->popupMode(), QToolButton::InstantPopup);
-    const auto texts = [&] {
+    const auto texts = [&](bool bServer, bool bOther) {
+        main.links.bServerConnected = main.links.bGpsConnected = bServer;
+        main.links.bSocketConnected = main.links.bWxConnected = bOther;
         emit connect.menu()->aboutToShow();
         QStringList shown;
         for (const QAction* entry : connect.menu()->actions())
             shown << entry->text();
         return shown.join(QLatin1Char('|')).toStdString();
     };
-    ConnectServerLink(main);
-    main.links.bGpsConnected = true;
-    EXPECT_EQ(texts(), "Connect TNC...|Disconnect APRS Server|Disconnect GPS|Connect Wx Station...");
-    main.links.bGpsConnected = false;
-    QAction& server = Action("mnuTbConnectServer");
-    EXPECT_FALSE(connect.icon().isNull() || server.icon().isNull());
-    server.trigger();
-    EXPECT_FALSE(main.links.bServerConnected);
-    main.links.bSocketConnected = main.links.bWxConnected = true;
-    EXPECT_EQ(texts(), "Disconnect TNC|Connect APRS Server...|Connect GPS...|Disconnect Wx Station");
-    main.links.bSocketConnected = main.links.bWxConnected = false;
+    EXPECT_EQ(texts(true, false), "Connect TNC...|Disconnect APRS Server|Disconnect GPS|Connect Wx Station...");
+    EXPECT_EQ(texts(false, true), "Disconnect TNC|Connect APRS Server...|Connect GPS...|Disconnect Wx Station");
+    texts(false, false);
+    EXPECT_FALSE(connect.icon().isNull() || Action("mnuTbConnectServer").icon().isNull());
     WhenModal([&](QDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Connect Wx Station"));
         dialog.close();

@@ -87,7 +87,7 @@ TEST(BaseMapTest, CutShortAnywhereIsAFailure)
 {
     Bytes bytes;
     const std::size_t size = bytes.All().size();
-    std::vector<std::size_t> lengths{0, 1, 8, 31, 32, 33, 71, 72, size / 3, size / 2, size - 8, size - 1};
+    std::vector<std::size_t> lengths{0, 31, 32, 33, 71, 72, size - 8, size - 1};
     for (std::size_t at = 0; at < size; at += size / 97)
         lengths.push_back(at);
     for (const std::size_t length : lengths) {

@@ -8,32 +8,25 @@
 namespace ruvenmark {
 namespace {
 
-class StationLabelsTest : public MapFixture {
-protected:
-    std::vector<QRectF> Rects() const
-    {
-        std::vector<QRectF> rects;
-        for (const auto& name : widget.Scene().Labels().Names())
-            rects.push_back(name.rect);
-        for (const auto& badge : widget.Scene().Labels().Badges())
-            rects.push_back(badge.rect);
-        return rects;
-    }
-};
+using StationLabelsTest = MapFixture;
 
 TEST_F(StationLabelsTest, NothingOverprints)
 {
     for (int i = 0; i < 2000; ++i)
         AddPin({i * 137 % 800 + 0.3 * (i % 7), i * 71 % 600 + 0.7 * (i % 3)}, "K" + std::to_string(i) + "XYZ-15");
     Painted();
-    const std::vector<QRectF> rects = Rects();
+    std::vector<QRectF> rects;
+    for (const auto& badge : widget.Scene().Labels().Badges())
+        rects.push_back(badge.rect);
+    for (const auto& name : widget.Scene().Labels().Names()) {
+        rects.push_back(name.rect);
+        for (const MarkerItem& item : widget.Scene().Markers().Items())
+            ASSERT_FALSE(name.rect.contains(item.at)) << "a name lies on a marker";
+    }
     ASSERT_GT(rects.size(), 100U);
     for (std::size_t i = 0; i < rects.size(); ++i)
         for (std::size_t j = i + 1; j < rects.size(); ++j)
             ASSERT_FALSE(rects[i].intersects(rects[j])) << i << " and " << j;
-    for (const auto& name : widget.Scene().Labels().Names())
-        for (const MarkerItem& item : widget.Scene().Markers().Items())
-            ASSERT_FALSE(name.rect.contains(item.at)) << "a name lies on a marker";
 }
 
 TEST_F(StationLabelsTest, NoNameLiesUnderButtonsScaleBarAndCredits)

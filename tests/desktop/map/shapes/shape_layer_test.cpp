@@ -1,15 +1,11 @@
+#include "desktop/map/base_map/world_map.h"
 #include "desktop/map/shapes/shape_layer.h"
 #include "platform/map_model.h"
 
-#include <QImage>
-#include <QPainter>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <random>
 
 namespace ruvenmark {
@@ -77,20 +73,12 @@ protected:
     }
 
     // How many pixels of the kept picture are not as those of one that is painted at once. Blending twice rounds twice.
-    int Differing(const ViewFrame& frame)
+    std::size_t Differing(const ViewFrame& frame)
     {
         const QImage kept = Kept(frame);
-        const QImage whole = Picture([&](QPainter& painter) { PaintShapes(painter, layout.InView(), frame, look); });
-        int differing = 0;
-        for (int y = 0; y < kept.height(); ++y) {
-            for (int x = 0; x < kept.width(); ++x) {
-                const QRgb a = kept.pixel(x, y), b = whole.pixel(x, y);
-                const int most = std::max(
-                    {std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)), std::abs(qBlue(a) - qBlue(b))});
-                differing += most > 12 ? 1 : 0;
-            }
-        }
-        return differing;
+        constexpr int kRounded = 24;
+        return DifferentPixels(
+            kept, Picture([&](QPainter& painter) { PaintShapes(painter, layout.InView(), frame, look); }), kRounded);
     }
 
     bool WaitForPicture()
@@ -122,15 +110,15 @@ TEST_F(ShapeLayerTest, AMovedPictureIsAsOnePaintedAtOnce)
     for (const qreal device : {1.0, 1.5, 2.0}) {
         ratio = device;
         Kept(FrameAt(0, 0));
-        EXPECT_EQ(Differing(FrameAt(0, 0)), 0) << device;
+        EXPECT_EQ(Differing(FrameAt(0, 0)), 0U) << device;
         double east = 0, south = 0;
         for (int i = 0; i < 5; ++i) {
             east += i % 3 * 15 - 7;
             south += i % 2 * 31 - 12;
-            EXPECT_LT(Differing(FrameAt(east, south)), 20) << device << " step " << i;
+            EXPECT_LT(Differing(FrameAt(east, south)), 20U) << device << " step " << i;
             EXPECT_LT(RenewedPixels(), kWidth * kHeight * device * device / 4);
         }
-        EXPECT_LT(Differing(FrameAt(east + 3000, south)), 20) << device; // Nothing of the old picture is left in view.
+        EXPECT_LT(Differing(FrameAt(east + 3000, south)), 20U) << device; // Nothing of the old picture is left in view.
     }
 }
 
@@ -142,7 +130,7 @@ TEST_F(ShapeLayerTest, AChangedLineIsRenewedWhereItIs)
     Kept(frame);
     const auto change = [&](const char* what, auto work) {
         work();
-        EXPECT_EQ(Differing(frame), 0) << what;
+        EXPECT_EQ(Differing(frame), 0U) << what;
         EXPECT_GT(RenewedPixels(), 0) << what;
         EXPECT_LT(RenewedPixels(), kWidth * kHeight / 4) << what;
     };
@@ -163,11 +151,11 @@ TEST_F(ShapeLayerTest, AChangedLineIsRenewedWhereItIs)
     change("added in a slot that was free", [&] { shapes.Add(Step({40, -90}, random)); });
     look.selected = recolored.slot;
     look.highlight = Qt::blue;
-    EXPECT_EQ(Differing(frame), 0) << "selected";
+    EXPECT_EQ(Differing(frame), 0U) << "selected";
     look.selected.reset();
     shapes.Clear();
     Kept(frame);
-    EXPECT_EQ(Differing(frame), 0) << "another map";
+    EXPECT_EQ(Differing(frame), 0U) << "another map";
 }
 
 // So many that a frame has no time for all.
@@ -177,16 +165,13 @@ protected:
 
     static double Inked(const QImage& picture) // Share of the pixels.
     {
-        int inked = 0;
-        for (int y = 0; y < picture.height(); ++y)
-            for (int x = 0; x < picture.width(); ++x)
-                inked += qGreen(picture.pixel(x, y)) < 250 ? 1 : 0;
-        return double{1} * inked / (picture.width() * picture.height());
+        const auto isInked = [&](int x, int y) { return qGreen(picture.pixel(x, y)) < 250; };
+        return static_cast<double>(CountPixels(picture, isInked)) / (picture.width() * picture.height());
     }
     void ExpectExactSoon(const ViewFrame& frame, const char* what)
     {
         EXPECT_TRUE(WaitForPicture()) << what;
-        EXPECT_LT(Differing(frame), 20) << what;
+        EXPECT_LT(Differing(frame), 20U) << what;
         EXPECT_TRUE(layer.IsReady()) << what;
     }
 };
@@ -212,7 +197,7 @@ TEST_F(ManyShapesTest, AfterAZoomTheLastPictureStandsInUntilTheNextIsMade)
             EXPECT_GT(Inked(meanwhile.copy(meanwhile.rect().adjusted(150, 120, -150, -120))), 0.1) << next;
             EXPECT_GT(Inked(meanwhile.copy(0, 0, 40, 40)), 0.02) << next << ": a corner that was not seen before";
             ExpectExactSoon(frame, "zoomed");
-            EXPECT_LT(Differing(FrameAt(9, -5)), 20) << next << ", moved then";
+            EXPECT_LT(Differing(FrameAt(9, -5)), 20U) << next << ", moved then";
             EXPECT_TRUE(layer.IsReady()) << "a move is painted at once";
         }
         Kept(FrameAt(0, 200 * ratio));
@@ -235,7 +220,7 @@ TEST_F(ManyShapesTest, WhatChangesWhileAPictureIsMadeIsNotLost)
     zoom = 10;
     Kept(FrameAt(0, 0));
     ASSERT_LT(layout.Lines().size(), ShapeLayer::kAtOnce);
-    EXPECT_EQ(Differing(FrameAt(0, 0)), 0) << "few enough to be painted";
+    EXPECT_EQ(Differing(FrameAt(0, 0)), 0U) << "few enough to be painted";
     ExpectExactSoon(FrameAt(0, 0), "after the picture of another scale has come");
     zoom = 7.1;
     Kept(FrameAt(0, 0));
@@ -261,7 +246,7 @@ TEST_F(ManyShapesTest, APictureThatIsFullMovesOnToBareGround)
     EXPECT_TRUE(WaitForPicture());
     ASSERT_EQ(Inked(Kept(frameAt(-20))), 1);
     for (const double beyond : {20, 60, 100, 140})
-        EXPECT_LT(Differing(frameAt(beyond)), 20) << beyond;
+        EXPECT_LT(Differing(frameAt(beyond)), 20U) << beyond;
     EXPECT_TRUE(layer.IsReady()) << "all painted at once";
     EXPECT_LT(Inked(Kept(frameAt(140))), 1);
 }

@@ -50,28 +50,21 @@ protected:
         if (pins.size() < 40 || what == 0)
             return AddAny();
         Pushpin& pin = pins[static_cast<std::size_t>(Below(static_cast<int>(pins.size())))];
-        switch (what) {
-        case 1:
+        if (what == 1) {
             pin.SetBalloonState(Below(2));
-            break;
-        case 2:
+        } else if (what == 2) {
             pin.SetName("N" + std::to_string(Below(90000)));
-            break;
-        case 3:
+        } else if (what == 3) {
             pin.SetSymbol(static_cast<std::int16_t>(79 + Below(20)));
-            break;
-        case 4:
+        } else if (what == 4) {
             pin.Delete();
             std::swap(pin, pins.back());
             pins.pop_back();
-            break;
-        case 5:
+        } else if (what == 5) {
             TheMap().AddLine(Anywhere(), Anywhere()).SetEndArrowhead(true);
-            break;
-        case 6:
+        } else if (what == 6) {
             now += Below(300);
-            break;
-        default:
+        } else {
             pin.SetLocation(Anywhere());
         }
     }
@@ -109,19 +102,16 @@ TEST_F(ChangedPlaces, ArePaintedAsTheWholeIs)
 // Its balloon lies elsewhere than the marker and its name.
 TEST_F(ChangedPlaces, TheBalloonOfADeletedMarkerGoes)
 {
-    for (int i = 0; i < 5; ++i)
-        AddAny();
     Pushpin pin = AddPin({350, 250}, "N0CALL", "a note", false);
     ASSERT_TRUE(Settle());
-    const QImage before = Screen();
-    QTest::mouseMove(&widget, {350, 250});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return widget.OpenBalloons().Hovered() == pin.Ref(); }));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return Screen() != before; }));
-    ASSERT_TRUE(Settle());
-    const QImage told = Screen();
-    pin.Delete();
-    ASSERT_TRUE(QTest::qWaitFor([&] { return Screen() != told; }));
-    ASSERT_TRUE(Settle());
+    const auto changes = [&](auto work) {
+        const QImage before = Screen();
+        work();
+        return QTest::qWaitFor([&] { return Screen() != before; }) && Settle();
+    };
+    ASSERT_TRUE(changes([&] { QTest::mouseMove(&widget, {350, 250}); }));
+    ASSERT_EQ(widget.OpenBalloons().Hovered(), pin.Ref());
+    ASSERT_TRUE(changes([&] { pin.Delete(); }));
     const QImage painted = Screen();
     widget.repaint();
     EXPECT_EQ(painted, Screen());

@@ -61,12 +61,8 @@ TEST_F(HostileTextTest, BalloonsClipWhatIsTooLongAndStayInTheWindow)
             EXPECT_GE(balloon.Rect().left(), area.left());
             EXPECT_LE(balloon.Rect().right(), area.right() + 1);
         }
+        EXPECT_EQ(BalloonOf(pin).title, ForDisplay(text));
     }
-    PinData pin;
-    pin.name = "<b>K1ABC</b>";
-    pin.note = "<i>73</i> &amp; more\r\n\r\n";
-    EXPECT_EQ(BalloonOf(pin).title, "<b>K1ABC</b>");
-    EXPECT_EQ(BalloonOf(pin).lines, QStringList{"<i>73</i> &amp; more"});
 }
 
 } // namespace
