@@ -134,6 +134,18 @@ TEST_F(HeapTest, TwoQuickClicksDoNotZoomAndTheBadgeCountsAsThePicture)
     EXPECT_FALSE(list.isVisible()) << "its markers are gone";
 }
 
+TEST_F(HeapTest, TheSelectedOneStandsAloneOnTop)
+{
+    selection = pins[1];
+    widget.update();
+    Painted();
+    const auto& items = widget.Scene().Markers().Items();
+    ASSERT_EQ(items.size(), 2U);
+    EXPECT_EQ(items.back().slot, pins[1].Ref().slot);
+    ASSERT_EQ(widget.Scene().Labels().Names().size(), 1U);
+    EXPECT_EQ(widget.Scene().Labels().Names()[0].slot, pins[1].Ref().slot);
+}
+
 TEST_F(MapWidgetTest, PointsOfATrailAreSmallAndNoCrowd)
 {
     for (int i = 0; i < 40; ++i)
