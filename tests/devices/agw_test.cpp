@@ -26,6 +26,12 @@ std::string Heard(const std::string& info)
     return Frame('K', '\0' + MakeUiFrame("W1AW", "APRS", "", info));
 }
 
+// The length in its header is absurd.
+std::string BrokenFrame()
+{
+    return Frame('K', "").replace(28, 4, "\xFF\xFF\xFF\x7F");
+}
+
 const std::string kPorts = Frame('G', "2;Port1 radio;Port2 radio;\0"s);
 
 struct Agw : testing::Test {
@@ -34,9 +40,16 @@ struct Agw : testing::Test {
     RecordedEvents recorded;
     std::unique_ptr<AgwSource> source = std::make_unique<AgwSource>(links, recorded.sink, counts);
 
+    // A new one, which waits for the engine.
+    void Start()
+    {
+        source = std::make_unique<AgwSource>(links, recorded.sink, counts);
+        recorded.events.clear();
+        source->ConnectSocket("engine", 8000, kAccessToken);
+    }
     void Connect()
     {
-        source->ConnectSocket("engine", 8000, kAccessToken);
+        Start();
         links.Open();
         links.Say(kPorts);
         recorded.events.clear();
@@ -47,7 +60,7 @@ struct Agw : testing::Test {
 // Raw monitoring is turned on and off by turns: asked for twice, nothing would be heard.
 TEST_F(Agw, AsksForPortsAndOnceForRawFrames)
 {
-    source->ConnectSocket("engine", 8000, kAccessToken);
+    Start();
     EXPECT_EQ(links.opened, "socket engine 8000");
     EXPECT_EQ(links.Written(), "");
     links.Open();
@@ -59,19 +72,13 @@ TEST_F(Agw, AsksForPortsAndOnceForRawFrames)
 
 TEST_F(Agw, HearsRawFramesAmongOthersHoweverTheyArrive)
 {
-    const std::string info = ">a\xFF\x1C";
     const std::string text = Frame('U', " 1:Fm W1AW To APRS <UI pid=F0 Len=3 >\r>no\r");
-    ForEveryCut(text + Heard(info) + Frame('K', "") + Frame('K', "\0short"s) + Frame('z', "?") + Heard(">b"),
+    ForEveryCut(text + Heard(">a\xFF\x1C") + Frame('K', "") + Frame('K', "\0short"s) + Frame('z', "?") + Heard(">b"),
                 [&](const std::vector<std::string>& pieces) {
-                    FakeByteLinks engine;
-                    RecordedEvents heard;
-                    AgwSource agw(engine, heard.sink, counts);
-                    agw.ConnectSocket("engine", 8000, kAccessToken);
-                    engine.Open();
-                    for (const std::string& piece : pieces)
-                        engine.Say(piece);
-                    EXPECT_EQ(heard.Raw().size(), 2U);
-                    EXPECT_EQ(heard.events.back(), "ReportStatus b");
+                    Connect();
+                    links.Say(pieces);
+                    EXPECT_EQ(recorded.Raw().size(), 2U);
+                    EXPECT_EQ(recorded.events.back(), "ReportStatus b");
                 });
 }
 
@@ -98,39 +105,30 @@ TEST(AgwFrames, ReadsHeadersAsEnginesWriteThem)
     }
 }
 
-TEST_F(Agw, SendsWholeFramesOnTheFirstPort)
+TEST_F(Agw, SendsOnceItIsOpenAndHasAPort)
 {
-    EXPECT_THROW(source->SendFrame("W1AW", "APRS", "", ">Hi"), Failure);
-    source->ConnectSocket("engine", 8000, kAccessToken);
-    EXPECT_THROW(source->SendFrame("W1AW", "APRS", "", ">Hi"), Failure); // Not open yet.
-    links.Open();
-    links.Written();
-    source->SendFrame("W1AW-7", "APRS", "WIDE1-1", ">Hi");
-    AgwReader reader;
-    reader.Take(links.Written());
-    const auto frame = reader.Next();
-    ASSERT_TRUE(frame);
-    EXPECT_EQ(frame->kind, 'K');
-    EXPECT_EQ(frame->port, 0);
-    EXPECT_EQ(frame->from, "W1AW-7");
-    EXPECT_EQ(ReadUiFrame(frame->data.substr(1)), "W1AW-7>APRS,WIDE1-1:>Hi");
-    EXPECT_THROW(source->SendFrame("W1AW-77", "APRS", "", ">Hi"), Failure);
+    const auto send = [&](std::string_view from) { source->SendFrame(from, "APRS", "WIDE1-1", ">Hi"); };
+    EXPECT_THROW(send("W1AW"), Failure);
+    Start();
+    EXPECT_THROW(send("W1AW"), Failure);
+    Connect();
+    send("W1AW");
+    EXPECT_NE(links.Written(), "");
+    EXPECT_THROW(send("W1AW-77"), Failure);
     links.Say(Frame('G', "0;\0"s));
-    EXPECT_THROW(source->SendFrame("W1AW", "APRS", "", ">Hi"), Failure);
+    EXPECT_THROW(send("W1AW"), Failure);
 }
 
 TEST_F(Agw, FailsOnceAndSaysWhetherItEverStood)
 {
     EXPECT_THROW(source->ConnectSocket("engine", 8000, "1234"), Failure);
     links.bRefuse = true;
-    EXPECT_THROW(source->ConnectSocket("engine", 8000, kAccessToken), Failure);
+    EXPECT_THROW(Start(), Failure);
     links.bRefuse = false;
-    source->ConnectSocket("engine", 8000, kAccessToken);
+    Start();
     links.Lose();
     EXPECT_THAT(recorded.events, ElementsAre("SocketConnectionError"));
     EXPECT_FALSE(links.IsKept());
-
-    source = std::make_unique<AgwSource>(links, recorded.sink, counts);
     Connect();
     links.Lose();
     EXPECT_THAT(recorded.events, ElementsAre("SocketConnectionClosed"));
@@ -141,9 +139,7 @@ TEST_F(Agw, FailsOnceAndSaysWhetherItEverStood)
 TEST_F(Agw, AnAbsurdLengthEndsTheLinkBehindWhatCameWhole)
 {
     Connect();
-    std::string broken = Frame('K', "");
-    broken.replace(28, 4, "\xFF\xFF\xFF\x7F");
-    links.Say(Heard(">last") + broken);
+    links.Say(Heard(">last") + BrokenFrame());
     EXPECT_THAT(recorded.events,
                 ElementsAre("ReportRawData W1AW>APRS:>last", "ReportStatus last", "SocketConnectionClosed"));
     EXPECT_FALSE(links.IsKept());
@@ -152,19 +148,17 @@ TEST_F(Agw, AnAbsurdLengthEndsTheLinkBehindWhatCameWhole)
 // Sockets to a machine that is gone, or to a program that is no engine, stay open for hours.
 TEST_F(Agw, ASilentEngineIsALostOne)
 {
-    source->ConnectSocket("engine", 8000, kAccessToken);
+    Start();
     links.Tick(14750ms);
     EXPECT_THAT(recorded.events, IsEmpty());
     links.Tick(250ms);
     EXPECT_THAT(recorded.events, ElementsAre("SocketConnectionError"));
 
-    source = std::make_unique<AgwSource>(links, recorded.sink, counts);
-    source->ConnectSocket("engine", 8000, kAccessToken);
+    Start();
     links.Open();
     links.Tick(16s);
     EXPECT_EQ(recorded.events.back(), "SocketConnectionClosed");
 
-    source = std::make_unique<AgwSource>(links, recorded.sink, counts);
     Connect();
     EXPECT_EQ(links.WrittenIn(61s), Frame('R', "")); // Nothing on the air: asked, and answered.
     links.Say(Frame('R', std::string(8, '\0')));
@@ -176,15 +170,12 @@ TEST_F(Agw, ASilentEngineIsALostOne)
 
 TEST_F(Agw, DroppedInsideAnyOfItsEventsItFallsSilent)
 {
-    std::string broken = Frame('K', "");
-    broken.replace(28, 4, "\xFF\xFF\xFF\x7F");
-    const auto run = [&](std::unique_ptr<AgwSource>& agw) {
-        agw = std::make_unique<AgwSource>(links, recorded.sink, counts);
-        agw->ConnectSocket("engine", 8000, kAccessToken);
+    const auto run = [&] {
+        Start();
         links.Open();
-        links.Say(Heard(">a") + Heard(">b") + broken);
+        links.Say(Heard(">a") + Heard(">b") + BrokenFrame());
     };
-    EXPECT_TRUE(IsSilentOnceDropped<AgwSource>(6, recorded, run));
+    EXPECT_TRUE(IsSilentOnceDropped(6, recorded, source, run));
 }
 
 } // namespace

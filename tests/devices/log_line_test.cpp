@@ -1,6 +1,4 @@
-#include "app/event_json.h"
 #include "aprs/text.h"
-#include "devices/file_report_source.h"
 #include "devices/log_line.h"
 
 #include <gtest/gtest.h>
@@ -57,17 +55,6 @@ TEST(LogLine, ReadsBackBytesThatDoNotPrint)
     longest.resize(longest.size() + aprs::kMaxLine - head.size() - 1, 'x');
     EXPECT_EQ(read(longest).size(), aprs::kMaxLine);
     EXPECT_EQ(read(longest + 'x'), head + longest + 'x');
-}
-
-TEST(LogLine, LoadsReadLogs)
-{
-    std::string events;
-    EventJsonSink sink([&](const nlohmann::ordered_json& event) { events += event.dump(); });
-    LineCounts counts;
-    FileReportSource source(sink, counts);
-    source.ParseLine(R"(2023-12-24 12:07:19 UTC: N0AAA-9>S32U6T,WIDE1-1:`(_fn<0x1c>Oj/)");
-    EXPECT_NE(events.find(R"("Call":"N0AAA-9")"), std::string::npos) << events;
-    EXPECT_NE(events.find(R"("Speed":20)"), std::string::npos) << events;
 }
 
 } // namespace

@@ -37,19 +37,18 @@ struct RecordedEvents {
 };
 
 // Runs what a source is told with the source dropped inside its first event, its second and so on, and asks that it is
-// silent from there on. `run` makes the source into the pointer and lets it be told; it must come to `count` events.
+// silent from there on. `run` makes the source anew and lets it be told; it must come to `count` events.
 template <class Source, class Recorded>
-bool IsSilentOnceDropped(std::size_t count, Recorded& recorded,
-                         const std::function<void(std::unique_ptr<Source>&)>& run)
+bool IsSilentOnceDropped(std::size_t count, Recorded& recorded, std::unique_ptr<Source>& source,
+                         const std::function<void()>& run)
 {
     for (std::size_t last = 1; last <= count + 1; ++last) {
-        std::unique_ptr<Source> source;
         recorded.events.clear();
         recorded.onEvent = [&] {
             if (recorded.events.size() == last)
                 source.reset();
         };
-        run(source);
+        run();
         recorded.onEvent = [] {};
         if (recorded.events.size() != std::min(last, count) || (source == nullptr) != (last <= count))
             return false;

@@ -24,13 +24,8 @@ TEST(SymbolWords, AllHaveTheirPictures)
         }
     }
     EXPECT_GT(seen.size(), 45U);
-}
-
-TEST(SymbolWords, CodesBeyondTheTablesHaveTheDefault)
-{
-    EXPECT_EQ(SymbolWord({'/', ' '}), "Default");
-    EXPECT_EQ(SymbolWord({'/', '\x7f'}), "Default");
-    EXPECT_EQ(SymbolWord({'\\', '\xff'}), "Default");
+    for (const char beyond : {' ', '\x7f', '\xff'})
+        EXPECT_EQ(SymbolWord({'/', beyond}), "Default");
 }
 
 } // namespace

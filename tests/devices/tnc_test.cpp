@@ -55,9 +55,11 @@ struct Tnc : testing::Test {
     std::unique_ptr<TncSource> source = std::make_unique<TncSource>(links, recorded.sink, counts, &events);
 
     void Open() { source->OpenPort("/dev/ttyS0", 9600, kAccessToken); }
-    // Open, at the prompt, with nothing under way.
+    // A new one, open, at the prompt, with nothing under way.
     void OpenToPrompt()
     {
+        source = std::make_unique<TncSource>(links, recorded.sink, counts, &events);
+        recorded.events.clear();
         Open();
         links.Say("\r\ncmd:");
         links.Written();
@@ -75,13 +77,9 @@ TEST_F(Tnc, MakesOnePacketLineOfEveryFormHeard)
     for (const HeardForm& form : kHeardForms) {
         ForEveryCut(std::string(kChatter) + "\r\n" + form.said + std::string(kChatter),
                     [&](const std::vector<std::string>& pieces) {
-                        FakeByteLinks wire;
-                        RecordedEvents heard;
-                        TncSource tnc(wire, heard.sink, counts);
-                        tnc.OpenPort("/dev/ttyS0", 9600, kAccessToken);
-                        for (const std::string& piece : pieces)
-                            wire.Say(piece);
-                        EXPECT_THAT(heard.Raw(), ElementsAre(form.packet));
+                        OpenToPrompt();
+                        links.Say(pieces);
+                        EXPECT_THAT(recorded.Raw(), ElementsAre(form.packet));
                     });
     }
 }
@@ -192,8 +190,6 @@ TEST_F(Tnc, AHeaderWaitsTwoSeconds)
 TEST_F(Tnc, PutsNothingOnTheAirWhereACommandWasRefused)
 {
     for (const std::string& fault : {"?EH"s, "$\r\nEH?"s, "?bad parameter"s, "?VIA"s, "*** What?"s}) {
-        source = std::make_unique<TncSource>(links, recorded.sink, counts);
-        recorded.events.clear();
         OpenToPrompt();
         Send({"MYCALL NO CALL", "UNPROTO APRS", "CONV", ">Hi"});
         links.Say("cmd:");
@@ -269,28 +265,17 @@ TEST_F(Tnc, ClosingSendsWhatStillWaitsAndGivesUpOnASilentTnc)
     EXPECT_THAT(recorded.events, IsEmpty());
     EXPECT_THROW(source->ClosePort(), Failure);
 
-    source = std::make_unique<TncSource>(links, recorded.sink, counts);
-    OpenToPrompt();
-    Send({"LTM 0"});
-    const Moment begun = links.Now();
-    links.answer = nullptr;
-    source->ClosePort();
-    EXPECT_LE(links.Now() - begun, 4s);
-
-    source = std::make_unique<TncSource>(links, recorded.sink, counts);
-    OpenToPrompt();
-    Send({"LTM 0"});
-    const Moment busy = links.Now();
-    links.answer = [](const std::string& written) { return written.ends_with('\x03') ? "cmd:"s : "LISTS PAGES\r\n"s; };
-    source->ClosePort();
-    EXPECT_EQ(links.Now() - busy, 15s);
-}
-
-TEST_F(Tnc, RefusesWhatWouldPileUp)
-{
-    OpenToPrompt();
-    source->EnterCommandMode();
-    EXPECT_THROW(for (int i = 0; i < 1000; ++i) source->SendCommand("DISPLAY"), Failure);
+    const auto closing = [&](std::function<std::string(const std::string&)> answer) {
+        OpenToPrompt();
+        Send({"LTM 0"});
+        const Moment begun = links.Now();
+        links.answer = std::move(answer);
+        source->ClosePort();
+        return links.Now() - begun;
+    };
+    EXPECT_LE(closing(nullptr), 4s);
+    EXPECT_EQ(closing([](const std::string& written) { return written.ends_with('\x03') ? "cmd:" : "AT WORK\r\n"; }),
+              15s);
 }
 
 // A receiver behind the TNC: one sentence every few seconds or minutes, and no silence is a loss.
@@ -314,6 +299,8 @@ TEST_F(Tnc, TellsALostPortOnceAndRefusesWhatNeedsOne)
     EXPECT_THROW(source->EnterCommandMode(), Failure);
     OpenToPrompt();
     EXPECT_THROW(Open(), Failure);
+    source->EnterCommandMode(); // What would pile up is refused.
+    EXPECT_THROW(for (int i = 0; i < 1000; ++i) source->SendCommand("DISPLAY"), Failure);
     links.Lose();
     EXPECT_THAT(recorded.events, ElementsAre("SocketConnectionClosed"));
     EXPECT_FALSE(links.IsKept());
@@ -322,18 +309,15 @@ TEST_F(Tnc, TellsALostPortOnceAndRefusesWhatNeedsOne)
 
 TEST_F(Tnc, DroppedInsideAnyOfItsEventsItFallsSilent)
 {
-    const auto run = [&](std::unique_ptr<TncSource>& tnc) {
-        tnc = std::make_unique<TncSource>(links, recorded.sink, counts);
-        tnc->OpenPort("/dev/ttyS0", 9600, kAccessToken);
-        links.Say("cmd:");
-        tnc->EnterCommandMode();
-        tnc->SendCommand("NONSENSE");
+    const auto run = [&] {
+        OpenToPrompt();
+        Send({"NONSENSE"});
         links.Say("cmd:");
         links.Say("W1AW>APRS:>a\r\n?EH\r\ncmd:W1AW>APRS:>b\r\n$GPGLL,4807.038,N,01131.000,E\r\n");
         links.Tick(1s);
         links.Lose();
     };
-    EXPECT_TRUE(IsSilentOnceDropped<TncSource>(7, recorded, run));
+    EXPECT_TRUE(IsSilentOnceDropped(7, recorded, source, run));
 }
 
 } // namespace

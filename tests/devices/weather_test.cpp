@@ -19,26 +19,25 @@ struct RecordedWeather final : IWeatherSink {
     std::vector<std::string> events;
     std::function<void()> onEvent = [] {};
 
-    static std::string Text(double value, const char* form)
+    static std::string Text(double value)
     {
         char text[32];
-        std::snprintf(text, sizeof text, form, value);
+        std::snprintf(text, sizeof text, "%.5g", value);
         return value > kAbsent ? text : "-";
+    }
+    void Note(std::string event)
+    {
+        events.push_back(std::move(event));
+        onEvent();
     }
     void UpdateWeather(const WeatherUpdate& update) override
     {
-        events.push_back((update.windDir < 0 ? "-" : std::to_string(update.windDir)) + '/' +
-                         Text(update.windSpeed, "%.4g") + 'g' + Text(update.gust, "%.4g") + " t" +
-                         Text(update.temperature, "%.4g") + " r" + Text(update.rain1, "%.10g") + 'p' +
-                         Text(update.rain24, "%.10g") + 'P' + Text(update.rain12, "%.10g") + " h" +
-                         Text(update.humidity, "%.10g") + " b" + Text(update.pressure, "%.10g"));
-        onEvent();
+        Note((update.windDir < 0 ? "-" : std::to_string(update.windDir)) + '/' + Text(update.windSpeed) + 'g' +
+             Text(update.gust) + " t" + Text(update.temperature) + " r" + Text(update.rain1) + 'p' +
+             Text(update.rain24) + 'P' + Text(update.rain12) + " h" + Text(update.humidity) + " b" +
+             Text(update.pressure));
     }
-    void ConnectionError() override
-    {
-        events.emplace_back("error");
-        onEvent();
-    }
+    void ConnectionError() override { Note("error"); }
 };
 
 struct Weather : testing::Test {
@@ -46,11 +45,22 @@ struct Weather : testing::Test {
     RecordedWeather recorded;
     std::unique_ptr<WeatherServer> server = std::make_unique<WeatherServer>(links, recorded);
 
-    void Open(std::int32_t baud) { server->OpenWxPort("/dev/ttyS0", baud, kAccessToken); }
-    std::vector<std::string> UpdatesOf(const std::string& lines)
+    // A new one.
+    void Open(std::int32_t baud)
     {
         recorded.events.clear();
         server = std::make_unique<WeatherServer>(links, recorded);
+        server->OpenWxPort("/dev/ttyS0", baud, kAccessToken);
+    }
+    // As a console that is asked what its gauge measures.
+    void OpenDavis()
+    {
+        Open(19200);
+        links.Tick(250ms);
+        links.Say("\n\r");
+    }
+    std::vector<std::string> UpdatesOf(const std::string& lines)
+    {
         Open(2400);
         links.Say(lines);
         return recorded.events;
@@ -89,13 +99,9 @@ TEST_F(Weather, TakesWholeLinesOnlyWhereverTheyAreCut)
     EXPECT_THAT(UpdatesOf("!!7FFF00BE7FFF8000000002A88000023A0025005880007FFF\r\n"),
                 ElementsAre("268/-g- t- r-p-P- h- b-")); // Such weather is none.
     ForEveryCut("\xFF!!\r\n" + std::string(kLogger), [&](const std::vector<std::string>& pieces) {
-        FakeByteLinks wire;
-        RecordedWeather weather;
-        WeatherServer station(wire, weather);
-        station.OpenWxPort("/dev/ttyS0", 2400, kAccessToken);
-        for (const std::string& piece : pieces)
-            wire.Say(piece);
-        EXPECT_THAT(weather.events, ElementsAre(kLoggerUpdate));
+        Open(2400);
+        links.Say(pieces);
+        EXPECT_THAT(recorded.events, ElementsAre(kLoggerUpdate));
     });
 }
 
@@ -184,26 +190,14 @@ TEST_F(Weather, FindsDavisPacketsAmongNoise)
     std::string spoilt = DavisPacket(7);
     spoilt[20] = 'x';
     ForEveryCut("LOLOO" + spoilt + DavisPacket(25) + "LOO", [&](const std::vector<std::string>& pieces) {
-        FakeByteLinks wire;
-        RecordedWeather weather;
-        WeatherServer station(wire, weather);
-        station.OpenWxPort("/dev/ttyS0", 19200, kAccessToken);
-        wire.Tick(250ms);
-        wire.Say("\r");
-        wire.Say("!");
-        for (const std::string& piece : pieces)
-            wire.Say(piece);
-        EXPECT_THAT(weather.events, ElementsAre("268/6g6 t74.7 r0p0P25 h57 b10096"));
+        OpenDavis();
+        links.Say("!");
+        links.Say(pieces);
+        EXPECT_THAT(recorded.events, ElementsAre("268/6g6 t74.7 r0p0P25 h57 b10096"));
     });
-    Open(19200);
-    links.Tick(250ms);
-    links.Say("\n\r");
+    OpenDavis();
     EXPECT_EQ(links.WrittenIn(2s), "\nEEBRD 2B 01\nLOOP 200\n");
-
-    server = std::make_unique<WeatherServer>(links, recorded);
-    Open(19200);
-    links.Tick(250ms);
-    links.Say("\n\r");
+    OpenDavis();
     links.Say("\x06" + WithCrc("\x20")); // 0.1 mm a click.
     links.Say("\x06" + DavisPacket(100));
     EXPECT_EQ(recorded.events.back(), "268/6g6 t74.7 r0p0P39 h57 b10096");
@@ -214,7 +208,6 @@ TEST_F(Weather, LeavesAnUltimeterInPeace)
 {
     Open(2400);
     EXPECT_EQ(links.WrittenIn(10s), "");
-    server = std::make_unique<WeatherServer>(links, recorded);
     Open(19200);
     links.Say(kLogger);
     EXPECT_EQ(links.WrittenIn(10s), "");
@@ -229,13 +222,12 @@ TEST_F(Weather, OpensClosesFailsOnceAndFallsSilentOnceDropped)
     EXPECT_EQ(links.opened, "serial /dev/ttyS0 2400");
     server->CloseWxPort();
     EXPECT_FALSE(links.IsKept());
-    const auto run = [&](std::unique_ptr<WeatherServer>& weather) {
-        weather = std::make_unique<WeatherServer>(links, recorded);
-        weather->OpenWxPort("/dev/ttyS0", 2400, kAccessToken);
+    const auto run = [&] {
+        Open(2400);
         links.Say(std::string(kLogger) + std::string(kLogger));
         links.Lose();
     };
-    EXPECT_TRUE(IsSilentOnceDropped<WeatherServer>(3, recorded, run));
+    EXPECT_TRUE(IsSilentOnceDropped(3, recorded, server, run));
     EXPECT_EQ(recorded.events.back(), "error");
 }
 

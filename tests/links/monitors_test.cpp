@@ -16,7 +16,7 @@ TEST(Monitors, EachChannelHasItsOwnAndOnlyRfHasThePacketLine)
     p.Sink(Channel::RF).ReportRawData("one");
     p.Sink(Channel::TCP).ReportRawData("two");
     p.Sink(Channel::FL).ReportRawData("three");
-    SetSetting(p.main.Settings, Setting::LogTcpData, "False");
+    p.Set("LogTcpData=False");
     p.Sink(Channel::TCP).ReportRawData("four");
     p.Sink(Channel::RF).ReportRawData("five");
     EXPECT_EQ(p.main.monitors.txtTNCData.Text(), "one\r\nfive\r\n");
@@ -29,8 +29,7 @@ TEST(Monitors, TheLogsOfTheRunAreWrittenAtItsEnd)
 {
     for (const bool bFails : {false, true}) {
         TestProgram p;
-        SetSetting(p.main.Settings, Setting::TNCLog, "/logs/tnc");
-        SetSetting(p.main.Settings, Setting::TCPLog, "/logs/tcp");
+        p.Set("TNCLog=/logs/tnc TCPLog=/logs/tcp");
         p.files.texts["/logs/tnc"] = p.files.texts["/logs/tcp"] = "before";
         AddTNCData(p.main, "one");
         if (bFails) {
@@ -48,7 +47,8 @@ TEST(Monitors, TheMenuTicksWhatShows)
 {
     TestProgram p;
     for (const auto& [entry, form] :
-         {std::pair{MenuEntry::mnuViewTncData, Form::frmTnc}, std::pair{MenuEntry::mnuViewTcpData, Form::frmTcpData}}) {
+         {std::pair{MenuEntry::mnuViewTncData, Form::frmTnc}, std::pair{MenuEntry::mnuViewTcpData, Form::frmTcpData},
+          std::pair{MenuEntry::mnuViewGPSPanel, Form::frmGpsPanel}}) {
         RunMenuEntry(p.main, entry);
         EXPECT_TRUE(StateOf(entry, {p.main, nullptr}).bChecked);
         EXPECT_TRUE(p.dialogs.visible.contains(form));

@@ -36,6 +36,16 @@ protected:
         LoadStationFile(p.main, "/day.txt");
         EXPECT_FALSE(p.main.replay.bRunning || p.main.replay.bPaused || p.main.replay.jumpTo || p.main.replay.time);
     }
+    // How long a log of lines at these times takes.
+    milliseconds TimeOf(std::initializer_list<const char*> times)
+    {
+        std::string text;
+        for (const char* time : times)
+            text += Line(time, "A");
+        waited = 0ms;
+        Load(text);
+        return waited;
+    }
     std::vector<std::string> Stations() { return p.ChildTexts("FLPositions"); }
     static constexpr std::int32_t kAsHeard = 1, kTenTimes = 4;
 
@@ -75,20 +85,12 @@ TEST_F(Replay, ShortDistancesDoNotAddUpToADelay)
 TEST_F(Replay, MidnightAndAClockSetBackAreNoLongWait)
 {
     p.main.frmImport.speed = kAsHeard;
-    Load(Line("[23:59:58]", "A") + Line("[00:00:01]", "B") + Line("[00:00:03]", "C"));
-    EXPECT_EQ(waited, 5s);
-    waited = 0ms;
-    Load(Line("2026-11-22 10:00:00", "A") + Line("2026-11-22 09:00:00", "B") + Line("2026-11-22 09:00:02", "C"));
-    EXPECT_EQ(waited, 2s);
-    waited = 0ms; // Lines out of order; of the third the day is the one before.
-    Load(Line("[23:59:59]", "A") + Line("[00:00:00]", "B") + Line("[23:59:59]", "C") + Line("[00:00:02]", "D"));
-    EXPECT_EQ(waited, 3s);
-    waited = 0ms;
-    Load(Line("[23:58:00]", "A") + Line("[00:02:00]", "B") + Line("[23:55:00]", "C") + Line("[00:03:00]", "D"));
-    EXPECT_EQ(waited, 12min);
-    waited = 0ms;
-    Load(Line("10:00:00", "A") + Line("10:00:05", "B") + Line("10:00:03", "C") + Line("10:00:06", "D"));
-    EXPECT_EQ(waited, 6s);
+    EXPECT_EQ(TimeOf({"[23:59:58]", "[00:00:01]", "[00:00:03]"}), 5s);
+    EXPECT_EQ(TimeOf({"2026-11-22 10:00:00", "2026-11-22 09:00:00", "2026-11-22 09:00:02"}), 2s);
+    // Lines out of order; of the third the day is the one before.
+    EXPECT_EQ(TimeOf({"[23:59:59]", "[00:00:00]", "[23:59:59]", "[00:00:02]"}), 3s);
+    EXPECT_EQ(TimeOf({"[23:58:00]", "[00:02:00]", "[23:55:00]", "[00:03:00]"}), 12min);
+    EXPECT_EQ(TimeOf({"10:00:00", "10:00:05", "10:00:03", "10:00:06"}), 6s);
 }
 
 TEST_F(Replay, APauseHoldsLinesBackAndTheRestOfADistanceFollows)
@@ -110,13 +112,11 @@ TEST_F(Replay, APauseHoldsLinesBackAndTheRestOfADistanceFollows)
 TEST_F(Replay, WhatHeldTheProgramUpIsNotCaughtUp)
 {
     p.main.frmImport.speed = kAsHeard;
-    bool bHeld = false;
-    whileWaiting = [&] {
+    whileWaiting = [&, bHeld = false]() mutable {
         if (!std::exchange(bHeld, true))
             p.wires.Advance(300s);
     };
-    Load(Line("10:00:00", "A") + Line("10:01:00", "B"));
-    EXPECT_GE(waited, 58s);
+    EXPECT_GE(TimeOf({"10:00:00", "10:01:00"}), 58s);
 }
 
 TEST_F(Replay, AJumpAheadWaitsForNothingUpToThere)
@@ -124,8 +124,8 @@ TEST_F(Replay, AJumpAheadWaitsForNothingUpToThere)
     p.main.frmImport.speed = kAsHeard;
     p.main.frmImport.iFLDelay = 10;
     std::string text;
-    for (int i = 0; i < 10; ++i)
-        text += Line(("10:0" + std::to_string(i) + ":00").c_str(), ("A" + std::to_string(i)).c_str());
+    for (char minute = '0'; minute <= '9'; ++minute)
+        text += Line(("10:0"s + minute + ":00").c_str(), ("A"s + minute).c_str());
     std::size_t stations = 0;
     whileWaiting = [&] {
         if (waited == 1s) {

@@ -1,7 +1,6 @@
 #include "links/link_status_rules.h"
 #include "links/server_form_rules.h"
 #include "links/server_link.h"
-#include "links/server_lists.h"
 #include "links/server_password.h"
 #include "links/server_status_rules.h"
 #include "links/tnc_link.h"
@@ -11,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <memory>
 
@@ -30,7 +30,7 @@ protected:
 
     ServerLinkTest()
     {
-        SetSetting(main.Settings, Setting::Call, "w1aw-7");
+        program.Set("Call=w1aw-7");
         form.sServerAddress = "prime";
         form.iServerPort = 14580;
         form.sBackupServer = "spare";
@@ -74,15 +74,10 @@ TEST_F(ServerLinkTest, FindsThePassword)
     EXPECT_EQ(of("W1AW-7:1", "W1AW-7"), "-1");              // Calls stand without their secondary ID.
     EXPECT_EQ(of("W1AW:1\nno colon\nW1AW:2", "W1AW"), "1"); // What stands before the broken line holds.
     EXPECT_EQ(of("no colon\nW1AW:2", "W1AW"), "-1");
-}
-
-TEST_F(ServerLinkTest, WarnsOnceOfAPasswordThatOthersCanRead)
-{
-    program.files.texts["/program/igatepw.txt"] = "W1AW:s3cret";
-    program.files.open.insert("/program/igatepw.txt");
+    program.files.open.insert("/program/igatepw.txt"); // Others can read it: that is told, once, and not what it says.
     program.notices.lines.clear();
-    GetServerPassword(main, "W1AW");
-    GetServerPassword(main, "W1AW");
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(of("W1AW:s3cret", "W1AW"), "s3cret");
     ASSERT_EQ(program.notices.lines.size(), 1U);
     EXPECT_EQ(program.notices.lines[0].find("s3cret"), std::string::npos);
 }
@@ -141,8 +136,7 @@ TEST_F(ServerLinkTest, TheOwnPositionFollowsALoginWhereItIsWanted)
     ConnectSerialTnc(main);
     program.wires.Say("cmd:");
     program.wires.Written(); // Its call to attention.
-    SetSetting(main.Settings, Setting::Lat, "41.7");
-    SetSetting(main.Settings, Setting::Lon, "-72.7");
+    program.Set("Lat=41.7 Lon=-72.7");
     form.bServerBeacon = form.bReconnectServer = true;
     const auto reports = [&] {
         const std::string sent = program.wires.Written();
@@ -181,6 +175,11 @@ TEST_F(ServerLinkTest, EndsWhereNothingIsLeftToTry)
     EXPECT_EQ(Shown(), kFailed);
     EXPECT_FALSE(main.links.bServerConnected);
     EXPECT_TRUE(program.notices.lines.empty());
+    form.sServerFilter = std::string(600, 'x'); // A login that cannot be sent.
+    ConnectServerLink(main);
+    EXPECT_EQ(Shown(), kFailed);
+    EXPECT_FALSE(program.wires.IsKept());
+    EXPECT_EQ(TipText(), "");
 }
 
 TEST_F(ServerLinkTest, ARefusalEndsTheChain)
@@ -198,15 +197,6 @@ TEST_F(ServerLinkTest, ARefusalEndsTheChain)
     EXPECT_EQ(main.sbStatusBar.Notice(), "APRS server connection failed: refused");
     EXPECT_FALSE(main.sbStatusBar.IsWaitPointer());
     EXPECT_EQ(main.mpCtrl.MousePointer(), kPointerCross); // A click is still waited for.
-}
-
-TEST_F(ServerLinkTest, ALoginThatCannotBeSentEndsTheLink)
-{
-    form.sServerFilter = std::string(600, 'x');
-    ConnectServerLink(main);
-    EXPECT_EQ(Shown(), kFailed);
-    EXPECT_FALSE(program.wires.IsKept());
-    EXPECT_EQ(TipText(), "");
 }
 
 TEST_F(ServerLinkTest, TellsWhetherTheServerPassesOnWhatIsSent)
@@ -238,7 +228,7 @@ TEST_F(ServerLinkTest, TellsWhetherTheServerPassesOnWhatIsSent)
 // Whoever looks sees the ages of that moment, and that a server with nothing to tell still lives.
 TEST_F(ServerLinkTest, TheTipTellsAgesOfTheMomentItIsLookedAt)
 {
-    SetSetting(main.Settings, Setting::Call, "");
+    program.Set("Call=");
     ConnectServerLink(main);
     EXPECT_TRUE(main.links.bServerConnected && !main.links.bLoginSent);
     EXPECT_EQ(program.wires.Written(), "");
@@ -275,13 +265,13 @@ TEST_F(ServerLinkTest, ASilentServerIsToldBeforeItIsLost)
 {
     ConnectServerLink(main);
     program.notices.lines.clear();
-    program.wires.Tick(59s);
-    CheckServerSilence(main);
-    EXPECT_FALSE(main.sbStatusBar.IsPanelWarning(Panel::Server));
-    program.wires.Tick(1s);
-    CheckServerSilence(main);
-    CheckServerSilence(main);
-    EXPECT_TRUE(main.sbStatusBar.IsPanelWarning(Panel::Server));
+    const auto warnsAfter = [&](std::chrono::seconds time) {
+        program.wires.Tick(time);
+        CheckServerSilence(main);
+        return main.sbStatusBar.IsPanelWarning(Panel::Server);
+    };
+    EXPECT_FALSE(warnsAfter(59s));
+    EXPECT_TRUE(warnsAfter(1s) && warnsAfter(0s));
     EXPECT_EQ(program.notices.lines.size(), 1U);
     EXPECT_NE(main.sbStatusBar.Notice(), "");
     EXPECT_EQ(TipText(),
@@ -290,16 +280,11 @@ TEST_F(ServerLinkTest, ASilentServerIsToldBeforeItIsLost)
     EXPECT_EQ(Shown(), "Connected to prime:14580");
 
     program.wires.Say("# keepalive\r\n");
-    CheckServerSilence(main);
-    EXPECT_FALSE(main.sbStatusBar.IsPanelWarning(Panel::Server));
+    EXPECT_FALSE(warnsAfter(0s));
     EXPECT_EQ(main.sbStatusBar.Notice(), "");
-
-    program.wires.Tick(61s);
-    CheckServerSilence(main);
-    program.wires.Tick(30s); // Lost, and with it the warning.
+    EXPECT_TRUE(warnsAfter(61s));
+    EXPECT_FALSE(warnsAfter(30s)); // Lost, and with it the warning.
     EXPECT_EQ(Shown(), kFailed);
-    EXPECT_FALSE(main.sbStatusBar.IsPanelWarning(Panel::Server));
-    CheckServerSilence(main);
     EXPECT_EQ(program.notices.lines.size(), 2U);
 }
 
@@ -342,40 +327,32 @@ TEST_F(ServerLinkTest, TheDialogTrimsTheBackupsFieldsAndShowsThemOnlyWithTheTick
         EXPECT_TRUE(main.serverLists.ServerList.Contains(server)) << server;
 }
 
-// Every control shows its own field and gives it back: a tick changes its own field, and accepted as it comes the
-// dialog changes nothing.
-TEST_F(ServerLinkTest, TheDialogsControlsHoldTheirOwnFields)
+// A tick changes its own field; accepted as it comes the dialog changes nothing.
+TEST_F(ServerLinkTest, TheDialogsTicksHoldTheirOwnFields)
 {
-    struct Tick {
-        bool ServerForm::*field;
-        bool ServerForm::*box;
+    constexpr std::array kFields = {&ServerForm::bServerBeacon, &ServerForm::bAddTCPSymbol, &ServerForm::bAutoTCP,
+                                    &ServerForm::bBackupBeacon};
+    constexpr std::array kBoxes = {&ServerForm::chkServerBeacon, &ServerForm::chkAdd, &ServerForm::chkAuto,
+                                   &ServerForm::chkBackupBeacon};
+    const auto ticks = [&] {
+        std::string shown;
+        for (const auto field : kFields)
+            shown += form.*field ? '1' : '0';
+        return shown;
     };
-    form.sServerFilter = "filter p/N";
-    form.sBackupFilter = "filter t/m";
-    form.iReconnectAttempt = 3;
     form.bReconnectServer = true;
-    const auto stored = [&] {
-        SaveServerLists(main);
-        return StoredText(program.store);
-    };
-    for (const auto& [field, box] :
-         {Tick{&ServerForm::bServerBeacon, &ServerForm::chkServerBeacon},
-          Tick{&ServerForm::bAddTCPSymbol, &ServerForm::chkAdd}, Tick{&ServerForm::bAutoTCP, &ServerForm::chkAuto},
-          Tick{&ServerForm::bBackupBeacon, &ServerForm::chkBackupBeacon}}) {
+    for (std::size_t i = 0; i < kBoxes.size(); ++i) {
+        std::string wanted = ticks();
+        wanted[i] ^= '0' ^ '1';
         frmTcp_Load(form);
-        ServerForm ticked = form;
-        ticked.*box = !(form.*box);
-        form.*field = !(form.*field); // What the one tick is to change.
-        const std::string wanted = stored();
-        form = ticked;
-        for (int i = 0; i < 2; ++i) {
+        form.*kBoxes[i] = !(form.*kBoxes[i]);
+        for (int times = 0; times < 2; ++times) {
             ASSERT_TRUE(frmTcp_Accept(main));
-            EXPECT_EQ(stored(), wanted);
+            EXPECT_EQ(ticks(), wanted);
             frmTcp_Load(form);
         }
     }
     EXPECT_TRUE(main.serverLists.PortList.Contains("10152"));
-    EXPECT_TRUE(main.serverLists.ServerFilterList.Contains("filter t/m"));
 }
 
 TEST_F(ServerLinkTest, DialogStaysOpenForWhatIsNoPort)

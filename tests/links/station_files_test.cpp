@@ -134,8 +134,7 @@ TEST_F(StationFiles, APipeIsReadAsItComes)
     EXPECT_THAT(p.prompts.messages, IsEmpty());
 
     MemoryStream stopped({Line("D") + "\n", "", "", Line("E") + "\n" + Line("F")}, std::nullopt);
-    const int calls = p.yield.calls;
-    p.yield.At(calls + 1, [&] { mnuImportStations_Click(p.main); }); // While it waits for the second line.
+    p.yield.At(p.yield.calls + 1, [&] { mnuImportStations_Click(p.main); }); // While it waits for the second line.
     LoadStationFile(p.main, stopped);
     EXPECT_THAT(Stations(), ElementsAre("A", "B", "C", "D"));
     EXPECT_THAT(p.prompts.messages, IsEmpty());
@@ -151,47 +150,21 @@ TEST_F(StationFiles, AStopOfTheProgramEndsTheLoad)
     p.yield.At(2, [&] { EXPECT_EQ(StopMainWindow(p.main), StopResult::Stopped); });
     Load(FourLines());
     EXPECT_THAT(Stations(), ElementsAre("A", "B"));
-    EXPECT_EQ(p.yield.calls, 2);
     EXPECT_THAT(p.sleep.slept, ElementsAre(10));
     EXPECT_THAT(p.prompts.messages, IsEmpty());
     EXPECT_EQ(p.store.Lasting("FLDelay"), "10");
     EXPECT_EQ(p.store.Lasting("TrackedFLStations"), "C");
 }
 
-// A command that walks all markers shows its own progress in the bar of the load.
-TEST_F(StationFiles, AWalkInALoadGivesBackBarAndPointer)
-{
-    p.yield.At(2, [&] {
-        p.main.sbStatusBar.SetWaitPointer(true); // Of some walk around this.
-        mnuHideAll_Click(p.main);
-        EXPECT_TRUE(p.main.sbStatusBar.IsProgressVisible());
-        EXPECT_EQ(p.main.sbStatusBar.Progress(), 33);
-        EXPECT_TRUE(p.main.sbStatusBar.IsWaitPointer());
-        p.main.sbStatusBar.SetWaitPointer(false);
-        mnuShowAll_Click(p.main);
-        EXPECT_FALSE(p.main.sbStatusBar.IsWaitPointer());
-    });
-    Load(FourLines());
-    EXPECT_EQ(p.yield.calls, 4);
-}
-
-TEST_F(StationFiles, TheDelayIsReadAtEachLine)
+// In one piece a long one could not be ended before it is over.
+TEST_F(StationFiles, TheDelayIsReadAtEachLineAndLetsEventsInBetweenItsPieces)
 {
     p.main.frmImport.iFLDelay = 20;
-    p.yield.At(2, [&] { p.main.frmImport.iFLDelay = 30; });
-    p.yield.At(3, [&] { p.main.frmImport.iFLDelay = -1; });
+    p.yield.At(2, [&] { p.main.frmImport.iFLDelay = 120; });
+    p.yield.At(4, [&] { p.main.links.FileLoading = false; }); // Behind the second piece.
     Load(FourLines());
-    EXPECT_THAT(p.sleep.slept, ElementsAre(20, 30));
-}
-
-// In one piece it could not be ended before it is over.
-TEST_F(StationFiles, ALongDelayLetsEventsInBetweenItsPieces)
-{
-    p.main.frmImport.iFLDelay = 120;
-    p.yield.At(3, [&] { p.main.links.FileLoading = false; }); // Behind the second piece.
-    Load(FourLines());
-    EXPECT_THAT(p.sleep.slept, ElementsAre(50, 50));
-    EXPECT_THAT(Stations(), ElementsAre("A"));
+    EXPECT_THAT(p.sleep.slept, ElementsAre(20, 50, 50));
+    EXPECT_THAT(Stations(), ElementsAre("A", "B"));
     EXPECT_THAT(p.prompts.messages, IsEmpty());
 }
 
@@ -201,6 +174,9 @@ TEST_F(StationFiles, AnythingMayHappenInAYield)
     p.yield.At(1, [&] {
         p.Position(Channel::RF, "R", 1, 2);
         ClearChannelReports(p.main, Channel::FL);
+        mnuHideAll_Click(p.main); // Shows its own progress in the bar of the load.
+        EXPECT_TRUE(p.main.sbStatusBar.IsProgressVisible());
+        EXPECT_FALSE(p.main.sbStatusBar.IsWaitPointer());
     });
     p.yield.At(2, [&] {
         RemoveStation(p.main, Channel::FL, "B", kPositions);
@@ -226,9 +202,6 @@ TEST_F(StationFiles, TheMenuAsksForFileAndOptions)
     mnuImportStations_Click(p.main); // Whatever closes the dialog cancels.
     EXPECT_EQ(p.main.frmImport.iFLDelay, -1);
     EXPECT_EQ(p.Text("FL"), "(no node)");
-    SaveImportSettings(p.main);
-    EXPECT_EQ(p.store.Get("FLDelay", ""), "-1");
-
     p.dialogs.onRun[Form::frmImport] = [](MainWindow& main) {
         EXPECT_EQ(main.frmImport.txtDelay, "0"); // A former cancel shows as none.
         main.frmImport.cboSpeed = 4;

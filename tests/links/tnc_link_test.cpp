@@ -16,6 +16,19 @@ using testing::IsEmpty;
 
 constexpr std::string_view kPrompt = "cmd:";
 
+// What a TNC that prompts is told while the program puts it back and waits for it.
+std::string TypedIn(TestProgram& program, const std::function<void()>& act)
+{
+    std::string typed;
+    program.wires.answer = [&](const std::string& written) {
+        typed += written;
+        return std::string(kPrompt);
+    };
+    act();
+    program.wires.answer = nullptr;
+    return typed + program.wires.Written();
+}
+
 struct TncLink : testing::Test {
     TestProgram program;
     MainWindow& main = program.main;
@@ -70,14 +83,9 @@ TEST_F(TncLink, ASerialConnectSendsTheOperatorsLinesThenThoseOfTheGps)
     EXPECT_EQ(main.gps.GpsUpdateSeconds, 100);
 
     main.gps.bValidFix = true;
-    SetSetting(main.Settings, Setting::Speed, "30");
-    std::string last;
-    program.wires.answer = [&](const std::string& written) {
-        last += written;
-        return std::string(kPrompt);
-    };
-    ConnectTnc(main);
-    EXPECT_THAT(last + program.wires.Written(), testing::ContainsRegex("LTM 0\r.*MON OFF\r"));
+    program.Set("Speed=30");
+    const std::string last = TypedIn(program, [&] { ConnectTnc(main); });
+    EXPECT_THAT(last, testing::ContainsRegex("LTM 0\r.*MON OFF\r"));
     EXPECT_FALSE(program.wires.IsKept());
     EXPECT_FALSE(main.gps.bValidFix);
     EXPECT_EQ(SettingText(main.Settings, Setting::Speed), "");
@@ -112,7 +120,7 @@ TEST_F(TncLink, FailuresAndLossesShowAndFreeTheLinkAndAReceiversFixGoesWithItsTn
         AcceptSerial(bBehindTnc);
         ConnectTnc(main);
         main.gps.bValidFix = true;
-        SetSetting(main.Settings, Setting::Speed, "30");
+        program.Set("Speed=30");
         program.wires.Lose();
         EXPECT_EQ(Panel(), "TNC connection unexpectedly closed");
         EXPECT_FALSE(main.links.bSerialConnected || main.links.aprs);
@@ -194,13 +202,7 @@ TEST_F(TncLink, TheStartConnectsWhatWasChosenAndTheStopPutsTheTncBack)
     start(p, AutoConnect::Yes);
     EXPECT_EQ(p.wires.opened, "serial /dev/ttyS0 4800 xon");
     EXPECT_THAT(p.dialogs.calls, IsEmpty());
-    std::string typed;
-    p.wires.answer = [&](const std::string& written) {
-        typed += written;
-        return std::string(kPrompt);
-    };
-    StopMainWindow(p.main);
-    typed += p.wires.Written();
+    const std::string typed = TypedIn(p, [&] { StopMainWindow(p.main); });
     EXPECT_THAT(typed, testing::HasSubstr("GPSTEXT \r")); // The sentence's text is not stored.
     EXPECT_THAT(typed, testing::HasSubstr("MON OFF\r"));
     EXPECT_EQ(typed.find("LTM 0\r"), typed.rfind("LTM 0\r")); // That of the connect alone.

@@ -35,7 +35,7 @@ struct WeatherLink : testing::Test {
 
 TEST_F(WeatherLink, KeepsWhatTheStationMeasuresUntilItIsDisconnected)
 {
-    SetSetting(main.Settings, Setting::Call, "N0CALL");
+    program.Set("Call=N0CALL");
     Toggle();
     EXPECT_EQ(program.wires.opened, "serial /dev/wx 2400");
     EXPECT_EQ(Caption(), "Disconnect W&x Station");
@@ -76,22 +76,17 @@ TEST_F(WeatherLink, FailsAloudAtTheConnectAndQuietlyLater)
 TEST_F(WeatherLink, DialogComesWithTheLastPortAndOneRate)
 {
     program.dialogs.onRun[Form::frmWx] = [](MainWindow& window) {
-        EXPECT_FALSE(frmWx_Accept(window)); // No port yet.
-        window.frmWx.cboPort = "/dev/wx";
-        window.frmWx.cboBaud = 4;
+        WxForm& form = window.frmWx;
+        EXPECT_EQ(kWxBauds.at(static_cast<std::size_t>(form.cboBaud)), 2400);
+        EXPECT_EQ(frmWx_Accept(window), form.cboPort == "/dev/wx"); // No port the first time.
+        form.cboPort = "/dev/wx";
+        form.cboBaud = 4;
         EXPECT_TRUE(frmWx_Accept(window));
     };
-    Toggle();
+    for (int i = 0; i < 3; ++i)
+        Toggle(); // Connects, disconnects, connects.
     EXPECT_EQ(program.wires.opened, "serial /dev/wx 19200");
     EXPECT_THAT(program.prompts.messages, ElementsAre("You must select port and baud rate!"));
-    Toggle();
-    program.wires.opened.clear();
-    program.dialogs.onRun[Form::frmWx] = [](MainWindow& window) {
-        EXPECT_EQ(window.frmWx.cboPort, "/dev/wx");
-        EXPECT_EQ(kWxBauds.at(static_cast<std::size_t>(window.frmWx.cboBaud)), 2400);
-    };
-    Toggle(); // Cancelled.
-    EXPECT_EQ(program.wires.opened, "");
 }
 
 } // namespace

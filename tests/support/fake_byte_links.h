@@ -34,6 +34,11 @@ public:
         if (IsKept())
             m_wire->sink->OnBytes(bytes, m_now);
     }
+    void Say(const std::vector<std::string>& pieces)
+    {
+        for (const std::string& piece : pieces)
+            Say(piece);
+    }
     void Lose()
     {
         m_wire->bLost = true;

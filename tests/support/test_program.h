@@ -4,6 +4,7 @@
 #include "intake/station_store.h"
 #include "lifecycle/start.h"
 #include "lifecycle/stop.h"
+#include "platform/text.h"
 #include "support/recording_store.h"
 #include "support/test_machine.h"
 
@@ -27,6 +28,14 @@ public:
             StartMainWindow(main);
     }
 
+    // Kept settings by their keys: "Call=N0CALL Lat=37.5".
+    void Set(std::string_view settings)
+    {
+        for (const std::string_view word : Words(settings)) {
+            const auto end = word.find('=');
+            SetSetting(main.Settings, SettingOfKey(word.substr(0, end)).value(), word.substr(end + 1));
+        }
+    }
     // A packet line as a saved file's line on any channel: the three differ only behind the source.
     void Hear(Channel channel, std::string_view line)
     {
