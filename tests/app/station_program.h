@@ -56,10 +56,7 @@ public:
     // The status, once it has ended.
     int Status()
     {
-        RunUntil([&] {
-            out += program.readAllStandardOutput();
-            return program.state() == QProcess::NotRunning;
-        });
+        RunUntil([&] { return program.state() == QProcess::NotRunning; });
         out += program.readAllStandardOutput();
         err += program.readAllStandardError();
         return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
