@@ -143,7 +143,7 @@ TEST_F(Gps, TellsSilenceOnceWhateverElseIsSent)
     EXPECT_EQ(recorded.events.back(), "lost");
 }
 
-TEST_F(Gps, OpensClosesAndFailsOnce)
+TEST_F(Gps, OpensClosesFailsOnceAndFallsSilentOnceDropped)
 {
     EXPECT_THROW(server->OpenGpsPort("/dev/ttyS0", 4800, "1234"), Failure);
     links.bRefuse = true;
@@ -158,10 +158,6 @@ TEST_F(Gps, OpensClosesAndFailsOnce)
     Open();
     server->CloseGpsPort();
     EXPECT_FALSE(links.IsKept());
-}
-
-TEST_F(Gps, DroppedInsideAnyOfItsEventsItFallsSilent)
-{
     const auto run = [&] {
         Start();
         links.Say(Rmc("1") + Rmc("2") + Rmc("3"));

@@ -43,14 +43,12 @@ TEST(ServerLists, AFileThatCannotBeWrittenCostsNothingElse)
     TestProgram p;
     p.main.serverLists.ServerList.Set("a", "a");
     p.main.serverLists.PortList.Set("10152", "10152");
-    p.main.frmTcp.sServerAddress = "a";
     p.main.frmImport.iFLDelay = 3;
     p.files.FailWrite(1);
     ASSERT_EQ(StopMainWindow(p.main), StopResult::StoppedWithLoss);
     EXPECT_THAT(p.notices.lines,
                 ElementsAre("The lists of servers could not be saved: cannot write /program/servers.txt"));
     EXPECT_EQ(p.files.texts["/program/ports.txt"], "10152");
-    EXPECT_EQ(p.store.Get("PrimaryServer", ""), "a");
     EXPECT_EQ(p.store.Get("FLDelay", ""), "3");
     EXPECT_EQ(p.main.abandoned.Count(), 1U);
 }

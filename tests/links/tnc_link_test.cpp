@@ -259,32 +259,27 @@ TEST_F(TncLink, ConnectUponStartupOutlastsACancel)
 TEST_F(TncLink, TheDialogsControlsHoldTheirOwnFields)
 {
     form.sSerialPort = "/dev/tnc";
-    form.lLastBaudRate = 1234; // Typed once; no rate of the list.
-    form.iBaudListIndex = -1;
     form.sSocketAddress = "engine";
     form.iSocketPort = 8001;
+    form.lLastBaudRate = 1234; // Typed once; no rate of the list.
+    form.iBaudListIndex = -1;
     form.iSentenceIndex = 2;
-    form.iUpdateRateIndex = 7;
     const auto stored = [&] {
         SaveCommSettings(main);
         return StoredText(program.store);
     };
-    for (const bool bSocket : {false, true}) {
-        for (const bool bFlag : {false, true}) {
-            form.bConnectSocket = bSocket;
-            form.bTncGps = !bFlag;
-            form.bAddRFSymbol = bFlag; // As it is to become.
-            const std::string wanted = stored();
-            form.bAddRFSymbol = !bFlag;
-            commDialog_Load(form);
-            EXPECT_EQ(form.chkAdd, !bFlag);
-            form.chkAdd = bFlag;
-            if (!AreGpsListsEnabled(form))
-                form.cboSentence = form.cboUpdateRate = 0;
-            ASSERT_TRUE(commDialog_Accept(main));
-            EXPECT_EQ(stored(), wanted);
-            EXPECT_EQ(form.sGpsSentence, "$GPGLL"); // Since the first of them.
-        }
+    for (const bool bFlag : {false, true}) {
+        form.bConnectSocket = form.bAddRFSymbol = bFlag;
+        form.bTncGps = !bFlag;
+        const std::string wanted = stored();
+        form.bAddRFSymbol = !bFlag; // Which the dialog is to turn.
+        commDialog_Load(form);
+        form.chkAdd = !form.chkAdd;
+        if (!AreGpsListsEnabled(form))
+            form.cboSentence = form.cboUpdateRate = 0;
+        ASSERT_TRUE(commDialog_Accept(main));
+        EXPECT_EQ(stored(), wanted);
+        EXPECT_EQ(form.sGpsSentence, "$GPGLL"); // Since the first of them.
     }
 }
 

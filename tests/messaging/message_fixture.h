@@ -29,11 +29,7 @@ inline Texts RowsOf(const RowList& list)
 
 class MessageTest : public NotedLinks {
 protected:
-    MessageTest()
-    {
-        Set(Setting::MatchSSID, "False");
-        Set(Setting::All, "0");
-    }
+    MessageTest() { program.Set("MatchSSID=False All=0"); }
 
     // The operator fills the dialog, ticks both boxes and presses "Send"; what keeps it open is given back.
     std::string SendByDialog(std::string_view to, std::string_view text, std::int32_t type = 0)

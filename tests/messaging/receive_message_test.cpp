@@ -29,6 +29,7 @@ TEST_F(MessageTest, WhatIsFiledAndWhatIsAnswered)
         {"a bulletin", "BLN3", "hi", "", Setting::ReceiveBulletin, "True"},
         {"no bulletins", "BLN3", "hi", "", Setting::ReceiveBulletin, "False", false, false},
         {"an acknowledgement in capitals", "N0CALL", "ACK3", "", Setting::All, "1", false, false},
+        {"nobody answers under no name", "", "hi", "7", Setting::Call, ""},
     };
     Open(false, false, true);
     for (const Heard& heard : kCases) {
@@ -98,8 +99,7 @@ TEST_F(MessageTest, AnAcknowledgementClearsTheFirstRowOfItsNumber)
 
 TEST_F(MessageTest, TheSoundIsForUsOrForAll)
 {
-    Set(Setting::WaveFile, "/ring.wav");
-    Set(Setting::PlayAll, "True");
+    program.Set("WaveFile=/ring.wav PlayAll=True");
     Hear(Channel::RF, "N0CALL", "no such file");
     program.files.texts["/ring.wav"] = "RIFF";
     Hear(Channel::RF, "N1CALL", "not ours");
@@ -111,15 +111,6 @@ TEST_F(MessageTest, TheSoundIsForUsOrForAll)
     Set(Setting::PlayAll, "False");
     Hear(Channel::RF, "N1CALL", "silent");
     EXPECT_EQ(program.sound.played.size(), 2U);
-}
-
-// Nobody answers under no name.
-TEST_F(MessageTest, WithoutACallNothingIsAnswered)
-{
-    Open(false, false, true);
-    Set(Setting::Call, "");
-    Hear(Channel::TCP, "", "hi", "7");
-    EXPECT_EQ(Take(), Texts{});
 }
 
 } // namespace

@@ -22,12 +22,7 @@ using Lines = std::vector<std::string>;
 
 class Sending : public NotedLinks {
 protected:
-    Sending()
-    {
-        Set(Setting::Lat, "37.5");
-        Set(Setting::Lon, "-122.25");
-        Set(Setting::Symbol, "9");
-    }
+    Sending() { program.Set("Lat=37.5 Lon=-122.25 Symbol=9"); }
 };
 
 constexpr const char* kText = "!3730.00N/12215.00W>";
@@ -40,17 +35,9 @@ TEST_F(Sending, TheRoadsInTheirOrder)
                              std::string("frame N0CALL|APRS|WIDE1-1|") + kText,
                              std::string("server N0CALL>APRS,TCPIP*:") + kText}));
     EXPECT_EQ(main.sbStatusBar.Sent(), "Sent over TNC, AGW, server at 20:15:03");
-    Set(Setting::Path, "");
-    Set(Setting::Tactical, "BASE");
-    Set(Setting::BeaconTactical, "True");
-    Open(true, false, true);
-    SendPositionReport(main, true);
-    EXPECT_EQ(Take()[2], "UNPROTO APRS");
+    program.Set("Tactical=BASE BeaconTactical=True");
     SendPositionReport(main, false);
-    EXPECT_EQ(Take(), Lines{std::string("server BASE>APRS,TCPIP*:") + kText});
-    Open(false, false, false);
-    SendPositionReport(main, true);
-    EXPECT_EQ(Take(), Lines{});
+    EXPECT_EQ(Take().back(), std::string("server BASE>APRS,TCPIP*:") + kText);
 }
 
 // An operator must know once, not at each beacon, that the transmitter is keyed.
@@ -83,7 +70,7 @@ TEST_F(Sending, AFailureSkipsTheLaterRoads)
 }
 
 // Stored by hand or by another program. Such figures would fill the report with nonsense, or with anything at all.
-TEST_F(Sending, APlaceOffTheEarthIsNotSent)
+TEST_F(Sending, APlaceOffTheEarthOrWithoutACallIsNotSent)
 {
     Open(false, false, true);
     for (const auto& [setting, wrong, right] :
@@ -97,12 +84,7 @@ TEST_F(Sending, APlaceOffTheEarthIsNotSent)
         EXPECT_EQ(Take().size(), 1U) << right;
     }
     EXPECT_TRUE(program.prompts.messages.empty()); // Nobody is at a beacon.
-}
-
-TEST_F(Sending, NobodySendsWithoutACall)
-{
-    Open(false, false, true);
-    Set(Setting::Call, "");
+    program.Set("Call=");
     SendPositionReport(main, true);
     EXPECT_EQ(Take(), Lines{});
 }
@@ -110,15 +92,12 @@ TEST_F(Sending, NobodySendsWithoutACall)
 TEST_F(Sending, MotionTakesThePlaceOfTheAntennaWhileTheFixIsValid)
 {
     Open(false, false, true);
-    Set(Setting::Power, "6000"); // Out of bounds: as none.
-    Set(Setting::Height, "40");
-    Set(Setting::Speed, "115");
-    Set(Setting::Course, "90");
-    SendPositionReport(main, false);
-    EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText});
-    Set(Setting::Power, "-1");
-    SendPositionReport(main, false);
-    EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText});
+    program.Set("Height=40 Speed=115 Course=90");
+    for (const char* power : {"6000", "-1"}) { // Out of bounds: as none.
+        Set(Setting::Power, power);
+        SendPositionReport(main, false);
+        EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText});
+    }
     main.gps.bValidFix = true;
     SendPositionReport(main, false);
     EXPECT_EQ(Take(), Lines{std::string("server N0CALL>APRS,TCPIP*:") + kText + "090/100"});
@@ -127,11 +106,7 @@ TEST_F(Sending, MotionTakesThePlaceOfTheAntennaWhileTheFixIsValid)
 TEST_F(Sending, WeatherOfTheSettingsAndOfTheDialog)
 {
     Open(false, false, true);
-    Set(Setting::WindDir, "220");
-    Set(Setting::WindSpeed, "4");
-    Set(Setting::Gust, "5");
-    Set(Setting::Temperature, "-10");
-    Set(Setting::Humidity, "100");
+    program.Set("WindDir=220 WindSpeed=4 Gust=5 Temperature=-10 Humidity=100");
     SendWeatherReport(main);
     EXPECT_EQ(Take(), Lines{"server N0CALL>APRS,TCPIP*:_11230115c220s004g005t-10r000p000P000h00b00000"});
     Lines refused;
@@ -154,9 +129,6 @@ TEST_F(Sending, WeatherOfTheSettingsAndOfTheDialog)
                               "Enter an interger between 0 and 360 for wind direction!",
                               "Enter an interger between 0 and 99 for humidity!", ""}));
     EXPECT_EQ(Take(), Lines{"server N1CALL>APRS,TCPIP*:_11230115c360s007g007t007r000p000P000h00b00000"});
-    program.dialogs.onRun.clear(); // The window is closed.
-    mnuSendWeather_Click(main);
-    EXPECT_EQ(Take(), Lines{});
 }
 
 TEST_F(Sending, TheStatusDialogsLimits)
@@ -259,28 +231,21 @@ TEST_F(Sending, TheObjectDialogRefusesInItsOrder)
 // The counts stand still with nothing open and outlast a change of the interval.
 TEST_F(Sending, BeaconsCountTheirTicks)
 {
-    Set(Setting::PositionInt, "3");
-    AddMyStationNode(main);
-    intervalTimer_Timer(main);
+    const auto sentIn = [&](int ticks, const char* settings) {
+        program.Set(settings);
+        AddMyStationNode(main);
+        for (int i = 0; i < ticks; ++i)
+            intervalTimer_Timer(main);
+        return Take().size();
+    };
+    EXPECT_EQ(sentIn(1, "PositionInt=3"), 0U);
     EXPECT_EQ(main.beacons.positionTicks, 0);
     Open(false, false, true);
-    for (int i = 0; i < 8; ++i)
-        intervalTimer_Timer(main);
-    EXPECT_EQ(Take().size(), 2U);
-    intervalTimer_Timer(main);
-    intervalTimer_Timer(main);
-    intervalTimer_Timer(main);
-    Set(Setting::PositionInt, "2");
-    AddMyStationNode(main);
-    intervalTimer_Timer(main);
-    EXPECT_EQ(Take().size(), 1U);
-    Set(Setting::Lat, "");
-    for (int i = 0; i < 8; ++i)
-        intervalTimer_Timer(main);
-    EXPECT_EQ(Take(), Lines{});
-    for (const char* index : {"0", "12", "-1", "x"}) {
-        Set(Setting::PositionInt, index);
-        AddMyStationNode(main);
+    EXPECT_EQ(sentIn(11, "PositionInt=3"), 2U);
+    EXPECT_EQ(sentIn(1, "PositionInt=2"), 1U);
+    EXPECT_EQ(sentIn(8, "Lat="), 0U);
+    for (const char* index : {"PositionInt=0", "PositionInt=12", "PositionInt=-1", "PositionInt=x"}) {
+        sentIn(0, index);
         EXPECT_EQ(main.beacons.positionInterval, 0) << index;
     }
 }
@@ -288,7 +253,7 @@ TEST_F(Sending, BeaconsCountTheirTicks)
 TEST_F(Sending, ABeaconWithTooLongACommentIsTold)
 {
     Open(false, false, true);
-    Set(Setting::PositionInt, "1");
+    program.Set("PositionInt=1");
     Set(Setting::Comment, std::string(44, 'x'));
     AddMyStationNode(main);
     intervalTimer_Timer(main);

@@ -14,13 +14,20 @@ namespace {
 
 using namespace std::chrono_literals;
 
-TEST(SerialWire, CarriesBytesBothWaysAndTicks)
-{
+struct SerialWire : testing::Test {
+    std::unique_ptr<IByteLink> Open(std::int32_t baud = 9600, SerialFlow flow = SerialFlow::XonXoff)
+    {
+        return links.OpenSerial(terminal.Name(), baud, flow, sink);
+    }
+
     QtByteLinks links;
     NotingSink sink;
     PseudoTerminal terminal;
-    const auto link = links.OpenSerial(terminal.Name(), 9600, SerialFlow::XonXoff, sink);
+};
 
+TEST_F(SerialWire, CarriesBytesBothWaysAndTicks)
+{
+    const auto link = Open();
     termios settings{};
     ASSERT_EQ(tcgetattr(terminal.Number(), &settings), 0);
     EXPECT_EQ(settings.c_iflag & (IXON | IXOFF), static_cast<tcflag_t>(IXON | IXOFF));
@@ -36,12 +43,9 @@ TEST(SerialWire, CarriesBytesBothWaysAndTicks)
 }
 
 // Swallowed, they would make every binary packet that holds them a broken one.
-TEST(SerialWire, WithoutFlowControlXonAndXoffAreBytes)
+TEST_F(SerialWire, WithoutFlowControlXonAndXoffAreBytes)
 {
-    QtByteLinks links;
-    NotingSink sink;
-    PseudoTerminal terminal;
-    const auto link = links.OpenSerial(terminal.Name(), 19200, SerialFlow::None, sink);
+    const auto link = Open(19200, SerialFlow::None);
     terminal.Say("a\x13 b\x11 c");
     EXPECT_TRUE(RunUntil([&] { return sink.bytes.ends_with('c'); }));
     EXPECT_EQ(sink.bytes, "a\x13 b\x11 c");
@@ -49,12 +53,9 @@ TEST(SerialWire, WithoutFlowControlXonAndXoffAreBytes)
     EXPECT_TRUE(RunUntil([&] { return terminal.Heard() == "d"; }));
 }
 
-TEST(SerialWire, WaitsWithoutTellingTheSink)
+TEST_F(SerialWire, WaitsWithoutTellingTheSink)
 {
-    QtByteLinks links;
-    NotingSink sink;
-    PseudoTerminal terminal;
-    const auto link = links.OpenSerial(terminal.Name(), 9600, SerialFlow::XonXoff, sink);
+    const auto link = Open();
     link->Write("MYCALL\r");
     EXPECT_TRUE(link->Wait(20ms).bytes.empty());
     EXPECT_EQ(terminal.Heard(), "MYCALL\r"); // A wait sends what was written.
@@ -68,12 +69,9 @@ TEST(SerialWire, WaitsWithoutTellingTheSink)
 }
 
 // An answer that waits was not late: a connect to a silent server holds the loop up for longer than most limits.
-TEST(SerialWire, WhatCameWhileTheLoopStoodStillIsToldBeforeTheNextTick)
+TEST_F(SerialWire, WhatCameWhileTheLoopStoodStillIsToldBeforeTheNextTick)
 {
-    QtByteLinks links;
-    NotingSink sink;
-    PseudoTerminal terminal;
-    const auto link = links.OpenSerial(terminal.Name(), 9600, SerialFlow::XonXoff, sink);
+    const auto link = Open();
     ASSERT_TRUE(RunUntil([&] { return sink.ticks == 1; }));
     std::string toldBefore = "no tick";
     sink.onTick = [&] { toldBefore = sink.bytes; };
@@ -84,12 +82,9 @@ TEST(SerialWire, WhatCameWhileTheLoopStoodStillIsToldBeforeTheNextTick)
 }
 
 // A port whose other end is gone would tell so without pause, at the cost of a processor.
-TEST(SerialWire, TellsAHangUpOnceAndCostsNothingAfterwards)
+TEST_F(SerialWire, TellsAHangUpOnceAndCostsNothingAfterwards)
 {
-    QtByteLinks links;
-    NotingSink sink;
-    PseudoTerminal terminal;
-    const auto link = links.OpenSerial(terminal.Name(), 9600, SerialFlow::XonXoff, sink);
+    const auto link = Open();
     terminal.HangUp();
     ASSERT_TRUE(RunUntil([&] { return sink.lost > 0; }));
     const std::clock_t begun = std::clock();
@@ -100,17 +95,15 @@ TEST(SerialWire, TellsAHangUpOnceAndCostsNothingAfterwards)
     EXPECT_THROW(link->Write("x"), Failure);
 }
 
-TEST(SerialWire, SaysWhyAPortIsNotOpened)
+TEST_F(SerialWire, SaysWhyAPortIsNotOpened)
 {
-    QtByteLinks links;
-    NotingSink sink;
     try {
         links.OpenSerial("/dev/no-such-port", 9600, SerialFlow::XonXoff, sink);
         FAIL();
     } catch (const Failure& failure) {
         EXPECT_NE(std::string(failure.what()).find("cannot open /dev/no-such-port: "), std::string::npos);
     }
-    EXPECT_THROW(links.OpenSerial(PseudoTerminal().Name(), 0, SerialFlow::XonXoff, sink), Failure);
+    EXPECT_THROW(Open(0), Failure);
 }
 
 } // namespace

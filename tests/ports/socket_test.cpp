@@ -179,29 +179,10 @@ TEST_F(Sockets, NameTheCauseOfARefusal)
 
 TEST_F(Sockets, TakeAHostInBrackets)
 {
-    const auto link = links.ConnectSocket("[127.0.0.1]", server.serverPort(), 30s, sink);
-    link->Write("x");
+    links.ConnectSocket("[127.0.0.1]", server.serverPort(), 30s, sink)->Write("x");
     const auto started = links.StartSocket("[127.0.0.1]", server.serverPort(), sink);
     EXPECT_TRUE(RunUntil([&] { return sink.opened == 1; }));
     EXPECT_THROW(links.StartSocket("[]", server.serverPort(), sink), Failure);
-}
-
-TEST_F(Sockets, GiveUpAtTheLimitAndOnlyPaintMeanwhile)
-{
-    const BlackHole swallowing;
-    int painted = 0, timers = 0;
-    QTimer logic;
-    QObject::connect(&logic, &QTimer::timeout, &logic, [&] { ++timers; });
-    logic.start(1);
-    QtByteLinks painting([&] { ++painted; });
-    try {
-        painting.ConnectSocket(kHost, swallowing.Port(), 1s, sink);
-        ADD_FAILURE() << "connected";
-    } catch (const Failure& failure) {
-        EXPECT_NE(std::string(failure.what()).find("timed out"), std::string::npos);
-    }
-    EXPECT_GT(painted, 2);
-    EXPECT_EQ(timers, 0);
 }
 
 // The look-up and the connect have succeeded by then, and the loop does not know it yet.

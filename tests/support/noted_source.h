@@ -45,9 +45,7 @@ protected:
     {
         main.links.aprs = std::make_unique<NotedSource>(sent, bRfFails);
         main.links.aprstcp = std::make_unique<NotedSource>(sent, bServerFails);
-        Set(Setting::Call, "N0CALL");
-        Set(Setting::Dest, "APRS");
-        Set(Setting::Path, "WIDE1-1");
+        program.Set("Call=N0CALL Dest=APRS Path=WIDE1-1");
     }
     void Set(Setting setting, std::string_view text) { SetSetting(main.Settings, setting, text); }
     void Open(bool bTnc, bool bAgw, bool bServer)
