@@ -174,12 +174,13 @@ TEST_F(StationFiles, AnythingMayHappenInAYield)
     p.yield.At(1, [&] {
         p.Position(Channel::RF, "R", 1, 2);
         ClearChannelReports(p.main, Channel::FL);
-        mnuHideAll_Click(p.main); // Shows its own progress in the bar of the load.
-        EXPECT_TRUE(p.main.sbStatusBar.IsProgressVisible());
-        EXPECT_FALSE(p.main.sbStatusBar.IsWaitPointer());
     });
     p.yield.At(2, [&] {
         RemoveStation(p.main, Channel::FL, "B", kPositions);
+        mnuHideAll_Click(p.main); // Shows its own progress in the bar of the load.
+        EXPECT_TRUE(p.main.sbStatusBar.IsProgressVisible());
+        EXPECT_EQ(p.main.sbStatusBar.Progress(), 33);
+        EXPECT_FALSE(p.main.sbStatusBar.IsWaitPointer());
         p.main.mpCtrl.NewMap(kRegionEurope);
     });
     p.yield.At(3, [&] { p.Tree().Remove(*p.Node("FL")); });

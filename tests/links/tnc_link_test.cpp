@@ -268,11 +268,11 @@ TEST_F(TncLink, TheDialogsControlsHoldTheirOwnFields)
         SaveCommSettings(main);
         return StoredText(program.store);
     };
-    for (const bool bFlag : {false, true}) {
-        form.bConnectSocket = form.bAddRFSymbol = bFlag;
-        form.bTncGps = !bFlag;
+    for (int i = 0; i < 4; ++i) { // Each way with the tick on and off.
+        form.bConnectSocket = i >= 2;
+        form.bTncGps = form.bAddRFSymbol = i % 2 == 0;
         const std::string wanted = stored();
-        form.bAddRFSymbol = !bFlag; // Which the dialog is to turn.
+        form.bAddRFSymbol = !form.bAddRFSymbol; // Which the dialog is to turn.
         commDialog_Load(form);
         form.chkAdd = !form.chkAdd;
         if (!AreGpsListsEnabled(form))

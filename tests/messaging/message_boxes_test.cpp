@@ -212,10 +212,14 @@ TEST_F(MessageTest, NoTextCanBreakABox)
     EXPECT_EQ(bold, RowsOf(Inbox()));
 }
 
+// A message is new, and counted on the box that shows it, until its list was seen.
 TEST_F(MessageTest, AClickOnABoxShowsItsList)
 {
     KeyedTree& boxes = main.messages.tvMessageBoxes;
-    Hear(Channel::RF, "N0CALL", "hi");
+    Hear(Channel::RF, "N0CALL", "hi", "7");
+    EXPECT_EQ(RowsOf(Inbox()), Texts{"W1AW|N0CALL|WIDE2-1|2026-11-22 20:15:03|hi|7*"});
+    EXPECT_EQ(BoxText("Messages"), "Messages");
+    EXPECT_EQ(main.sbStatusBar.PanelText(Panel::NewMessage), "New Message");
     mnuViewMessages_Click(main);
     EXPECT_EQ(main.sbStatusBar.PanelText(Panel::NewMessage), "");
     EXPECT_EQ(main.window.rightView, RightView::Inbox);
@@ -223,7 +227,9 @@ TEST_F(MessageTest, AClickOnABoxShowsItsList)
     EXPECT_TRUE(main.window.bMessagesTicked && !main.window.bMapTicked);
     tvMessageBoxes_NodeClick(main, *boxes.Find("MessagesSent"));
     EXPECT_EQ(main.window.rightView, RightView::Sent);
+    boxes.SetExpanded(*boxes.Find("Messages"), false);
     Hear(Channel::RF, "N0CALL", "more");
+    EXPECT_EQ(BoxText("Messages"), "Messages (2)");
     EXPECT_EQ(main.sbStatusBar.PanelText(Panel::NewMessage), "New Message");
     tvMessageBoxes_NodeClick(main, *boxes.Find("Messages"));
     EXPECT_EQ(main.window.rightView, RightView::Sent);

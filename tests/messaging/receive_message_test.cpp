@@ -43,19 +43,7 @@ TEST_F(MessageTest, WhatIsFiledAndWhatIsAnswered)
         main.messages.lvMessageList.Clear();
         Set(heard.setting, former);
     }
-}
-
-TEST_F(MessageTest, AReceivedMessageIsNewUntilTheListWasSeen)
-{
-    Hear(Channel::RF, "N0CALL", "hi", "7");
-    EXPECT_EQ(RowsOf(Inbox()), Texts{"W1AW|N0CALL|WIDE2-1|2026-11-22 20:15:03|hi|7*"});
-    EXPECT_EQ(BoxText("MessagesInbox"), "Inbox (1)");
-    EXPECT_EQ(BoxText("Messages"), "Messages");
-    EXPECT_EQ(main.sbStatusBar.PanelText(Panel::NewMessage), "New Message");
-    KeyedTree& boxes = main.messages.tvMessageBoxes;
-    boxes.SetExpanded(*boxes.Find("Messages"), false);
-    Hear(Channel::RF, "N0CALL", "hi again", "8");
-    EXPECT_EQ(BoxText("Messages"), "Messages (2)");
+    EXPECT_EQ(main.abandoned.Count(), 0U); // No answer was tried in vain.
 }
 
 TEST_F(MessageTest, ARepeatIsAnsweredEachTimeAndFiledOnce)

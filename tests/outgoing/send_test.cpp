@@ -222,10 +222,6 @@ TEST_F(Sending, TheObjectDialogRefusesInItsOrder)
     frmObject_Send(main);
     EXPECT_EQ(program.prompts.messages.back(), "Position report not sent correctly, check TNC connection!");
     EXPECT_FALSE(program.dialogs.IsVisible(Form::frmObject));
-    bServerFails = false;
-    mnuSendObject_Click(main);
-    frmObject_Send(main);
-    EXPECT_EQ(Take(), Lines{"server N0CALL>APRS,TCPIP*:;FLOOD    *230115z3730.00N\\12215.00W)"});
 }
 
 // The counts stand still with nothing open and outlast a change of the interval.
