@@ -90,7 +90,6 @@ TEST(ReportText, WeatherAndObjects)
     EXPECT_EQ(ObjectReportText(fields, {10, 9, 5, 56}), ";NINECHARS_090556z3730.00N\\12215.00W)hello");
     fields.txtComment.assign(44, 'x');
     EXPECT_FALSE(ObjectReportText(fields, {10, 9, 5, 56}));
-    EXPECT_EQ(Padded("1234", 3), "1234");
 }
 
 TEST(SymbolLists, GiveTheDefaultOutsideAndTheirCharactersInside)

@@ -114,7 +114,7 @@ struct SentBytes : testing::Test {
     }
     void EmptyPath()
     {
-        SetSetting(main.Settings, Setting::Path, "");
+        program.Set("Path=");
         main.frmObject.calls.Via = main.frmStatus.calls.Via = "";
     }
 
