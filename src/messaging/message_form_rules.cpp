@@ -74,6 +74,8 @@ void frmMessage_cboMessageType_Click(MessageForm& form)
 
 std::string frmMessage_Send(MessageForm& form)
 {
+    for (std::string* call : {&form.txtFrom, &form.txtTo, &form.txtVia})
+        *call = Trim(*call); // It is found by its letters, at its place.
     std::string complaint = Complaint(form);
     if (!complaint.empty())
         return complaint;

@@ -27,7 +27,7 @@ bool IsVisible(const MainWindow& main)
     return main.services.dialogs.IsVisible(Form::frmOptions);
 }
 
-void LoadBox(MainWindow& main, const OptionBox& box)
+OptionField FieldFromSettings(MainWindow& main, const OptionBox& box)
 {
     OptionField field;
     Attempt(main.abandoned, "frmOptions", [&] {
@@ -43,27 +43,41 @@ void LoadBox(MainWindow& main, const OptionBox& box)
                 field.choice = index;
             break;
         default:
-            field.text = field.loaded = SettingText(main.Settings, box.setting);
+            field.text = SettingText(main.Settings, box.setting);
         }
     });
-    FieldOf(main.frmOptions, box) = std::move(field);
+    return field;
+}
+
+const OptionField& OpenedFieldOf(const OptionsForm& form, const OptionBox& box)
+{
+    return form.opened.at(static_cast<std::size_t>(&box - kOptionBoxes.data()));
+}
+
+bool IsTouched(OptionsForm& form, const OptionBox& box)
+{
+    return FieldOf(form, box) != OpenedFieldOf(form, box);
 }
 
 // Rain and pressure go on the air as they are stored, where "+12" or "1e2" cannot be read. A fraction stays: another
 // number would be told in its place.
-std::string TextToStore(const OptionField& field, const OptionBox& box)
+std::string TextToStore(OptionsForm& form, const OptionBox& box)
 {
-    const bool bTypedWhole = box.rule && box.rule->kind == NumberRule::Kind::Whole && field.text != field.loaded;
-    if (!bTypedWhole || field.text.empty())
-        return field.text;
-    const std::int32_t whole = ToInt32(field.text);
-    return ToDouble(field.text) == whole ? ShortText(std::int64_t{whole}) : field.text;
+    const std::string& text = FieldOf(form, box).text;
+    const bool bTypedWhole = box.rule && box.rule->kind == NumberRule::Kind::Whole && IsTouched(form, box);
+    if (!bTypedWhole || text.empty())
+        return text;
+    const std::int32_t whole = ToInt32(text);
+    return ToDouble(text) == whole ? ShortText(std::int64_t{whole}) : text;
 }
 
 void StoreBox(MainWindow& main, const OptionBox& box)
 {
     const OptionField& field = FieldOf(main.frmOptions, box);
     SettingsState& settings = main.Settings;
+    // What a link measured or a command set while the dialog stood open stays.
+    if (!IsTouched(main.frmOptions, box) && FieldFromSettings(main, box) != field)
+        return;
     switch (box.kind) {
     case OptionKind::DigitTick:
         return SetSetting(settings, box.setting, field.bTicked ? "1" : "0");
@@ -75,7 +89,7 @@ void StoreBox(MainWindow& main, const OptionBox& box)
             SetSetting(settings, box.setting, ShortText(std::int64_t{field.choice}));
         return;
     default:
-        SetSetting(settings, box.setting, TextToStore(field, box));
+        SetSetting(settings, box.setting, TextToStore(main.frmOptions, box));
     }
 }
 
@@ -96,7 +110,7 @@ bool IsComplete(MainWindow& main)
         }
     // Enter saves without leaving the box. What the links measured may lie out of bounds and is nobody's mistake.
     for (const OptionBox& box : kOptionBoxes) {
-        if (const OptionField& field = FieldOf(main.frmOptions, box); field.text == field.loaded)
+        if (!IsTouched(main.frmOptions, box))
             continue;
         if (const std::string message = frmOptions_LostFocus(main.frmOptions, box); !message.empty()) {
             Complain(main, box, message);
@@ -146,11 +160,12 @@ void ColorMovingStations(MainWindow& main, std::uint32_t formerColor)
 void Store(MainWindow& main)
 {
     const std::uint32_t formerColor = MobileColor(main.Settings);
-    const auto hasChanged = [&](Channel channel, Setting setting) {
-        return !IsNamesState(main, channel, FieldOf(main.frmOptions, setting).bTicked);
+    const auto willChange = [&](Channel channel, Setting setting) {
+        return IsTouched(main.frmOptions, BoxOf(setting)) &&
+               !IsNamesState(main, channel, FieldOf(main.frmOptions, setting).bTicked);
     };
-    const bool bRfNames = hasChanged(Channel::RF, Setting::ShowRFNames);
-    const bool bTcpNames = hasChanged(Channel::TCP, Setting::ShowTCPNames);
+    const bool bRfNames = willChange(Channel::RF, Setting::ShowRFNames);
+    const bool bTcpNames = willChange(Channel::TCP, Setting::ShowTCPNames);
     for (const OptionBox& box : kOptionBoxes)
         StoreBox(main, box);
     AddMyStationNode(main);
@@ -192,7 +207,8 @@ OptionPage PageOfNode(const TreeNode* node)
 void frmOptions_Load(MainWindow& main)
 {
     for (const OptionBox& box : kOptionBoxes)
-        LoadBox(main, box);
+        FieldOf(main.frmOptions, box) = FieldFromSettings(main, box);
+    main.frmOptions.opened = main.frmOptions.fields;
 }
 
 std::string frmOptions_LostFocus(OptionsForm& form, const OptionBox& box)
@@ -207,9 +223,14 @@ bool IsPinPointOffered(const OptionsForm& form)
 
 void frmOptions_Save(MainWindow& main)
 {
-    OptionField& call = FieldOf(main.frmOptions, Setting::Call);
-    if (call.text != call.loaded)
-        call.text = ToUpper(Trim(call.text)); // A message for the station names it letter for letter.
+    // A message for the station names it letter for letter.
+    for (const Setting call : {Setting::Call, Setting::Dest, Setting::Path, Setting::MessageSubnet, Setting::Tactical})
+        if (IsTouched(main.frmOptions, BoxOf(call))) {
+            std::string& text = FieldOf(main.frmOptions, call).text;
+            text = Trim(text);
+            if (call == Setting::Call)
+                text = ToUpper(text);
+        }
     if (!IsComplete(main))
         return;
     Store(main);

@@ -29,9 +29,9 @@ void Load(CallBoxes& boxes, const SettingsState& settings)
 
 void Keep(CallBoxes& boxes)
 {
-    boxes.From = ToUpper(boxes.txtFrom);
-    boxes.To = ToUpper(boxes.txtTo);
-    boxes.Via = ToUpper(boxes.txtVia);
+    boxes.From = ToUpper(Trim(boxes.txtFrom));
+    boxes.To = ToUpper(Trim(boxes.txtTo));
+    boxes.Via = ToUpper(Trim(boxes.txtVia));
 }
 
 } // namespace ruvenmark

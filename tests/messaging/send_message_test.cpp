@@ -17,7 +17,8 @@ TEST_F(MessageTest, AMessageGoesOutOverEveryRoadToTheLetterAndIsFiled)
     EXPECT_EQ(RowsOf(SentList()), Texts{"W1AW|N0CALL|WIDE1-1|2026-11-22 20:15:03|hello|1*"});
     EXPECT_EQ(BoxText("MessagesSent"), "Sent Items (1)");
 
-    SendByDialog("W1AW", "hello"); // Two alike differ by their number.
+    SendByDialog(" W1AW ", "hello"); // Two alike differ by their number.
+    EXPECT_EQ(Take().back(), "server N0CALL>APRS,TCPIP*::W1AW     :hello{2");
     EXPECT_EQ(SentList().Count(), 2U);
     EXPECT_EQ(main.sbStatusBar.PanelText(Panel::Call), "N0CALL");
     mnuSendMessage_Click(main); // Closed: nothing goes out.

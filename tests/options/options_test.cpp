@@ -110,19 +110,37 @@ TEST_F(Options, WhatNobodyTouchedIsNotComplainedOf)
     EXPECT_TRUE(IsOpen());
 }
 
+// Else a Save of the comment would send the station back to where it was when the dialog opened.
+TEST_F(Options, WhatCameWhileItStoodOpenStaysWhereNobodyTouchedIt)
+{
+    mnuViewOptions_Click(main);
+    Set(S::Lat, "48.5");
+    Set(S::Lon, "9.5");
+    Set(S::ShowRFNames, "0");
+    Set(S::DefaultMap, "/new.ptm");
+    Set(S::PositionInt, "3");
+    Text(S::Comment) = "hello";
+    Text(S::Lon) = "10";
+    frmOptions_Save(main);
+    EXPECT_EQ(Kept(S::Comment) + ' ' + Kept(S::Lat) + ' ' + Kept(S::Lon), "hello 48.5 10");
+    EXPECT_EQ(Kept(S::ShowRFNames) + ' ' + Kept(S::DefaultMap) + ' ' + Kept(S::PositionInt), "0 /new.ptm 3");
+}
+
 // A call in small letters is deaf to its messages; " 12" spoils a weather report, which goes out as stored, and
 // "1013.2" would be read as another pressure if it were rounded.
 TEST_F(Options, WhatWasTypedIsStoredAsItMustGoOut)
 {
     mnuViewOptions_Click(main);
     Text(S::Call) = " n1call-7 ";
-    Text(S::Path) = "Wide2-2"; // Only the call.
+    Text(S::Path) = " Wide2-2 "; // Only the call in large letters.
+    Text(S::MessageSubnet) = "APRS ";
     Text(S::Rain1) = " 12";
     Text(S::Pressure) = "1013.2";
     Text(S::Alt) = "1e2";
     Text(S::Lat) = "47.50"; // No whole number.
     frmOptions_Save(main);
     EXPECT_EQ(Kept(S::Call) + ' ' + Kept(S::Path), "N1CALL-7 Wide2-2");
+    EXPECT_EQ(Kept(S::MessageSubnet), "APRS");
     EXPECT_EQ(Kept(S::Rain1) + ' ' + Kept(S::Pressure) + ' ' + Kept(S::Alt) + ' ' + Kept(S::Lat),
               "12 1013.2 100 47.50");
     mnuViewOptions_Click(main);

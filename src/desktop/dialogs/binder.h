@@ -24,7 +24,7 @@ public:
     void Bind(QLineEdit& edit, std::string& field)
     {
         QObject::connect(&edit, &QLineEdit::textEdited, &edit,
-                         [&field](const QString& text) { field = text.toStdString(); });
+                         [&field](const QString& text) { field = Entered(text); });
         Add([&edit, &field] {
             if (const QString text = ForDisplay(field); edit.text() != text)
                 edit.setText(text);
@@ -56,7 +56,7 @@ public:
     {
         list.setInsertPolicy(QComboBox::NoInsert);
         list.setCompleter(nullptr); // It would show more than was typed.
-        const auto take = [&list, &field] { field = list.currentText().toStdString(); };
+        const auto take = [&list, &field] { field = Entered(list.currentText()); };
         QObject::connect(list.lineEdit(), &QLineEdit::textEdited, &list, take);
         QObject::connect(&list, &QComboBox::activated, &list, take);
         Add([&list, &field] {
@@ -84,6 +84,17 @@ public:
     }
 
 private:
+    // One line: what is pasted may hold line ends, shown as blanks, which would go unseen into settings and packets.
+    static std::string Entered(QString text)
+    {
+        while (!text.isEmpty() && IsBreak(text.back().unicode()))
+            text.chop(1);
+        for (QChar& c : text)
+            if (IsBreak(c.unicode()) || c.isNull())
+                c = QChar::Space;
+        return text.toStdString();
+    }
+
     void Add(std::function<void()> show)
     {
         show();

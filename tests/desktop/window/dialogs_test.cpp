@@ -299,6 +299,18 @@ TEST_F(DialogsTest, SerialLinksTakeATypedPortAndAChosenRate)
     EXPECT_EQ(wires.opened, "serial /dev/ttyS0 2400");
 }
 
+// A call pasted with its line end would be deaf to its messages while the box looks right.
+TEST(BinderTest, WhatIsPastedIsOneLine)
+{
+    QLineEdit edit;
+    std::string field = "old";
+    Binder binder;
+    binder.Bind(edit, field);
+    edit.selectAll();
+    edit.insert(QStringLiteral("two\nlines\r\n"));
+    EXPECT_EQ(field, "two lines");
+}
+
 // Completed by itself, a box would show a port that nobody chose while the field held what was typed.
 TEST(BinderTest, AnEditableListShowsWhatItsFieldHolds)
 {
