@@ -1,5 +1,8 @@
 #include "desktop/adapters/wave_sound.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 #include <alsa/asoundlib.h>
 #include <memory>
 #include <sndfile.h>
@@ -60,8 +63,11 @@ bool Play(snd_pcm_t* device, const short* samples, sf_count_t frames, int channe
 
 void WaveSound::PlayAndWait(std::string_view path)
 {
+    const std::string name(path);
+    if (!QFileInfo(QFile::decodeName(name.c_str())).isFile())
+        return; // A pipe would be waited for.
     SF_INFO info{};
-    const std::unique_ptr<SNDFILE, CloseFile> file(sf_open(std::string(path).c_str(), SFM_READ, &info));
+    const std::unique_ptr<SNDFILE, CloseFile> file(sf_open(name.c_str(), SFM_READ, &info));
     if (!file || info.channels <= 0)
         return;
     const Device device = OpenDevice(info);

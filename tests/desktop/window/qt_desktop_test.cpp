@@ -3,6 +3,7 @@
 #include "desktop/adapters/base_places.h"
 #include "desktop/adapters/qt_desktop.h"
 #include "desktop/adapters/qt_prompts.h"
+#include "desktop/adapters/wave_sound.h"
 #include "desktop/map/widget/map_widget.h"
 #include "mapfiles/base_map.h"
 #include "platform/failure.h"
@@ -10,6 +11,9 @@
 
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
 
 namespace ruvenmark {
 namespace {
@@ -135,6 +139,15 @@ TEST(QtDesktopTest, APictureIsFetchedOnceAndWhatCameIsTold)
     EXPECT_TRUE(QTest::qWaitFor([&] { return came.size() == 3; }));
     EXPECT_EQ(came.back().status, 0);
     EXPECT_NE(came.back().problem, "");
+}
+
+// Nobody writes into it: whoever opens it waits for ever.
+TEST(WaveSoundTest, APipeIsNotWaitedFor)
+{
+    const QTemporaryDir folder;
+    const std::string path = folder.filePath(QStringLiteral("wave.wav")).toStdString();
+    ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
+    WaveSound().PlayAndWait(path);
 }
 
 } // namespace
