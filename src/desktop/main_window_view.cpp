@@ -175,7 +175,7 @@ void MainWindowView::Observe()
                 ShowFirstSteps();
         }),
         m_main.map.SelectionChanged.Observe([this, refreshLater] {
-            m_map->update();
+            m_map->FollowSelection();
             refreshLater();
         }),
     };

@@ -57,6 +57,8 @@ public:
     void OpenFile(const std::string& path);
     void LoadFile(IByteStream& bytes); // Opened before.
 
+    void RefreshStates(); // Of menus, buttons and first steps, now instead of soon.
+
 signals:
     void Ended(int status); // Closed, and all is saved that can be.
 
@@ -78,7 +80,6 @@ private:
     void RunLogic(const std::function<void()>& work);
     void Observe();
     void ShowState();
-    void RefreshStates();
     void RefreshIcons();
     void ShowTiles();
     void ShowMapLook();

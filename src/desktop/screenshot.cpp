@@ -30,6 +30,7 @@ void SaveScreenshot(MainWindowView& window, QSize size, const QString& path)
             QThread::msleep(2); // The work is done in other threads.
         }
         QCoreApplication::processEvents();
+        window.RefreshStates();
         picture = window.grab();
     } while (!window.Map().IsReady() && watch.elapsed() < kLongestMs);
     if (!picture.save(path))

@@ -52,7 +52,7 @@ std::optional<MarkedStation> StationOfMarker(const MainWindow& main, std::string
         if (!markerName.ends_with(ending))
             continue;
         const std::string_view call = markerName.substr(0, markerName.size() - ending.size());
-        if (state.Stations.Contains(call))
+        if (state.Stations.Contains(call) || NodeOfStation(main, state.channel, call))
             return MarkedStation{state.channel, std::string(call)};
     }
     return std::nullopt;

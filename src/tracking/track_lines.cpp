@@ -2,6 +2,7 @@
 
 #include "core/main_window.h"
 #include "map/marker_names.h"
+#include "map/selection.h"
 #include "map/symbols.h"
 #include "tracking/track_lists.h"
 
@@ -119,6 +120,8 @@ void AddTrackPoint(MainWindow& main, Channel channel, std::string_view call, Pus
     Pushpin moved = map.AddPushpin(location, MarkerName(word, call));
     moved.SetBalloonState(balloon);
     moved.SetSymbol(SymbolId(symbolWord));
+    if (main.map.Selection == MapSelection(pin))
+        SelectOnMap(main, moved); // The station was picked, not the place that it left.
     if (main.tracking.bShowTrackLine)
         DrawTrackLine(main, state, call, from, moved.Location());
 }

@@ -77,7 +77,7 @@ void StationRows::Observe(const TreeNode& node, bool bGone)
         return;
     const auto channel = ChannelOfWord(folder->Parent()->Word());
     if (!channel)
-        return;
+        return TellDue(); // The own station may have moved.
     MarkCall(*channel, station->Word());
     m_lastMarked = bGone ? nullptr : station;
 }

@@ -212,8 +212,14 @@ void mnuPopupConnect_Click(MainWindow& main)
 
 void mnuPopupToggleFilter_Click(MainWindow& main)
 {
-    if (const auto channel = SelectedChannel(main))
-        main.Of(*channel).Filter.bOn = !main.Of(*channel).Filter.bOn;
+    const auto channel = SelectedChannel(main);
+    if (!channel)
+        return;
+    ReportFilter& filter = main.Of(*channel).Filter;
+    filter.bOn = !filter.bOn;
+    // The dialog may stand open, and what it shows is stored.
+    main.frmFilter.fields[Index(*channel)].bOn = filter.bOn;
+    main.services.dialogs.Refresh(Form::frmFilter);
 }
 
 void mnuPopupEditFilter_Click(MainWindow& main)

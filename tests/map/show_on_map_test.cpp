@@ -5,6 +5,7 @@
 #include "map/pointer_tools.h"
 #include "map/selection.h"
 #include "map/show_on_map.h"
+#include "map/station_notes.h"
 #include "support/test_program.h"
 #include "tracking/filter_form_rules.h"
 #include "ui/menus.h"
@@ -85,6 +86,8 @@ TEST_F(Showing, TrailsAndOddNamesBelongToTheirStations)
     p.Position(Channel::RF, "A(t)", 1, 2);
     EXPECT_EQ(callOf("N0CALL(t)*"), "N0CALL");
     EXPECT_EQ(callOf("A(t)(r)"), "A(t)");
+    ForgetStation(p.main, Channel::TCP, "N0CALL"); // Its status was deleted: the node still stands.
+    EXPECT_EQ(callOf("N0CALL(t)"), "N0CALL");
     for (const char* none : {"N0CALL(r)", "N0CALL", "*"})
         EXPECT_EQ(callOf(none), "(none)");
 }

@@ -1,3 +1,4 @@
+#include "map/selection.h"
 #include "tracking/track_lines.h"
 #include "tracks_fixture.h"
 
@@ -16,12 +17,14 @@ TEST_F(Tracks, AMoveLeavesAPointAndALineBehind)
     At(48);
     const std::string firstNote = p.Note("N0CALL(t)");
     p.clock.Advance(std::chrono::seconds(5));
+    SelectOnMap(p.main, *p.Marker("N0CALL(t)"));
     p.Position(Channel::TCP, "N0CALL", 49, 12, "Van");
 
     EXPECT_THAT(Markers(), ElementsAre("N0CALL(t)*=1", "N0CALL(t)=1"));
     const Pushpin point = *p.Marker("N0CALL(t)*"), marker = *p.Marker("N0CALL(t)");
     EXPECT_EQ(point.Location().Point(), (GeoPoint{48, 11}));
-    EXPECT_EQ(point.Note(), firstNote); // Keeps its note and picture.
+    EXPECT_EQ(p.main.map.Selection, MapSelection(marker)); // Who picked a station goes on with it.
+    EXPECT_EQ(point.Note(), firstNote);                    // Keeps its note and picture.
     EXPECT_EQ(point.Symbol(), 82);
     EXPECT_EQ(marker.Symbol(), 87);
     EXPECT_THAT(marker.Note(), testing::StartsWith("TCP, 2026-11-22 20:15:08"));

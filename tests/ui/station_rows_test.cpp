@@ -1,3 +1,4 @@
+#include "outgoing/my_station.h"
 #include "support/test_program.h"
 #include "ui/station_rows.h"
 #include "ui/station_tree_commands.h"
@@ -39,6 +40,20 @@ protected:
     TestProgram program;
     StationRows rows{program.main};
 };
+
+// Without a report to come the miles would stay those of the former place.
+TEST_F(StationList, ItsMilesFollowTheOwnStation)
+{
+    program.Position(Channel::RF, "N0CALL", 1, 0);
+    UpdateAll();
+    int told = 0;
+    const auto subscription = rows.Due.Observe([&] { ++told; });
+    program.Set("Call=N0CALL Lat=2");
+    AddMyStationNode(program.main);
+    EXPECT_EQ(told, 1);
+    UpdateAll();
+    EXPECT_THAT(Column(C::Bearing), ElementsAre("180°"));
+}
 
 // A report costs a mark, told once until it is taken in.
 TEST_F(StationList, ListsWhatIsKnownOfAStation)

@@ -96,6 +96,8 @@ TEST(StationTree, FiltersAreSwitchedAndEditedByTheirRootAndOnlyFilesAreUnloaded)
     program.Select("TCP");
     RunMenuEntry(program.main, MenuEntry::mnuPopupToggleFilter);
     EXPECT_TRUE(program.main.Of(Channel::TCP).Filter.bOn && !program.main.Of(Channel::RF).Filter.bOn);
+    EXPECT_TRUE(program.main.frmFilter.fields[Index(Channel::TCP)].bOn); // Else a Save there would undo it.
+    program.dialogs.calls.clear();
     for (const char* key : {"TCP", "RFPositions"}) {
         program.Select(key);
         RunMenuEntry(program.main, MenuEntry::mnuPopupEditFilter);

@@ -63,6 +63,11 @@ TEST(FirstSteps, AreGoneWithTheFirstReport)
 {
     TestProgram program;
     EXPECT_TRUE(WantsFirstSteps(program.main));
+    const Location here = program.TheMap().GetLocation(1, 2);
+    Shape line = program.TheMap().AddLine(here, here);
+    EXPECT_FALSE(WantsFirstSteps(program.main));
+    line.Delete();
+    EXPECT_TRUE(WantsFirstSteps(program.main));
     program.Sink(Channel::RF).ReportStatus({"N0CALL", "APRS", "", kNoPosition, kNoPosition, "here"});
     EXPECT_FALSE(WantsFirstSteps(program.main));
     EXPECT_FALSE(HasPlacedStations(program.main));

@@ -140,6 +140,13 @@ void MapWidget::SetFadeAfter(std::int32_t minutes)
     update();
 }
 
+void MapWidget::FollowSelection()
+{
+    if (const auto* pin = std::get_if<Pushpin>(&m_selection); pin && m_balloons.Pinned())
+        m_balloons.Pin(pin->Ref());
+    update();
+}
+
 void MapWidget::SetDirections(const std::optional<LineEnds>& ends)
 {
     m_directions = ends;

@@ -31,7 +31,7 @@ class MapWidget : public QWidget {
 
 public:
     // What is passed must outlive the widget; base may be null. The selection is the logic's: it is read at each paint,
-    // and changed by whoever hears SelectionWanted. Call update() when it has changed.
+    // and changed by whoever hears SelectionWanted. Call FollowSelection when it has changed.
     MapWidget(MapControl& control, IconSet& icons, const BaseMap* base, const MapSelection& selection,
               QWidget* parent = nullptr);
     ~MapWidget() override;
@@ -46,6 +46,7 @@ public:
         return m_ground.IsReady() && m_scene.KeptShapes().IsReady() && !m_gather.isActive() && !m_mover.IsMoving();
     }
     int Paints() const { return m_paints; }
+    void FollowSelection();                          // An open balloon too.
     bool IsLastPaintPart() const { return m_bPart; } // Only places that had changed were painted.
 
     // Seconds since 1970, for ages; the machine's own clock at first.
