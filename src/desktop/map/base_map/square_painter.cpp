@@ -1,5 +1,7 @@
 #include "desktop/map/base_map/square_painter.h"
 
+#include "desktop/map/view/whole_pixels.h"
+
 #include <QPainter>
 #include <QThread>
 
@@ -149,6 +151,7 @@ bool SquarePainter::Paint(QPainter& painter, const ViewFrame& frame, const How& 
     painter.setClipRect(frame.Rect(), Qt::IntersectClip);
     painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     painter.scale(1 / how.ratio, 1 / how.ratio);
+    ToWholePixels(painter);
     const auto isReady = [this](const GroundSquare& tile) { return m_ready.contains(tile); };
     if (!std::all_of(visible.begin(), visible.end(), isReady)) {
         painter.fillRect(QRectF(0, 0, frame.width * how.ratio, frame.height * how.ratio),

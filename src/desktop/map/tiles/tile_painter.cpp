@@ -1,6 +1,7 @@
 #include "desktop/map/tiles/tile_painter.h"
 
 #include "desktop/map/tiles/map_tiles.h"
+#include "desktop/map/view/whole_pixels.h"
 
 #include <QPainter>
 
@@ -71,6 +72,7 @@ bool PaintTiles(QPainter& painter, const ViewFrame& frame, MapTiles& tiles, qrea
     bool bAll = true;
     painter.save();
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    ToWholePixels(painter);
     for (const Place& place : places) {
         wanted.push_back(place.tile);
         const QImage* picture = tiles.Find(place.tile);

@@ -74,13 +74,14 @@ TEST_F(BaseMapPainterTest, EveryStyleLooksDifferentAndRoadAndDataPaler)
 
 class SquarePainterTest : public testing::Test {
 protected:
-    QImage Paint(const ViewFrame& frame, bool wait, double ratio = 1)
+    QImage Paint(const ViewFrame& frame, bool wait, double ratio = 1, double origin = 0)
     {
         QImage image(static_cast<int>(frame.width * ratio), static_cast<int>(frame.height * ratio),
                      QImage::Format_RGB32);
         image.setDevicePixelRatio(ratio);
         image.fill(Qt::magenta);
         QPainter painter(&image);
+        painter.translate(origin / ratio, origin / ratio);
         isWhole = tiles.Paint(painter, frame, {MapStyle::Road, false, ratio, wait});
         return image;
     }
@@ -138,6 +139,16 @@ TEST_F(SquarePainterTest, FillsInLaterAndShowsOlderScalesMeanwhile)
     // Switzerland lies inland: from nearer, the land of the scale before shows at once.
     const QImage nearer = Paint(FrameAt({47, 8.5}, 7, 300, 200), false);
     EXPECT_GT(Difference(nearer.pixel(150, 100), PaletteFor(MapStyle::Road, false).water.rgb()), 40);
+}
+
+// In a window on a screen that is enlarged by one and a half the map's corner lies on half a pixel: a row between two
+// squares that is not painted shows what was there before the map moved.
+TEST_F(SquarePainterTest, CoversEveryPixelOfAPartThatBeginsOnHalfOne)
+{
+    for (const double lat : {52.0, 50.1}) {
+        const QImage image = Paint(FrameAt({lat, 8}, 6, 500, 400), true, 1.5, 0.5);
+        EXPECT_EQ(Unpainted(image.copy(image.rect().adjusted(1, 1, -1, -1))), 0U) << lat;
+    }
 }
 
 } // namespace
