@@ -92,10 +92,8 @@ void ShapeLayer::Paint(QPainter& painter, const ShapeLayout& layout, const SlotP
 {
     const std::size_t lines = layout.Lines().size();
     const bool bZooms = std::exchange(m_lastWorld, frame.world) != frame.world; // Each frame is another picture then.
-    // Where the world comes around, lines jump to the copy that is nearer.
-    const bool bAround = frame.world < frame.width + 4 * ShapeLayout::kSurroundings;
     m_renewed = {};
-    if (lines < kFew || (lines <= kAtOnce && (bZooms || bAround))) {
+    if (lines < kFew || (lines <= kAtOnce && bZooms)) {
         m_bKnown = false;
         ++m_version;
         if (frame.world == m_place.world || shapes.Count() == 0)
@@ -107,7 +105,7 @@ void ShapeLayer::Paint(QPainter& painter, const ShapeLayout& layout, const SlotP
     if (lines > kAtOnce && !std::exchange(m_bBegun, true) && !m_bWorking)
         PutOff();
     if (!m_bWorking || lines <= kAtOnce) {
-        Uncover(place, look, bAround);
+        Uncover(place, look);
         FindChanges(layout, shapes, frame, place);
         if (IsLittle(lines, m_renewed, place.size, kAtOnce)) {
             ++m_version;
@@ -128,13 +126,13 @@ void ShapeLayer::Paint(QPainter& painter, const ShapeLayout& layout, const SlotP
 }
 
 // What of the view is not in the picture.
-void ShapeLayer::Uncover(const Place& place, const ShapeLook& look, bool bAround)
+void ShapeLayer::Uncover(const Place& place, const ShapeLook& look)
 {
     const QRect all(QPoint(), place.size);
     const bool bFits = m_bKnown && m_place.world == place.world && m_place.ratio == place.ratio &&
                        m_place.size == place.size && m_look == look;
     const QPoint by = MoveTo(place);
-    m_renewed = !bFits || (bAround && !by.isNull()) ? QRegion(all) : QRegion(all) - all.translated(by);
+    m_renewed = !bFits ? QRegion(all) : QRegion(all) - all.translated(by);
 }
 
 // Of the picture within the view at a place of the same scale.
@@ -207,11 +205,13 @@ void ShapeLayer::AddChange(const Seen& seen, const ViewFrame& frame, const Place
     const QPointF from = frame.ToPixel(seen.from);
     const QPointF to = from + QPointF(seen.to.x - seen.from.x, seen.to.y - seen.from.y) * frame.world;
     const QRectF box = QRectF(from, to).normalized().adjusted(-reach, -reach, reach, reach);
-    const QRectF inView = box & frame.Rect();
     if (seen.bCircle || m_renewed.rectCount() > kMostPieces)
         m_renewed = all;
-    else if (!inView.isEmpty())
-        m_renewed += QRectF(inView.topLeft() * place.ratio, inView.size() * place.ratio).toAlignedRect() & all;
+    else
+        EachCopy(box.left(), box.right(), frame.Rect(), frame.world, [&](double shift) {
+            const QRectF inView = box.translated(shift, 0) & frame.Rect();
+            m_renewed += QRectF(inView.topLeft() * place.ratio, inView.size() * place.ratio).toAlignedRect() & all;
+        });
 }
 
 void ShapeLayer::Renew(const ShapesInView& shapes, const ViewFrame& frame)

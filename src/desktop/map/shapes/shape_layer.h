@@ -67,7 +67,7 @@ private:
     static Place PlaceOf(const ViewFrame& frame, qreal ratio);
     static void PaintAt(const Place& place, QPainter& painter, const ShapesInView& shapes, const ViewFrame& frame,
                         const ShapeLook& look, const QRegion* only);
-    void Uncover(const Place& place, const ShapeLook& look, bool bAround);
+    void Uncover(const Place& place, const ShapeLook& look);
     QPoint MoveTo(const Place& place) const;
     void Move(const Place& place);
     void FindChanges(const ShapeLayout& layout, const SlotPool<ShapeData>& shapes, const ViewFrame& frame,

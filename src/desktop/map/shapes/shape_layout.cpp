@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <utility>
 
 namespace ruvenmark {
 
@@ -36,6 +37,21 @@ QRectF Box(const ViewFrame& frame, GeoPoint centre, double angle)
 int Corners(double radiusPixels)
 {
     return static_cast<int>(std::clamp(std::numbers::pi * std::sqrt(2 * radiusPixels), 48.0, kMostArcs));
+}
+
+// In one piece, beginning and ending in the north. Around a pole its ends lie a world apart.
+QPolygonF Outline(const ViewFrame& frame, GeoPoint centre, double angle, int corners)
+{
+    QPolygonF outline;
+    outline.reserve(corners + 1);
+    for (int i = 0; i <= corners; ++i) {
+        const double bearing = 360.0 * i / corners;
+        QPointF at = frame.ToPixel(ToMercator(Destination(centre, bearing, angle * kEarthRadiusMiles)));
+        if (i > 0)
+            at.rx() -= std::floor((at.x() - outline.last().x()) / frame.world + 0.5) * frame.world;
+        outline.append(at);
+    }
+    return outline;
 }
 
 bool IsInside(QPointF at, const QRectF& rect)
@@ -96,47 +112,56 @@ const ShapeLayout::Projected& ShapeLayout::Project(SlotRef ref, const ShapeData&
     return projected;
 }
 
-// The short way round the earth. A short line counts only where none stands already: a long trail of small steps is
-// seen at any zoom, and costs no more than it shows.
+// The short way round the earth. Mostly there is room for one copy only.
 void ShapeLayout::AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& frame, GroundGrid& shortLines)
 {
     const Projected& projected = Project(ref, shape);
     const QPointF from = frame.ToPixel(projected.from);
     const QPointF to =
         from + QPointF(projected.to.x - projected.from.x, projected.to.y - projected.from.y) * frame.world;
-    LineItem item{ref.slot, shape.foreColor, shape.weight, false, false, QLineF(from, to)};
+    const QLineF line(from, to);
     const QRectF area = Surroundings(frame);
-    const bool bInside = IsInside(from, area) && IsInside(to, area);
+    const double middle = frame.width / 2.0;
+    if (std::max(std::abs(from.x() - middle), std::abs(to.x() - middle)) < frame.world - area.width() / 2)
+        return AddInCopy(ref, shape, line, area, shortLines);
+    const auto [left, right] = std::minmax({from.x(), to.x()});
+    EachCopy(left, right, area, frame.world,
+             [&](double shift) { AddInCopy(ref, shape, line.translated(shift, 0), area, shortLines); });
+}
+
+// A short line counts only where none stands already: a long trail of small steps is seen at any zoom, and costs no
+// more than it shows.
+void ShapeLayout::AddInCopy(SlotRef ref, const ShapeData& shape, const QLineF& whole, const QRectF& area,
+                            GroundGrid& shortLines)
+{
+    LineItem item{ref.slot, shape.foreColor, shape.weight, false, false, whole};
+    const bool bInside = IsInside(whole.p1(), area) && IsInside(whole.p2(), area);
     if (!bInside && !CutLine(item.line, area))
         return;
-    const bool bShort = std::abs(to.x() - from.x()) < kShortLine && std::abs(to.y() - from.y()) < kShortLine;
-    if (bShort && !shortLines.Take((from + to) / 2))
+    const bool bShort = std::abs(whole.dx()) < kShortLine && std::abs(whole.dy()) < kShortLine;
+    if (bShort && !shortLines.Take(whole.center()))
         return;
     const auto isWhole = [&](QPointF end, QPointF cut) { return bInside || (cut - end).manhattanLength() <= 0.01; };
-    item.bBeginArrow = shape.bBeginArrowhead && isWhole(from, item.line.p1());
-    item.bEndArrow = shape.bEndArrowhead && isWhole(to, item.line.p2());
+    item.bBeginArrow = shape.bBeginArrowhead && isWhole(whole.p1(), item.line.p1());
+    item.bEndArrow = shape.bEndArrowhead && isWhole(whole.p2(), item.line.p2());
     m_inView.lines.push_back(item);
 }
 
 void ShapeLayout::AddCircle(SlotRef ref, const ShapeData& shape, const ViewFrame& frame)
 {
     const double angle = std::min(std::abs(shape.width) / kEarthRadiusMiles, std::numbers::pi);
+    const QRectF area = Surroundings(frame);
     const QRectF box = Box(frame, shape.from, angle);
-    if (!box.intersects(Surroundings(frame)))
+    if (box.top() > area.bottom() || box.bottom() < area.top())
         return;
-    const int corners = Corners(std::max(box.width(), box.height()) / 2);
-    CircleItem item{ref.slot, shape.foreColor, shape.weight, {}};
-    item.outline.reserve(corners + 1);
-    for (int i = 0; i <= corners; ++i) {
-        const double bearing = 360.0 * i / corners;
-        QPointF at = frame.ToPixel(ToMercator(Destination(shape.from, bearing, angle * kEarthRadiusMiles)));
-        if (i > 0) {
-            const double jump = at.x() - item.outline.last().x();
-            at.rx() -= std::floor(jump / frame.world + 0.5) * frame.world;
-        }
-        item.outline.append(at);
-    }
-    m_inView.circles.push_back(std::move(item));
+    QPolygonF outline; // When first wanted.
+    EachCopy(box.left(), box.right(), area, frame.world, [&](double shift) {
+        if (outline.isEmpty())
+            outline = Outline(frame, shape.from, angle, Corners(std::max(box.width(), box.height()) / 2));
+        QPolygonF shown = outline.translated(shift, 0);
+        if (shown.boundingRect().intersects(area))
+            m_inView.circles.push_back({ref.slot, shape.foreColor, shape.weight, std::move(shown)});
+    });
 }
 
 } // namespace ruvenmark

@@ -7,7 +7,9 @@
 
 #include <QLineF>
 #include <QPolygonF>
+#include <QRectF>
 
+#include <cmath>
 #include <cstdint>
 #include <vector>
 
@@ -35,7 +37,8 @@ struct ShapesInView {
 
 inline constexpr double kShortLine = 3; // Pixels; of such lines one is enough for each square of that size.
 
-// Which shapes are seen, and where. A shape's ends never change, so their projection is kept from one look to the next.
+// Which shapes are seen, and where: in a view that is wider than the world, once for each copy. A shape's ends never
+// change, so their projection is kept from one look to the next.
 class ShapeLayout {
 public:
     static constexpr double kSurroundings = 96; // Pixels around the view; more than the widest pen and arrowhead.
@@ -56,6 +59,8 @@ public:
 private:
     const Projected& Project(SlotRef ref, const ShapeData& shape);
     void AddLine(SlotRef ref, const ShapeData& shape, const ViewFrame& frame, GroundGrid& shortLines);
+    void AddInCopy(SlotRef ref, const ShapeData& shape, const QLineF& whole, const QRectF& area,
+                   GroundGrid& shortLines);
     void AddCircle(SlotRef ref, const ShapeData& shape, const ViewFrame& frame);
 
     std::vector<Projected> m_projected; // By slot.
@@ -63,6 +68,15 @@ private:
     MercatorPoint m_lastProjected = ToMercator({}); // and its projection.
     ShapesInView m_inView;
 };
+
+// Calls visit(shift) for each copy of the world where something this wide, in pixels of a view, meets the area.
+template <typename Visit>
+void EachCopy(double left, double right, const QRectF& area, double world, Visit visit)
+{
+    const double last = std::floor((area.right() - left) / world);
+    for (double copy = std::ceil((area.left() - right) / world); copy <= last; ++copy)
+        visit(copy * world);
+}
 
 // The part of a line that lies in a rectangle; false where none does.
 bool CutLine(QLineF& line, const QRectF& rect);

@@ -122,6 +122,26 @@ TEST_F(ShapeLayerTest, AMovedPictureIsAsOnePaintedAtOnce)
     }
 }
 
+// Of a view that is wider than the world no copy may be left behind by a move or a change.
+TEST_F(ShapeLayerTest, APictureOfSeveralCopiesOfTheWorldIsKeptToo)
+{
+    zoom = 0.2;
+    ASSERT_LT(FrameAt(0, 0).world, kWidth * 0.7);
+    std::uniform_real_distribution<double> lat(-80, 80), lon(-180, 180);
+    shapes.Clear();
+    for (std::size_t i = 0; i < 6 * ShapeLayer::kFew; ++i)
+        shapes.Add(Step({lat(random), lon(random)}, random));
+    const SlotRef longest = shapes.Add(Step({50, -60}, random));
+    shapes.Find(longest)->to = {55, 80};
+    Kept(FrameAt(0, 0));
+    ASSERT_GT(layout.Lines().size(), ShapeLayer::kFew);
+    for (const double east : {31, 200, 190})
+        EXPECT_LT(Differing(FrameAt(east, 5)), 20) << east;
+    shapes.Find(longest)->foreColor = 0;
+    EXPECT_LT(Differing(FrameAt(190, 5)), 20);
+    EXPECT_LT(RenewedPixels(), kWidth * kHeight / 2);
+}
+
 // A trail that is hidden, removed or drawn anew must not wait for the next move of the map, nor repaint all the others.
 TEST_F(ShapeLayerTest, AChangedLineIsRenewedWhereItIs)
 {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace ruvenmark {
 namespace {
 
@@ -76,6 +78,37 @@ TEST_F(ShapeLayoutTest, LineCrossesTheDateLineTheShortWayAndIsCutToTheView)
     EXPECT_TRUE(lines[0].bBeginArrow && lines[0].bEndArrow);
     EXPECT_LT(lines[1].line.length(), 1000);
     EXPECT_FALSE(lines[1].bBeginArrow || lines[1].bEndArrow) << "its ends lie elsewhere";
+}
+
+// Trails must not be torn, nor circles missing, where markers stand: in each copy of the world that is seen.
+TEST_F(ShapeLayoutTest, ShapesStandInEachCopyOfTheWorld)
+{
+    const MapView view{{20, 60}, 1.4, 1280, 600};
+    ASSERT_LT(view.WorldPixels(), 700);
+    for (int lon = -150; lon < -80; lon += 5)
+        shapes.Add(Line({40, lon + 0.0}, {40, lon + 5.0}));
+    shapes.Add(Circle({20, -115}, 800));
+    shapes.Add(Circle({88, 10}, 300));
+    Lines(view);
+    const std::uint32_t circle = 14;
+    std::vector<int> times(shapes.SlotCount());
+    double polar = 0;
+    for (const LineItem& item : layout.Lines())
+        ++times[item.slot];
+    for (const CircleItem& item : layout.Circles()) {
+        ++times[item.slot];
+        polar += item.slot > circle ? item.outline.boundingRect().width() : 0;
+    }
+    for (std::uint32_t slot = 0; slot <= circle; ++slot)
+        EXPECT_EQ(times[slot], 2) << slot;
+    EXPECT_GE(polar, view.width);
+}
+
+TEST_F(ShapeLayoutTest, ALongLineIsSeenAtItsFarEndToo)
+{
+    shapes.Add(Line({40, -100}, {40, 79}));
+    for (const double lon : {-100, 79, 100}) // Beyond the last one lies half the world without it.
+        EXPECT_EQ(Lines({{40, lon}, 3, 800, 600}).size(), 1U) << lon;
 }
 
 TEST_F(ShapeLayoutTest, ALongTrailOfSmallStepsIsSeenAtAnyZoom)
