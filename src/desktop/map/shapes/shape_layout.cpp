@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
-#include <utility>
 
 namespace ruvenmark {
 
@@ -152,15 +151,15 @@ void ShapeLayout::AddCircle(SlotRef ref, const ShapeData& shape, const ViewFrame
     const double angle = std::min(std::abs(shape.width) / kEarthRadiusMiles, std::numbers::pi);
     const QRectF area = Surroundings(frame);
     const QRectF box = Box(frame, shape.from, angle);
-    if (box.top() > area.bottom() || box.bottom() < area.top())
+    bool bSeen = false;
+    EachCopy(box.left(), box.right(), area, frame.world, [&](double) { bSeen = true; });
+    if (!bSeen || box.top() > area.bottom() || box.bottom() < area.top())
         return;
-    QPolygonF outline; // When first wanted.
-    EachCopy(box.left(), box.right(), area, frame.world, [&](double shift) {
-        if (outline.isEmpty())
-            outline = Outline(frame, shape.from, angle, Corners(std::max(box.width(), box.height()) / 2));
-        QPolygonF shown = outline.translated(shift, 0);
-        if (shown.boundingRect().intersects(area))
-            m_inView.circles.push_back({ref.slot, shape.foreColor, shape.weight, std::move(shown)});
+    const int corners = Corners(std::max(box.width(), box.height()) / 2);
+    const QPolygonF outline = Outline(frame, shape.from, angle, corners);
+    const QRectF bounds = outline.boundingRect(); // Around a pole it may lie a world beside the box.
+    EachCopy(bounds.left(), bounds.right(), area, frame.world, [&](double shift) {
+        m_inView.circles.push_back({ref.slot, shape.foreColor, shape.weight, outline.translated(shift, 0)});
     });
 }
 

@@ -37,6 +37,8 @@ const MarkerItem* MapPicker::MarkerAt(QPointF at)
 std::vector<SlotRef> MapPicker::MarkersAt(QPointF at)
 {
     std::vector<SlotRef> refs;
+    if (m_balloons.PinnedRect().contains(at))
+        return refs;
     if (const MarkerItem* item = MarkerAt(at)) {
         Map& map = m_control.RequireMap();
         for (const std::uint32_t slot : m_scene.Markers().Members(map.PinPoints(), *item))
@@ -47,7 +49,8 @@ std::vector<SlotRef> MapPicker::MarkersAt(QPointF at)
 
 Picked MapPicker::Click(QPointF at)
 {
-    if (m_balloons.PinnedRect().contains(at)) {
+    m_bOnBalloon = m_balloons.PinnedRect().contains(at);
+    if (m_bOnBalloon) {
         if (m_balloons.CrossRect().contains(at))
             m_balloons.Close();
         return {};
@@ -61,6 +64,11 @@ Picked MapPicker::Click(QPointF at)
     Map* map = m_control.ActiveMap();
     const auto shape = map ? ShapeUnder(m_scene.Shapes(), map->Shapes(), at) : std::nullopt;
     return {shape ? MapSelection(map->ShapeAt(*shape)) : MapSelection(), {}};
+}
+
+bool MapPicker::IsGround(QPointF at)
+{
+    return !m_bOnBalloon && !m_balloons.PinnedRect().contains(at) && MarkersAt(at).empty();
 }
 
 // The first click opens the marker's balloon, the next closes it.

@@ -30,8 +30,11 @@ public:
 
     // Opens and closes the pinned balloon.
     Picked Click(QPointF at);
-    // The marker or the markers there, with nothing opened or closed.
+    // The marker or the markers there, with nothing opened or closed; none below the pinned balloon.
     std::vector<SlotRef> MarkersAt(QPointF at);
+    // Whether a second quick click there is for bare ground: the first was not the pinned balloon's, which may be
+    // closed since.
+    bool IsGround(QPointF at);
     // Returns whether the balloon of another marker shows than before.
     bool Rest(QPointF at);
 
@@ -44,6 +47,7 @@ private:
     MapScene& m_scene;
     Balloons& m_balloons;
     const MapSelection& m_selection;
+    bool m_bOnBalloon = false; // The last click.
 };
 
 } // namespace ruvenmark

@@ -198,10 +198,10 @@ void MapWidget::Click(QPointF at)
     update();
 }
 
-// Not on a marker: two quick clicks there are one.
+// Not on a marker or a balloon: two quick clicks there are one.
 void MapWidget::ZoomAt(QPointF at, bool bOut)
 {
-    if (m_picker.MarkersAt(at).empty())
+    if (m_picker.IsGround(at))
         m_mover.ZoomAbout(at, bOut ? -1 : 1);
 }
 

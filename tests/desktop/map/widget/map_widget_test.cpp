@@ -36,6 +36,12 @@ TEST_F(MapWidgetTest, ClickOnMarkerSelectsItAndPinsItsBalloonUntilTheNextClick)
     Click({600, 500});
     EXPECT_EQ(selection, MapSelection());
     EXPECT_EQ(selections.size(), 2);
+    Click({300, 300});
+    const Pushpin other = AddPin({100, 100}, "K2ABC(RF)");
+    selection = other;
+    widget.FollowSelection();
+    EXPECT_EQ(widget.OpenBalloons().Pinned(), other.Ref());
+    Click({100, 100});
     for (const bool bCross : {true, false}) {
         Click({300, 300});
         Painted();
@@ -46,6 +52,32 @@ TEST_F(MapWidgetTest, ClickOnMarkerSelectsItAndPinsItsBalloonUntilTheNextClick)
             QTest::keyClick(&widget, Qt::Key_Escape);
         EXPECT_FALSE(widget.OpenBalloons().Pinned());
     }
+}
+
+// What lies below a balloon must not answer for it, nor the map zoom away under who reads or closes it.
+TEST_F(MapWidgetTest, APinnedBalloonTakesEveryClickForItself)
+{
+    AddPin({300, 300}, "K1ABC(RF)", "RF\r\nnote");
+    Painted();
+    Click({300, 300});
+    Painted();
+    const QPoint middle = widget.OpenBalloons().PinnedRect().center().toPoint();
+    AddPin(middle, "HIDDEN");
+    Painted();
+    const double zoom = TheMap().View().zoom;
+    const auto clickTwice = [&](QPoint at) {
+        Click(at);
+        QTest::mouseDClick(&widget, Qt::LeftButton, Qt::NoModifier, at);
+    };
+    EXPECT_FALSE(widget.MarkerFor(middle));
+    clickTwice(middle);
+    const QPoint cross = widget.OpenBalloons().CrossRect().center().toPoint();
+    clickTwice(cross);
+    EXPECT_FALSE(widget.OpenBalloons().Pinned());
+    EXPECT_EQ(TheMap().View().zoom, zoom);
+    EXPECT_TRUE(widget.MarkerFor(middle));
+    clickTwice({600, 500});
+    EXPECT_EQ(TheMap().View().zoom, zoom + 1) << "elsewhere again as ever";
 }
 
 TEST_F(MapWidgetTest, MarkerBeatsLineBeatsCircle)
