@@ -1,10 +1,9 @@
 #include "devices/tnc_terminal.h"
 
-#include "aprs/text.h"
+#include "devices/tnc_words.h"
 #include "platform/failure.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace ruvenmark {
@@ -21,6 +20,7 @@ constexpr std::size_t kShortestSentence = 6;
 
 constexpr int kCtrlCTries = 3;
 constexpr auto kCtrlCAgain = 2s;
+constexpr auto kNoMorePrompts = 1s; // A TNC that wakes answers all it was typed at once, or only the last of it.
 constexpr auto kPromptSilence = 5s; // The TNC may list pages before its prompt, at 1200 baud: silence counts,
 constexpr auto kPromptLimit = 60s;  // though what it hears meanwhile breaks it too.
 constexpr auto kConverseSettles = 500ms;
@@ -34,39 +34,6 @@ constexpr auto kSlowestByte = 9ms; // At 1200 baud.
 bool IsLineEnd(char c)
 {
     return c == '\r' || c == '\n';
-}
-
-// Control characters would edit, hold or end what is typed.
-std::string Typeable(std::string_view line)
-{
-    constexpr char kDelete = 0x7F;
-    std::string text;
-    std::copy_if(line.begin(), line.end(), std::back_inserter(text),
-                 [](char c) { return static_cast<unsigned char>(c) >= ' ' && c != kDelete; });
-    return text;
-}
-
-// The commands after which what is typed goes on the air.
-bool EntersConverse(std::string_view command)
-{
-    command = aprs::Trim(command);
-    std::string word(command.substr(0, command.find(' ')));
-    std::transform(word.begin(), word.end(), word.begin(), [](char c) { return aprs::ToUpper(c); });
-    return word == "K" || word.starts_with("CONV") || word.starts_with("TRANS");
-}
-
-bool IsFault(std::string_view line)
-{
-    return line.starts_with('?') || line == "EH?" || line.starts_with("*** What?");
-}
-
-// Whether the TNC may have written this as the beginning of what was typed: many clear the highest bit.
-bool IsEchoOf(std::string_view line, std::string_view typed)
-{
-    constexpr unsigned kSevenBits = 0x7F;
-    return line.size() <= typed.size() && std::equal(line.begin(), line.end(), typed.begin(), [](char a, char b) {
-               return ((static_cast<unsigned char>(a) ^ static_cast<unsigned char>(b)) & kSevenBits) == 0;
-           });
 }
 
 } // namespace
@@ -133,7 +100,9 @@ bool TncTerminal::TakePrompt()
     if (m_bTooLong || m_heard.IsWaiting() || !m_in.starts_with(kPrompt))
         return false;
     m_in.erase(0, kPrompt.size());
+    m_owed = std::exchange(m_bAnswered, false) ? 0 : std::max(0, m_owed - 1);
     m_bPrompt = true;
+    m_lastPrompt = m_lastHeard;
     m_bMute = false;
     m_lastEnd = '\0';
     return true;
@@ -165,9 +134,10 @@ std::optional<TncLine> TncTerminal::Read(const std::string& line)
     if (line.size() > kShortestSentence && line.front() == '$')
         return TncLine{TncLine::Kind::Sentence, line};
     if ((m_stage == Stage::Command || m_stage == Stage::Converse) && IsFault(line)) {
-        m_bRefused = true;
+        m_bRefused = m_bAnswered = true;
         return TncLine{TncLine::Kind::Fault, line};
     }
+    m_bAnswered = m_bAnswered || (m_stage == Stage::Command && TellsWhatWas(line));
     return std::nullopt;
 }
 
@@ -196,7 +166,7 @@ std::string TncTerminal::ToWrite(Moment now)
     if (m_bHeld && now - m_heldSince > kHeldLimit)
         m_bHeld = false;
     if (m_bHeld)
-        m_stageBegan = m_lastHeard = now; // What is not written yet cannot be answered.
+        m_stageBegan = m_lastHeard = m_lastPrompt = now; // What is not written yet cannot be answered.
     while (GoOn(now)) {
     }
     if (m_bHeld || m_typed.empty())
@@ -213,17 +183,14 @@ bool TncTerminal::GoOn(Moment now)
             return false;
         m_stage = Stage::Free;
     } else if (m_stage != Stage::Free) {
-        if (m_bPrompt) {
-            m_stage = Stage::Free;
-        } else if (IsOverdue(now)) {
-            GiveUp();
-        } else {
-            if (m_stage == Stage::CtrlC && m_tries < kCtrlCTries && now - m_stageBegan >= m_tries * kCtrlCAgain) {
-                m_typed += kCtrlC;
-                ++m_tries;
-            }
+        if (!IsPrompted(now) && !IsOverdue(now)) {
+            TryCtrlCAgain(now);
             return false;
         }
+        if (IsPrompted(now))
+            m_stage = Stage::Free;
+        else
+            GiveUp();
     }
     if (m_queue.empty())
         return false;
@@ -233,10 +200,32 @@ bool TncTerminal::GoOn(Moment now)
     return true;
 }
 
+// Whether the prompt is there that what was typed last brought back. Those of the Ctrl-C before it may come late, one
+// after the other: taken for it, the text would go out before the answer to MYCALL is known. Yet a TNC may never answer
+// some of them, so that silence must do, too; it does at once where another Ctrl-C asks again. Behind a command it may
+// be the TNC at work, but such a TNC tells what it set.
+bool TncTerminal::IsPrompted(Moment now) const
+{
+    if (!m_bPrompt || m_owed == 0)
+        return m_bPrompt;
+    if (m_stage != Stage::CtrlC)
+        return now - m_lastPrompt >= kPromptSilence;
+    return now - m_lastPrompt >= kNoMorePrompts || (!m_queue.empty() && m_queue.front().typing == Typing::CtrlC);
+}
+
+void TncTerminal::TryCtrlCAgain(Moment now)
+{
+    if (m_stage != Stage::CtrlC || m_bPrompt || m_tries >= kCtrlCTries || now - m_stageBegan < m_tries * kCtrlCAgain)
+        return;
+    m_typed += kCtrlC;
+    ++m_tries;
+    ++m_owed;
+}
+
 bool TncTerminal::IsOverdue(Moment now) const
 {
     if (m_stage == Stage::CtrlC)
-        return now - m_stageBegan >= kCtrlCTries * kCtrlCAgain;
+        return !m_bPrompt && now - m_stageBegan >= kCtrlCTries * kCtrlCAgain;
     return now - std::max(m_lastHeard, m_stageBegan) >= kPromptSilence || now - m_stageBegan >= kPromptLimit;
 }
 
@@ -250,8 +239,11 @@ void TncTerminal::Type(Item item, Moment now)
         DropRun();
         return;
     }
+    if (IsPrompted(now) || now - m_stageBegan >= kPromptLimit)
+        m_owed = 0; // The rest will never come.
+    m_owed += item.typing == Typing::CtrlC || item.typing == Typing::Command ? 1 : 0;
     m_typed += item.text;
-    m_bPrompt = false;
+    m_bPrompt = m_bAnswered = false;
     m_stageBegan = now;
     m_tries = 1;
     m_echo.clear();

@@ -69,6 +69,8 @@ private:
     };
 
     bool GoOn(Moment now);
+    bool IsPrompted(Moment now) const;
+    void TryCtrlCAgain(Moment now);
     bool IsOverdue(Moment now) const;
     void Type(Item item, Moment now);
     void GiveUp();
@@ -81,9 +83,11 @@ private:
 
     std::deque<Item> m_queue;
     Stage m_stage = Stage::Free;
-    Moment m_stageBegan{}, m_lastHeard{};
+    Moment m_stageBegan{}, m_lastHeard{}, m_lastPrompt{};
     int m_tries = 0;            // Ctrl-C typed in this stage.
-    bool m_bPrompt = false;     // Seen in this stage.
+    int m_owed = 0;             // Prompts that every Ctrl-C and command typed so far may bring still.
+    bool m_bPrompt = false;     // One was seen since the last of them.
+    bool m_bAnswered = false;   // The TNC has told what that command did: the next prompt is its own.
     bool m_bRefused = false;    // A command of this run was.
     bool m_bInConverse = false; // As far as queued: what comes next is text.
     bool m_bInRun = false;      // As far as queued, and not given up.

@@ -159,6 +159,37 @@ TEST_F(Tnc, GivesUpARunWhosePromptDoesNotComeAndSaysSoAtTheNext)
     EXPECT_EQ(links.WrittenIn(1s), "");
 }
 
+// It was typed Ctrl-C more than once. A late prompt of theirs taken for the answer to MYCALL, the text would be out
+// before its refusal comes.
+TEST_F(Tnc, WaitsForEveryPromptOfATncThatWakesLate)
+{
+    for (const auto pause : {0ms, 2000ms}) {
+        source = std::make_unique<TncSource>(links, recorded.sink, counts);
+        Open();
+        Send({"MYCALL NO CALL", "UNPROTO APRS", "CONV", ">Hi"});
+        EXPECT_EQ(links.WrittenIn(4500ms), "\x03\x03\x03");
+        EXPECT_EQ(links.AnswerTo("\r\ncmd:"), "\x03");
+        std::string typed;
+        for (int i = 0; i < 3; ++i) {
+            typed += links.WrittenIn(pause);
+            typed += links.AnswerTo("\r\ncmd:");
+        }
+        EXPECT_TRUE(typed.ends_with("MYCALL NO CALL\r")) << typed;
+        links.Say("\r\n?bad call\r\ncmd:");
+        links.Say("\r\ncmd:");
+        typed += links.WrittenIn(5s);
+        EXPECT_TRUE(typed.ends_with("MYCALL NO CALL\rUNPROTO APRS\r")) << typed;
+    }
+    source = std::make_unique<TncSource>(links, recorded.sink, counts);
+    Open();
+    links.Tick(4500ms);
+    links.Say("cmd:"); // The only one.
+    Send({"MYCALL W1AW", "UNPROTO APRS"});
+    EXPECT_EQ(links.AnswerTo("cmd:"), "\x03\x03\x03\x03");
+    EXPECT_EQ(links.WrittenIn(1s), "MYCALL W1AW\r");
+    EXPECT_EQ(links.AnswerTo("MYCALL   was NOCALL\r\ncmd:"), "UNPROTO APRS\r");
+}
+
 TEST_F(Tnc, GivesUpOneThatIsBusyForAMinute)
 {
     OpenToPrompt();
