@@ -2,19 +2,23 @@
 
 #include "platform/failure.h"
 
+#include <QDeadlineTimer>
 #include <QThread>
 
 #include <string>
 #include <sys/ioctl.h>
 #include <termios.h>
+#include <utility>
 
 namespace ruvenmark {
 
 namespace {
 
 constexpr std::chrono::milliseconds kGather{20}; // A TNC is asked and answers many times while it is set up.
-constexpr int kFlushSteps = 50;
-constexpr unsigned long kFlushStep = 10; // Milliseconds.
+// The longest report takes less, at the 1200 baud of slow TNCs.
+constexpr std::chrono::seconds kFlushLimit{3};
+constexpr std::chrono::milliseconds kHeldUp{500}; // Nothing goes out any more.
+constexpr unsigned long kFlushStep = 10;          // Milliseconds.
 
 } // namespace
 
@@ -33,16 +37,31 @@ SerialWire::SerialWire(std::string_view port, std::int32_t baud, SerialFlow flow
     Open();
 }
 
+qint64 SerialWire::Unsent()
+{
+    m_port.flush();
+    int inSystem = 0;
+    if (ioctl(m_port.handle(), TIOCOUTQ, &inSystem) != 0)
+        return 0; // The port is gone.
+    return m_port.bytesToWrite() + inSystem;
+}
+
 // Closing would wait half a minute for a device that holds the line up with XOFF, so the rest is thrown away.
 void SerialWire::Flush()
 {
     if (!m_port.isOpen())
         return;
-    m_port.flush();
-    int unsent = 0;
-    for (int step = 0; step < kFlushSteps && ioctl(m_port.handle(), TIOCOUTQ, &unsent) == 0 && unsent > 0; ++step)
+    const QDeadlineTimer limit(kFlushLimit);
+    QDeadlineTimer heldUp(kHeldUp);
+    qint64 unsent = Unsent();
+    while (unsent > 0 && !heldUp.hasExpired() && !limit.hasExpired()) {
         QThread::msleep(kFlushStep);
-    tcflush(m_port.handle(), TCOFLUSH);
+        const qint64 before = std::exchange(unsent, Unsent());
+        if (unsent < before)
+            heldUp.setRemainingTime(kHeldUp);
+    }
+    if (unsent > 0)
+        tcflush(m_port.handle(), TCOFLUSH);
 }
 
 void SerialWire::Close()

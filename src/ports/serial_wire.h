@@ -19,6 +19,7 @@ private:
     QIODevice& Device() override { return m_port; }
     void Flush() override;
     void Close() override;
+    qint64 Unsent();
     void OnError(QSerialPort::SerialPortError error);
 
     QSerialPort m_port;

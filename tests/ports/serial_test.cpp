@@ -95,6 +95,27 @@ TEST_F(SerialWire, TellsAHangUpOnceAndCostsNothingAfterwards)
     EXPECT_THROW(link->Write("x"), Failure);
 }
 
+// The end of a report that is the last thing said would be missing at 1200 baud, though it was told as sent. A device
+// that takes nothing at all must not hold the program up.
+TEST_F(SerialWire, ClosingWaitsWhileBytesGoOut)
+{
+    PseudoTerminal terminal;
+    const std::string all(60'000, 'x'); // More than the system holds.
+    auto link = links.OpenSerial(terminal.Name(), 1200, SerialFlow::XonXoff, sink);
+    link->Write(all);
+    std::jthread slow([&] {
+        for (int i = 0; i < 500 && terminal.Heard().size() < all.size(); ++i)
+            std::this_thread::sleep_for(20ms);
+    });
+    link.reset();
+    slow.join();
+    EXPECT_EQ(terminal.Heard(), all);
+
+    link = links.OpenSerial(terminal.Name(), 1200, SerialFlow::XonXoff, sink);
+    link->Write(all);
+    link.reset();
+}
+
 TEST_F(SerialWire, SaysWhyAPortIsNotOpened)
 {
     try {
