@@ -156,8 +156,6 @@ bool SendRun::End()
 {
     if (!m_bBegun)
         m_notices.Say("Nothing was sent: the time was over before the links were ready");
-    if (!m_atTnc.empty())
-        m_notices.Say("Not sent over TNC: the link ended first");
     return m_bBegun && m_bWell &&
            std::all_of(m_atTnc.begin(), m_atTnc.end(), [](bool bElsewhere) { return bElsewhere; });
 }
@@ -168,10 +166,8 @@ void SendRun::Note(const SentReport& report)
         m_bWell = m_bWell && (report.bWent || m_atTnc.front());
         m_atTnc.pop_front();
     }
-    const std::string road(NameOf(report.road));
-    m_notices.Say(
-        (report.bWent ? "Sent over " + road + ": " : "Not sent over " + road + ", which refused or was silent: ") +
-        std::string(report.text));
+    if (report.bWent) // What did not is told by the program itself.
+        m_notices.Say("Sent over " + std::string(NameOf(report.road)) + ": " + std::string(report.text));
 }
 
 void SendRun::Send(MainWindow& main, const SendOption& report)

@@ -119,6 +119,10 @@ public:
     virtual void ReportGpsData(const GpsReport& report) = 0;
     virtual void ReportRawData(std::string_view packet) = 0; // Every line as received, before decoding.
 
+    // A text that a TNC was given for the air, and never typed, as it refused a command, gave no prompt or went away.
+    // May come from within a call on the source: whoever is told does not drop it there.
+    virtual void ReportNotSent(std::string_view /*text*/) {}
+
     // A report of this call will come soon, most likely, behind those of the calls before.
     virtual void ExpectReport(std::string_view /*call*/) {}
 };

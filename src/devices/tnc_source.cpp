@@ -36,7 +36,15 @@ void TncSource::ClosePort()
     } catch (const Failure&) {
         // Nothing more can be sent.
     }
+    End();
+}
+
+// What still waits will not be sent.
+void TncSource::End()
+{
     m_link.reset();
+    m_terminal.GiveUpAll();
+    TellFates();
 }
 
 // What is heard meanwhile is not told any more: the source is about to be dropped.
@@ -102,7 +110,7 @@ void TncSource::OnTick(Moment now)
 
 void TncSource::OnLost(Moment /*now*/)
 {
-    m_link.reset();
+    End();
     const OwnEvents::Raising raising(m_events);
     m_sink.SocketConnectionClosed();
 }
@@ -153,9 +161,12 @@ void TncSource::Write(Moment now)
 
 void TncSource::TellFates()
 {
-    for (const TncTerminal::Fate& fate : m_terminal.TakeFates())
+    for (const TncTerminal::Fate& fate : m_terminal.TakeFates()) {
         if (m_listener && m_listener->onSent)
             m_listener->onSent({SentReport::Road::Tnc, fate.bTyped, fate.text});
+        if (!fate.bTyped)
+            m_sink.ReportNotSent(fate.text);
+    }
 }
 
 // From the event loop: a port that fails tells its loss itself.

@@ -42,6 +42,7 @@ private:
     void TryWrite(Moment now);
     void TellFates();
     void Finish();
+    void End();
 
     IByteLinks& m_links;
     IReportSink& m_sink;

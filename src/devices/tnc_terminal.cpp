@@ -280,6 +280,12 @@ void TncTerminal::GiveUp()
     DropRun();
 }
 
+void TncTerminal::GiveUpAll()
+{
+    for (GiveUp(); !m_queue.empty(); DropRun())
+        m_queue.pop_front(); // Ctrl-C.
+}
+
 void TncTerminal::DropRun()
 {
     for (; !m_queue.empty() && m_queue.front().typing != Typing::CtrlC; m_queue.pop_front())

@@ -43,6 +43,9 @@ public:
     // Goes on as far as it can at this moment; what is to be written now.
     std::string ToWrite(Moment now);
 
+    // The link is gone: nothing is typed any more.
+    void GiveUpAll();
+
     bool IsIdle() const { return m_stage == Stage::Free && m_queue.empty() && m_typed.empty(); }
     // The last run was given up, and no prompt has been seen since.
     bool IsMute() const { return m_bMute; }

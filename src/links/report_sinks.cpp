@@ -10,6 +10,7 @@
 #include "links/server_status_rules.h"
 #include "links/tnc_link.h"
 #include "messaging/receive_message.h"
+#include "outgoing/send_report.h"
 
 namespace ruvenmark {
 
@@ -68,6 +69,7 @@ public:
             NoteServerLine(m_main, packet);
         }
     }
+    void ReportNotSent(std::string_view text) override { aprs_ReportNotSent(m_main, text); }
     void ExpectReport(std::string_view call) override { m_ahead.Expect(m_main, m_main.Of(m_channel), call); }
 
 private:

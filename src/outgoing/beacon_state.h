@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace ruvenmark {
 
@@ -16,6 +17,8 @@ struct BeaconState {
     bool bTailBoxOpen = false; // For a comment that is too long.
     bool bTailTold = false;    // In the status line, since a position went through.
     bool bRoadsTold = false;   // Over which links reports go; once a run.
+    std::string tncText;       // Of what the status bar shows as sent, where the TNC was given it.
+    std::string sentElsewhere; // What the status bar shows where the TNC does not take it.
 };
 
 } // namespace ruvenmark

@@ -21,13 +21,21 @@ std::string NamesOf(Roads roads)
     return names;
 }
 
-void TellSent(MainWindow& main, Roads taken)
+std::string SentLine(Roads taken, std::string_view timeOfDay)
+{
+    return taken.IsAny() ? "Sent over " + NamesOf(taken) + " at " + std::string(timeOfDay) : std::string();
+}
+
+void TellSent(MainWindow& main, std::string_view text, Roads taken)
 {
     if (!taken.IsAny())
         return;
     constexpr std::size_t kTimeOfDay = 11; // In "2026-11-22 20:15:03".
-    const std::string_view now = main.services.clock.LocalNowText();
-    main.sbStatusBar.SetSent("Sent over " + NamesOf(taken) + " at " + std::string(now.substr(kTimeOfDay)));
+    const std::string now(main.services.clock.LocalNowText().substr(kTimeOfDay));
+    main.sbStatusBar.SetSent(SentLine(taken, now));
+    main.beacons.tncText = taken.bTnc ? text : std::string_view();
+    taken.bTnc = false;
+    main.beacons.sentElsewhere = SentLine(taken, now);
 }
 
 } // namespace
@@ -44,10 +52,19 @@ void SendReport(MainWindow& main, const OutgoingReport& report, Roads wanted)
     try {
         SendToLinks(main.links, report, wanted, taken);
     } catch (const Failure&) {
-        TellSent(main, taken);
+        TellSent(main, report.text, taken);
         throw;
     }
-    TellSent(main, taken);
+    TellSent(main, report.text, taken);
+}
+
+void aprs_ReportNotSent(MainWindow& main, std::string_view text)
+{
+    Tell(main, "Not sent over TNC, which refused or was silent: " + std::string(text));
+    if (main.beacons.tncText != text)
+        return; // Something else has been sent since.
+    main.beacons.tncText.clear();
+    main.sbStatusBar.SetSent(main.beacons.sentElsewhere);
 }
 
 void SendOwnReport(MainWindow& main, std::string_view text, Roads wanted)

@@ -100,7 +100,7 @@ TEST(SendOption, WaitsForTheTncsPrompt)
     StationProgram other;
     other.Start("W1AW-7", stubborn.Link(), {"--send", "status:here"});
     EXPECT_EQ(other.Status(), 1);
-    EXPECT_TRUE(other.err.contains("Not sent over TNC")) << other.err.toStdString();
+    EXPECT_EQ(other.err.count("Not sent over TNC"), 1) << other.err.toStdString();
     EXPECT_EQ(stubborn.typed.find(">here"), std::string::npos);
 }
 

@@ -1,6 +1,7 @@
 #include "links/link_status_rules.h"
 #include "links/tnc_form_rules.h"
 #include "links/tnc_link.h"
+#include "outgoing/send_report.h"
 #include "support/test_program.h"
 #include "ui/menus.h"
 
@@ -67,6 +68,36 @@ struct TncLink : testing::Test {
         };
     }
 };
+
+// The operator would believe it is on the air.
+TEST_F(TncLink, AReportThatTheTncDoesNotTakeIsToldAndTakenBack)
+{
+    AcceptSerial();
+    const auto send = [&](std::string_view text) {
+        program.notices.lines.clear();
+        SendReport(main, {"N0CALL", "APRS", "", text}, {.bTnc = true});
+        EXPECT_EQ(main.sbStatusBar.Sent(), "Sent over TNC at 20:15:03");
+    };
+    const auto expectTold = [&](const std::string& text) {
+        EXPECT_EQ(program.notices.lines.back(), "Not sent over TNC, which refused or was silent: " + text);
+        EXPECT_EQ(main.sbStatusBar.Notice(), program.notices.lines.back());
+        EXPECT_EQ(main.sbStatusBar.Sent(), "");
+    };
+    ConnectTnc(main);
+    Typed();
+    send(">refused");
+    for (const char* answer : {"cmd:", "?bad\r\ncmd:", "cmd:"})
+        program.wires.Say(answer);
+    expectTold(">refused");
+    EXPECT_EQ(program.notices.lines.size(), 2U); // Ahead of it, over what reports go.
+    send(">to a silent one");
+    ConnectTnc(main); // Disconnects.
+    expectTold(">to a silent one");
+    ConnectTnc(main);
+    send(">lost");
+    program.wires.Lose();
+    expectTold(">lost");
+}
 
 TEST_F(TncLink, ASerialConnectSendsTheOperatorsLinesThenThoseOfTheGps)
 {

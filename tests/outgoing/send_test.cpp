@@ -35,6 +35,10 @@ TEST_F(Sending, TheRoadsInTheirOrder)
                              std::string("frame N0CALL|APRS|WIDE1-1|") + kText,
                              std::string("server N0CALL>APRS,TCPIP*:") + kText}));
     EXPECT_EQ(main.sbStatusBar.Sent(), "Sent over TNC, AGW, server at 20:15:03");
+    program.Sink(Channel::RF).ReportNotSent(">another"); // Sent ahead of it.
+    EXPECT_EQ(main.sbStatusBar.Sent(), "Sent over TNC, AGW, server at 20:15:03");
+    program.Sink(Channel::RF).ReportNotSent(kText);
+    EXPECT_EQ(main.sbStatusBar.Sent(), "Sent over AGW, server at 20:15:03");
     program.Set("Tactical=BASE BeaconTactical=True");
     SendPositionReport(main, false);
     EXPECT_EQ(Take().back(), std::string("server BASE>APRS,TCPIP*:") + kText);

@@ -99,9 +99,8 @@ TEST_F(SerialWire, TellsAHangUpOnceAndCostsNothingAfterwards)
 // that takes nothing at all must not hold the program up.
 TEST_F(SerialWire, ClosingWaitsWhileBytesGoOut)
 {
-    PseudoTerminal terminal;
     const std::string all(60'000, 'x'); // More than the system holds.
-    auto link = links.OpenSerial(terminal.Name(), 1200, SerialFlow::XonXoff, sink);
+    auto link = Open(1200);
     link->Write(all);
     std::jthread slow([&] {
         for (int i = 0; i < 500 && terminal.Heard().size() < all.size(); ++i)
@@ -111,7 +110,7 @@ TEST_F(SerialWire, ClosingWaitsWhileBytesGoOut)
     slow.join();
     EXPECT_EQ(terminal.Heard(), all);
 
-    link = links.OpenSerial(terminal.Name(), 1200, SerialFlow::XonXoff, sink);
+    link = Open(1200);
     link->Write(all);
     link.reset();
 }
