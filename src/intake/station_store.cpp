@@ -7,6 +7,7 @@
 #include "map/range_circles.h"
 #include "map/station_notes.h"
 #include "platform/failure.h"
+#include "platform/freed_memory.h"
 #include "tracking/track_lines.h"
 
 #include <array>
@@ -198,6 +199,7 @@ void ClearChannelReports(MainWindow& main, Channel channel)
         if (TreeNode* folder = tree.Find(*root, word))
             tree.SetExpanded(*folder, true);
     tree.SetText(*root, Traits(channel).rootText);
+    ReturnFreedMemory();
 }
 
 } // namespace ruvenmark

@@ -14,8 +14,8 @@ bool WantsFirstSteps(const MainWindow& main)
     const Map* map = main.mpCtrl.ActiveMap();
     const bool bHeard = std::any_of(main.channels.begin(), main.channels.end(),
                                     [](const ChannelState& state) { return !state.Stations.IsEmpty(); });
-    return map && map->RecordCount() == 0 && map->Shapes().Count() == 0 && !bHeard && !main.links.FileLoading && !main.links.IsAnyOpen() &&
-           main.mpCtrl.MousePointer() != kPointerCross;
+    return map && map->RecordCount() == 0 && map->Shapes().Count() == 0 && !bHeard && !main.links.FileLoading &&
+           !main.links.IsAnyOpen() && main.mpCtrl.MousePointer() != kPointerCross;
 }
 
 bool HasPlacedStations(const MainWindow& main)

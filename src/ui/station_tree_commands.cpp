@@ -9,6 +9,7 @@
 #include "map/range_circles.h"
 #include "map/show_on_map.h"
 #include "map/station_notes.h"
+#include "platform/freed_memory.h"
 #include "tracking/filter_form_rules.h"
 #include "ui/call_sign_page.h"
 #include "ui/web_page.h"
@@ -200,6 +201,7 @@ void mnuUnloadFolder_Click(MainWindow& main)
     if (channel)
         UnloadChannel(main, *channel);
     main.tvStationList.Remove(*standing);
+    ReturnFreedMemory();
 }
 
 void mnuPopupConnect_Click(MainWindow& main)
