@@ -100,6 +100,15 @@ const std::array<OptionBox, kOptionCount> kOptionBoxes = {{
     {F::Tactical, K::Tick, S::BeaconTactical, "chkTactical", "&Beacon Tactical Call", ""},
 }};
 
+namespace {
+
+std::size_t IndexOf(const OptionBox& box)
+{
+    return static_cast<std::size_t>(&box - kOptionBoxes.data());
+}
+
+} // namespace
+
 OptionPage PageOf(const OptionBox& box)
 {
     return kOptionFrames[static_cast<std::size_t>(box.frame)].page;
@@ -113,12 +122,17 @@ const OptionBox& BoxOf(Setting setting)
 
 OptionField& FieldOf(OptionsForm& form, const OptionBox& box)
 {
-    return form.fields.at(static_cast<std::size_t>(&box - kOptionBoxes.data()));
+    return form.fields.at(IndexOf(box));
 }
 
 OptionField& FieldOf(OptionsForm& form, Setting setting)
 {
     return FieldOf(form, BoxOf(setting));
+}
+
+bool IsTouched(const OptionsForm& form, const OptionBox& box)
+{
+    return form.fields.at(IndexOf(box)) != form.opened.at(IndexOf(box));
 }
 
 std::vector<std::string_view> ChoicesOf(const OptionBox& box)

@@ -95,6 +95,8 @@ OptionPage PageOf(const OptionBox& box);
 const OptionBox& BoxOf(Setting setting); // One of the dialog's.
 OptionField& FieldOf(OptionsForm& form, const OptionBox& box);
 OptionField& FieldOf(OptionsForm& form, Setting setting);
+// Whether it shows something else than when the dialog opened.
+bool IsTouched(const OptionsForm& form, const OptionBox& box);
 std::vector<std::string_view> ChoicesOf(const OptionBox& box); // Of a list.
 
 } // namespace ruvenmark

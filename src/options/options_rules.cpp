@@ -49,16 +49,6 @@ OptionField FieldFromSettings(MainWindow& main, const OptionBox& box)
     return field;
 }
 
-const OptionField& OpenedFieldOf(const OptionsForm& form, const OptionBox& box)
-{
-    return form.opened.at(static_cast<std::size_t>(&box - kOptionBoxes.data()));
-}
-
-bool IsTouched(OptionsForm& form, const OptionBox& box)
-{
-    return FieldOf(form, box) != OpenedFieldOf(form, box);
-}
-
 // Rain and pressure go on the air as they are stored, where "+12" or "1e2" cannot be read. A fraction stays: another
 // number would be told in its place.
 std::string TextToStore(OptionsForm& form, const OptionBox& box)

@@ -59,8 +59,8 @@ public:
         --m_count;
     }
 
-    // Its memory goes back too.
-
+    // Gives the memory back too; ids go on, so that references to what was there find nothing.
+    // Also what removing the last value does.
     void Clear()
     {
         for (Slot* block : m_blocks) {
